@@ -1,0 +1,97 @@
+#include "book/Book.h"
+
+namespace lindrel {
+
+Book::Book() {
+    Reset();
+}
+
+void Book::Reset() {
+    for (int k = 1; k <= kCategories; ++k) {
+        starts_(k) = 1;
+        counts_(k) = 0;
+        names_(k) = "Project" + std::to_string(k);
+        SavedCheckCounts(k) = 0;
+    }
+    CheckedCount = 0;
+}
+
+int Book::CategoryOf(int index) const {
+    int category = 1;
+    for (int k = 2; k <= kCategories; ++k)
+        if (starts_(k) <= index) category = k;
+    return category;
+}
+
+CategoryRows Book::RowsOf(int category) const {
+    return {entries_.Copy(starts_(category), counts_(category)), entries_.SharedTexts()};
+}
+
+void Book::SetSiteName(int index, std::string_view name) {
+    AddressEntry& entry = entries_.At(index);
+    entry.SiteName = entries_.Texts().Keep(name);
+}
+
+void Book::SetSiteURL(int index, std::string_view url) {
+    AddressEntry& entry = entries_.At(index);
+    entry.URL = entries_.Texts().Keep(url);
+}
+
+void Book::AddEntry(int category) {
+    const int place = starts_(category) + counts_(category);
+    const bool was_empty = IsEmpty();
+    if (NewEntries.size() > static_cast<std::size_t>(kMostEntries - (was_empty ? 0 : EntryCount())))
+        throw OverflowFault();
+    const int added = static_cast<int>(NewEntries.size());
+
+    if (was_empty)
+        entries_.Recreate(added);
+    else
+        entries_.Insert(place, added);
+    for (int j = 0; j < added; ++j) {
+        const NewEntry& staged = NewEntries[static_cast<std::size_t>(j)];
+        entries_.At(place + j) = {entries_.Texts().Keep(staged.SiteName), entries_.Texts().Keep(staged.URL)};
+    }
+    counts_(category) = static_cast<std::int16_t>(counts_(category) + added);
+    for (int k = category + 1; k <= kCategories; ++k) starts_(k) += added;
+    // A book that was empty leaves the staging area as it is (intended).
+    if (!was_empty) NewEntries.clear();
+}
+
+void Book::DeleteEntry(int category, int position, int count) {
+    if (position < 1 || count < 0 || position - 1 > counts_(category) - count) throw RangeFault();
+    const bool everything = count == entries_.Size();
+    entries_.Remove(IndexOf(category, position), count);
+    if (everything) entries_.Recreate(1);
+    for (int k = category + 1; k <= kCategories; ++k) starts_(k) -= count;
+    counts_(category) = static_cast<std::int16_t>(counts_(category) - count);
+}
+
+void Book::MoveEntry(int source, int offset, int destination) {
+    if (offset < 0 || offset >= counts_(source)) throw RangeFault();
+    static_cast<void>(counts_(destination));
+    if (source == destination) throw ArgumentFault();
+
+    const int from = starts_(source) + offset;
+    const AddressEntry moved = entries_.At(from);
+    const int behind = starts_(destination) + counts_(destination);
+    entries_.Remove(from, 1);
+    const int to = source > destination ? behind : behind - 1;
+    entries_.Insert(to, 1);
+    entries_.At(to) = moved;
+
+    counts_(source) = static_cast<std::int16_t>(counts_(source) - 1);
+    counts_(destination) = static_cast<std::int16_t>(counts_(destination) + 1);
+    if (source > destination)
+        for (int k = destination + 1; k <= source; ++k) starts_(k) += 1;
+    else
+        for (int k = source + 1; k <= destination; ++k) starts_(k) -= 1;
+    CheckedCount = 0;
+}
+
+void Book::RecomputeStarts() {
+    starts_(1) = 1;
+    for (int k = 2; k <= kCategories; ++k) starts_(k) = starts_(k - 1) + counts_(k - 1);
+}
+
+}  // namespace lindrel

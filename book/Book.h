@@ -1,0 +1,116 @@
+// The book: twelve named categories, each with an ordered run of entries, and the check marks that the windows
+// keep for it. The entries of all categories stand in one sequence, category 1's first; category c owns the
+// indices CategoryStarts(c) .. CategoryStarts(c) + CategoryCounts(c) - 1. All numbers are 1-based. Counts and
+// indices are 16-bit, so a book holds at most 32,767 entries, wherever they lie.
+//
+// Every routine that changes the book either does its whole work or throws and leaves the book as it was.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "book/BookText.h"
+#include "book/EntrySequence.h"
+#include "book/Faults.h"
+
+namespace lindrel {
+
+inline constexpr int kCategories = 12;
+inline constexpr int kMostEntries = 32767;
+
+// Values of the twelve categories, indexed 1..12. Throws RangeFault for any other index.
+template <typename T>
+class PerCategory {
+  public:
+    T& operator()(int category) { return cells_[Cell(category)]; }
+    const T& operator()(int category) const { return cells_[Cell(category)]; }
+    bool operator==(const PerCategory&) const = default;
+
+  private:
+    static std::size_t Cell(int category) {
+        if (category < 1 || category > kCategories) throw RangeFault();
+        return static_cast<std::size_t>(category - 1);
+    }
+    std::array<T, kCategories> cells_{};
+};
+
+// An entry waiting to be added.
+struct NewEntry {
+    std::string SiteName;  // book text
+    std::string URL;       // book text
+    bool operator==(const NewEntry&) const = default;
+};
+
+// A copy of one category's rows that stays readable whatever happens to the book afterwards.
+struct CategoryRows {
+    std::vector<AddressEntry> Entries;
+    std::shared_ptr<const TextStore> Texts;  // keeps what the entries point to
+};
+
+class Book {
+  public:
+    Book();
+
+    // The names "Project1" to "Project12", no entries; the texts of the entry sequence stay until the next load.
+    void Reset();
+
+    const std::string& CategoryNames(int category) const { return names_(category); }
+    std::int16_t CategoryCounts(int category) const { return counts_(category); }
+    // 1..32,768: the start of an empty category behind a full book is one past the last entry.
+    int CategoryStarts(int category) const { return starts_(category); }
+    // Number of entries in the whole book, 0..32,767 (more only in a book loaded with too few headers).
+    int EntryCount() const { return starts_(kCategories) + counts_(kCategories) - 1; }
+    bool IsEmpty() const { return starts_(kCategories) == 1 && counts_(kCategories) == 0; }
+
+    // Texts of the entry at an index, 1..UpperBound(); RangeFault outside it. The views hold until the text of
+    // that entry changes or the book is replaced.
+    std::string_view SiteNames(int index) const { return entries_.At(index).SiteName; }
+    std::string_view SiteURLs(int index) const { return entries_.At(index).URL; }
+    // Size of the entry sequence. Never decide emptiness by it: a book without entries keeps one blank
+    // element, or what a larger book left behind.
+    int UpperBound() const { return entries_.Size(); }
+
+    // Index of the entry at a 1-based position of a category; nothing is checked but the category.
+    int IndexOf(int category, int position) const { return starts_(category) + position - 1; }
+    // The last category whose start is not greater than the index.
+    int CategoryOf(int index) const;
+    CategoryRows RowsOf(int category) const;
+
+    void SetCategoryName(int category, std::string_view name) { names_(category) = name; }
+    void SetSiteName(int index, std::string_view name);
+    void SetSiteURL(int index, std::string_view url);
+
+    // Appends NewEntries at the end of a category, in their order, then empties NewEntries; only when the book
+    // was empty they are left as they are (intended: the next caller stages afresh).
+    void AddEntry(int category);
+    // Removes `count` entries of a category from the 1-based position on.
+    void DeleteEntry(int category, int position, int count);
+    // Takes the entry at a 0-based (intended, unlike DeleteEntry) offset of a category and appends it to
+    // another one, which must not be the same (ArgumentFault). Sets CheckedCount to 0.
+    void MoveEntry(int source, int offset, int destination);
+
+    // Staging area of AddEntry.
+    std::vector<NewEntry> NewEntries;
+
+    // Check marks: rows checked in the list now shown; for each category how many were checked when its tab
+    // was left, and at which 1-based positions, ascending. A list whose count is 0 is stale and means nothing.
+    std::int16_t CheckedCount = 0;
+    PerCategory<std::int16_t> SavedCheckCounts;
+    PerCategory<std::vector<std::int16_t>> SavedCheckLists;
+
+  private:
+    friend class BookReader;
+    void RecomputeStarts();
+
+    PerCategory<std::string> names_;
+    PerCategory<std::int16_t> counts_;
+    PerCategory<int> starts_;
+    EntrySequence entries_;
+};
+
+}  // namespace lindrel

@@ -1,0 +1,106 @@
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+
+#include "book/Faults.h"
+#include "book/Files.h"
+
+namespace lindrel {
+
+namespace {
+
+[[noreturn]] void Fail(const std::filesystem::path& path, int error = errno) {
+    const std::string reason = std::strerror(error);
+    throw FileFault(path.wstring(), std::wstring(reason.begin(), reason.end()));
+}
+
+class File {
+  public:
+    File(const std::filesystem::path& path, int flags, mode_t mode = 0)
+        : path_(path), handle_(::open(path.c_str(), flags | O_CLOEXEC, mode)) {
+        if (handle_ < 0) Fail(path);
+    }
+    ~File() {
+        if (handle_ >= 0) ::close(handle_);
+    }
+    File(const File&) = delete;
+    File& operator=(const File&) = delete;
+
+    struct stat Status() const {
+        struct stat status {};
+        if (::fstat(handle_, &status) != 0) Fail(path_);
+        return status;
+    }
+
+    // May give less than asked for at the end of the file.
+    std::size_t Read(char* buffer, std::size_t size) const {
+        std::size_t done = 0;
+        while (done < size) {
+            const ssize_t got = ::read(handle_, buffer + done, size - done);
+            if (got < 0 && errno == EINTR) continue;
+            if (got < 0) Fail(path_);
+            if (got == 0) break;
+            done += static_cast<std::size_t>(got);
+        }
+        return done;
+    }
+
+    void Write(std::string_view bytes) const {
+        while (!bytes.empty()) {
+            const ssize_t put = ::write(handle_, bytes.data(), bytes.size());
+            if (put < 0 && errno == EINTR) continue;
+            if (put < 0) Fail(path_);
+            bytes.remove_prefix(static_cast<std::size_t>(put));
+        }
+    }
+
+    void Flush() const {
+        if (::fsync(handle_) != 0) Fail(path_);
+    }
+
+    void Close() {
+        const int handle = handle_;
+        handle_ = -1;
+        if (::close(handle) != 0) Fail(path_);
+    }
+
+  private:
+    std::filesystem::path path_;
+    int handle_;
+};
+
+}  // namespace
+
+std::vector<char> ReadFileBytes(const std::filesystem::path& path) {
+    const File file(path, O_RDONLY);
+    std::vector<char> bytes(static_cast<std::size_t>(file.Status().st_size));
+    bytes.resize(file.Read(bytes.data(), bytes.size()));
+    return bytes;
+}
+
+void WriteFileBytes(const std::filesystem::path& path, std::string_view bytes) {
+    File file(path, O_WRONLY | O_CREAT | O_TRUNC, 0666);
+    file.Write(bytes);
+    file.Close();
+}
+
+void ReplaceFileBytes(const std::filesystem::path& path, std::string_view bytes) {
+    if (::access(path.c_str(), F_OK) == 0 && ::access(path.c_str(), W_OK) != 0) Fail(path);
+    std::filesystem::path temporary = path;
+    temporary += ".tmp";
+    try {
+        File file(temporary, O_WRONLY | O_CREAT | O_TRUNC, 0666);
+        file.Write(bytes);
+        file.Flush();
+        file.Close();
+        if (::rename(temporary.c_str(), path.c_str()) != 0) Fail(path);
+    } catch (const FileFault& fault) {
+        ::unlink(temporary.c_str());
+        throw FileFault(path.wstring(), fault.Meaning());
+    }
+}
+
+}  // namespace lindrel
