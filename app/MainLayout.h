@@ -1,0 +1,68 @@
+// The arithmetic of the main window's layout, in twips (1/1440 inch). Width and Height are the window's outer
+// measures; places are relative to the client area.
+#pragma once
+
+namespace lindrel {
+
+struct Place {
+    int Left = 0;
+    int Top = 0;
+    int Width = 0;
+    int Height = 0;
+    constexpr int Right() const { return Left + Width; }
+    constexpr int Bottom() const { return Top + Height; }
+    bool operator==(const Place&) const = default;
+};
+
+inline constexpr int kLeastWidth = 7700;
+inline constexpr int kLeastHeight = 5200;
+// A window lower than this is minimised.
+inline constexpr int kMinimisedHeight = 500;
+
+struct MainLayout {
+    // As designed; LayOut() moves and resizes what follows the window.
+    Place Toolbar{0, 0, 7580, 570};
+    Place TabStrip1{0, 600, 7580, 360};
+    Place ListURLs{120, 990, 3900, 3180};
+    Place lblSiteName{4250, 990, 3210, 240};
+    Place txtSite{4250, 1245, 3210, 345};
+    Place lblURL{4250, 1710, 3210, 240};
+    Place txtURL{4250, 1965, 3210, 345};
+    Place picGo{6380, 2385, 1080, 390};
+    Place FrameSearch{4250, 2895, 3210, 1275};
+    // Inside FrameSearch, relative to its corner.
+    Place cmbFinders{150, 285, 2910, 345};
+    Place txtFind{150, 735, 2415, 345};
+    Place Image1{2625, 720, 435, 375};
+    bool operator==(const MainLayout&) const = default;
+};
+
+// What surrounds the list.
+struct MainFrame {
+    int Width = 0;         // outer
+    int Height = 0;        // outer
+    int ClientWidth = 0;   // what the frame leaves
+    int ClientHeight = 0;  // what frame, title and menu leave
+    int StatusBarHeight = 0;
+};
+
+// What a resize asks for: nothing at all (minimised), a higher window (whose own resize then lays out), a
+// wider window first, or just the layout.
+struct ResizeStep {
+    bool Minimised = false;
+    bool TooLow = false;
+    bool TooNarrow = false;
+    bool operator==(const ResizeStep&) const = default;
+};
+constexpr ResizeStep JudgeSize(int width, int height) {
+    if (height < kMinimisedHeight) return {.Minimised = true};
+    if (height < kLeastHeight) return {.TooLow = true};
+    return {.TooNarrow = width < kLeastWidth};
+}
+
+// The places at a size of at least kLeastWidth by kLeastHeight. Where a frame takes more room than the
+// classic one, tab strip and list end with the client area and the status bar, so that the scroll arrows and
+// the last row are never hidden.
+MainLayout LayOut(const MainFrame& frame);
+
+}  // namespace lindrel

@@ -1,0 +1,140 @@
+// The main window. It owns the open book and shows it: the categories as tabs, the entries of the shown one
+// in a list with check boxes. Its commands stand in files of their own:
+//     frmStart.cpp         life of the window, the empty book, dispatch of commands
+//     frmStart_Window.cpp  making the controls, layout, resolution, keyboard focus
+//     frmStart_File.cpp    the file menu
+//     frmStart_List.cpp    tabs, list, check marks
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "app/MainLayout.h"
+#include "book/Book.h"
+#include "controls/CheckListView.h"
+#include "controls/CommonDialog.h"
+#include "controls/Control.h"
+#include "controls/Display.h"
+#include "controls/Windows.h"
+
+namespace lindrel {
+
+// The two titles of the question whether to save; their spellings differ (intended).
+enum class SaveQuestion { Command, Closing };
+
+class frmStart {
+  public:
+    explicit frmStart(HINSTANCE instance);
+    ~frmStart();
+    frmStart(const frmStart&) = delete;
+    frmStart& operator=(const frmStart&) = delete;
+
+    // Makes and shows the window. Throws std::bad_alloc when the system cannot.
+    void Open(int show);
+    HWND Handle() const { return handle_; }
+    // The form of a main window's handle.
+    static frmStart* FromWindow(HWND window);
+    // Shortcuts and keyboard navigation; true when the message is done with.
+    bool PreTranslate(MSG& message);
+
+    // State that commands and dialogs read and change.
+    Book TheBook;
+    std::wstring OpenedFile;           // full path; empty for a book that was never saved
+    bool Modified = false;             // unsaved changes exist
+    std::wstring ResultTag;            // "init": the add or edit dialog has stored something
+    std::uint8_t CurrentCategory = 1;  // whose entries the list shows, 1..12
+    std::int16_t FindPosition = 0;     // 0-based place where the next search in the category starts
+    CommonDialog CommonDialog1;
+
+    // Controls.
+    TabStrip TabStrip1;
+    CheckListView ListURLs;
+    Control lblSiteName, lblURL, FrameSearch, picGo, Image1;
+    TextBox txtSite, txtURL, txtFind;
+    ComboBox cmbFinders;
+    StatusBar StatusBar1;
+
+    // Book and display.
+    void ResetBook();
+    void UpdateTabCaptions();
+    // Shows the entries of a category, none checked and none selected, and empties the text fields.
+    void FillAddressList(int category);
+    // Remembers the check marks of the list now shown under a category, and puts them back after a fill.
+    void SaveCheckMarks(int category);
+    void RestoreCheckMarks(int category);
+    void SetAllChecks(bool value);
+    void ShowCheckedCount();
+    // Category of the selected tab, 1..12.
+    int SelectedCategory() const { return TabStrip1.Selected(); }
+    void SetTitle(const std::wstring& title);
+    void EnableCommand(int id, bool enabled);
+
+    // The save question and, on Yes, the save step.
+    enum class SaveAnswer { Go, Cancelled, SaveFailed };
+    SaveAnswer OfferToSave(SaveQuestion question, bool* saved = nullptr);
+    // Writes the book, clears Modified and tells the user. On failure tells why, changes nothing and returns
+    // false.
+    bool SaveBook(const std::wstring& path);
+    // Reads a book, sets the title and clears Modified. On failure tells why, changes nothing and returns
+    // false.
+    bool LoadBook(const std::wstring& path);
+
+    // Commands.
+    void mnuNew_Click();
+    void mnuOpen_Click();
+    void mnuClose_Click();
+    void mnuSave_Click();
+    void mnuSaveAs_Click();
+    void mnuExit_Click();
+    void mnuSelectAll_Click();
+
+  private:
+    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM first, LPARAM second);
+    LRESULT Handle(UINT message, WPARAM first, LPARAM second);
+    void OnCommand(int id, int event);
+    LRESULT OnNotify(const NMHDR& header);
+
+    // Life of the window.
+    void Form_Load();
+    void Form_Resize();
+    bool Form_QueryUnload();  // false: the window stays
+    void Form_Unload();
+
+    // Making and placing the controls.
+    void CreateControls();
+    HWND CreateControl(const wchar_t* window_class, const wchar_t* text, DWORD style, int id,
+                       DWORD extended_style = 0);
+    void ApplyResolution();
+    void PlaceControls(const MainLayout& places);
+    void SizeStatusPanels();
+    void OnMinMaxInfo(MINMAXINFO& info) const;
+    void RememberFocus();
+    void RestoreFocus();
+
+    // File commands.
+    bool ChooseBookFile(bool open);
+    void ResetAfterOffer();
+    void OpenChosenBook();
+    void WarnOfHeaderLookalikes();
+
+    // Tabs and list.
+    void TabStrip1_Click();
+    void SelectTab(int category);
+    void ListURLs_ItemClick();
+    void ListURLs_ItemCheck(int position);
+    void ListURLs_ColumnClick();
+    void ShowEntry(int index);
+    static LRESULT CALLBACK UrlSubclass(HWND window, UINT message, WPARAM first, LPARAM second, UINT_PTR id,
+                                        DWORD_PTR data);
+    void txtURL_DblClick();
+    void txtURL_KeyPress(wchar_t key);
+
+    HINSTANCE instance_;
+    HWND handle_ = nullptr;
+    HACCEL shortcuts_ = nullptr;
+    HWND remembered_focus_ = nullptr;
+    UINT dpi_ = USER_DEFAULT_SCREEN_DPI;
+    Font font_;
+};
+
+}  // namespace lindrel

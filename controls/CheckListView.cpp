@@ -1,0 +1,205 @@
+#include "controls/CheckListView.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "book/BookText.h"
+#include "controls/PendingFault.h"
+
+namespace lindrel {
+
+namespace {
+
+constexpr int kUncheckedImage = 1;
+constexpr int kCheckedImage = 2;
+constexpr DWORD kExtendedStyles = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_LABELTIP;
+
+bool BeginsWith(const std::wstring& text, const std::wstring& letters) {
+    return ContainsCaseless(std::wstring_view(text).substr(0, letters.size()), letters);
+}
+
+}  // namespace
+
+CheckListView::~CheckListView() {
+    if (Handle() != nullptr) static_cast<void>(RemoveWindowSubclass(Handle(), &CheckListView::Subclass, 0));
+}
+
+void CheckListView::Attach(HWND list) {
+    static_cast<Control&>(*this) = Control(list);
+    if (!SetWindowSubclass(list, &CheckListView::Subclass, 0, reinterpret_cast<DWORD_PTR>(this)))
+        throw std::bad_alloc();
+    ListView_SetExtendedListViewStyle(list, kExtendedStyles | LVS_EX_CHECKBOXES);
+    // The check marks are ours: the control asks for each row's.
+    static_cast<void>(ListView_SetCallbackMask(list, LVIS_STATEIMAGEMASK));
+}
+
+void CheckListView::AddColumn(const std::wstring& caption, int width_in_pixels) {
+    std::wstring text = caption;
+    LVCOLUMNW column{};
+    column.mask = LVCF_TEXT | LVCF_WIDTH | LVCF_SUBITEM;
+    column.pszText = text.data();
+    column.cx = width_in_pixels;
+    column.iSubItem = Header_GetItemCount(ListView_GetHeader(Handle()));
+    if (ListView_InsertColumn(Handle(), column.iSubItem, &column) == -1) throw std::bad_alloc();
+}
+
+void CheckListView::SetColumnWidth(int column, int width_in_pixels) {
+    static_cast<void>(ListView_SetColumnWidth(Handle(), column, width_in_pixels));
+}
+
+void CheckListView::RemakeCheckBoxes() {
+    ListView_SetExtendedListViewStyleEx(Handle(), LVS_EX_CHECKBOXES, 0);
+    ListView_SetExtendedListViewStyleEx(Handle(), LVS_EX_CHECKBOXES, LVS_EX_CHECKBOXES);
+}
+
+void CheckListView::SetRows(int count, CellText text) {
+    checked_.assign(static_cast<std::size_t>(count), false);
+    text_ = std::move(text);
+    selecting_ = true;
+    // From no rows to the new ones, so that neither selection nor scroll position survives.
+    ListView_SetItemCountEx(Handle(), 0, 0);
+    ListView_SetItemState(Handle(), -1, 0, LVIS_SELECTED | LVIS_FOCUSED);
+    ListView_SetItemCountEx(Handle(), count, 0);
+    selecting_ = false;
+}
+
+void CheckListView::SetChecked(int position, bool checked) {
+    checked_.at(static_cast<std::size_t>(position - 1)) = checked;
+    static_cast<void>(ListView_RedrawItems(Handle(), position - 1, position - 1));
+}
+
+void CheckListView::SetAllChecked(bool checked) {
+    checked_.assign(checked_.size(), checked);
+    static_cast<void>(ListView_RedrawItems(Handle(), 0, Count() - 1));
+}
+
+int CheckListView::Selected() const {
+    return ListView_GetNextItem(Handle(), -1, LVNI_SELECTED) + 1;
+}
+
+void CheckListView::Select(int position) {
+    const bool outer = std::exchange(selecting_, true);
+    constexpr UINT kState = LVIS_SELECTED | LVIS_FOCUSED;
+    ListView_SetItemState(Handle(), position - 1, kState, kState);
+    // The starting point of arrow keys with Shift, and on some systems of plain ones.
+    static_cast<void>(ListView_SetSelectionMark(Handle(), position - 1));
+    selecting_ = outer;
+}
+
+void CheckListView::EnsureVisible(int position) {
+    static_cast<void>(ListView_EnsureVisible(Handle(), position - 1, FALSE));
+}
+
+void CheckListView::ShowGridLines(bool shown) {
+    ListView_SetExtendedListViewStyleEx(Handle(), LVS_EX_GRIDLINES, shown ? LVS_EX_GRIDLINES : 0);
+}
+
+bool CheckListView::HasGridLines() const {
+    return (ListView_GetExtendedListViewStyle(Handle()) & LVS_EX_GRIDLINES) != 0;
+}
+
+LRESULT CheckListView::Notify(const NMHDR& header) {
+    switch (header.code) {
+        case LVN_GETDISPINFOW:
+            FillCell(const_cast<NMLVDISPINFOW&>(reinterpret_cast<const NMLVDISPINFOW&>(header)));
+            return 0;
+        case LVN_ODFINDITEMW:
+            return FindRow(reinterpret_cast<const NMLVFINDITEMW&>(header));
+        case LVN_ITEMCHANGED: {
+            const auto& change = reinterpret_cast<const NMLISTVIEW&>(header);
+            const bool now_selected =
+                (change.uNewState & LVIS_SELECTED) != 0 && (change.uOldState & LVIS_SELECTED) == 0;
+            if (now_selected && !selecting_ && ItemClick) ItemClick();
+            return 0;
+        }
+        case LVN_COLUMNCLICK:
+            if (ColumnClick) ColumnClick();
+            return 0;
+        case NM_CLICK:
+            // A click on the row that is selected already changes no state, but is a click.
+            if (reinterpret_cast<const NMITEMACTIVATE&>(header).iItem >= 0 && Selected() != 0 && ItemClick)
+                ItemClick();
+            return 0;
+        case NM_DBLCLK:
+            if (reinterpret_cast<const NMITEMACTIVATE&>(header).iItem >= 0 && DoubleClick) DoubleClick();
+            return 0;
+        case LVN_KEYDOWN:
+            if (KeyDown) KeyDown(reinterpret_cast<const NMLVKEYDOWN&>(header).wVKey);
+            return 0;
+        default:
+            return 0;
+    }
+}
+
+void CheckListView::FillCell(NMLVDISPINFOW& cell) const {
+    LVITEMW& item = cell.item;
+    const int position = item.iItem + 1;
+    if (position < 1 || position > Count()) return;
+    if ((item.mask & LVIF_TEXT) != 0 && item.cchTextMax > 0) {
+        const std::wstring text = text_(position, item.iSubItem);
+        const std::size_t length = std::min(text.size(), static_cast<std::size_t>(item.cchTextMax) - 1);
+        *std::copy_n(text.begin(), length, item.pszText) = L'\0';
+    }
+    if ((item.mask & LVIF_STATE) != 0)
+        item.state = INDEXTOSTATEIMAGEMASK(IsChecked(position) ? kCheckedImage : kUncheckedImage);
+}
+
+// Typing finds the first row from the start on, around the end, that begins with the typed letters.
+LRESULT CheckListView::FindRow(const NMLVFINDITEMW& search) const {
+    if ((search.lvfi.flags & (LVFI_STRING | LVFI_PARTIAL)) == 0 || search.lvfi.psz == nullptr) return -1;
+    const std::wstring letters = search.lvfi.psz;
+    for (int step = 0; step < Count(); ++step) {
+        const int row = (std::max(search.iStart, 0) + step) % Count();
+        if (BeginsWith(text_(row + 1, 0), letters)) return row;
+    }
+    return -1;
+}
+
+void CheckListView::Toggle(int position) {
+    SetChecked(position, !IsChecked(position));
+    if (ItemCheck) ItemCheck(position);
+}
+
+bool CheckListView::ToggledByMouse(LPARAM point) {
+    LVHITTESTINFO hit{};
+    hit.pt = {GET_X_LPARAM(point), GET_Y_LPARAM(point)};
+    const int row = ListView_HitTest(Handle(), &hit);
+    if (row < 0 || (hit.flags & LVHT_ONITEM) != LVHT_ONITEMSTATEICON) return false;
+    if (!HasFocus()) SetFocus();
+    Toggle(row + 1);
+    return true;
+}
+
+LRESULT CALLBACK CheckListView::Subclass(HWND list, UINT message, WPARAM first, LPARAM second, UINT_PTR id,
+                                         DWORD_PTR data) {
+    auto* const self = reinterpret_cast<CheckListView*>(data);
+    switch (message) {
+        case WM_LBUTTONDOWN:
+        case WM_LBUTTONDBLCLK:
+            // Taken before the control sees it: a click on the box does not select the row.
+            if (Guarded<bool>(true, [&] { return self->ToggledByMouse(second); })) return 0;
+            break;
+        case WM_KEYDOWN:
+            if (first == VK_SPACE && GetKeyState(VK_CONTROL) >= 0) {
+                const int focused = ListView_GetNextItem(list, -1, LVNI_FOCUSED) + 1;
+                Guarded<bool>(true, [&] {
+                    if (focused >= 1 && focused <= self->Count()) self->Toggle(focused);
+                    return true;
+                });
+                return 0;
+            }
+            break;
+        case WM_CHAR:
+            if (first == L' ') return 0;  // not a letter to search for
+            break;
+        case WM_NCDESTROY:
+            static_cast<void>(RemoveWindowSubclass(list, &CheckListView::Subclass, id));
+            static_cast<Control&>(*self) = Control();
+            break;
+        default:
+            break;
+    }
+    return DefSubclassProc(list, message, first, second);
+}
+
+}  // namespace lindrel

@@ -1,0 +1,75 @@
+// A report list with a check box before each row. The list holds no rows of its own: it asks for the texts of
+// the rows on the screen, so that 32,767 rows cost no more than ten. The check marks are kept here. All
+// positions are 1-based.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "controls/Control.h"
+
+namespace lindrel {
+
+class CheckListView : public Control {
+  public:
+    // Text of a cell; column 0 or 1. Asked when a row is painted or searched by its first letters.
+    using CellText = std::function<std::wstring(int position, int column)>;
+
+    CheckListView() = default;
+    ~CheckListView();
+    CheckListView(const CheckListView&) = delete;
+    CheckListView& operator=(const CheckListView&) = delete;
+
+    // Takes over a list view control that was made with the styles kStyles. Its parent passes the WM_NOTIFY
+    // messages of the control to Notify().
+    void Attach(HWND list);
+    static constexpr DWORD kStyles = LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL | LVS_SHOWSELALWAYS;
+
+    void AddColumn(const std::wstring& caption, int width_in_pixels);
+    void SetColumnWidth(int column, int width_in_pixels);
+    // Draws the check boxes anew, at the resolution that the window has now.
+    void RemakeCheckBoxes();
+
+    // Shows `count` rows, none checked, none selected, scrolled to the first.
+    void SetRows(int count, CellText text);
+    int Count() const { return static_cast<int>(checked_.size()); }
+    std::wstring CellTextAt(int position, int column) const { return text_(position, column); }
+
+    bool IsChecked(int position) const { return checked_.at(static_cast<std::size_t>(position - 1)); }
+    // By the program: raises no ItemCheck.
+    void SetChecked(int position, bool checked);
+    void SetAllChecked(bool checked);
+
+    // 0 when no row is selected.
+    int Selected() const;
+    // By the program: raises no ItemClick. The row has the focus rectangle too.
+    void Select(int position);
+    void EnsureVisible(int position);
+
+    void ShowGridLines(bool shown);
+    bool HasGridLines() const;
+
+    // What the user does.
+    std::function<void()> ItemClick;              // a row was selected or clicked, by mouse or keys
+    std::function<void(int position)> ItemCheck;  // a check box was toggled, by mouse or space bar
+    std::function<void()> ColumnClick;
+    std::function<void()> DoubleClick;     // on a row
+    std::function<void(int key)> KeyDown;  // a virtual key code
+
+    LRESULT Notify(const NMHDR& header);
+
+  private:
+    static LRESULT CALLBACK Subclass(HWND list, UINT message, WPARAM first, LPARAM second, UINT_PTR id,
+                                     DWORD_PTR data);
+    bool ToggledByMouse(LPARAM point);
+    void Toggle(int position);
+    void FillCell(NMLVDISPINFOW& cell) const;
+    LRESULT FindRow(const NMLVFINDITEMW& search) const;
+
+    std::vector<bool> checked_;
+    CellText text_;
+    bool selecting_ = false;  // a change of the selection that the program makes
+};
+
+}  // namespace lindrel

@@ -1,0 +1,147 @@
+#include "controls/Control.h"
+
+#include <algorithm>
+
+namespace lindrel {
+
+namespace {
+
+std::wstring ItemText(HWND window, UINT length_message, UINT text_message, WPARAM item) {
+    const LRESULT length = SendMessageW(window, length_message, item, 0);
+    if (length <= 0) return {};
+    std::wstring text(static_cast<std::size_t>(length) + 1, L'\0');
+    const LRESULT copied = SendMessageW(window, text_message, item, reinterpret_cast<LPARAM>(text.data()));
+    text.resize(static_cast<std::size_t>(std::max<LRESULT>(copied, 0)));
+    return text;
+}
+
+}  // namespace
+
+std::wstring TextOf(HWND window) {
+    const LRESULT length = SendMessageW(window, WM_GETTEXTLENGTH, 0, 0);
+    if (length <= 0) return {};
+    std::wstring text(static_cast<std::size_t>(length) + 1, L'\0');
+    const LRESULT copied = SendMessageW(window, WM_GETTEXT, static_cast<WPARAM>(text.size()),
+                                        reinterpret_cast<LPARAM>(text.data()));
+    text.resize(static_cast<std::size_t>(std::max<LRESULT>(copied, 0)));
+    return text;
+}
+
+std::wstring WithoutAccessKeys(std::wstring_view text) {
+    std::wstring doubled;
+    for (const wchar_t character : text) doubled.append(character == L'&' ? 2 : 1, character);
+    return doubled;
+}
+
+// The results of the calls below say only that the window is gone, which no caller could mend.
+
+void Control::SetText(std::wstring_view text) const {
+    static_cast<void>(SetWindowTextW(handle_, std::wstring(text).c_str()));
+}
+
+void Control::Enable(bool enabled) const {
+    static_cast<void>(EnableWindow(handle_, enabled));
+}
+
+void Control::Show(bool shown) const {
+    static_cast<void>(ShowWindow(handle_, shown ? SW_SHOW : SW_HIDE));
+}
+
+void Control::SetFocus() const {
+    static_cast<void>(::SetFocus(handle_));
+}
+
+void TextBox::Select(int start, int length) const {
+    const int end = GetWindowTextLengthW(Handle());
+    const int from = std::clamp(start, 0, end);
+    const int to = from + std::clamp(length, 0, end - from);
+    Send(EM_SETSEL, static_cast<WPARAM>(from), to);
+    Send(EM_SCROLLCARET);
+}
+
+std::wstring TextBox::SelectedText() const {
+    DWORD start = 0;
+    DWORD end = 0;
+    Send(EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
+    return Text().substr(start, end - start);
+}
+
+void CheckBox::SetChecked(bool checked) const {
+    Send(BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED);
+}
+
+void ComboBox::Add(std::wstring_view text) const {
+    Send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(std::wstring(text).c_str()));
+}
+
+void ComboBox::Clear() const {
+    Send(CB_RESETCONTENT);
+}
+
+void ComboBox::Select(int index) const {
+    Send(CB_SETCURSEL, static_cast<WPARAM>(index));
+}
+
+std::wstring ComboBox::Item(int index) const {
+    return ItemText(Handle(), CB_GETLBTEXTLEN, CB_GETLBTEXT, static_cast<WPARAM>(index));
+}
+
+int TabStrip::Count() const {
+    return TabCtrl_GetItemCount(Handle());
+}
+
+void TabStrip::Add(std::wstring_view caption) const {
+    std::wstring text = WithoutAccessKeys(caption);
+    TCITEMW item{};
+    item.mask = TCIF_TEXT;
+    item.pszText = text.data();
+    static_cast<void>(TabCtrl_InsertItem(Handle(), Count(), &item));
+}
+
+void TabStrip::SetCaption(int position, std::wstring_view caption) const {
+    std::wstring text = WithoutAccessKeys(caption);
+    TCITEMW item{};
+    item.mask = TCIF_TEXT;
+    item.pszText = text.data();
+    static_cast<void>(TabCtrl_SetItem(Handle(), position - 1, &item));
+}
+
+std::wstring TabStrip::Caption(int position) const {
+    std::wstring text(32768, L'\0');
+    TCITEMW item{};
+    item.mask = TCIF_TEXT;
+    item.pszText = text.data();
+    item.cchTextMax = static_cast<int>(text.size());
+    if (!TabCtrl_GetItem(Handle(), position - 1, &item)) return {};
+    text.assign(item.pszText);
+    for (auto at = text.find(L"&&"); at != std::wstring::npos; at = text.find(L"&&", at + 1))
+        text.erase(at, 1);
+    return text;
+}
+
+int TabStrip::Selected() const {
+    return TabCtrl_GetCurSel(Handle()) + 1;
+}
+
+void TabStrip::Select(int position) const {
+    static_cast<void>(TabCtrl_SetCurSel(Handle(), position - 1));
+}
+
+void StatusBar::SetPanel(int panel, std::wstring_view text) const {
+    Send(SB_SETTEXTW, static_cast<WPARAM>(panel - 1), reinterpret_cast<LPARAM>(std::wstring(text).c_str()));
+}
+
+std::wstring StatusBar::Panel(int panel) const {
+    const auto item = static_cast<WPARAM>(panel - 1);
+    const auto length = static_cast<std::size_t>(LOWORD(Send(SB_GETTEXTLENGTHW, item)));
+    std::wstring text(length + 1, L'\0');
+    Send(SB_GETTEXTW, item, reinterpret_cast<LPARAM>(text.data()));
+    text.resize(length);
+    return text;
+}
+
+void StatusBar::SetPanels(const std::vector<int>& right_edges) const {
+    Send(SB_SETPARTS, right_edges.size(), reinterpret_cast<LPARAM>(right_edges.data()));
+}
+
+}  // namespace lindrel

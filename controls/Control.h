@@ -1,0 +1,99 @@
+// Thin, typed wrappers of windows that live in a form or dialog. They own nothing and are cheap to copy.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "controls/Windows.h"
+
+namespace lindrel {
+
+// The text of a window of any length. Reads a control of another process' thread as well.
+std::wstring TextOf(HWND window);
+
+// "&" doubled, for places where a single one would mark an access key.
+std::wstring WithoutAccessKeys(std::wstring_view text);
+
+class Control {
+  public:
+    Control() = default;
+    explicit Control(HWND handle) : handle_(handle) {}
+
+    HWND Handle() const { return handle_; }
+    std::wstring Text() const { return TextOf(handle_); }
+    void SetText(std::wstring_view text) const;
+    bool IsEmpty() const { return GetWindowTextLengthW(handle_) == 0; }
+    bool IsEnabled() const { return IsWindowEnabled(handle_) != FALSE; }
+    void Enable(bool enabled) const;
+    void Show(bool shown) const;
+    void SetFocus() const;
+    bool HasFocus() const { return GetFocus() == handle_; }
+
+  protected:
+    LRESULT Send(UINT message, WPARAM first = 0, LPARAM second = 0) const {
+        return SendMessageW(handle_, message, first, second);
+    }
+
+  private:
+    HWND handle_ = nullptr;
+};
+
+class TextBox : public Control {
+  public:
+    using Control::Control;
+
+    // Selects `length` characters from the 0-based start; both are clamped to the text. The caret is at the
+    // end.
+    void Select(int start, int length) const;
+    void SelectAll() const { Select(0, GetWindowTextLengthW(Handle())); }
+    std::wstring SelectedText() const;
+};
+
+class CheckBox : public Control {  // option buttons too
+  public:
+    using Control::Control;
+
+    bool IsChecked() const { return Send(BM_GETCHECK) == BST_CHECKED; }
+    void SetChecked(bool checked) const;
+};
+
+class ComboBox : public Control {
+  public:
+    using Control::Control;
+
+    void Add(std::wstring_view text) const;
+    void Clear() const;
+    int Count() const { return static_cast<int>(Send(CB_GETCOUNT)); }
+    // 0-based; -1 when nothing is selected.
+    int Selected() const { return static_cast<int>(Send(CB_GETCURSEL)); }
+    void Select(int index) const;
+    std::wstring Item(int index) const;
+};
+
+class TabStrip : public Control {
+  public:
+    using Control::Control;
+
+    // All positions are 1-based.
+    int Count() const;
+    void Add(std::wstring_view caption) const;
+    void SetCaption(int position, std::wstring_view caption) const;
+    std::wstring Caption(int position) const;
+    int Selected() const;
+    // Selects without raising the click.
+    void Select(int position) const;
+};
+
+class StatusBar : public Control {
+  public:
+    using Control::Control;
+
+    // 1-based panels.
+    void SetPanel(int panel, std::wstring_view text) const;
+    std::wstring Panel(int panel) const;
+    // Right edges of the panels in pixels; -1 reaches to the end.
+    void SetPanels(const std::vector<int>& right_edges) const;
+};
+
+}  // namespace lindrel

@@ -1,0 +1,75 @@
+// The base of the dialogs. A dialog is made from a DIALOGEX template, lives on the stack of the command that
+// opens it, and turns messages into handlers named after control and event:
+//
+//     class frmMove : public Dialog {
+//       public:
+//         explicit frmMove(frmStart& main) : Dialog(IDD_frmMove), main_(main) {}
+//       private:
+//         void Form_Load() override;
+//         void OnCommand(int id, int event) override;   // only dispatches: case ID_frmMove_cmdOk:
+//         cmdOk_Click();
+//     };
+//     frmMove(main).ShowModal(owner);
+#pragma once
+
+#include <string>
+
+#include "controls/Control.h"
+#include "controls/Windows.h"
+
+namespace lindrel {
+
+class Dialog {
+  public:
+    explicit Dialog(int template_id) : template_id_(template_id) {}
+    virtual ~Dialog();
+    Dialog(const Dialog&) = delete;
+    Dialog& operator=(const Dialog&) = delete;
+
+    // Shows the dialog in the middle of its owner, in the user's message font, and returns when it is closed.
+    // The owner takes no input meanwhile. Throws on what a handler throws; the dialog is gone then, without
+    // Form_Unload, and the owner is usable again.
+    void ShowModal(HWND owner);
+
+    HWND Handle() const { return handle_; }
+
+  protected:
+    // Before the dialog is first shown. Returning leaves the focus on the first control in the tab order
+    // unless the handler has set it.
+    virtual void Form_Load() {}
+    // The dialog is about to close; its controls are still there.
+    virtual void Form_Unload() {}
+    // A control or menu item was used. `event` is the notification code (BN_CLICKED, EN_CHANGE, ...).
+    // The default closes the dialog for IDCANCEL (Esc and the title bar's button).
+    virtual void OnCommand(int id, int event);
+    // WM_NOTIFY; the result goes back to the control.
+    virtual LRESULT OnNotify(const NMHDR& header);
+    // Any other message; true when handled, `result` then goes back to the sender.
+    virtual bool OnMessage(UINT message, WPARAM first, LPARAM second, LRESULT& result);
+    // A key message before the dialog's own keyboard handling; true swallows it.
+    virtual bool PreTranslate(const MSG& message);
+
+    // Closes the dialog once the running handler has returned.
+    void Unload() { ending_ = true; }
+
+    HWND Item(int id) const { return GetDlgItem(handle_, id); }
+    std::wstring Text(int id) const { return TextOf(Item(id)); }
+    template <typename Wrapper>
+    Wrapper Get(int id) const {
+        return Wrapper(Item(id));
+    }
+    // Moves the focus as the tab key would: a text box selects its text, the default button follows.
+    void FocusOn(int id) const;
+
+  private:
+    static INT_PTR CALLBACK Procedure(HWND handle, UINT message, WPARAM first, LPARAM second);
+    INT_PTR Handle(UINT message, WPARAM first, LPARAM second);
+    void Create(HWND owner);
+    void RunModalLoop();
+
+    int template_id_;
+    HWND handle_ = nullptr;
+    bool ending_ = false;
+};
+
+}  // namespace lindrel

@@ -1,0 +1,28 @@
+// Exceptions never cross a window procedure: it keeps what it caught here, and the message loop that
+// dispatched the message throws it on. Each thread has its own.
+#pragma once
+
+#include <utility>
+
+#include "controls/Windows.h"
+
+namespace lindrel {
+
+// Keeps the exception being handled and wakes the thread's message loop. A later one does not displace it.
+void KeepPendingFault() noexcept;
+
+// Throws the kept exception, if there is one. Called after each message that a loop dispatches.
+void ThrowPendingFault();
+
+// Runs a handler inside a window procedure.
+template <typename Result, typename Handler>
+Result Guarded(Result otherwise, Handler&& handler) noexcept {
+    try {
+        return std::forward<Handler>(handler)();
+    } catch (...) {
+        KeepPendingFault();
+        return otherwise;
+    }
+}
+
+}  // namespace lindrel
