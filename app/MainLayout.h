@@ -21,19 +21,19 @@ inline constexpr int kMinimisedHeight = 500;
 
 struct MainLayout {
     // As designed; LayOut() moves and resizes what follows the window.
-    Place Toolbar{0, 0, 7580, 570};
-    Place TabStrip1{0, 600, 7580, 360};
-    Place ListURLs{120, 990, 3900, 3180};
-    Place lblSiteName{4250, 990, 3210, 240};
-    Place txtSite{4250, 1245, 3210, 345};
-    Place lblURL{4250, 1710, 3210, 240};
-    Place txtURL{4250, 1965, 3210, 345};
-    Place picGo{6380, 2385, 1080, 390};
-    Place FrameSearch{4250, 2895, 3210, 1275};
+    Place Toolbar{0, 0, 7580, 540};
+    Place TabStrip1{0, 570, 7580, 345};
+    Place ListURLs{120, 930, 3900, 3180};
+    Place lblSiteName{4250, 930, 3210, 225};
+    Place txtSite{4250, 1170, 3210, 330};
+    Place lblURL{4250, 1590, 3210, 225};
+    Place txtURL{4250, 1830, 3210, 330};
+    Place picGo{6380, 2220, 1080, 375};
+    Place FrameSearch{4250, 2910, 3210, 1200};
     // Inside FrameSearch, relative to its corner.
-    Place cmbFinders{150, 285, 2910, 345};
-    Place txtFind{150, 735, 2415, 345};
-    Place Image1{2625, 720, 435, 375};
+    Place cmbFinders{150, 270, 2910, 345};
+    Place txtFind{150, 705, 2415, 330};
+    Place Image1{2625, 690, 435, 360};
     bool operator==(const MainLayout&) const = default;
 };
 

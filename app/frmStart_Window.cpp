@@ -45,7 +45,8 @@ void frmStart::CreateControls() {
         TextBox(CreateControl(WC_EDITW, L"", kField | ES_READONLY, ID_frmStart_txtURL, WS_EX_CLIENTEDGE));
     picGo =
         Control(CreateControl(WC_BUTTONW, L"Ugorj a web oldalra", WS_TABSTOP | BS_ICON, ID_frmStart_picGo));
-    FrameSearch = Control(CreateControl(WC_BUTTONW, L"&keresés", BS_GROUPBOX, ID_frmStart_FrameSearch));
+    FrameSearch = Control(
+        CreateControl(WC_BUTTONW, L"&keresés", BS_GROUPBOX, ID_frmStart_FrameSearch, WS_EX_TRANSPARENT));
     cmbFinders = ComboBox(
         CreateControl(WC_COMBOBOXW, L"", WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST, ID_frmStart_cmbFinders));
     txtFind = TextBox(CreateControl(WC_EDITW, L"", kField, ID_frmStart_txtFind, WS_EX_CLIENTEDGE));
@@ -64,8 +65,8 @@ void frmStart::ApplyResolution() {
         SendMessageW(child, WM_SETFONT, reinterpret_cast<WPARAM>(font.Handle()), TRUE);
     font_ = std::move(font);
     ListURLs.RemakeCheckBoxes();
-    ListURLs.SetColumnWidth(kColumnOfNames, PixelsOf(3900, dpi_));
-    ListURLs.SetColumnWidth(kColumnOfAddresses, PixelsOf(4500, dpi_));
+    ListURLs.SetColumnWidth(kColumnOfNames, PixelsOf(3000, dpi_));
+    ListURLs.SetColumnWidth(kColumnOfAddresses, PixelsOf(4250, dpi_));
 }
 
 void frmStart::OnMinMaxInfo(MINMAXINFO& info) const {
