@@ -9,11 +9,11 @@
 namespace lindrel {
 
 void frmStart::FillAddressList(int category) {
+    CategoryRows rows = TheBook.RowsOf(category);
     txtURL.SetText(L"");
     txtSite.SetText(L"");
     StatusBar1.SetPanel(1, L"");
     ShowCheckedCount();
-    CategoryRows rows = TheBook.RowsOf(category);
     const int count = static_cast<int>(rows.Entries.size());
     ListURLs.SetRows(count, [rows = std::move(rows)](int position, int column) {
         const AddressEntry& entry = rows.Entries[static_cast<std::size_t>(position - 1)];
