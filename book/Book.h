@@ -1,7 +1,7 @@
-// The book: twelve named categories, each with an ordered run of entries, and the check marks that the windows
-// keep for it. The entries of all categories stand in one sequence, category 1's first; category c owns the
-// indices CategoryStarts(c) .. CategoryStarts(c) + CategoryCounts(c) - 1. All numbers are 1-based. Counts and
-// indices are 16-bit, so a book holds at most 32,767 entries, wherever they lie.
+// The book: twelve named categories, each with an ordered run of entries, and the check marks that the
+// windows keep for it. The entries of all categories stand in one sequence, category 1's first; category c
+// owns the indices CategoryStarts(c) .. CategoryStarts(c) + CategoryCounts(c) - 1. All numbers are 1-based.
+// Counts and indices are 16-bit, so a book holds at most 32,767 entries, wherever they lie.
 //
 // Every routine that changes the book either does its whole work or throws and leaves the book as it was.
 #pragma once
@@ -56,7 +56,8 @@ class Book {
   public:
     Book();
 
-    // The names "Project1" to "Project12", no entries; the texts of the entry sequence stay until the next load.
+    // The names "Project1" to "Project12", no entries; the texts of the entry sequence stay until the next
+    // load.
     void Reset();
 
     const std::string& CategoryNames(int category) const { return names_(category); }
@@ -67,8 +68,8 @@ class Book {
     int EntryCount() const { return starts_(kCategories) + counts_(kCategories) - 1; }
     bool IsEmpty() const { return starts_(kCategories) == 1 && counts_(kCategories) == 0; }
 
-    // Texts of the entry at an index, 1..UpperBound(); RangeFault outside it. The views hold until the text of
-    // that entry changes or the book is replaced.
+    // Texts of the entry at an index, 1..UpperBound(); RangeFault outside it. The views hold until the text
+    // of that entry changes or the book is replaced.
     std::string_view SiteNames(int index) const { return entries_.At(index).SiteName; }
     std::string_view SiteURLs(int index) const { return entries_.At(index).URL; }
     // Size of the entry sequence. Never decide emptiness by it: a book without entries keeps one blank
@@ -85,8 +86,8 @@ class Book {
     void SetSiteName(int index, std::string_view name);
     void SetSiteURL(int index, std::string_view url);
 
-    // Appends NewEntries at the end of a category, in their order, then empties NewEntries; only when the book
-    // was empty they are left as they are (intended: the next caller stages afresh).
+    // Appends NewEntries at the end of a category, in their order, then empties NewEntries; only when the
+    // book was empty they are left as they are (intended: the next caller stages afresh).
     void AddEntry(int category);
     // Removes `count` entries of a category from the 1-based position on.
     void DeleteEntry(int category, int position, int count);
@@ -98,7 +99,8 @@ class Book {
     std::vector<NewEntry> NewEntries;
 
     // Check marks: rows checked in the list now shown; for each category how many were checked when its tab
-    // was left, and at which 1-based positions, ascending. A list whose count is 0 is stale and means nothing.
+    // was left, and at which 1-based positions, ascending. A list whose count is 0 is stale and means
+    // nothing.
     std::int16_t CheckedCount = 0;
     PerCategory<std::int16_t> SavedCheckCounts;
     PerCategory<std::vector<std::int16_t>> SavedCheckLists;

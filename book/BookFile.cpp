@@ -48,8 +48,8 @@ long long EstimatedEntries(long long lines) {
 // Builds the book of a file beside the open one, which takes it over only when it is whole.
 class BookReader {
   public:
-    // The new book begins with the names and counts of the old one: a file with too few headers leaves them to
-    // the categories that it never reaches.
+    // The new book begins with the names and counts of the old one: a file with too few headers leaves them
+    // to the categories that it never reaches.
     BookReader(const Book& old, std::vector<char> bytes) {
         book_.names_ = old.names_;
         book_.counts_ = old.counts_;
@@ -59,8 +59,10 @@ class BookReader {
         if (estimate > kMostEntries)
             throw MalformedBook(L"A fájl több címet tartalmaz, mint amennyi egy könyvben elfér (32767).", 0);
         estimate_ = static_cast<int>(estimate);
-        if (estimate_ == 0) book_.entries_ = old.entries_;
-        else book_.entries_.Recreate(estimate_);
+        if (estimate_ == 0)
+            book_.entries_ = old.entries_;
+        else
+            book_.entries_.Recreate(estimate_);
         text_ = book_.entries_.Texts().Adopt(std::move(bytes));
     }
 
@@ -88,8 +90,9 @@ class BookReader {
   private:
     void TakeHeader(std::string_view name) {
         if (category_ > kCategories)
-            throw MalformedBook(L"A fájlban tizenkettőnél több kategória van (a „#” jellel kezdődő sor kategóriát jelöl).",
-                                line_);
+            throw MalformedBook(
+                L"A fájlban tizenkettőnél több kategória van (a „#” jellel kezdődő sor kategóriát jelöl).",
+                line_);
         if (category_ != 1) book_.counts_(category_ - 1) = count_;
         book_.names_(category_) = name;
         ++category_;
@@ -152,7 +155,8 @@ std::string SaveBook(const Book& book) {
     std::string file;
     const auto write_line = [&file](std::string_view text) { file.append(text).append("\r\n"); };
     std::size_t size = 0;
-    for (int i = 1; i <= book.EntryCount(); ++i) size += book.SiteNames(i).size() + book.SiteURLs(i).size() + 4;
+    for (int i = 1; i <= book.EntryCount(); ++i)
+        size += book.SiteNames(i).size() + book.SiteURLs(i).size() + 4;
     file.reserve(size + 4096);
     for (int k = 1; k <= kCategories; ++k) {
         file.push_back(kHeaderMark);

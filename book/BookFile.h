@@ -1,5 +1,5 @@
-// The book file (*.lnd): for each category a line "#" + name, then two lines for each entry, its site name and
-// its address; Windows-1250, no escaping. Written with CR LF; read with CR LF or LF.
+// The book file (*.lnd): for each category a line "#" + name, then two lines for each entry, its site name
+// and its address; Windows-1250, no escaping. Written with CR LF; read with CR LF or LF.
 //
 // Because nothing is escaped, a name or an address that begins with "#" comes back as a category header.
 #pragma once
@@ -34,8 +34,8 @@ long long CountLines(const std::filesystem::path& path);
 
 // Replaces names, counts, starts and entries by those of the file and clears the check marks. Returns whether
 // there were exactly twelve headers; with another number the book is what could be read: categories never
-// reached keep the names and counts they had (intended, users mend such files by hand). Throws MalformedBook or
-// FileFault and leaves the book as it was.
+// reached keep the names and counts they had (intended, users mend such files by hand). Throws MalformedBook
+// or FileFault and leaves the book as it was.
 bool LoadBook(Book& book, std::vector<char> bytes);
 bool LoadBook(Book& book, const std::filesystem::path& path);
 

@@ -1,6 +1,6 @@
-// The entries of a book in one sequence, as a gap buffer: the free room stands where entries were last added or
-// removed, so that a command which removes thousands of runs one by one touches each entry once, not once for
-// each run. The texts live in a store that only grows; entries are views into it and cheap to copy.
+// The entries of a book in one sequence, as a gap buffer: the free room stands where entries were last added
+// or removed, so that a command which removes thousands of runs one by one touches each entry once, not once
+// for each run. The texts live in a store that only grows; entries are views into it and cheap to copy.
 #pragma once
 
 #include <cstddef>

@@ -50,7 +50,8 @@ class EndOfFileFault : public Fault {
 // A file or folder that cannot be opened, created, read or written. Meaning() is the system's own reason.
 class FileFault : public Fault {
   public:
-    FileFault(std::wstring path, std::wstring reason) : Fault(75, std::move(reason)), path_(std::move(path)) {}
+    FileFault(std::wstring path, std::wstring reason)
+        : Fault(75, std::move(reason)), path_(std::move(path)) {}
     const std::wstring& Path() const noexcept { return path_; }
 
   private:
