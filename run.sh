@@ -1,0 +1,52 @@
+#!/usr/bin/env bash
+# Builds the program and starts it under Wine. With a display the window opens and the script waits for it. Without
+# one it opens the sample book on a display of its own, by the keyboard, and saves a picture of the window.
+set -eu
+cd "$(dirname "$0")"
+source tests/wine-env.sh
+install_packages
+cmake --preset x64 >/dev/null
+cmake --build --preset x64 --target lindrel
+wine_environment
+make_template_prefix
+exe=build/x64/lindrel/lindrel.exe
+
+if [ -n "${DISPLAY:-}" ] && xdotool getdisplaygeometry >/dev/null 2>&1; then
+  # The user's own prefix is kept between runs.
+  export WINEPREFIX="$lindrel_wine/user"
+  [ -d "$WINEPREFIX" ] || copy_prefix "$WINEPREFIX"
+  exec wine "$exe"
+fi
+
+WINEPREFIX=$(mktemp -d "$lindrel_wine/run.XXXXXX")
+export WINEPREFIX
+clean_up() {
+  wineserver -k 2>/dev/null || true
+  wineserver -w 2>/dev/null || true
+  stop_display
+  rm -rf "$WINEPREFIX"
+}
+trap clean_up EXIT
+copy_prefix "$WINEPREFIX"
+cp samples/minta.lnd "$WINEPREFIX/drive_c/minta.lnd"
+start_display
+wine "$exe" >/dev/null 2>&1 &
+
+# Asks for a window by the pattern of its title until it is there.
+wait_for_title() {
+  local deadline=$((SECONDS + 60))
+  until xdotool search --onlyvisible --name "$1" >/dev/null 2>&1; do
+    [ $SECONDS -lt $deadline ] || { echo "no window \"$1\"" >&2; exit 1; }
+    read -rt 0.1 <> <(:) || true
+  done
+}
+wait_for_title '^Lindrel $'
+xdotool key ctrl+o
+wait_for_title '^File megnyitása$'
+xdotool type 'C:\minta.lnd'
+xdotool key Return
+wait_for_title '^Lindrel -minta.lnd$'
+xdotool key Down
+picture="$PWD/build/lindrel.png"
+import -window "$(xdotool search --onlyvisible --name '^Lindrel -minta.lnd$' | tail -n 1)" "$picture"
+echo "$picture"

@@ -1,0 +1,253 @@
+#include "tests/window/support/Boxes.h"
+
+#include <commdlg.h>
+#include <dlgs.h>
+
+#include <algorithm>
+#include <stdexcept>
+
+#include "controls/Control.h"
+#include "tests/window/support/Polling.h"
+#include "tests/window/support/Text.h"
+
+namespace lindrel::testing {
+
+namespace {
+
+constexpr wchar_t kDialogClass[] = L"#32770";
+
+std::wstring ClassOf(HWND window) {
+    wchar_t name[64] = L"";
+    GetClassNameW(window, name, 64);
+    return name;
+}
+
+std::vector<HWND> ChildrenOf(HWND parent) {
+    std::vector<HWND> children;
+    for (HWND child = GetWindow(parent, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT))
+        children.push_back(child);
+    return children;
+}
+
+bool IsButton(HWND window) {
+    return ClassOf(window) == L"Button" && IsWindowVisible(window);
+}
+
+bool IsPicture(HWND window) {
+    return ClassOf(window) == L"Static" && (GetWindowLongPtrW(window, GWL_STYLE) & SS_TYPEMASK) == SS_ICON;
+}
+
+void WaitUntilGone(HWND window) {
+    WaitUntil("a window to close", [window] { return !IsWindow(window); });
+}
+
+HWND FileNameField(HWND dialog) {
+    const HWND combo = GetDlgItem(dialog, cmb13);
+    return combo != nullptr ? combo : GetDlgItem(dialog, edt1);
+}
+
+std::vector<std::wstring> ItemsOf(HWND combo) {
+    std::vector<std::wstring> items;
+    for (int i = 0; i < ComboBox(combo).Count(); ++i) items.push_back(ComboBox(combo).Item(i));
+    return items;
+}
+
+template <typename Found>
+HWND WaitForWindow(DWORD thread, const std::string& what, Found found) {
+    HWND window = nullptr;
+    WaitUntil(what, [&] {
+        for (const HWND candidate : WindowsOf(thread))
+            if (IsWindowEnabled(candidate) && found(candidate)) {
+                window = candidate;
+                return true;
+            }
+        return false;
+    });
+    return window;
+}
+
+}  // namespace
+
+std::vector<HWND> WindowsOf(DWORD thread) {
+    std::vector<HWND> windows;
+    EnumThreadWindows(
+        thread,
+        [](HWND window, LPARAM list) {
+            if (IsWindowVisible(window)) reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&windows));
+    return windows;
+}
+
+bool IsMessageBox(HWND window) {
+    if (ClassOf(window) != kDialogClass) return false;
+    bool has_button = false;
+    for (const HWND child : ChildrenOf(window)) {
+        const std::wstring child_class = ClassOf(child);
+        if (child_class == L"Static") continue;
+        if (child_class != L"Button" || GetDlgCtrlID(child) < IDOK || GetDlgCtrlID(child) > IDCONTINUE) return false;
+        has_button = true;
+    }
+    return has_button;
+}
+
+bool IsFileDialog(HWND window) {
+    return ClassOf(window) == kDialogClass && GetDlgItem(window, cmb1) != nullptr && FileNameField(window) != nullptr;
+}
+
+BoxOnScreen WaitForBox(DWORD thread) {
+    return BoxOnScreen(WaitForWindow(thread, "a message box", &IsMessageBox));
+}
+
+DialogOnScreen WaitForDialog(DWORD thread, const std::wstring& caption) {
+    return DialogOnScreen(WaitForWindow(thread, "the dialog \"" + Narrow(caption) + "\"", [&](HWND window) {
+        return ClassOf(window) == kDialogClass && !IsMessageBox(window) && TextOf(window) == caption;
+    }));
+}
+
+FileDialogOnScreen WaitForFileDialog(DWORD thread) {
+    return FileDialogOnScreen(WaitForWindow(thread, "a file dialog", &IsFileDialog));
+}
+
+std::wstring BoxOnScreen::Title() const {
+    return TextOf(box_);
+}
+
+std::wstring BoxOnScreen::Text() const {
+    for (const HWND child : ChildrenOf(box_))
+        if (ClassOf(child) == L"Static" && !IsPicture(child)) return TextOf(child);
+    return {};
+}
+
+std::vector<int> BoxOnScreen::Buttons() const {
+    std::vector<int> ids;
+    for (const HWND child : ChildrenOf(box_))
+        if (IsButton(child)) ids.push_back(GetDlgCtrlID(child));
+    return ids;
+}
+
+BoxIcon BoxOnScreen::Icon() const {
+    HICON shown = nullptr;
+    for (const HWND child : ChildrenOf(box_))
+        if (IsPicture(child) && IsWindowVisible(child))
+            shown = reinterpret_cast<HICON>(SendMessageW(child, STM_GETICON, 0, 0));
+    if (shown == nullptr) return BoxIcon::None;
+    if (shown == LoadIconW(nullptr, IDI_QUESTION)) return BoxIcon::Question;
+    if (shown == LoadIconW(nullptr, IDI_EXCLAMATION)) return BoxIcon::Exclamation;
+    if (shown == LoadIconW(nullptr, IDI_HAND)) return BoxIcon::Error;
+    if (shown == LoadIconW(nullptr, IDI_ASTERISK)) return BoxIcon::Information;
+    throw std::runtime_error("a message box shows an icon that is none of the system's");
+}
+
+void BoxOnScreen::Press(int button) const {
+    const HWND control = GetDlgItem(box_, button);
+    if (control == nullptr) throw std::runtime_error("the message box has no button " + std::to_string(button));
+    PostMessageW(control, BM_CLICK, 0, 0);
+    WaitUntilGone(box_);
+}
+
+HWND DialogOnScreen::Control(int id) const {
+    const HWND control = GetDlgItem(dialog_, id);
+    if (control == nullptr) throw std::runtime_error("the dialog has no control " + std::to_string(id));
+    return control;
+}
+
+std::wstring DialogOnScreen::Caption() const {
+    return TextOf(dialog_);
+}
+
+std::wstring DialogOnScreen::Text(int id) const {
+    return TextOf(Control(id));
+}
+
+void DialogOnScreen::SetText(int id, const std::wstring& text) const {
+    SendMessageW(Control(id), EM_SETSEL, 0, -1);
+    SendMessageW(Control(id), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(text.c_str()));
+}
+
+void DialogOnScreen::Click(int id) const {
+    PostMessageW(Control(id), BM_CLICK, 0, 0);
+}
+
+void DialogOnScreen::ClickAndWaitForClose(int id) const {
+    Click(id);
+    WaitForClose();
+}
+
+void DialogOnScreen::Pick(int combo_id, int index) const {
+    const HWND combo = Control(combo_id);
+    SendMessageW(combo, CB_SETCURSEL, static_cast<WPARAM>(index), 0);
+    SendMessageW(dialog_, WM_COMMAND, MAKEWPARAM(combo_id, CBN_SELCHANGE), reinterpret_cast<LPARAM>(combo));
+}
+
+int DialogOnScreen::Picked(int combo_id) const {
+    return ComboBox(Control(combo_id)).Selected();
+}
+
+std::vector<std::wstring> DialogOnScreen::ComboItems(int combo_id) const {
+    return ItemsOf(Control(combo_id));
+}
+
+bool DialogOnScreen::IsChecked(int id) const {
+    return SendMessageW(Control(id), BM_GETCHECK, 0, 0) == BST_CHECKED;
+}
+
+bool DialogOnScreen::IsEnabled(int id) const {
+    return IsWindowEnabled(Control(id)) != FALSE;
+}
+
+bool DialogOnScreen::IsShown(int id) const {
+    return IsWindowVisible(Control(id)) != FALSE;
+}
+
+int DialogOnScreen::Focus() const {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    if (!GetGUIThreadInfo(GetWindowThreadProcessId(dialog_, nullptr), &info) || info.hwndFocus == nullptr) return 0;
+    return GetDlgCtrlID(info.hwndFocus);
+}
+
+void DialogOnScreen::Cancel() const {
+    PostMessageW(dialog_, WM_CLOSE, 0, 0);
+    WaitForClose();
+}
+
+void DialogOnScreen::WaitForClose() const {
+    WaitUntilGone(dialog_);
+}
+
+std::wstring FileDialogOnScreen::Title() const {
+    return TextOf(dialog_);
+}
+
+std::vector<std::wstring> FileDialogOnScreen::Filters() const {
+    return ItemsOf(GetDlgItem(dialog_, cmb1));
+}
+
+std::wstring FileDialogOnScreen::FileName() const {
+    return TextOf(FileNameField(dialog_));
+}
+
+std::wstring FileDialogOnScreen::Folder() const {
+    wchar_t path[MAX_PATH] = L"";
+    SendMessageW(dialog_, CDM_GETFOLDERPATH, MAX_PATH, reinterpret_cast<LPARAM>(path));
+    return path;
+}
+
+void FileDialogOnScreen::TypeAndPressOk(const std::wstring& path) const {
+    SendMessageW(FileNameField(dialog_), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(path.c_str()));
+    PostMessageW(GetDlgItem(dialog_, IDOK), BM_CLICK, 0, 0);
+}
+
+void FileDialogOnScreen::Accept(const std::wstring& path) const {
+    TypeAndPressOk(path);
+    WaitUntilGone(dialog_);
+}
+
+void FileDialogOnScreen::Cancel() const {
+    PostMessageW(GetDlgItem(dialog_, IDCANCEL), BM_CLICK, 0, 0);
+    WaitUntilGone(dialog_);
+}
+
+}  // namespace lindrel::testing

@@ -1,0 +1,92 @@
+// Message boxes, dialogs and file dialogs of the program, found and used as a user does: by what they show and by
+// their buttons. All functions may be called from the test's thread while the program's thread runs them.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "controls/Windows.h"
+
+namespace lindrel::testing {
+
+enum class BoxIcon { None, Question, Exclamation, Error, Information };
+
+// A message box that is on the screen.
+class BoxOnScreen {
+  public:
+    explicit BoxOnScreen(HWND box) : box_(box) {}
+    HWND Handle() const { return box_; }
+    std::wstring Title() const;
+    std::wstring Text() const;
+    std::vector<int> Buttons() const;  // IDOK, IDYES, ... in tab order
+    BoxIcon Icon() const;
+    // Presses a button and waits until the box is gone.
+    void Press(int button) const;
+
+  private:
+    HWND box_;
+};
+
+// A dialog of the program that is on the screen. Ids are those of resources/resource.h.
+class DialogOnScreen {
+  public:
+    explicit DialogOnScreen(HWND dialog) : dialog_(dialog) {}
+    HWND Handle() const { return dialog_; }
+    bool IsOpen() const { return IsWindow(dialog_) != FALSE; }
+    HWND Control(int id) const;  // fails when it is not there
+    std::wstring Caption() const;
+    std::wstring Text(int id) const;
+    // Replaces the text of a text box as typing would: the parent hears EN_CHANGE.
+    void SetText(int id, const std::wstring& text) const;
+    // Clicks a button. Returns at once: the handler may open a box.
+    void Click(int id) const;
+    // Clicks and waits until the dialog is gone.
+    void ClickAndWaitForClose(int id) const;
+    // Picks an entry of a combo box (0-based) as the user does: the parent hears CBN_SELCHANGE.
+    void Pick(int combo_id, int index) const;
+    int Picked(int combo_id) const;
+    std::vector<std::wstring> ComboItems(int combo_id) const;
+    bool IsChecked(int id) const;
+    bool IsEnabled(int id) const;
+    bool IsShown(int id) const;
+    // Id of the control that has the focus in the dialog's thread, 0 for none.
+    int Focus() const;
+    // Esc: what the title bar's button does too.
+    void Cancel() const;
+    void WaitForClose() const;
+
+  private:
+    HWND dialog_;
+};
+
+// The common file dialog.
+class FileDialogOnScreen {
+  public:
+    explicit FileDialogOnScreen(HWND dialog) : dialog_(dialog) {}
+    HWND Handle() const { return dialog_; }
+    std::wstring Title() const;
+    std::vector<std::wstring> Filters() const;  // the descriptions
+    std::wstring FileName() const;
+    std::wstring Folder() const;
+    // Types a path in and accepts it, or leaves the dialog; waits until it is gone.
+    void Accept(const std::wstring& path) const;
+    // Accepts without waiting: the dialog itself may ask something.
+    void TypeAndPressOk(const std::wstring& path) const;
+    void Cancel() const;
+
+  private:
+    HWND dialog_;
+};
+
+// Top-level windows of a thread, topmost first, visible ones only.
+std::vector<HWND> WindowsOf(DWORD thread);
+
+// What is in front in a thread and takes input; wait for it with a deadline.
+BoxOnScreen WaitForBox(DWORD thread);
+DialogOnScreen WaitForDialog(DWORD thread, const std::wstring& caption);
+FileDialogOnScreen WaitForFileDialog(DWORD thread);
+
+bool IsMessageBox(HWND window);
+bool IsFileDialog(HWND window);
+
+}  // namespace lindrel::testing
