@@ -86,14 +86,16 @@ bool IsMessageBox(HWND window) {
     for (const HWND child : ChildrenOf(window)) {
         const std::wstring child_class = ClassOf(child);
         if (child_class == L"Static") continue;
-        if (child_class != L"Button" || GetDlgCtrlID(child) < IDOK || GetDlgCtrlID(child) > IDCONTINUE) return false;
+        if (child_class != L"Button" || GetDlgCtrlID(child) < IDOK || GetDlgCtrlID(child) > IDCONTINUE)
+            return false;
         has_button = true;
     }
     return has_button;
 }
 
 bool IsFileDialog(HWND window) {
-    return ClassOf(window) == kDialogClass && GetDlgItem(window, cmb1) != nullptr && FileNameField(window) != nullptr;
+    return ClassOf(window) == kDialogClass && GetDlgItem(window, cmb1) != nullptr &&
+           FileNameField(window) != nullptr;
 }
 
 BoxOnScreen WaitForBox(DWORD thread) {
@@ -142,7 +144,8 @@ BoxIcon BoxOnScreen::Icon() const {
 
 void BoxOnScreen::Press(int button) const {
     const HWND control = GetDlgItem(box_, button);
-    if (control == nullptr) throw std::runtime_error("the message box has no button " + std::to_string(button));
+    if (control == nullptr)
+        throw std::runtime_error("the message box has no button " + std::to_string(button));
     PostMessageW(control, BM_CLICK, 0, 0);
     WaitUntilGone(box_);
 }
@@ -204,7 +207,8 @@ bool DialogOnScreen::IsShown(int id) const {
 int DialogOnScreen::Focus() const {
     GUITHREADINFO info{};
     info.cbSize = sizeof info;
-    if (!GetGUIThreadInfo(GetWindowThreadProcessId(dialog_, nullptr), &info) || info.hwndFocus == nullptr) return 0;
+    if (!GetGUIThreadInfo(GetWindowThreadProcessId(dialog_, nullptr), &info) || info.hwndFocus == nullptr)
+        return 0;
     return GetDlgCtrlID(info.hwndFocus);
 }
 

@@ -1,5 +1,6 @@
-// Message boxes, dialogs and file dialogs of the program, found and used as a user does: by what they show and by
-// their buttons. All functions may be called from the test's thread while the program's thread runs them.
+// Message boxes, dialogs and file dialogs of the program, found and used as a user does: by what they show
+// and by their buttons. All functions may be called from the test's thread while the program's thread runs
+// them.
 #pragma once
 
 #include <string>

@@ -23,7 +23,8 @@ bool Eventually(const std::function<bool()>& answer, std::chrono::milliseconds d
     return true;
 }
 
-void WaitUntil(const std::string& what, const std::function<bool()>& answer, std::chrono::milliseconds deadline) {
+void WaitUntil(const std::string& what, const std::function<bool()>& answer,
+               std::chrono::milliseconds deadline) {
     if (!Eventually(answer, deadline)) throw DeadlinePassed("waited in vain for " + what);
 }
 

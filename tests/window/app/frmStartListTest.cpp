@@ -1,0 +1,154 @@
+// Tabs, list, check marks and text fields of the main window.
+
+#include <gtest/gtest.h>
+
+#include "resources/resource.h"
+#include "tests/window/support/Program.h"
+
+namespace lindrel::testing {
+namespace {
+
+using Row = std::pair<std::wstring, std::wstring>;
+
+class frmStartListTest : public ::testing::Test {
+  protected:
+    // Three entries in category 1, four in category 3.
+    frmStartListTest() {
+        program.OnUi([](frmStart& form) {
+            form.TheBook.NewEntries = {
+                {"Egy", "http://egy.hu"}, {"Kett\xF5", "http://ketto.hu"}, {"H\xE1rom", "http://harom.hu"}};
+            form.TheBook.AddEntry(1);
+            form.TheBook.NewEntries = {
+                {"A", "http://a.hu"}, {"B", "http://b.hu"}, {"C", "http://c.hu"}, {"", ""}};
+            form.TheBook.AddEntry(3);
+            form.FillAddressList(1);
+        });
+    }
+
+    MainState FirstCategory() const {
+        MainState state;
+        state.Title = L"Lindrel ";
+        for (int k = 1; k <= 12; ++k) state.Tabs.push_back(L"Project" + std::to_wstring(k));
+        state.SelectedTab = 1;
+        state.Rows = {
+            {L"Egy", L"http://egy.hu"}, {L"Kettő", L"http://ketto.hu"}, {L"Három", L"http://harom.hu"}};
+        state.Status[1] = L"megjelenítve (3 / 7)";
+        state.Status[2] = L"bejelölve 0";
+        return state;
+    }
+
+    Program program;
+};
+
+TEST_F(frmStartListTest, AFillShowsTheCategoryWithoutSelectionAndWithTheCounters) {
+    EXPECT_EQ(program.State(), FirstCategory());
+    EXPECT_TRUE(program.CommandEnabled(ID_mnuToDesktop));
+}
+
+TEST_F(frmStartListTest, AnEmptyCategoryHasNoRowsAndNoDesktopCommand) {
+    program.ClickTab(2);
+    MainState expected = FirstCategory();
+    expected.SelectedTab = 2;
+    expected.Rows.clear();
+    expected.Status[1] = L"megjelenítve (0 / 7)";
+    EXPECT_EQ(program.State(), expected);
+    EXPECT_FALSE(program.CommandEnabled(ID_mnuToDesktop));
+}
+
+TEST_F(frmStartListTest, FillingTwiceGivesTheSameRowsWithoutCheckMarks) {
+    program.ClickBox(2);
+    program.OnUi([](frmStart& form) {
+        form.TheBook.CheckedCount = 0;
+        form.FillAddressList(1);
+    });
+    EXPECT_EQ(program.State(), FirstCategory());
+}
+
+TEST_F(frmStartListTest, EmptyNamesAndAddressesGiveEmptyCells) {
+    program.ClickTab(3);
+    EXPECT_EQ(program.State().Rows.back(), (Row{L"", L""}));
+}
+
+TEST_F(frmStartListTest, AClickedRowIsShownInTheFields) {
+    program.ClickRow(2);
+    MainState expected = FirstCategory();
+    expected.SelectedRow = 2;
+    expected.txtSite = L"Kettő";
+    expected.txtURL = expected.Status[0] = L"http://ketto.hu";
+    EXPECT_EQ(program.State(), expected);
+}
+
+TEST_F(frmStartListTest, CheckingAnotherRowChangesOnlyTheCounter) {
+    program.ClickRow(1);
+    program.ClickBox(3);
+    MainState expected = FirstCategory();
+    expected.SelectedRow = 1;
+    expected.txtSite = L"Egy";
+    expected.txtURL = expected.Status[0] = L"http://egy.hu";
+    expected.Checked = {3};
+    expected.Status[2] = L"bejelölve 1";
+    EXPECT_EQ(program.State(), expected);
+}
+
+TEST_F(frmStartListTest, TheSpaceBarChecksAndWalksDownAndStaysOnTheLastRow) {
+    program.ClickRow(2);
+    HWND list = nullptr;
+    program.OnUi([&](frmStart& form) { list = form.ListURLs.Handle(); });
+    program.PressKey(list, VK_SPACE);
+    MainState expected = FirstCategory();
+    expected.SelectedRow = 3;
+    expected.txtSite = L"Három";
+    expected.txtURL = expected.Status[0] = L"http://harom.hu";
+    expected.Checked = {2};
+    expected.Status[2] = L"bejelölve 1";
+    EXPECT_EQ(program.State(), expected);
+    program.PressKey(list, VK_SPACE);
+    expected.Checked = {2, 3};
+    expected.Status[2] = L"bejelölve 2";
+    EXPECT_EQ(program.State(), expected);
+}
+
+TEST_F(frmStartListTest, ATabRemembersItsCheckMarks) {
+    for (const int row : {1, 2, 3}) program.ClickBox(row);
+    MainState expected = FirstCategory();
+    expected.Checked = {1, 2, 3};
+    expected.Status[2] = L"bejelölve 3";
+    EXPECT_EQ(program.State(), expected);
+    program.ClickTab(3);
+    EXPECT_EQ(program.State().Status[2], L"bejelölve 0");
+    program.ClickTab(1);
+    EXPECT_EQ(program.State(), expected);
+}
+
+TEST_F(frmStartListTest, OneCheckMarkIsEnoughForCheckAllToClearThem) {
+    program.ClickBox(2);
+    program.Run(ID_mnuSelectAll);
+    EXPECT_EQ(program.State(), FirstCategory());
+    program.Run(ID_mnuSelectAll);
+    MainState expected = FirstCategory();
+    expected.Checked = {1, 2, 3};
+    expected.Status[2] = L"bejelölve 3";
+    EXPECT_EQ(program.State(), expected);
+}
+
+TEST_F(frmStartListTest, AColumnClickShowsTheFirstEntryOnlyWhileTheFieldIsEmpty) {
+    const auto click_header = [this] {
+        HWND header = nullptr;
+        program.OnUi([&](frmStart& form) { header = ListView_GetHeader(form.ListURLs.Handle()); });
+        PostMessageW(header, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(20, 8));
+        PostMessageW(header, WM_LBUTTONUP, 0, MAKELPARAM(20, 8));
+        program.Settle();
+    };
+    click_header();
+    MainState expected = FirstCategory();
+    expected.txtSite = L"Egy";
+    expected.txtURL = expected.Status[0] = L"http://egy.hu";
+    EXPECT_EQ(program.State(), expected);
+    program.ClickRow(3);
+    const MainState before = program.State();
+    click_header();
+    EXPECT_EQ(program.State(), before);
+}
+
+}  // namespace
+}  // namespace lindrel::testing

@@ -1,0 +1,276 @@
+#include "tests/window/support/Program.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <exception>
+#include <filesystem>
+#include <ostream>
+
+#include "app/Program.h"
+#include "book/Files.h"
+#include "tests/window/support/Text.h"
+
+namespace lindrel::testing {
+
+namespace {
+
+constexpr UINT kRunCode = WM_APP + 1;
+constexpr UINT kAreYouIdle = WM_APP + 2;
+constexpr wchar_t kEarClass[] = L"LindrelTestEar";
+
+LRESULT CALLBACK EarProcedure(HWND window, UINT message, WPARAM first, LPARAM second) {
+    if (message == kRunCode) {
+        (*reinterpret_cast<const std::function<void()>*>(second))();
+        return 0;
+    }
+    if (message == kAreYouIdle) {
+        // Asked again behind whatever still waits.
+        const bool busy = HIWORD(GetQueueStatus(QS_INPUT | QS_PAINT | QS_TIMER)) != 0;
+        if (busy && second > 0)
+            PostMessageW(window, kAreYouIdle, first, second - 1);
+        else
+            SetEvent(reinterpret_cast<HANDLE>(first));
+        return 0;
+    }
+    return DefWindowProcW(window, message, first, second);
+}
+
+HWND MakeEar() {
+    WNDCLASSW description{};
+    description.lpfnWndProc = &EarProcedure;
+    description.hInstance = GetModuleHandleW(nullptr);
+    description.lpszClassName = kEarClass;
+    static_cast<void>(RegisterClassW(&description));  // fails when an earlier test has made it
+    return CreateWindowExW(0, kEarClass, L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, description.hInstance,
+                           nullptr);
+}
+
+std::wstring CellOf(HWND list, int row, int column) {
+    std::wstring text(4096, L'\0');
+    LVITEMW item{};
+    item.iSubItem = column;
+    item.pszText = text.data();
+    item.cchTextMax = static_cast<int>(text.size());
+    text.resize(static_cast<std::size_t>(
+        SendMessageW(list, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item))));
+    return text;
+}
+
+}  // namespace
+
+Program::Program() {
+    std::atomic<HWND> ear{nullptr};
+    thread_ = std::thread([this, &ear] {
+        thread_id_ = GetCurrentThreadId();
+        const HWND made = MakeEar();
+        ear = made;
+        exit_code_ = RunProgram(GetModuleHandleW(nullptr), SW_SHOWNORMAL);
+        DestroyWindow(made);
+    });
+    WaitUntil("the program's thread", [&] { return ear != nullptr; });
+    ear_ = ear;
+    WaitUntil("the main window", [this] {
+        for (const HWND window : WindowsOf(thread_id_)) {
+            wchar_t name[32] = L"";
+            GetClassNameW(window, name, 32);
+            if (std::wstring(name) == L"frmStart") main_ = window;
+        }
+        return main_ != nullptr;
+    });
+    Settle();
+}
+
+Program::~Program() {
+    if (!ended_) {
+        LeaveWhateverIsOpen();
+        if (IsWindow(main_)) {
+            OnUi([](frmStart& form) { form.Modified = false; });
+            Close();
+        }
+        WaitForEnd();
+    }
+    if (thread_.joinable()) thread_.join();
+}
+
+void Program::LeaveWhateverIsOpen() const {
+    const bool clean = NothingIsOpen();
+    EXPECT_TRUE(clean) << "a box or dialog is still open at the end of the test";
+    if (clean) return;
+    WaitUntil("everything open to close", [this] {
+        for (const HWND window : WindowsOf(thread_id_))
+            if (window != main_ && IsWindowEnabled(window)) {
+                if (IsMessageBox(window)) PostMessageW(GetWindow(window, GW_CHILD), BM_CLICK, 0, 0);
+                PostMessageW(window, WM_CLOSE, 0, 0);
+            }
+        return NothingIsOpen();
+    });
+}
+
+void Program::OnUi(const std::function<void(frmStart&)>& code) const {
+    std::exception_ptr thrown;
+    const std::function<void()> guarded = [&] {
+        try {
+            code(*frmStart::FromWindow(main_));
+        } catch (...) {
+            thrown = std::current_exception();
+        }
+    };
+    SendMessageW(ear_, kRunCode, 0, reinterpret_cast<LPARAM>(&guarded));
+    if (thrown) std::rethrow_exception(thrown);
+}
+
+void Program::Choose(int menu_id) const {
+    PostMessageW(main_, WM_COMMAND, MAKEWPARAM(menu_id, 0), 0);
+}
+
+void Program::Settle() const {
+    constexpr LPARAM kMostQuestions = 10000;
+    const HANDLE idle = CreateEventW(nullptr, TRUE, FALSE, nullptr);
+    PostMessageW(ear_, kAreYouIdle, reinterpret_cast<WPARAM>(idle), kMostQuestions);
+    const DWORD waited = WaitForSingleObject(idle, static_cast<DWORD>(kDeadline.count() * 1000));
+    // An event that is still to be set must stay valid.
+    if (waited != WAIT_OBJECT_0) throw DeadlinePassed("the program does not come to rest");
+    CloseHandle(idle);
+}
+
+void Program::Run(int menu_id) const {
+    Choose(menu_id);
+    Settle();
+}
+
+MainState Program::State() const {
+    MainState state;
+    OnUi([&](frmStart& form) {
+        state.Title = TextOf(form.Handle());
+        for (int k = 1; k <= form.TabStrip1.Count(); ++k) state.Tabs.push_back(form.TabStrip1.Caption(k));
+        state.SelectedTab = form.TabStrip1.Selected();
+        const HWND list = form.ListURLs.Handle();
+        for (int row = 0; row < ListView_GetItemCount(list); ++row) {
+            state.Rows.emplace_back(CellOf(list, row, 0), CellOf(list, row, 1));
+            if (ListView_GetCheckState(list, row)) state.Checked.push_back(row + 1);
+        }
+        state.SelectedRow = ListView_GetNextItem(list, -1, LVNI_SELECTED) + 1;
+        for (int panel = 1; panel <= 3; ++panel) state.Status[panel - 1] = form.StatusBar1.Panel(panel);
+        state.txtSite = form.txtSite.Text();
+        state.txtURL = form.txtURL.Text();
+        state.OpenedFile = form.OpenedFile;
+        state.Modified = form.Modified;
+    });
+    return state;
+}
+
+bool Program::CommandEnabled(int menu_id) const {
+    const UINT state = GetMenuState(GetMenu(main_), static_cast<UINT>(menu_id), MF_BYCOMMAND);
+    if (state == static_cast<UINT>(-1)) throw std::runtime_error("no such menu item");
+    return (state & (MF_GRAYED | MF_DISABLED)) == 0;
+}
+
+void Program::ClickTab(int tab) const {
+    RECT place{};
+    HWND strip = nullptr;
+    OnUi([&](frmStart& form) {
+        strip = form.TabStrip1.Handle();
+        static_cast<void>(TabCtrl_GetItemRect(strip, tab - 1, &place));
+    });
+    const LPARAM point = MAKELPARAM((place.left + place.right) / 2, (place.top + place.bottom) / 2);
+    PostMessageW(strip, WM_LBUTTONDOWN, MK_LBUTTON, point);
+    PostMessageW(strip, WM_LBUTTONUP, 0, point);
+    Settle();
+}
+
+namespace {
+
+void ClickInList(const Program& program, int row, int part) {
+    HWND list = nullptr;
+    RECT place{};
+    program.OnUi([&](frmStart& form) {
+        list = form.ListURLs.Handle();
+        form.ListURLs.EnsureVisible(row);
+        static_cast<void>(ListView_GetItemRect(list, row - 1, &place, part));
+    });
+    // The check box stands just before the row's label.
+    const int x = part == LVIR_LABEL ? place.left + 6 : place.left - 8;
+    const LPARAM point = MAKELPARAM(x, (place.top + place.bottom) / 2);
+    PostMessageW(list, WM_LBUTTONDOWN, MK_LBUTTON, point);
+    PostMessageW(list, WM_LBUTTONUP, 0, point);
+    program.Settle();
+}
+
+}  // namespace
+
+void Program::ClickRow(int row) const {
+    ClickInList(*this, row, LVIR_LABEL);
+}
+
+void Program::ClickBox(int row) const {
+    ClickInList(*this, row, LVIR_ICON);
+}
+
+void Program::PressKey(HWND control, WPARAM key) const {
+    PostMessageW(control, WM_KEYDOWN, key, 1);
+    PostMessageW(control, WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
+    Settle();
+}
+
+bool Program::NothingIsOpen() const {
+    for (const HWND window : WindowsOf(thread_id_)) {
+        wchar_t name[32] = L"";
+        GetClassNameW(window, name, 32);
+        if (std::wstring(name) == L"#32770") return false;
+    }
+    return true;
+}
+
+void Program::Close() const {
+    PostMessageW(main_, WM_CLOSE, 0, 0);
+}
+
+int Program::WaitForEnd() {
+    // The ear is the last window that the thread destroys.
+    WaitUntil("the program to end", [this] { return !IsWindow(ear_); });
+    thread_.join();
+    ended_ = true;
+    return exit_code_;
+}
+
+TemporaryFolder::TemporaryFolder() {
+    static std::atomic<int> number{0};
+    path_ = (std::filesystem::temp_directory_path() /
+             (L"lindrel-" + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(++number)))
+                .wstring();
+    std::filesystem::create_directories(path_);
+}
+
+TemporaryFolder::~TemporaryFolder() {
+    std::error_code error;
+    std::filesystem::remove_all(path_, error);
+    EXPECT_FALSE(error) << "a file of the test is still open: " << error.message();
+}
+
+std::wstring TemporaryFolder::Write(const std::wstring& name, const std::string& bytes) const {
+    WriteFileBytes(File(name), bytes);
+    return File(name);
+}
+
+std::string TemporaryFolder::Read(const std::wstring& path) {
+    const std::vector<char> bytes = ReadFileBytes(path);
+    return {bytes.begin(), bytes.end()};
+}
+
+void PrintTo(const MainState& state, std::ostream* out) {
+    *out << "\n  title \"" << Narrow(state.Title) << "\" tab " << state.SelectedTab << " row "
+         << state.SelectedRow << " modified " << state.Modified << " file \"" << Narrow(state.OpenedFile)
+         << "\"\n  tabs";
+    for (const auto& tab : state.Tabs) *out << " [" << Narrow(tab) << "]";
+    *out << "\n  rows";
+    for (const auto& row : state.Rows)
+        *out << " [" << Narrow(row.first) << " | " << Narrow(row.second) << "]";
+    *out << "\n  checked";
+    for (const int position : state.Checked) *out << " " << position;
+    *out << "\n  status";
+    for (const auto& panel : state.Status) *out << " [" << Narrow(panel) << "]";
+    *out << "\n  fields [" << Narrow(state.txtSite) << "] [" << Narrow(state.txtURL) << "]\n";
+}
+
+}  // namespace lindrel::testing
