@@ -1,0 +1,212 @@
+#include "book/BookFile.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+#include "book/Files.h"
+
+namespace lindrel {
+namespace {
+
+std::vector<char> Bytes(const std::string& text) {
+    return {text.begin(), text.end()};
+}
+
+std::string Headers(int from, int to) {
+    std::string text;
+    for (int k = from; k <= to; ++k) text += "#K" + std::to_string(k) + "\r\n";
+    return text;
+}
+
+Book BookOf(const std::string& text) {
+    Book book;
+    EXPECT_TRUE(LoadBook(book, Bytes(text)));
+    return book;
+}
+
+// The line of the fault that loading a text gives; the open book must stay as it was.
+long long FaultLine(const std::string& text) {
+    Book book = BookOf("#Regi\r\nnev\r\nhttp://regi.hu\r\n" + Headers(2, 12));
+    const std::string before = SaveBook(book);
+    try {
+        LoadBook(book, Bytes(text));
+    } catch (const MalformedBook& malformed) {
+        EXPECT_FALSE(malformed.Message().empty());
+        EXPECT_EQ(SaveBook(book), before);
+        return malformed.Line();
+    }
+    ADD_FAILURE() << "no fault";
+    return -1;
+}
+
+TEST(BookFileTest, CountsLines) {
+    EXPECT_EQ(CountLines(std::string_view("")), 0);
+    EXPECT_EQ(CountLines(std::string_view("a")), 1);
+    EXPECT_EQ(CountLines(std::string_view("a\r\n")), 1);
+    EXPECT_EQ(CountLines(std::string_view("a\r\nb")), 2);
+    EXPECT_EQ(CountLines(std::string_view("\n\n")), 2);
+    EXPECT_EQ(CountLines(std::string_view(std::string(70000, '\n'))), 70000);
+}
+
+TEST(BookFileTest, TwelveHeadersAreAnEmptyBookAndLeaveTheElements) {
+    Book book = BookOf("#A\r\nn\r\nu\r\n" + Headers(2, 12));
+    EXPECT_TRUE(LoadBook(book, Bytes(Headers(1, 12))));
+    EXPECT_TRUE(book.IsEmpty());
+    EXPECT_EQ(book.UpperBound(), 1);
+    EXPECT_EQ(book.SiteNames(1), "n");
+    EXPECT_EQ(book.SiteURLs(1), "u");
+    EXPECT_EQ(SaveBook(book), Headers(1, 12));
+}
+
+TEST(BookFileTest, SavesAndLoadsTheSame) {
+    const std::string file =
+        "#H\xEDrek\r\nIndex\r\nhttps://index.hu\r\n\r\n\r\n# szoveg\r\n#\r\nA\r\nB\r\n" + Headers(4, 12);
+    const Book book = BookOf(file);
+    EXPECT_EQ(SaveBook(book), file);
+    EXPECT_EQ(book.CategoryNames(2), " szoveg");  // the blank belongs to the name
+    EXPECT_EQ(book.CategoryNames(3), "");
+    EXPECT_EQ(book.CategoryCounts(1), 2);
+    EXPECT_EQ(book.SiteNames(2), "");  // an empty line is a value
+    EXPECT_EQ(book.SiteURLs(2), "");
+    EXPECT_EQ(book.CategoryStarts(3), 3);
+    EXPECT_EQ(book.SiteNames(3), "A");
+}
+
+TEST(BookFileTest, LineFeedsAloneAndAMissingLastBreakAreRead) {
+    std::string file = "#1\nnev\nhttp://a.hu\n";
+    for (int k = 2; k <= 12; ++k) file += "#" + std::to_string(k) + "\n";
+    file.pop_back();
+    const Book book = BookOf(file);
+    EXPECT_EQ(book.SiteNames(1), "nev");
+    EXPECT_EQ(book.SiteURLs(1), "http://a.hu");
+    EXPECT_EQ(book.CategoryNames(12), "12");
+}
+
+TEST(BookFileTest, ANameThatBeginsWithTheMarkComesBackAsAHeader) {
+    Book book;
+    book.NewEntries = {{"#nev", "http://a.hu"}, {"b", "#cim"}};
+    book.AddEntry(12);
+    EXPECT_EQ(FindHeaderLookalikes(book).Count, 2);
+    EXPECT_EQ(FindHeaderLookalikes(book).First, "#nev");
+    const std::string file = SaveBook(book);
+    EXPECT_NE(file.find("#Project12\r\n#nev\r\nhttp://a.hu\r\n"), std::string::npos);
+    EXPECT_EQ(FaultLine(file), 13);
+}
+
+TEST(BookFileTest, AHeaderBetweenNameAndAddressShiftsThePair) {
+    const Book book = BookOf("#1\r\nnev\r\n#2\r\ncim\r\nnev2\r\ncim2\r\n" + Headers(3, 12));
+    EXPECT_EQ(book.SiteNames(1), "nev");
+    EXPECT_EQ(book.SiteURLs(1), "cim");
+    EXPECT_EQ(book.SiteNames(2), "nev2");
+    EXPECT_EQ(book.CategoryCounts(1), 1);
+    EXPECT_EQ(book.CategoryCounts(2), 1);
+}
+
+TEST(BookFileTest, TheThirteenthHeaderIsAFaultInItsLine) {
+    EXPECT_EQ(FaultLine(Headers(1, 12) + "n\r\nu\r\n#13\r\n"), 15);
+}
+
+TEST(BookFileTest, TenLinesAreTooFewAndElevenAreEnough) {
+    EXPECT_EQ(FaultLine(Headers(1, 10)), 0);
+    EXPECT_EQ(FaultLine(""), 0);
+    Book book;
+    EXPECT_FALSE(LoadBook(book, Bytes(Headers(1, 11))));
+    EXPECT_EQ(book.CategoryNames(11), "K11");
+    EXPECT_EQ(book.CategoryNames(12), "Project12");
+}
+
+TEST(BookFileTest, MoreEntryLinesThanEstimatedAreAFault) {
+    EXPECT_EQ(FaultLine(Headers(1, 12) + "n\r\n"), 13);                      // 0.5 rounds to 0
+    EXPECT_EQ(FaultLine(Headers(1, 12) + "a\r\nb\r\nc\r\nd\r\ne\r\n"), 17);  // 2.5 rounds to 2
+    const Book book = BookOf(Headers(1, 12) + "a\r\nb\r\nc\r\n");            // 1.5 rounds to 2
+    EXPECT_EQ(book.CategoryCounts(12), 2);
+    EXPECT_EQ(book.SiteURLs(2), "");
+}
+
+TEST(BookFileTest, CategoriesNeverReachedKeepNamesAndCounts) {
+    Book book = BookOf(Headers(1, 10) + "#R11\r\na\r\nb\r\nc\r\nd\r\n#R12\r\n");
+    EXPECT_EQ(book.CategoryCounts(11), 2);
+    EXPECT_FALSE(LoadBook(book, Bytes(Headers(1, 11) + "n\r\nu\r\nm\r\nv\r\n")));
+    EXPECT_EQ(book.CategoryNames(11), "K11");
+    EXPECT_EQ(book.CategoryNames(12), "R12");
+    EXPECT_EQ(book.CategoryCounts(11), 2);  // of the old book
+    EXPECT_EQ(book.CategoryCounts(12), 2);  // what followed the last header
+    EXPECT_EQ(book.CategoryStarts(12), 3);
+    EXPECT_THROW(SaveBook(book), RangeFault);
+}
+
+TEST(BookFileTest, LinesBeforeTheFirstHeaderBelongToNoCategory) {
+    const Book book = BookOf("x\r\ny\r\n" + Headers(1, 12));
+    EXPECT_EQ(book.UpperBound(), 1);
+    EXPECT_EQ(book.SiteNames(1), "x");
+    EXPECT_EQ(book.EntryCount(), 0);
+}
+
+TEST(BookFileTest, LoadingClearsTheCheckMarks) {
+    Book book = BookOf("#1\r\nn\r\nu\r\n" + Headers(2, 12));
+    book.CheckedCount = 1;
+    book.SavedCheckCounts(4) = 2;
+    EXPECT_TRUE(LoadBook(book, Bytes(Headers(1, 12))));
+    EXPECT_EQ(book.CheckedCount, 0);
+    EXPECT_EQ(book.SavedCheckCounts(4), 0);
+}
+
+TEST(BookFileTest, TheLargestBookIsSavedAndOpenedAgain) {
+    Book book;
+    book.NewEntries.assign(kMostEntries, {"n", "u"});
+    book.AddEntry(1);
+    const std::string file = SaveBook(book);
+    EXPECT_EQ(CountLines(std::string_view(file)), 12 + 2 * kMostEntries);
+    EXPECT_EQ(SaveBook(BookOf(file)), file);
+    EXPECT_EQ(FaultLine(file + "m\r\nv\r\n"), 0);
+}
+
+class BookFileOnDiskTest : public ::testing::Test {
+  protected:
+    BookFileOnDiskTest() { std::filesystem::create_directories(folder); }
+    ~BookFileOnDiskTest() override { std::filesystem::remove_all(folder); }
+    int FilesThere() const {
+        return static_cast<int>(std::distance(std::filesystem::directory_iterator(folder), {}));
+    }
+    std::filesystem::path folder =
+        std::filesystem::temp_directory_path() /
+        ("lindrel-" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) + "-" +
+         ::testing::UnitTest::GetInstance()->current_test_info()->name());
+};
+
+TEST_F(BookFileOnDiskTest, ReplacesTheOldFileInOneStep) {
+    const auto path = folder / "konyv.lnd";
+    WriteFileBytes(path, "regi");
+    SaveBook(Book(), path);
+    Book loaded;
+    EXPECT_TRUE(LoadBook(loaded, path));
+    EXPECT_EQ(CountLines(path), 12);
+    EXPECT_EQ(FilesThere(), 1);
+}
+
+TEST_F(BookFileOnDiskTest, AFailureLeavesNoTraceAndNamesThePath) {
+    const auto path = folder / "nincs" / "konyv.lnd";
+    try {
+        SaveBook(Book(), path);
+        FAIL();
+    } catch (const FileFault& fault) {
+        EXPECT_EQ(fault.Path(), path.wstring());
+        EXPECT_FALSE(fault.Meaning().empty());
+    }
+    EXPECT_EQ(FilesThere(), 0);
+    Book book;
+    EXPECT_THROW(LoadBook(book, path), FileFault);
+}
+
+TEST(SampleBookTest, EveryCategoryOfTheSampleHoldsEntriesAndSavesTheSame) {
+    const std::vector<char> bytes = ReadFileBytes(LINDREL_SOURCE_DIR "/samples/minta.lnd");
+    Book book;
+    EXPECT_TRUE(LoadBook(book, bytes));
+    for (int k = 1; k <= kCategories; ++k) EXPECT_GE(book.CategoryCounts(k), 5) << k;
+    EXPECT_EQ(SaveBook(book), std::string(bytes.begin(), bytes.end()));
+    EXPECT_EQ(FindHeaderLookalikes(book).Count, 0);
+}
+
+}  // namespace
+}  // namespace lindrel

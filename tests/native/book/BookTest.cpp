@@ -1,0 +1,184 @@
+#include "book/Book.h"
+
+#include <gtest/gtest.h>
+
+namespace lindrel {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+void Add(Book& book, int category, const Texts& names) {
+    book.NewEntries.clear();
+    for (const std::string& name : names) book.NewEntries.push_back({name, "http://" + name});
+    book.AddEntry(category);
+}
+
+Texts NamesOf(const Book& book, int category) {
+    Texts names;
+    for (int p = 1; p <= book.CategoryCounts(category); ++p) {
+        const int index = book.IndexOf(category, p);
+        names.emplace_back(book.SiteNames(index));
+        EXPECT_EQ(book.SiteURLs(index), "http://" + names.back());
+    }
+    return names;
+}
+
+std::vector<int> StartsOf(const Book& book) {
+    std::vector<int> starts;
+    for (int k = 1; k <= kCategories; ++k) starts.push_back(book.CategoryStarts(k));
+    return starts;
+}
+
+TEST(BookTest, ANewBookIsEmpty) {
+    const Book book;
+    EXPECT_TRUE(book.IsEmpty());
+    for (int k = 1; k <= kCategories; ++k) {
+        EXPECT_EQ(book.CategoryNames(k), "Project" + std::to_string(k));
+        EXPECT_EQ(book.CategoryCounts(k), 0);
+        EXPECT_EQ(book.CategoryStarts(k), 1);
+        EXPECT_EQ(book.SavedCheckCounts(k), 0);
+    }
+    EXPECT_EQ(book.EntryCount(), 0);
+    EXPECT_EQ(book.CheckedCount, 0);
+}
+
+TEST(BookTest, AddingToTheLastCategoryGoesToTheEnd) {
+    Book book;
+    Add(book, 2, {"a", "b"});
+    Add(book, 12, {"x"});
+    Add(book, 12, {"y", "z"});
+    EXPECT_EQ(NamesOf(book, 2), (Texts{"a", "b"}));
+    EXPECT_EQ(NamesOf(book, 12), (Texts{"x", "y", "z"}));
+    EXPECT_EQ(book.EntryCount(), 5);
+}
+
+TEST(BookTest, OnlyTheEmptyBookLeavesTheStagingAreaFilled) {
+    Book book;
+    Add(book, 12, {"x"});
+    EXPECT_EQ(book.NewEntries, (std::vector<NewEntry>{{"x", "http://x"}}));
+    // Entries in category 12 alone make the book not empty.
+    Add(book, 3, {"c"});
+    EXPECT_TRUE(book.NewEntries.empty());
+    EXPECT_EQ(NamesOf(book, 3), Texts{"c"});
+    EXPECT_EQ(NamesOf(book, 12), Texts{"x"});
+}
+
+TEST(BookTest, DeletingTheLastEntryLeavesOneBlankElementAndThenTheEmptyPath) {
+    Book book;
+    Add(book, 4, {"a", "b"});
+    book.DeleteEntry(4, 1, 2);
+    EXPECT_TRUE(book.IsEmpty());
+    EXPECT_EQ(book.UpperBound(), 1);
+    EXPECT_EQ(book.SiteNames(1), "");
+    EXPECT_EQ(book.SiteURLs(1), "");
+    Add(book, 7, {"c"});
+    EXPECT_EQ(book.NewEntries.size(), 1U);  // the empty book's path
+    EXPECT_EQ(book.UpperBound(), 1);
+    EXPECT_EQ(NamesOf(book, 7), Texts{"c"});
+}
+
+TEST(BookTest, DeletingARunClosesTheGap) {
+    Book book;
+    Add(book, 1, {"a", "b", "c", "d"});
+    Add(book, 2, {"e"});
+    book.DeleteEntry(1, 2, 2);
+    EXPECT_EQ(NamesOf(book, 1), (Texts{"a", "d"}));
+    EXPECT_EQ(NamesOf(book, 2), Texts{"e"});
+    EXPECT_EQ(StartsOf(book), (std::vector<int>{1, 3, 4, 4, 4, 4, 4, 4, 4, 4, 4, 4}));
+    EXPECT_EQ(book.UpperBound(), 3);
+}
+
+TEST(BookTest, MovingTowardsTheFrontAppendsAndShiftsTheStartsBetween) {
+    Book book;
+    Add(book, 2, {"a", "b"});
+    Add(book, 3, {"c"});
+    Add(book, 5, {"d", "e", "f"});
+    book.CheckedCount = 3;
+    book.MoveEntry(5, 1, 2);
+    EXPECT_EQ(NamesOf(book, 2), (Texts{"a", "b", "e"}));
+    EXPECT_EQ(NamesOf(book, 3), Texts{"c"});
+    EXPECT_EQ(NamesOf(book, 5), (Texts{"d", "f"}));
+    EXPECT_EQ(StartsOf(book), (std::vector<int>{1, 1, 4, 5, 5, 7, 7, 7, 7, 7, 7, 7}));
+    EXPECT_EQ(book.CheckedCount, 0);
+}
+
+TEST(BookTest, MovingTowardsTheEndAppendsAndShiftsTheStartsBetween) {
+    Book book;
+    Add(book, 2, {"a", "b"});
+    Add(book, 3, {"c"});
+    Add(book, 5, {"d", "e"});
+    book.MoveEntry(2, 0, 5);
+    EXPECT_EQ(NamesOf(book, 2), Texts{"b"});
+    EXPECT_EQ(NamesOf(book, 3), Texts{"c"});
+    EXPECT_EQ(NamesOf(book, 5), (Texts{"d", "e", "a"}));
+    EXPECT_EQ(StartsOf(book), (std::vector<int>{1, 1, 2, 3, 3, 6, 6, 6, 6, 6, 6, 6}));
+}
+
+TEST(BookTest, MovingInABookOfOneChangesCountsAndStartsOnly) {
+    Book book;
+    Add(book, 5, {"a"});
+    book.MoveEntry(5, 0, 2);
+    EXPECT_EQ(NamesOf(book, 2), Texts{"a"});
+    EXPECT_EQ(book.CategoryCounts(5), 0);
+    EXPECT_EQ(book.UpperBound(), 1);
+    EXPECT_EQ(StartsOf(book), (std::vector<int>{1, 1, 2, 2, 2, 2, 2, 2, 2, 2, 2, 2}));
+}
+
+TEST(BookTest, AFullBookRefusesOneMoreAndStaysAsItWas) {
+    Book book;
+    book.NewEntries.assign(kMostEntries, {"n", "http://n"});
+    book.AddEntry(3);
+    EXPECT_EQ(book.EntryCount(), kMostEntries);
+    EXPECT_EQ(book.CategoryStarts(12), kMostEntries + 1);  // no fault
+    book.NewEntries = {{"m", "http://m"}};
+    EXPECT_THROW(book.AddEntry(1), OverflowFault);
+    EXPECT_EQ(book.EntryCount(), kMostEntries);
+    EXPECT_EQ(book.CategoryCounts(1), 0);
+    EXPECT_EQ(book.NewEntries.size(), 1U);
+}
+
+TEST(BookTest, BadArgumentsAreFaultsThatChangeNothing) {
+    Book book;
+    Add(book, 1, {"a", "b"});
+    Add(book, 2, {"c"});
+    EXPECT_THROW(book.DeleteEntry(0, 1, 1), RangeFault);
+    EXPECT_THROW(book.DeleteEntry(13, 1, 1), RangeFault);
+    EXPECT_THROW(book.DeleteEntry(1, 0, 1), RangeFault);
+    EXPECT_THROW(book.DeleteEntry(1, 2, 2), RangeFault);
+    EXPECT_THROW(book.DeleteEntry(1, 1, -1), RangeFault);
+    EXPECT_THROW(book.MoveEntry(1, 2, 2), RangeFault);
+    EXPECT_THROW(book.MoveEntry(1, 0, 13), RangeFault);
+    EXPECT_THROW(book.MoveEntry(1, 0, 1), ArgumentFault);
+    book.NewEntries = {{"x", "y"}};
+    EXPECT_THROW(book.AddEntry(13), RangeFault);
+    EXPECT_THROW(book.SiteNames(0), RangeFault);
+    EXPECT_THROW(book.SiteNames(4), RangeFault);
+    EXPECT_EQ(NamesOf(book, 1), (Texts{"a", "b"}));
+    EXPECT_EQ(NamesOf(book, 2), Texts{"c"});
+}
+
+TEST(BookTest, RowsStayReadableAfterTheBookIsGone) {
+    CategoryRows rows;
+    {
+        Book book;
+        Add(book, 1, {"egy", "ketto"});
+        rows = book.RowsOf(1);
+        book.SetSiteName(1, "mas");
+        EXPECT_EQ(book.SiteNames(1), "mas");
+    }
+    ASSERT_EQ(rows.Entries.size(), 2U);
+    EXPECT_EQ(rows.Entries[0].SiteName, "egy");
+    EXPECT_EQ(rows.Entries[1].URL, "http://ketto");
+}
+
+TEST(BookTest, TheCategoryOfAnIndexIsTheLastThatBeginsNotBehindIt) {
+    Book book;
+    Add(book, 2, {"a", "b"});
+    Add(book, 5, {"c"});
+    EXPECT_EQ(book.CategoryOf(1), 2);
+    EXPECT_EQ(book.CategoryOf(2), 2);
+    EXPECT_EQ(book.CategoryOf(3), 5);
+}
+
+}  // namespace
+}  // namespace lindrel

@@ -1,0 +1,77 @@
+#include "book/BookText.h"
+
+#include <gtest/gtest.h>
+
+#include "book/Files.h"
+
+namespace lindrel {
+namespace {
+
+// The upper half of the code page, written out as text; "?" marks the five bytes that it leaves unused.
+constexpr std::wstring_view kUpperHalf =
+    L"€?‚?„…†‡?‰Š‹ŚŤŽŹ?‘’“”•–—?™š›śťžź"
+    L"\u00A0ˇ˘Ł¤Ą¦§¨©Ş«¬\u00AD®Ż°±˛ł´µ¶·¸ąş»Ľ˝ľż"
+    L"ŔÁÂĂÄĹĆÇČÉĘËĚÍÎĎĐŃŇÓÔŐÖ×ŘŮÚŰÜÝŢß"
+    L"ŕáâăäĺćçčéęëěíîďđńňóôőö÷řůúűüýţ˙";
+
+TEST(BookTextTest, TheTableIsThatOfTheCodePage) {
+    ASSERT_EQ(kUpperHalf.size(), 128U);
+    for (int number = 0; number < 256; ++number) {
+        const char byte = static_cast<char>(number);
+        char32_t expected = static_cast<char32_t>(number);
+        if (number >= 128 && kUpperHalf[static_cast<std::size_t>(number - 128)] != L'?')
+            expected = static_cast<char32_t>(kUpperHalf[static_cast<std::size_t>(number - 128)]);
+        EXPECT_EQ(CharacterOf(byte), expected) << number;
+        EXPECT_EQ(BookByte(expected), byte) << number;
+    }
+}
+
+TEST(BookTextTest, TextGoesThereAndBack) {
+    const std::wstring text = L"Árvíztűrő tükörfúrógép – „idézet” 5 €";
+    EXPECT_EQ(FromBookText(ToBookText(text)), text);
+    EXPECT_EQ(ToBookText(L"őű"), "\xF5\xFB");
+    EXPECT_EQ(FirstForeignCharacter(text), std::nullopt);
+}
+
+TEST(BookTextTest, ForeignCharactersAreFoundAndBecomeOneMarkEach) {
+    EXPECT_EQ(FirstForeignCharacter(L"aБв"), L"Б");
+    EXPECT_EQ(FirstForeignCharacter(L"ő\U0001F600"), L"\U0001F600");
+    EXPECT_EQ(ToBookText(L"a\U0001F600b中"), "a?b?");
+    EXPECT_EQ(FirstForeignCharacter(L"õ"), L"õ");  // no best fit to ő
+}
+
+TEST(BookTextTest, LowerCaseKnowsTheWholeRepertoire) {
+    EXPECT_EQ(FromBookText(LowerCase(ToBookText(L"ÁÉÍÓÖŐÚÜŰ ŁĄŞŻĽŔÂĂÄĹĆÇČĘËĚÎĎĐŃŇÔŘŮÝŢŠŚŤŽŹ AZ09"))),
+              L"áéíóöőúüű łąşżľŕâăäĺćçčęëěîďđńňôřůýţšśťžź az09");
+    EXPECT_EQ(FromBookText(LowerCase(ToBookText(L"×ß÷˙µ€"))), L"×ß÷˙µ€");
+}
+
+TEST(BookTextTest, ContainmentIgnoresCase) {
+    const CaselessNeedle needle(ToBookText(L"űRHAJÓ"));
+    EXPECT_TRUE(needle.IsIn(ToBookText(L"Az Űrhajó")));
+    EXPECT_EQ(needle.FindIn(ToBookText(L"űrhajó űrhajó"), 1), 7U);
+    EXPECT_FALSE(needle.IsIn(ToBookText(L"űrhaj")));
+    EXPECT_FALSE(CaselessNeedle("u").IsIn(ToBookText(L"ú")));
+    EXPECT_TRUE(CaselessNeedle("").IsIn(""));
+    EXPECT_EQ(CaselessNeedle("a").FindIn("a", 2), std::string_view::npos);
+    EXPECT_TRUE(ContainsCaseless(L"ez WWW.Őr.hu", L"www.őR"));
+    EXPECT_TRUE(ContainsCaseless(L"", L""));
+    EXPECT_FALSE(ContainsCaseless(L"", L"a"));
+}
+
+TEST(BookTextTest, TrimmingRemovesBlanksOnly) {
+    EXPECT_EQ(Trim(L"  a b  "), L"a b");
+    EXPECT_EQ(Trim(L"   "), L"");
+    EXPECT_EQ(Trim("\ta "), "\ta");
+}
+
+TEST(BookTextTest, FileNamesArePathsAfterTheLastBackslash) {
+    EXPECT_EQ(FileNameOf(L"C:\\mappa\\ sajat.lnd "), L"sajat.lnd");
+    EXPECT_EQ(FileNameOf(L"C:\\m\\a.lnd"), L"a.lnd");
+    EXPECT_EQ(FileNameOf(L" a.lnd"), L"a.lnd");
+    EXPECT_EQ(FileNameOf(L"C:\\mappa\\"), L"");
+    EXPECT_EQ(FileNameOf(L""), L"");
+}
+
+}  // namespace
+}  // namespace lindrel
