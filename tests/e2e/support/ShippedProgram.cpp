@@ -1,0 +1,259 @@
+#include "tests/e2e/support/ShippedProgram.h"
+
+#include <commctrl.h>
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+#include "book/Files.h"
+#include "resources/resource.h"
+
+namespace lindrel::testing {
+
+namespace {
+
+void Demand(bool good, const char* what) {
+    if (!good) throw std::runtime_error(what);
+}
+
+// Memory of the program's process, for the messages that answer through a pointer.
+class RemoteMemory {
+  public:
+    RemoteMemory(HANDLE process, std::size_t size)
+        : process_(process),
+          place_(VirtualAllocEx(process, nullptr, size, MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE)) {
+        Demand(place_ != nullptr, "no memory in the program's process");
+    }
+    ~RemoteMemory() {
+        // What cannot be freed goes with the process.
+        static_cast<void>(VirtualFreeEx(process_, place_, 0, MEM_RELEASE));
+    }
+    RemoteMemory(const RemoteMemory&) = delete;
+    RemoteMemory& operator=(const RemoteMemory&) = delete;
+
+    LPARAM At(std::size_t offset = 0) const { return reinterpret_cast<LPARAM>(Place(offset)); }
+    void* Place(std::size_t offset) const { return static_cast<char*>(place_) + offset; }
+    template <typename T>
+    void Put(const T& value) const {
+        Demand(WriteProcessMemory(process_, place_, &value, sizeof value, nullptr) != FALSE,
+               "write to the program");
+    }
+    template <typename T>
+    T Get(std::size_t offset = 0) const {
+        T value{};
+        Demand(ReadProcessMemory(process_, Place(offset), &value, sizeof value, nullptr) != FALSE,
+               "read the program");
+        return value;
+    }
+
+  private:
+    HANDLE process_;
+    void* place_;
+};
+
+struct TextBuffer {
+    wchar_t Text[1024];
+};
+
+INPUT KeyInput(WORD key, bool up) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = key;
+    input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
+    input.ki.dwFlags = up ? KEYEVENTF_KEYUP : 0;
+    return input;
+}
+
+INPUT CharacterInput(wchar_t unit, bool up) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wScan = unit;
+    input.ki.dwFlags = KEYEVENTF_UNICODE | (up ? KEYEVENTF_KEYUP : 0);
+    return input;
+}
+
+void Send(std::vector<INPUT> inputs) {
+    const UINT sent = SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+    Demand(sent == inputs.size(), "the system took not all of the input");
+}
+
+}  // namespace
+
+ShippedProgram::ShippedProgram() {
+    std::wstring command = L"\"Z:" LINDREL_EXE L"\"";
+    STARTUPINFOW start{};
+    start.cb = sizeof start;
+    // Wine refuses a process once in a long while.
+    for (int attempt = 1; !CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                                          nullptr, &start, &process_);
+         ++attempt)
+        Demand(attempt < 3, "the program cannot be started");
+    thread_id_ = process_.dwThreadId;
+    WaitUntil("the main window", [this] {
+        for (const HWND window : WindowsOf(thread_id_)) {
+            wchar_t name[32]{};
+            if (GetClassNameW(window, name, 32) != 0 && std::wstring(name) == L"frmStart") main_ = window;
+        }
+        return main_ != nullptr;
+    });
+    WaitUntilInFront();
+}
+
+ShippedProgram::~ShippedProgram() {
+    if (WaitForSingleObject(process_.hProcess, 0) != WAIT_OBJECT_0) {
+        EXPECT_TRUE(TerminateProcess(process_.hProcess, 99));
+        EXPECT_EQ(WaitForSingleObject(process_.hProcess, 20000), WAIT_OBJECT_0);
+    }
+    EXPECT_TRUE(CloseHandle(process_.hThread));
+    EXPECT_TRUE(CloseHandle(process_.hProcess));
+}
+
+HWND ShippedProgram::Control(int id) const {
+    const HWND control = GetDlgItem(main_, id);
+    Demand(control != nullptr, "a control of the main window is missing");
+    return control;
+}
+
+void ShippedProgram::WaitUntilInFront() const {
+    WaitUntil("the program in front",
+              [this] { return GetWindowThreadProcessId(GetForegroundWindow(), nullptr) == thread_id_; });
+}
+
+void ShippedProgram::Press(const Stroke& stroke) const {
+    WaitUntilInFront();
+    std::vector<INPUT> inputs;
+    for (const WORD key : stroke.Held) inputs.push_back(KeyInput(key, false));
+    inputs.push_back(KeyInput(stroke.Key, false));
+    inputs.push_back(KeyInput(stroke.Key, true));
+    for (auto key = stroke.Held.rbegin(); key != stroke.Held.rend(); ++key)
+        inputs.push_back(KeyInput(*key, true));
+    Send(std::move(inputs));
+}
+
+void ShippedProgram::Type(const std::wstring& text) const {
+    WaitUntilInFront();
+    std::vector<INPUT> inputs;
+    for (const wchar_t unit : text) {
+        inputs.push_back(CharacterInput(unit, false));
+        inputs.push_back(CharacterInput(unit, true));
+    }
+    Send(std::move(inputs));
+}
+
+void ShippedProgram::Click(HWND window, POINT place, bool right) const {
+    WaitUntilInFront();
+    Demand(ClientToScreen(window, &place) != FALSE, "a place of the window");
+    Demand(SetCursorPos(place.x, place.y) != FALSE, "the mouse pointer");
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    std::vector<INPUT> inputs(2, input);
+    inputs[0].mi.dwFlags = right ? MOUSEEVENTF_RIGHTDOWN : MOUSEEVENTF_LEFTDOWN;
+    inputs[1].mi.dwFlags = right ? MOUSEEVENTF_RIGHTUP : MOUSEEVENTF_LEFTUP;
+    Send(std::move(inputs));
+}
+
+void ShippedProgram::AnswerFileDialog(const std::wstring& path) const {
+    const HWND dialog = FileDialog().Handle();
+    WaitUntil("the file dialog in front", [dialog] { return GetForegroundWindow() == dialog; });
+    Type(path);
+    Press({VK_RETURN});
+    WaitUntil("the file dialog's end", [dialog] { return !IsWindow(dialog); });
+}
+
+std::wstring ShippedProgram::Title() const {
+    wchar_t text[512]{};
+    SendMessageW(main_, WM_GETTEXT, 512, reinterpret_cast<LPARAM>(text));
+    return text;
+}
+
+std::wstring ShippedProgram::Text(int id) const {
+    wchar_t text[2048]{};
+    SendMessageW(Control(id), WM_GETTEXT, 2048, reinterpret_cast<LPARAM>(text));
+    return text;
+}
+
+std::wstring ShippedProgram::StatusPanel(int panel) const {
+    const RemoteMemory memory(process_.hProcess, sizeof(TextBuffer));
+    SendMessageW(Control(ID_frmStart_StatusBar1), SB_GETTEXTW, static_cast<WPARAM>(panel - 1), memory.At());
+    return memory.Get<TextBuffer>().Text;
+}
+
+int ShippedProgram::SelectedTab() const {
+    return static_cast<int>(SendMessageW(Control(ID_frmStart_TabStrip1), TCM_GETCURSEL, 0, 0)) + 1;
+}
+
+int ShippedProgram::RowCount() const {
+    return static_cast<int>(SendMessageW(Control(ID_frmStart_ListURLs), LVM_GETITEMCOUNT, 0, 0));
+}
+
+int ShippedProgram::SelectedRow() const {
+    const LRESULT row =
+        SendMessageW(Control(ID_frmStart_ListURLs), LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED);
+    return static_cast<int>(row) + 1;
+}
+
+std::vector<int> ShippedProgram::CheckedRows() const {
+    std::vector<int> checked;
+    const HWND list = Control(ID_frmStart_ListURLs);
+    for (int row = 1; row <= RowCount(); ++row) {
+        const LRESULT state =
+            SendMessageW(list, LVM_GETITEMSTATE, static_cast<WPARAM>(row - 1), LVIS_STATEIMAGEMASK);
+        if (state == INDEXTOSTATEIMAGEMASK(2)) checked.push_back(row);
+    }
+    return checked;
+}
+
+std::wstring ShippedProgram::Cell(int row, int column) const {
+    constexpr std::size_t kTextAt = 256;
+    const RemoteMemory memory(process_.hProcess, kTextAt + sizeof(TextBuffer));
+    LVITEMW item{};
+    item.iSubItem = column;
+    item.pszText = static_cast<wchar_t*>(memory.Place(kTextAt));
+    item.cchTextMax = 1024;
+    memory.Put(item);
+    SendMessageW(Control(ID_frmStart_ListURLs), LVM_GETITEMTEXTW, static_cast<WPARAM>(row - 1), memory.At());
+    return memory.Get<TextBuffer>(kTextAt).Text;
+}
+
+POINT ShippedProgram::TextOf(int row) const {
+    const RemoteMemory memory(process_.hProcess, sizeof(RECT));
+    memory.Put(RECT{LVIR_LABEL, 0, 0, 0});
+    Demand(SendMessageW(Control(ID_frmStart_ListURLs), LVM_GETITEMRECT, static_cast<WPARAM>(row - 1),
+                        memory.At()) != 0,
+           "a row of the list");
+    const RECT label = memory.Get<RECT>();
+    return {label.left + 20, (label.top + label.bottom) / 2};
+}
+
+POINT ShippedProgram::CheckBoxOf(int row) const {
+    const RemoteMemory memory(process_.hProcess, sizeof(RECT));
+    memory.Put(RECT{LVIR_LABEL, 0, 0, 0});
+    Demand(SendMessageW(Control(ID_frmStart_ListURLs), LVM_GETITEMRECT, static_cast<WPARAM>(row - 1),
+                        memory.At()) != 0,
+           "a row of the list");
+    const RECT label = memory.Get<RECT>();
+    return {label.left / 2, (label.top + label.bottom) / 2};
+}
+
+POINT ShippedProgram::TabAt(int tab) const {
+    const RemoteMemory memory(process_.hProcess, sizeof(RECT));
+    Demand(SendMessageW(Control(ID_frmStart_TabStrip1), TCM_GETITEMRECT, static_cast<WPARAM>(tab - 1),
+                        memory.At()) != 0,
+           "a tab");
+    const RECT place = memory.Get<RECT>();
+    return {(place.left + place.right) / 2, (place.top + place.bottom) / 2};
+}
+
+DWORD ShippedProgram::WaitForEnd() const {
+    Demand(WaitForSingleObject(process_.hProcess, 20000) == WAIT_OBJECT_0, "the program does not end");
+    DWORD code = 0;
+    Demand(GetExitCodeProcess(process_.hProcess, &code) != FALSE, "the exit code");
+    return code;
+}
+
+std::string SampleBook() {
+    const std::vector<char> bytes = ReadFileBytes(L"Z:" LINDREL_SOURCE_DIR L"/samples/minta.lnd");
+    return {bytes.begin(), bytes.end()};
+}
+
+}  // namespace lindrel::testing

@@ -1,0 +1,74 @@
+// The shipped lindrel.exe as a user has it: a process of its own, driven with keys and mouse through the
+// system's input, looked at from outside. Nothing of the program is linked in but the ids of its controls.
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "controls/Windows.h"
+#include "tests/window/support/Boxes.h"
+#include "tests/window/support/Polling.h"
+
+namespace lindrel::testing {
+
+// A key with what is held down with it.
+struct Stroke {
+    WORD Key;
+    std::vector<WORD> Held = {};
+};
+
+class ShippedProgram {
+  public:
+    // Starts it and waits until its main window is in front.
+    ShippedProgram();
+    // Ends it whatever is open.
+    ~ShippedProgram();
+    ShippedProgram(const ShippedProgram&) = delete;
+    ShippedProgram& operator=(const ShippedProgram&) = delete;
+
+    HWND Main() const { return main_; }
+    DWORD Thread() const { return thread_id_; }
+    // A child of the main window.
+    HWND Control(int id) const;
+
+    // Real input to whatever is in front; `Press` and `Type` first wait until that is the program's.
+    void Press(const Stroke& stroke) const;
+    void Type(const std::wstring& text) const;
+    // At a place of a window's client area.
+    void Click(HWND window, POINT place, bool right = false) const;
+
+    BoxOnScreen Box() const { return WaitForBox(thread_id_); }
+    FileDialogOnScreen FileDialog() const { return WaitForFileDialog(thread_id_); }
+    // Types a path into the file dialog that is open or about to open, and accepts it with Enter.
+    void AnswerFileDialog(const std::wstring& path) const;
+
+    // What the window shows.
+    std::wstring Title() const;
+    std::wstring Text(int id) const;
+    std::wstring StatusPanel(int panel) const;  // 1-based
+    int SelectedTab() const;                    // 1-based
+    int RowCount() const;
+    int SelectedRow() const;  // 1-based, 0 for none
+    std::vector<int> CheckedRows() const;
+    std::wstring Cell(int row, int column) const;  // row 1-based, column 0-based
+    // Client coordinates of the middle of a row's check box, of its text, and of a tab.
+    POINT CheckBoxOf(int row) const;
+    POINT TextOf(int row) const;
+    POINT TabAt(int tab) const;
+
+    // Waits for the end of the process; its exit code.
+    DWORD WaitForEnd() const;
+
+  private:
+    void WaitUntilInFront() const;
+
+    PROCESS_INFORMATION process_{};
+    DWORD thread_id_ = 0;
+    HWND main_ = nullptr;
+};
+
+// A book file with the sample book's bytes; both are what the shipped program is tried on.
+std::string SampleBook();
+
+}  // namespace lindrel::testing
