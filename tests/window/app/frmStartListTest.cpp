@@ -4,6 +4,7 @@
 
 #include "resources/resource.h"
 #include "tests/window/support/Program.h"
+#include "tests/window/support/RealClipboard.h"
 
 namespace lindrel::testing {
 namespace {
@@ -148,6 +149,91 @@ TEST_F(frmStartListTest, AColumnClickShowsTheFirstEntryOnlyWhileTheFieldIsEmpty)
     const MainState before = program.State();
     click_header();
     EXPECT_EQ(program.State(), before);
+}
+
+TEST_F(frmStartListTest, CheckingTheSelectedLastRowByMouseStaysOnIt) {
+    program.ClickRow(3);
+    program.ClickBox(3);
+    MainState expected = FirstCategory();
+    expected.SelectedRow = 3;
+    expected.txtSite = L"Három";
+    expected.txtURL = expected.Status[0] = L"http://harom.hu";
+    expected.Checked = {3};
+    expected.Status[2] = L"bejelölve 1";
+    EXPECT_EQ(program.State(), expected);
+    program.ClickBox(3);
+    expected.Checked = {};
+    expected.Status[2] = L"bejelölve 0";
+    EXPECT_EQ(program.State(), expected);
+}
+
+TEST_F(frmStartListTest, CheckingTheSelectedRowByMouseGoesOnToTheNext) {
+    program.ClickRow(1);
+    program.ClickBox(1);
+    MainState expected = FirstCategory();
+    expected.SelectedRow = 2;
+    expected.txtSite = L"Kettő";
+    expected.txtURL = expected.Status[0] = L"http://ketto.hu";
+    expected.Checked = {1};
+    expected.Status[2] = L"bejelölve 1";
+    EXPECT_EQ(program.State(), expected);
+}
+
+TEST_F(frmStartListTest, CheckAllIsInertWhileTheFirstElevenCategoriesAreEmpty) {
+    program.OnUi([](frmStart& form) {
+        form.ResetBook();
+        form.TheBook.NewEntries = {{"A", "http://a.hu"}};
+        form.TheBook.AddEntry(12);
+    });
+    program.ClickTab(12);
+    const MainState before = program.State();
+    EXPECT_EQ(before.Rows.size(), 1u);
+    program.Run(ID_mnuSelectAll);
+    EXPECT_EQ(program.State(), before);
+}
+
+TEST_F(frmStartListTest, ADoubleClickOnTheAddressCopiesItAndAnEmptyOneLeavesTheClipboard) {
+    const HWND field = program.Ask<HWND>([](frmStart& form) { return form.txtURL.Handle(); });
+    const auto double_click = [&] {
+        PostMessageW(field, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(5, 5));
+        PostMessageW(field, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+        program.Settle();
+    };
+    PutClipboardText(L"régi");
+    double_click();
+    EXPECT_EQ(TextOnClipboard(), L"régi");
+    program.ClickRow(2);
+    double_click();
+    EXPECT_EQ(TextOnClipboard(), L"http://ketto.hu");
+}
+
+TEST_F(frmStartListTest, ControlCInTheAddressCopiesTheSelectionAlsoAnEmptyOne) {
+    program.ClickRow(2);
+    const HWND field = program.Ask<HWND>([](frmStart& form) {
+        SendMessageW(form.txtURL.Handle(), EM_SETSEL, 7, 12);
+        return form.txtURL.Handle();
+    });
+    const auto control_c = [&] {
+        PostMessageW(field, WM_CHAR, 3, 1);
+        program.Settle();
+    };
+    PutClipboardText(L"régi");
+    control_c();
+    EXPECT_EQ(TextOnClipboard(), L"ketto");
+    SendMessageW(field, EM_SETSEL, 3, 3);
+    control_c();
+    EXPECT_EQ(TextOnClipboard(), L"");
+}
+
+TEST_F(frmStartListTest, CopyingLeavesOtherFormsOnTheClipboard) {
+    const UINT form = RegisterClipboardFormatW(L"Lindrel test form");
+    PutClipboardBytes(form, "kép");
+    program.ClickRow(2);
+    const HWND field = program.Ask<HWND>([](frmStart& main) { return main.txtURL.Handle(); });
+    PostMessageW(field, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(5, 5));
+    program.Settle();
+    EXPECT_EQ(TextOnClipboard(), L"http://ketto.hu");
+    EXPECT_TRUE(ClipboardHolds(form));
 }
 
 }  // namespace

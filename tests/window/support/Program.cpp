@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <atomic>
 #include <exception>
 #include <filesystem>
@@ -256,6 +257,14 @@ std::wstring TemporaryFolder::Write(const std::wstring& name, const std::string&
 std::string TemporaryFolder::Read(const std::wstring& path) {
     const std::vector<char> bytes = ReadFileBytes(path);
     return {bytes.begin(), bytes.end()};
+}
+
+std::vector<std::wstring> TemporaryFolder::Names() const {
+    std::vector<std::wstring> names;
+    for (const auto& entry : std::filesystem::directory_iterator(path_))
+        names.push_back(entry.path().filename().wstring());
+    std::sort(names.begin(), names.end());
+    return names;
 }
 
 void PrintTo(const MainState& state, std::ostream* out) {

@@ -100,6 +100,8 @@ class TemporaryFolder {
     // Writes a file of the folder and returns its path.
     std::wstring Write(const std::wstring& name, const std::string& bytes) const;
     static std::string Read(const std::wstring& path);
+    // Names of what is in the folder, sorted.
+    std::vector<std::wstring> Names() const;
 
   private:
     std::wstring path_;

@@ -1,0 +1,65 @@
+#include "tests/window/support/RealClipboard.h"
+
+#include <cstring>
+#include <stdexcept>
+
+#include "tests/window/support/Polling.h"
+
+namespace lindrel::testing {
+
+namespace {
+
+void Demand(bool good) {
+    if (!good) throw std::runtime_error("the clipboard cannot be used");
+}
+
+class OpenedClipboard {
+  public:
+    OpenedClipboard() {
+        // Somebody may just be reading it.
+        WaitUntil("the clipboard", [] { return OpenClipboard(nullptr) != FALSE; });
+    }
+    ~OpenedClipboard() { static_cast<void>(CloseClipboard()); }
+    OpenedClipboard(const OpenedClipboard&) = delete;
+    OpenedClipboard& operator=(const OpenedClipboard&) = delete;
+};
+
+void Put(UINT format, const void* bytes, std::size_t size) {
+    const OpenedClipboard clipboard;
+    Demand(EmptyClipboard() != FALSE);
+    const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, size);
+    Demand(memory != nullptr);
+    std::memcpy(GlobalLock(memory), bytes, size);
+    GlobalUnlock(memory);
+    Demand(SetClipboardData(format, memory) != nullptr);
+}
+
+}  // namespace
+
+void PutClipboardText(const std::wstring& text) {
+    Put(CF_UNICODETEXT, text.c_str(), (text.size() + 1) * sizeof(wchar_t));
+}
+
+void PutClipboardBytes(UINT format, const std::string& bytes) {
+    Put(format, bytes.data(), bytes.size());
+}
+
+void EmptyTheClipboard() {
+    const OpenedClipboard clipboard;
+    Demand(EmptyClipboard() != FALSE);
+}
+
+std::optional<std::wstring> TextOnClipboard() {
+    const OpenedClipboard clipboard;
+    const HANDLE data = GetClipboardData(CF_UNICODETEXT);
+    if (data == nullptr) return std::nullopt;
+    const std::wstring text = static_cast<const wchar_t*>(GlobalLock(data));
+    GlobalUnlock(data);
+    return text;
+}
+
+bool ClipboardHolds(UINT format) {
+    return IsClipboardFormatAvailable(format) != FALSE;
+}
+
+}  // namespace lindrel::testing
