@@ -6,7 +6,7 @@
 namespace lindrel {
 
 namespace {
-constexpr std::size_t kBlockBytes = 64 * 1024;
+constexpr std::size_t kBlockBytes = 65536;
 }
 
 std::string_view TextStore::Keep(std::string_view text) {

@@ -3,7 +3,9 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdlib>
 #include <cstring>
+#include <utility>
 
 #include "book/Faults.h"
 #include "book/Files.h"
@@ -19,9 +21,15 @@ namespace {
 
 class File {
   public:
-    File(const std::filesystem::path& path, int flags, mode_t mode = 0)
+    File(const std::filesystem::path& path, int flags, mode_t mode)
         : path_(path), handle_(::open(path.c_str(), flags | O_CLOEXEC, mode)) {
         if (handle_ < 0) Fail(path);
+    }
+    // A new file with a name of its own, which replaces the six X at the end of `name`.
+    static File Temporary(std::string& name) {
+        const int handle = ::mkstemp(name.data());
+        if (handle < 0) Fail(name);
+        return {handle, name};
     }
     ~File() {
         if (handle_ >= 0) ::close(handle_);
@@ -67,7 +75,13 @@ class File {
         if (::close(handle) != 0) Fail(path_);
     }
 
+    void SetMode(mode_t mode) const {
+        if (::fchmod(handle_, mode) != 0) Fail(path_);
+    }
+
   private:
+    File(int handle, std::filesystem::path path) : path_(std::move(path)), handle_(handle) {}
+
     std::filesystem::path path_;
     int handle_;
 };
@@ -75,7 +89,7 @@ class File {
 }  // namespace
 
 std::vector<char> ReadFileBytes(const std::filesystem::path& path) {
-    const File file(path, O_RDONLY);
+    const File file(path, O_RDONLY, 0);
     std::vector<char> bytes(static_cast<std::size_t>(file.Status().st_size));
     bytes.resize(file.Read(bytes.data(), bytes.size()));
     return bytes;
@@ -88,11 +102,15 @@ void WriteFileBytes(const std::filesystem::path& path, std::string_view bytes) {
 }
 
 void ReplaceFileBytes(const std::filesystem::path& path, std::string_view bytes) {
-    if (::access(path.c_str(), F_OK) == 0 && ::access(path.c_str(), W_OK) != 0) Fail(path);
-    std::filesystem::path temporary = path;
-    temporary += ".tmp";
+    const bool exists = ::access(path.c_str(), F_OK) == 0;
+    if (exists && ::access(path.c_str(), W_OK) != 0) Fail(path);
+    std::string temporary = path.string() + ".XXXXXX";
     try {
-        File file(temporary, O_WRONLY | O_CREAT | O_TRUNC, 0666);
+        File file = File::Temporary(temporary);
+        // The new file is as private, or as public, as the old one was.
+        struct stat old {};
+        const mode_t mode = exists && ::stat(path.c_str(), &old) == 0 ? old.st_mode & 07777 : 0644;
+        file.SetMode(mode);
         file.Write(bytes);
         file.Flush();
         file.Close();

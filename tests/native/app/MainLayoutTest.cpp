@@ -6,7 +6,8 @@ namespace lindrel {
 
 // Values print as themselves when a comparison fails.
 static void PrintTo(const Place& place, std::ostream* out) {
-    *out << "{left " << place.Left << ", top " << place.Top << ", " << place.Width << " x " << place.Height << "}";
+    *out << "{left " << place.Left << ", top " << place.Top << ", " << place.Width << " x " << place.Height
+         << "}";
 }
 
 namespace {

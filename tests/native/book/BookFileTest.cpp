@@ -1,6 +1,8 @@
 #include "book/BookFile.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <fstream>
 
@@ -169,10 +171,9 @@ class BookFileOnDiskTest : public ::testing::Test {
     int FilesThere() const {
         return static_cast<int>(std::distance(std::filesystem::directory_iterator(folder), {}));
     }
-    std::filesystem::path folder =
-        std::filesystem::temp_directory_path() /
-        ("lindrel-" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) + "-" +
-         ::testing::UnitTest::GetInstance()->current_test_info()->name());
+    std::filesystem::path folder = std::filesystem::temp_directory_path() /
+                                   ("lindrel-" + std::to_string(getpid()) + "-" +
+                                    ::testing::UnitTest::GetInstance()->current_test_info()->name());
 };
 
 TEST_F(BookFileOnDiskTest, ReplacesTheOldFileInOneStep) {
@@ -183,6 +184,14 @@ TEST_F(BookFileOnDiskTest, ReplacesTheOldFileInOneStep) {
     EXPECT_TRUE(LoadBook(loaded, path));
     EXPECT_EQ(CountLines(path), 12);
     EXPECT_EQ(FilesThere(), 1);
+}
+
+TEST_F(BookFileOnDiskTest, TheNewFileIsAsPrivateAsTheOldOneWas) {
+    const auto path = folder / "konyv.lnd";
+    WriteFileBytes(path, "regi");
+    ASSERT_EQ(chmod(path.c_str(), 0600), 0);
+    SaveBook(Book(), path);
+    EXPECT_EQ(std::filesystem::status(path).permissions(), std::filesystem::perms(0600));
 }
 
 TEST_F(BookFileOnDiskTest, AFailureLeavesNoTraceAndNamesThePath) {

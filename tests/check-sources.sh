@@ -1,0 +1,19 @@
+#!/usr/bin/env bash
+# Rules that no compiler knows: tests never wait for a fixed time and are never switched off, every source is built.
+set -u
+cd "$(dirname "$0")/.."
+failed=0
+
+complain() { # what is wrong, where
+  [ -z "$2" ] && return
+  printf '%s\n%s\n' "$1" "$2"
+  failed=1
+}
+
+complain 'A fixed wait in a test (poll with a deadline instead):' \
+  "$(grep -rnE '\b(Sleep|sleep_for|sleep_until|usleep)\(|^\s*sleep [0-9]' --include='*.cpp' --include='*.h' --include='*.sh' tests | grep -v '^tests/check-sources.sh')"
+complain 'A test that is switched off:' "$(grep -rnE '\bDISABLED_|GTEST_SKIP' --include='*.cpp' tests)"
+complain 'A source file that no target knows:' \
+  "$(for file in $(git ls-files '*.cpp' 2>/dev/null | grep -vE '^(tests|bench|fuzz)/'); do
+       grep -q "$(basename "$file")" "$(dirname "$file")/CMakeLists.txt" || echo "$file"; done)"
+exit $failed
