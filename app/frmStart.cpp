@@ -140,6 +140,16 @@ void frmStart::OnCommand(int id, int) {
             return mnuExit_Click();
         case ID_mnuSelectAll:
             return mnuSelectAll_Click();
+        case ID_mnuKat:
+            return mnuKat_Click();
+        case ID_mnuAdd:
+            return mnuAdd_Click();
+        case ID_mnuEdit:
+            return mnuEdit_Click();
+        case ID_mnuMove:
+            return mnuMove_Click();
+        case ID_mnuDel:
+            return mnuDel_Click();
         case ID_NextTab:
             return SelectTab(SelectedCategory() % kCategories + 1);
         case ID_PreviousTab:

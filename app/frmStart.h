@@ -4,6 +4,7 @@
 //     frmStart_Window.cpp  making the controls, layout, resolution, keyboard focus
 //     frmStart_File.cpp    the file menu
 //     frmStart_List.cpp    tabs, list, check marks
+//     frmStart_Edit.cpp    adding, editing, moving, deleting, renaming
 #pragma once
 
 #include <cstdint>
@@ -16,8 +17,12 @@
 #include "controls/Control.h"
 #include "controls/Display.h"
 #include "controls/Windows.h"
+#include "edit/CheckedRuns.h"
 
 namespace lindrel {
+
+// What the add and edit dialogs leave in ResultTag when they have stored something.
+inline constexpr wchar_t kStored[] = L"init";
 
 // The two titles of the question whether to save; their spellings differ (intended).
 enum class SaveQuestion { Command, Closing };
@@ -64,6 +69,10 @@ class frmStart {
     void RestoreCheckMarks(int category);
     void SetAllChecks(bool value);
     void ShowCheckedCount();
+    // Runs of the checked rows, when the list shows the category.
+    std::vector<RowRun> CheckedRunsOf(int category) const;
+    // Selects a row of the list and scrolls to it; nothing for a position that the list does not have.
+    void SelectRow(int position);
     // Category of the selected tab, 1..12.
     int SelectedCategory() const { return TabStrip1.Selected(); }
     void SetTitle(const std::wstring& title);
@@ -87,6 +96,11 @@ class frmStart {
     void mnuSaveAs_Click();
     void mnuExit_Click();
     void mnuSelectAll_Click();
+    void mnuKat_Click();
+    void mnuAdd_Click();
+    void mnuEdit_Click();
+    void mnuMove_Click();
+    void mnuDel_Click();
 
   private:
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM first, LPARAM second);
@@ -124,6 +138,11 @@ class frmStart {
     void ListURLs_ItemCheck(int position);
     void ListURLs_ColumnClick();
     void ShowEntry(int index);
+
+    // Editing.
+    void DeleteCheckedEntries();
+
+    // The fields below the list.
     static LRESULT CALLBACK UrlSubclass(HWND window, UINT message, WPARAM first, LPARAM second, UINT_PTR id,
                                         DWORD_PTR data);
     void txtURL_DblClick();

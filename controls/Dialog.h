@@ -32,6 +32,8 @@ class Dialog {
     void ShowModal(HWND owner);
 
     HWND Handle() const { return handle_; }
+    // Moves the focus as the tab key would: a text box selects its text, the default button follows.
+    void FocusOn(int id) const;
 
   protected:
     // Before the dialog is first shown. Returning leaves the focus on the first control in the tab order
@@ -58,8 +60,6 @@ class Dialog {
     Wrapper Get(int id) const {
         return Wrapper(Item(id));
     }
-    // Moves the focus as the tab key would: a text box selects its text, the default button follows.
-    void FocusOn(int id) const;
 
   private:
     static INT_PTR CALLBACK Procedure(HWND handle, UINT message, WPARAM first, LPARAM second);

@@ -21,8 +21,65 @@
 #define ID_frmStart_StatusBar1 1012
 #define ID_frmStart_Toolbar 1013
 
-/* Blocks of the dialogs: frmAdd 1100, frmEditRec 1200, frmMove 1300, frmEditKats 1400, frmFind 1500,
-   frmExport 1600, frmSelectFavoritDir 1700, frmImport 1800, frmI_Fav 1900, frmAbout 2000. */
+/* Adding and editing an entry, moving entries, category names. */
+#define IDD_frmAdd 1100
+#define ID_frmAdd_Frame1 1101
+#define ID_frmAdd_Label1 1102
+#define ID_frmAdd_txtDesc 1103
+#define ID_frmAdd_Label2 1104
+#define ID_frmAdd_cmbKateg 1105
+#define ID_frmAdd_lblHint 1106
+#define ID_frmAdd_lblURL 1107
+#define ID_frmAdd_txtURL 1108
+#define ID_frmAdd_cmdEmail 1109
+#define ID_frmAdd_cmdOK 1110
+#define ID_frmAdd_cmdCancel 1111
+#define IDD_frmEditRec 1200
+#define ID_frmEditRec_Frame1 1201
+#define ID_frmEditRec_Label1 1202
+#define ID_frmEditRec_txtDesc 1203
+#define ID_frmEditRec_Label2 1204
+#define ID_frmEditRec_cmbKateg 1205
+#define ID_frmEditRec_lblHint 1206
+#define ID_frmEditRec_lblURL 1207
+#define ID_frmEditRec_txtURL 1208
+#define ID_frmEditRec_cmdOk 1209
+#define ID_frmEditRec_Command1 1210
+#define IDD_frmMove 1300
+#define ID_frmMove_lblHint 1301
+#define ID_frmMove_cmbKateg 1302
+#define ID_frmMove_cmdOk 1303
+#define ID_frmMove_cmdCancel 1304
+#define IDD_frmEditKats 1400
+#define ID_frmEditKats_txtKateg_0 1410
+#define ID_frmEditKats_txtKateg_1 1411
+#define ID_frmEditKats_txtKateg_2 1412
+#define ID_frmEditKats_txtKateg_3 1413
+#define ID_frmEditKats_txtKateg_4 1414
+#define ID_frmEditKats_txtKateg_5 1415
+#define ID_frmEditKats_txtKateg_6 1416
+#define ID_frmEditKats_txtKateg_7 1417
+#define ID_frmEditKats_txtKateg_8 1418
+#define ID_frmEditKats_txtKateg_9 1419
+#define ID_frmEditKats_txtKateg_10 1420
+#define ID_frmEditKats_txtKateg_11 1421
+#define ID_frmEditKats_lblKatName_0 1430
+#define ID_frmEditKats_lblKatName_1 1431
+#define ID_frmEditKats_lblKatName_2 1432
+#define ID_frmEditKats_lblKatName_3 1433
+#define ID_frmEditKats_lblKatName_4 1434
+#define ID_frmEditKats_lblKatName_5 1435
+#define ID_frmEditKats_lblKatName_6 1436
+#define ID_frmEditKats_lblKatName_7 1437
+#define ID_frmEditKats_lblKatName_8 1438
+#define ID_frmEditKats_lblKatName_9 1439
+#define ID_frmEditKats_lblKatName_10 1440
+#define ID_frmEditKats_lblKatName_11 1441
+#define ID_frmEditKats_cmdOk 1401
+#define ID_frmEditKats_cmdCancel 1402
+
+/* Blocks of the dialogs to come: frmFind 1500, frmExport 1600, frmSelectFavoritDir 1700, frmImport 1800, frmI_Fav
+   1900, frmAbout 2000. */
 
 /* Commands, in the order of the menus. */
 #define ID_mnuNew 40001

@@ -9,8 +9,6 @@
 namespace lindrel::testing {
 namespace {
 
-using Row = std::pair<std::wstring, std::wstring>;
-
 class frmStartListTest : public ::testing::Test {
   protected:
     // Three entries in category 1, four in category 3.

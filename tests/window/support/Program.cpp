@@ -9,6 +9,7 @@
 #include <ostream>
 
 #include "app/Program.h"
+#include "book/BookFile.h"
 #include "book/Files.h"
 #include "tests/window/support/Text.h"
 
@@ -138,6 +139,30 @@ void Program::Settle() const {
 void Program::Run(int menu_id) const {
     Choose(menu_id);
     Settle();
+}
+
+void Program::Add(int category, const std::vector<Row>& rows) const {
+    OnUi([&](frmStart& form) {
+        form.TheBook.NewEntries.clear();
+        for (const Row& row : rows)
+            form.TheBook.NewEntries.push_back({ToBookText(row.first), ToBookText(row.second)});
+        form.TheBook.AddEntry(category);
+        form.FillAddressList(form.SelectedCategory());
+    });
+}
+
+std::string Program::BookBytes() const {
+    return Ask<std::string>([](frmStart& form) { return SaveBook(form.TheBook); });
+}
+
+MainState EmptyState() {
+    MainState state;
+    state.Title = L"Lindrel ";
+    for (int k = 1; k <= 12; ++k) state.Tabs.push_back(L"Project" + std::to_wstring(k));
+    state.SelectedTab = 1;
+    state.Status[1] = L"megjelenítve (0 / 0)";
+    state.Status[2] = L"bejelölve 0";
+    return state;
 }
 
 MainState Program::State() const {

@@ -31,6 +31,11 @@ struct MainState {
 };
 void PrintTo(const MainState& state, std::ostream* out);
 
+// The state right after the start; tests change in it what they expect to be otherwise.
+MainState EmptyState();
+
+using Row = std::pair<std::wstring, std::wstring>;  // name and address
+
 class Program {
   public:
     // Starts the program and waits for its main window.
@@ -60,7 +65,12 @@ class Program {
     // Chooses, and settles: for commands that open nothing.
     void Run(int menu_id) const;
 
+    // Adds entries at the end of a category, behind the user's back, and shows the selected tab anew.
+    void Add(int category, const std::vector<Row>& rows) const;
+
     MainState State() const;
+    // The whole book as its file would be.
+    std::string BookBytes() const;
     bool CommandEnabled(int menu_id) const;
     // What the user does in the list and on the tabs.
     void ClickTab(int tab) const;

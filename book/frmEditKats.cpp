@@ -1,0 +1,47 @@
+#include "book/frmEditKats.h"
+
+#include "book/BookText.h"
+#include "controls/BookField.h"
+#include "resources/resource.h"
+
+namespace lindrel {
+
+namespace {
+
+// The field of a category, 1..12; the fields are numbered from 0.
+int txtKateg(int category) {
+    return ID_frmEditKats_txtKateg_0 + category - 1;
+}
+
+}  // namespace
+
+frmEditKats::frmEditKats(frmStart& main) : Dialog(IDD_frmEditKats), main_(main) {}
+
+void frmEditKats::Form_Load() {
+    for (int k = 1; k <= kCategories; ++k)
+        Get<TextBox>(txtKateg(k)).SetText(FromBookText(main_.TheBook.CategoryNames(k)));
+}
+
+void frmEditKats::OnCommand(int id, int) {
+    switch (id) {
+        case ID_frmEditKats_cmdOk:
+            return cmdOK_Click();
+        case ID_frmEditKats_cmdCancel:
+        case IDCANCEL:
+            return cmdCancel_Click();
+        default:
+            return;
+    }
+}
+
+void frmEditKats::cmdOK_Click() {
+    for (int k = 1; k <= kCategories; ++k)
+        if (!FitsBook(*this, txtKateg(k))) return;
+    // Names may be empty or equal (intended: they are the user's own).
+    for (int k = 1; k <= kCategories; ++k) main_.TheBook.SetCategoryName(k, ToBookText(Text(txtKateg(k))));
+    main_.UpdateTabCaptions();
+    main_.Modified = true;
+    Unload();
+}
+
+}  // namespace lindrel

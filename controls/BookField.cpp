@@ -1,0 +1,42 @@
+#include "controls/BookField.h"
+
+#include <cwchar>
+
+#include "book/BookText.h"
+#include "controls/MsgBox.h"
+
+namespace lindrel {
+
+namespace {
+
+// "U+0151", also of a surrogate pair.
+std::wstring CodeOf(const std::wstring& character) {
+    const auto unit = [&](std::size_t i) { return static_cast<unsigned long>(character[i]); };
+    const unsigned long code =
+        character.size() == 2 ? 0x10000 + ((unit(0) - 0xD800) << 10) + (unit(1) - 0xDC00) : unit(0);
+    wchar_t text[16];
+    const int length = std::swprintf(text, 16, L"U+%04lX", code);
+    return {text, static_cast<std::size_t>(length)};
+}
+
+}  // namespace
+
+bool FitsBook(const Dialog& dialog, int field_id) {
+    const TextBox field(GetDlgItem(dialog.Handle(), field_id));
+    const std::wstring text = field.Text();
+    const std::optional<std::wstring> foreign = FirstForeignCharacter(text);
+    if (!foreign) return true;
+    MsgBox(dialog.Handle(),
+           L"Ezt a karaktert a könyv nem tudja tárolni: „" + *foreign + L"” (" + CodeOf(*foreign) + L")",
+           MB_OK | MB_ICONERROR, kErrorTitle);
+    dialog.FocusOn(field_id);
+    field.Select(static_cast<int>(text.find(*foreign)), static_cast<int>(foreign->size()));
+    return false;
+}
+
+void FillWithCategories(const ComboBox& combo, const Book& book, int chosen) {
+    for (int k = 1; k <= kCategories; ++k) combo.Add(FromBookText(book.CategoryNames(k)));
+    combo.Select(chosen - 1);
+}
+
+}  // namespace lindrel

@@ -1,0 +1,38 @@
+#include "edit/CheckedRuns.h"
+
+#include <utility>
+
+namespace lindrel {
+
+std::vector<RowRun> CheckedRuns(int rows, const std::function<bool(int)>& is_checked) {
+    std::vector<RowRun> runs;
+    int run_end = 0;
+    for (int position = rows; position >= 1; --position) {
+        if (is_checked(position)) {
+            if (run_end == 0) run_end = position;
+        } else if (run_end != 0) {
+            runs.push_back({position + 1, run_end - position});
+            run_end = 0;
+        }
+    }
+    if (run_end != 0) runs.push_back({1, run_end});
+    return runs;
+}
+
+void DeleteRuns(Book& book, int category, const std::vector<RowRun>& runs) {
+    for (const RowRun& run : runs) book.DeleteEntry(category, run.Position, run.Count);
+}
+
+void MoveRuns(Book& book, int source, const std::vector<RowRun>& runs, int destination) {
+    std::vector<NewEntry> staged;
+    for (auto run = runs.rbegin(); run != runs.rend(); ++run)
+        for (int position = run->Position; position < run->Position + run->Count; ++position) {
+            const int index = book.IndexOf(source, position);
+            staged.push_back({std::string(book.SiteNames(index)), std::string(book.SiteURLs(index))});
+        }
+    DeleteRuns(book, source, runs);
+    book.NewEntries = std::move(staged);
+    book.AddEntry(destination);
+}
+
+}  // namespace lindrel

@@ -1,0 +1,29 @@
+#include "edit/EntryDialog.h"
+
+#include "book/BookText.h"
+#include "controls/BookField.h"
+#include "controls/MsgBox.h"
+
+namespace lindrel {
+
+void EntryDialog::FillCategories() const {
+    FillWithCategories(Get<ComboBox>(fields_.cmbKateg), main_.TheBook, main_.SelectedCategory());
+}
+
+bool EntryDialog::FieldsAreGood() const {
+    // The bare "http://" is long enough (intended: an entry may be stored before its address is known).
+    constexpr std::size_t kShortestAddress = 3;
+    if (Trim(txtDesc().Text()).empty() || Trim(txtURL().Text()).size() < kShortestAddress) {
+        MsgBox(Handle(), L"Kérem előbb töltse ki a szükséges mezőket!", MB_OK,
+               L"Nem töltött ki minden mezőt");
+        FocusOn(fields_.txtDesc);
+        return false;
+    }
+    return FitsBook(*this, fields_.txtDesc) && FitsBook(*this, fields_.txtURL);
+}
+
+NewEntry EntryDialog::TypedEntry() const {
+    return {ToBookText(txtDesc().Text()), ToBookText(txtURL().Text())};
+}
+
+}  // namespace lindrel

@@ -1,0 +1,68 @@
+#include "edit/frmAdd.h"
+
+#include "controls/Clipboard.h"
+#include "edit/ClipboardAddress.h"
+#include "resources/resource.h"
+
+namespace lindrel {
+
+namespace {
+constexpr wchar_t kBareWebAddress[] = L"http://";
+constexpr wchar_t kBareMailAddress[] = L"mailto:";
+}  // namespace
+
+frmAdd::frmAdd(frmStart& main)
+    : EntryDialog(IDD_frmAdd, {ID_frmAdd_txtDesc, ID_frmAdd_cmbKateg, ID_frmAdd_txtURL}, main) {}
+
+void frmAdd::Form_Load() {
+    FillCategories();
+    const std::optional<std::wstring> address = AddressFromClipboard(ClipboardText(Handle()));
+    clipboard_used_ = address.has_value();
+    txtURL().SetText(address.value_or(kBareWebAddress));
+}
+
+void frmAdd::OnCommand(int id, int event) {
+    switch (id) {
+        case ID_frmAdd_txtURL:
+            if (event == EN_SETFOCUS) txtURL_GotFocus();
+            return;
+        case ID_frmAdd_cmdEmail:
+            return cmdEmail_Click();
+        case ID_frmAdd_cmdOK:
+            return cmdOK_Click();
+        case ID_frmAdd_cmdCancel:
+        case IDCANCEL:
+            return cmdCancel_Click();
+        default:
+            return;
+    }
+}
+
+void frmAdd::txtURL_GotFocus() const {
+    // Behind any address that has not been typed yet; the text box clamps it to the end.
+    constexpr int kBehindTheText = 121;
+    if (clipboard_used_)
+        txtURL().SelectAll();
+    else
+        txtURL().Select(kBehindTheText, 0);
+}
+
+// Only the bare beginnings are exchanged; an address that has been typed stays.
+void frmAdd::cmdEmail_Click() const {
+    const std::wstring address = txtURL().Text();
+    if (address == kBareWebAddress)
+        txtURL().SetText(kBareMailAddress);
+    else if (address == kBareMailAddress)
+        txtURL().SetText(kBareWebAddress);
+}
+
+void frmAdd::cmdOK_Click() {
+    if (!FieldsAreGood()) return;
+    Main().TheBook.NewEntries = {TypedEntry()};
+    Main().TheBook.AddEntry(ChosenCategory());
+    Main().Modified = true;
+    Main().ResultTag = kStored;
+    Unload();
+}
+
+}  // namespace lindrel
