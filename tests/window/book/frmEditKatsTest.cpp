@@ -1,0 +1,100 @@
+// The category names dialog.
+
+#include <gtest/gtest.h>
+
+#include "resources/resource.h"
+#include "tests/window/support/Program.h"
+
+namespace lindrel::testing {
+namespace {
+
+class frmEditKatsTest : public ::testing::Test {
+  protected:
+    DialogOnScreen Open() const {
+        program.Choose(ID_mnuKat);
+        return program.Dialog(L"Kategóriák nevei");
+    }
+    static int Field(int category) { return ID_frmEditKats_txtKateg_0 + category - 1; }
+    void Accept(const DialogOnScreen& dialog) const {
+        dialog.ClickAndWaitForClose(ID_frmEditKats_cmdOk);
+        program.Settle();
+    }
+
+    Program program;
+};
+
+TEST_F(frmEditKatsTest, ShowsTheTwelveNamesWithTheirNumbers) {
+    program.OnUi([](frmStart& form) { form.TheBook.SetCategoryName(7, "H&\xEDrek"); });
+    const DialogOnScreen dialog = Open();
+    for (int k = 1; k <= 12; ++k) {
+        EXPECT_EQ(dialog.Text(ID_frmEditKats_lblKatName_0 + k - 1), std::to_wstring(k));
+        EXPECT_EQ(dialog.Text(Field(k)), k == 7 ? L"H&írek" : L"Project" + std::to_wstring(k));
+    }
+    EXPECT_EQ(dialog.Text(ID_frmEditKats_cmdOk), L"OK");
+    EXPECT_EQ(dialog.Text(ID_frmEditKats_cmdCancel), L"&Mégse");
+    dialog.Cancel();
+    dialog.WaitForClose();
+}
+
+TEST_F(frmEditKatsTest, OkWithoutAChangeMarksTheBook) {
+    Accept(Open());
+    MainState expected = EmptyState();
+    expected.Modified = true;
+    EXPECT_EQ(program.State(), expected);
+}
+
+TEST_F(frmEditKatsTest, NamesAreTakenExactlyAsTyped) {
+    program.Add(1, {{L"A", L"http://a.hu"}});
+    const DialogOnScreen dialog = Open();
+    dialog.SetText(Field(1), L"  Űr & idő ");
+    dialog.SetText(Field(2), L"#kettős");
+    dialog.SetText(Field(3), L"#kettős");
+    dialog.SetText(Field(12), L"");
+    Accept(dialog);
+    MainState expected = EmptyState();
+    expected.Tabs[0] = L"  Űr & idő ";
+    expected.Tabs[1] = expected.Tabs[2] = L"#kettős";
+    expected.Tabs[11] = L"";
+    expected.Rows = {{L"A", L"http://a.hu"}};
+    expected.Status[1] = L"megjelenítve (1 / 1)";
+    expected.Modified = true;
+    EXPECT_EQ(program.State(), expected);
+    EXPECT_EQ(
+        program.BookBytes(),
+        "#  \xDBr & id\xF5 \r\nA\r\nhttp://a.hu\r\n##kett\xF5s\r\n##kett\xF5s\r\n#Project4\r\n#Project5\r\n"
+        "#Project6\r\n#Project7\r\n#Project8\r\n#Project9\r\n#Project10\r\n#Project11\r\n#\r\n");
+}
+
+TEST_F(frmEditKatsTest, CancelLeavesNamesTabsAndMark) {
+    const MainState before = program.State();
+    for (const int way : {ID_frmEditKats_cmdCancel, IDCANCEL}) {
+        const DialogOnScreen dialog = Open();
+        dialog.SetText(Field(5), L"más");
+        PostMessageW(dialog.Handle(), WM_COMMAND, static_cast<WPARAM>(way), 0);
+        dialog.WaitForClose();
+        program.Settle();
+        EXPECT_EQ(program.State(), before);
+    }
+}
+
+TEST_F(frmEditKatsTest, AForeignCharacterIsRefusedAndNoNameIsTaken) {
+    const MainState before = program.State();
+    const DialogOnScreen dialog = Open();
+    dialog.SetText(Field(1), L"Jó név");
+    dialog.SetText(Field(9), L"Ω");
+    dialog.Click(ID_frmEditKats_cmdOk);
+    const BoxOnScreen box = program.Box();
+    EXPECT_EQ(box.Title(), L"Hiba");
+    EXPECT_EQ(box.Text(), L"Ezt a karaktert a könyv nem tudja tárolni: „Ω” (U+03A9)");
+    box.Press(IDOK);
+    program.Settle();
+    EXPECT_EQ(dialog.Focus(), Field(9));
+    EXPECT_EQ(dialog.Text(Field(9)), L"Ω");
+    dialog.Cancel();
+    dialog.WaitForClose();
+    program.Settle();
+    EXPECT_EQ(program.State(), before);
+}
+
+}  // namespace
+}  // namespace lindrel::testing

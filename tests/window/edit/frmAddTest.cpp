@@ -1,0 +1,251 @@
+// The add dialog, with the real clipboard.
+
+#include <gtest/gtest.h>
+
+#include "resources/resource.h"
+#include "tests/window/support/Program.h"
+#include "tests/window/support/RealClipboard.h"
+
+namespace lindrel::testing {
+namespace {
+
+class frmAddTest : public ::testing::Test {
+  protected:
+    frmAddTest() { EmptyTheClipboard(); }
+
+    DialogOnScreen Open() const {
+        program.Choose(ID_mnuAdd);
+        return program.Dialog(L"Új oldal hozzáadása");
+    }
+    // Text of the address field and its selection once it has the focus.
+    struct Address {
+        std::wstring Text;
+        DWORD Start = 0;
+        DWORD End = 0;
+        bool operator==(const Address&) const = default;
+    };
+    Address AddressFor(const std::wstring& clipboard) const {
+        PutClipboardText(clipboard);
+        const DialogOnScreen dialog = Open();
+        const HWND field = dialog.Control(ID_frmAdd_txtURL);
+        SendMessageW(dialog.Handle(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(field), TRUE);
+        program.Settle();
+        EXPECT_EQ(dialog.Focus(), ID_frmAdd_txtURL);
+        Address address{dialog.Text(ID_frmAdd_txtURL)};
+        SendMessageW(field, EM_GETSEL, reinterpret_cast<WPARAM>(&address.Start),
+                     reinterpret_cast<LPARAM>(&address.End));
+        dialog.Cancel();
+        dialog.WaitForClose();
+        return address;
+    }
+    void Store(const std::wstring& name, const std::wstring& address, int category) const {
+        const DialogOnScreen dialog = Open();
+        dialog.SetText(ID_frmAdd_txtDesc, name);
+        dialog.SetText(ID_frmAdd_txtURL, address);
+        dialog.Pick(ID_frmAdd_cmbKateg, category - 1);
+        dialog.ClickAndWaitForClose(ID_frmAdd_cmdOK);
+        program.Settle();
+    }
+
+    Program program;
+};
+
+TEST_F(frmAddTest, OpensWithTheShownCategoryAndTheBareAddress) {
+    program.ClickTab(4);
+    const DialogOnScreen dialog = Open();
+    EXPECT_EQ(dialog.Text(ID_frmAdd_Frame1), L" Az oldal adatai ");
+    EXPECT_EQ(dialog.Text(ID_frmAdd_Label1), L"az oldal &neve");
+    EXPECT_EQ(dialog.Text(ID_frmAdd_Label2), L"&kategória");
+    EXPECT_EQ(dialog.Text(ID_frmAdd_lblHint), L"ebbe a kategóriában lesz létrehozva");
+    EXPECT_EQ(dialog.Text(ID_frmAdd_lblURL), L"&URL címe");
+    EXPECT_EQ(dialog.Text(ID_frmAdd_cmdCancel), L"&Mégse");
+    EXPECT_EQ(dialog.ComboItems(ID_frmAdd_cmbKateg), EmptyState().Tabs);
+    EXPECT_EQ(dialog.Picked(ID_frmAdd_cmbKateg), 3);
+    EXPECT_EQ(dialog.Text(ID_frmAdd_txtDesc), L"");
+    EXPECT_EQ(dialog.Text(ID_frmAdd_txtURL), L"http://");
+    EXPECT_EQ(dialog.Focus(), ID_frmAdd_txtDesc);
+    dialog.Cancel();
+    dialog.WaitForClose();
+}
+
+TEST_F(frmAddTest, ProposesTheAddressOnTheClipboardAndSelectsIt) {
+    EXPECT_EQ(AddressFor(L"  WWW.Lap.hu  "), (Address{L"http://WWW.Lap.hu", 0, 17}));
+    EXPECT_EQ(AddressFor(L"Ezt nézd: HTTP://lap.hu jó"), (Address{L"Ezt nézd: HTTP://lap.hu jó", 0, 26}));
+    EXPECT_EQ(AddressFor(L"https://lap.hu"), (Address{L"https://lap.hu", 0, 14}));
+    EXPECT_EQ(AddressFor(L" ftp://lap.hu"), (Address{L"ftp://lap.hu", 0, 12}));
+    EXPECT_EQ(AddressFor(L"ki@lap.hu"), (Address{L"mailto:ki@lap.hu", 0, 16}));
+    EXPECT_EQ(AddressFor(L"MailTo:ki@lap.hu"), (Address{L"MailTo:ki@lap.hu", 0, 16}));
+}
+
+TEST_F(frmAddTest, LeavesTheBareAddressForAnythingElseWithTheCaretAtItsEnd) {
+    EXPECT_EQ(AddressFor(L"árvíztűrő szavak"), (Address{L"http://", 7, 7}));
+    EmptyTheClipboard();
+    const DialogOnScreen dialog = Open();
+    EXPECT_EQ(dialog.Text(ID_frmAdd_txtURL), L"http://");
+    dialog.Cancel();
+    dialog.WaitForClose();
+    PutClipboardBytes(RegisterClipboardFormatW(L"Lindrel test form"), "http://nem.szoveg");
+    const DialogOnScreen again = Open();
+    EXPECT_EQ(again.Text(ID_frmAdd_txtURL), L"http://");
+    again.Cancel();
+    again.WaitForClose();
+}
+
+TEST_F(frmAddTest, TheMailButtonExchangesBareBeginningsOnly) {
+    const DialogOnScreen dialog = Open();
+    const auto after_click = [&](const std::wstring& before) {
+        dialog.SetText(ID_frmAdd_txtURL, before);
+        dialog.Click(ID_frmAdd_cmdEmail);
+        program.Settle();
+        return dialog.Text(ID_frmAdd_txtURL);
+    };
+    EXPECT_EQ(after_click(L"http://"), L"mailto:");
+    EXPECT_EQ(after_click(L"mailto:"), L"http://");
+    EXPECT_EQ(after_click(L"HTTP://"), L"HTTP://");
+    EXPECT_EQ(after_click(L"http://a"), L"http://a");
+    EXPECT_EQ(after_click(L""), L"");
+    dialog.Cancel();
+    dialog.WaitForClose();
+}
+
+TEST_F(frmAddTest, MissingFieldsAreAskedForAndNothingIsStored) {
+    const MainState before = program.State();
+    const DialogOnScreen dialog = Open();
+    const std::pair<std::wstring, std::wstring> bad[] = {
+        {L"   ", L"http://a.hu"}, {L"", L"http://a.hu"}, {L"Név", L"ab"}, {L"Név", L"  ab   "}, {L"", L""}};
+    for (const auto& [name, address] : bad) {
+        dialog.SetText(ID_frmAdd_txtDesc, name);
+        dialog.SetText(ID_frmAdd_txtURL, address);
+        dialog.Click(ID_frmAdd_cmdOK);
+        const BoxOnScreen box = program.Box();
+        EXPECT_EQ(box.Title(), L"Nem töltött ki minden mezőt");
+        EXPECT_EQ(box.Text(), L"Kérem előbb töltse ki a szükséges mezőket!");
+        EXPECT_EQ(box.Buttons(), std::vector<int>{IDOK});
+        EXPECT_EQ(box.Icon(), BoxIcon::None);
+        box.Press(IDOK);
+        program.Settle();
+        EXPECT_TRUE(dialog.IsOpen());
+        EXPECT_EQ(dialog.Focus(), ID_frmAdd_txtDesc);
+        EXPECT_EQ(dialog.Text(ID_frmAdd_txtDesc), name);
+        EXPECT_EQ(dialog.Text(ID_frmAdd_txtURL), address);
+    }
+    dialog.Cancel();
+    dialog.WaitForClose();
+    program.Settle();
+    EXPECT_EQ(program.State(), before);
+}
+
+TEST_F(frmAddTest, OneLetterAndTheBareAddressAreStoredAsTyped) {
+    Store(L" ű ", L"http://", 1);
+    MainState expected = EmptyState();
+    expected.Rows = {{L" ű ", L"http://"}};
+    expected.Status[1] = L"megjelenítve (1 / 1)";
+    expected.Modified = true;
+    EXPECT_EQ(program.State(), expected);
+}
+
+TEST_F(frmAddTest, TheListKeepsItsMarksAndThePlaceOfItsSelection) {
+    program.Add(1, {{L"A", L"http://a.hu"}, {L"B", L"http://b.hu"}, {L"C", L"http://c.hu"}});
+    program.ClickBox(1);
+    program.ClickBox(3);
+    program.ClickRow(2);
+    Store(L"D", L"http://d.hu", 1);
+    MainState expected = EmptyState();
+    expected.Rows = {
+        {L"A", L"http://a.hu"}, {L"B", L"http://b.hu"}, {L"C", L"http://c.hu"}, {L"D", L"http://d.hu"}};
+    expected.Checked = {1, 3};
+    expected.SelectedRow = 2;
+    expected.Status[1] = L"megjelenítve (4 / 4)";
+    expected.Status[2] = L"bejelölve 2";
+    expected.Modified = true;
+    EXPECT_EQ(program.State(), expected);
+    EXPECT_EQ(program.Ask<std::wstring>([](frmStart& form) { return form.ResultTag; }), L"");
+}
+
+TEST_F(frmAddTest, AnEntryOfAnotherCategoryLeavesTheShownOne) {
+    program.Add(1, {{L"A", L"http://a.hu"}});
+    Store(L"D", L"http://d.hu", 12);
+    MainState expected = EmptyState();
+    expected.Rows = {{L"A", L"http://a.hu"}};
+    expected.Status[1] = L"megjelenítve (1 / 2)";
+    expected.Modified = true;
+    EXPECT_EQ(program.State(), expected);
+    program.ClickTab(12);
+    EXPECT_EQ(program.State().Rows, (std::vector<Row>{{L"D", L"http://d.hu"}}));
+}
+
+TEST_F(frmAddTest, CancelChangesNothing) {
+    program.Add(1, {{L"A", L"http://a.hu"}, {L"B", L"http://b.hu"}});
+    program.ClickBox(2);
+    program.ClickRow(1);
+    const MainState before = program.State();
+    for (const int way : {ID_frmAdd_cmdCancel, IDCANCEL}) {
+        const DialogOnScreen dialog = Open();
+        dialog.SetText(ID_frmAdd_txtDesc, L"D");
+        PostMessageW(dialog.Handle(), WM_COMMAND, static_cast<WPARAM>(way), 0);
+        dialog.WaitForClose();
+        program.Settle();
+        EXPECT_EQ(program.State(), before);
+    }
+}
+
+TEST_F(frmAddTest, ACharacterThatABookCannotHoldIsRefusedAndTheTextStays) {
+    const MainState before = program.State();
+    const DialogOnScreen dialog = Open();
+    const auto expect_refusal = [&](int field, const std::wstring& shown, DWORD start, DWORD end) {
+        dialog.Click(ID_frmAdd_cmdOK);
+        const BoxOnScreen box = program.Box();
+        EXPECT_EQ(box.Title(), L"Hiba");
+        EXPECT_EQ(box.Text(), L"Ezt a karaktert a könyv nem tudja tárolni: " + shown);
+        box.Press(IDOK);
+        program.Settle();
+        EXPECT_EQ(dialog.Focus(), field);
+        DWORD from = 0;
+        DWORD to = 0;
+        SendMessageW(dialog.Control(field), EM_GETSEL, reinterpret_cast<WPARAM>(&from),
+                     reinterpret_cast<LPARAM>(&to));
+        EXPECT_EQ(from, start);
+        EXPECT_EQ(to, end);
+    };
+    dialog.SetText(ID_frmAdd_txtDesc, L"Az Ω jel");
+    dialog.SetText(ID_frmAdd_txtURL, L"http://a.hu/\xD83D\xDE00");
+    expect_refusal(ID_frmAdd_txtDesc, L"„Ω” (U+03A9)", 3, 4);
+    EXPECT_EQ(dialog.Text(ID_frmAdd_txtDesc), L"Az Ω jel");
+    dialog.SetText(ID_frmAdd_txtDesc, L"Az Őz");
+    expect_refusal(ID_frmAdd_txtURL, L"„\xD83D\xDE00” (U+1F600)", 12, 14);
+    dialog.Cancel();
+    dialog.WaitForClose();
+    program.Settle();
+    EXPECT_EQ(program.State(), before);
+}
+
+TEST_F(frmAddTest, AFullBookEndsInTheReportOffersToSaveAndLosesNothing) {
+    const TemporaryFolder folder;
+    program.OnUi([&](frmStart& form) {
+        form.TheBook.NewEntries.assign(32767, {"n", "http://n.hu"});
+        form.TheBook.AddEntry(6);
+        form.FillAddressList(1);
+        form.Modified = true;
+        form.OpenedFile = folder.File(L"tele.lnd");
+    });
+    const std::string full = program.BookBytes();
+    const DialogOnScreen dialog = Open();
+    dialog.SetText(ID_frmAdd_txtDesc, L"D");
+    dialog.SetText(ID_frmAdd_txtURL, L"http://d.hu");
+    dialog.Click(ID_frmAdd_cmdOK);
+    const BoxOnScreen report = program.Box();
+    EXPECT_EQ(report.Title(), L"Lindrel");
+    EXPECT_EQ(report.Text(), L"Futásidejű hiba: 6\r\n\r\nTúlcsordulás.");
+    report.Press(IDOK);
+    const BoxOnScreen question = program.Box();
+    EXPECT_EQ(question.Title(), L"A fájl módosult");
+    question.Press(IDYES);
+    const BoxOnScreen saved = program.Box();
+    EXPECT_EQ(saved.Text(), L"Elmentve : " + folder.File(L"tele.lnd"));
+    saved.Press(IDOK);
+    EXPECT_EQ(program.WaitForEnd(), 1);
+    EXPECT_EQ(TemporaryFolder::Read(folder.File(L"tele.lnd")), full);
+}
+
+}  // namespace
+}  // namespace lindrel::testing

@@ -1,0 +1,199 @@
+// The edit dialog.
+
+#include <gtest/gtest.h>
+
+#include "resources/resource.h"
+#include "tests/window/support/Program.h"
+
+namespace lindrel::testing {
+namespace {
+
+class frmEditRecTest : public ::testing::Test {
+  protected:
+    frmEditRecTest() {
+        program.Add(1, {{L"A", L"http://a.hu"}, {L"B", L"http://b.hu"}, {L"C", L"http://c.hu"}});
+        program.Add(3, {{L"X", L"http://x.hu"}, {L"Y", L"http://y.hu"}});
+    }
+    DialogOnScreen Open() const {
+        program.Choose(ID_mnuEdit);
+        return program.Dialog(L"Cím módosítása");
+    }
+    void Accept(const DialogOnScreen& dialog) const {
+        dialog.ClickAndWaitForClose(ID_frmEditRec_cmdOk);
+        program.Settle();
+    }
+    static MainState FirstCategory() {
+        MainState state = EmptyState();
+        state.Rows = {{L"A", L"http://a.hu"}, {L"B", L"http://b.hu"}, {L"C", L"http://c.hu"}};
+        state.Status[1] = L"megjelenítve (3 / 5)";
+        return state;
+    }
+
+    Program program;
+};
+
+TEST_F(frmEditRecTest, ShowsTheSelectedEntryAndTheShownCategory) {
+    program.ClickRow(2);
+    const DialogOnScreen dialog = Open();
+    EXPECT_EQ(dialog.Text(ID_frmEditRec_Frame1), L" Az oldal adatai ");
+    EXPECT_EQ(dialog.Text(ID_frmEditRec_lblHint), L"ebbe a kategóriába lesz áthelyezve");
+    EXPECT_EQ(dialog.Text(ID_frmEditRec_txtDesc), L"B");
+    EXPECT_EQ(dialog.Text(ID_frmEditRec_txtURL), L"http://b.hu");
+    EXPECT_EQ(dialog.ComboItems(ID_frmEditRec_cmbKateg), EmptyState().Tabs);
+    EXPECT_EQ(dialog.Picked(ID_frmEditRec_cmbKateg), 0);
+    EXPECT_EQ(dialog.Text(ID_frmEditRec_Command1), L"&Mégse");
+    dialog.Cancel();
+    dialog.WaitForClose();
+}
+
+TEST_F(frmEditRecTest, AnEmptyListOpensNothing) {
+    program.ClickTab(2);
+    const MainState before = program.State();
+    program.Run(ID_mnuEdit);
+    EXPECT_TRUE(program.NothingIsOpen());
+    EXPECT_EQ(program.State(), before);
+}
+
+TEST_F(frmEditRecTest, NoSelectedRowOpensNothing) {
+    program.Run(ID_mnuEdit);
+    EXPECT_TRUE(program.NothingIsOpen());
+    EXPECT_EQ(program.State(), FirstCategory());
+}
+
+TEST_F(frmEditRecTest, ChangesTheEntryInPlaceExactlyAsTyped) {
+    program.ClickBox(3);
+    program.ClickRow(2);
+    const DialogOnScreen dialog = Open();
+    dialog.SetText(ID_frmEditRec_txtDesc, L" Őz ");
+    dialog.SetText(ID_frmEditRec_txtURL, L"http://oz.hu ");
+    Accept(dialog);
+    MainState expected = FirstCategory();
+    expected.Rows[1] = {L" Őz ", L"http://oz.hu "};
+    expected.Checked = {3};
+    expected.SelectedRow = 2;
+    expected.Status[2] = L"bejelölve 1";
+    expected.Modified = true;
+    EXPECT_EQ(program.State(), expected);
+    EXPECT_EQ(program.Ask<std::wstring>([](frmStart& form) { return form.ResultTag; }), L"");
+}
+
+TEST_F(frmEditRecTest, OkWithoutAChangeMarksTheBook) {
+    program.ClickRow(1);
+    Accept(Open());
+    MainState expected = FirstCategory();
+    expected.SelectedRow = 1;
+    expected.Modified = true;
+    EXPECT_EQ(program.State(), expected);
+}
+
+TEST_F(frmEditRecTest, MovingTheLastRowAwaySelectsTheNewLastRow) {
+    program.ClickRow(3);
+    const DialogOnScreen dialog = Open();
+    dialog.SetText(ID_frmEditRec_txtDesc, L"Új C");
+    dialog.Pick(ID_frmEditRec_cmbKateg, 2);
+    Accept(dialog);
+    MainState expected = FirstCategory();
+    expected.Rows.pop_back();
+    expected.SelectedRow = 2;
+    expected.Status[1] = L"megjelenítve (2 / 5)";
+    expected.Modified = true;
+    EXPECT_EQ(program.State(), expected);
+    program.ClickTab(3);
+    EXPECT_EQ(program.State().Rows,
+              (std::vector<Row>{{L"X", L"http://x.hu"}, {L"Y", L"http://y.hu"}, {L"Új C", L"http://c.hu"}}));
+}
+
+TEST_F(frmEditRecTest, MovingTowardsTheFrontSelectsTheRowThatTookThePlace) {
+    program.ClickTab(3);
+    program.ClickRow(1);
+    const DialogOnScreen dialog = Open();
+    dialog.Pick(ID_frmEditRec_cmbKateg, 0);
+    Accept(dialog);
+    MainState expected = EmptyState();
+    expected.SelectedTab = 3;
+    expected.Rows = {{L"Y", L"http://y.hu"}};
+    expected.SelectedRow = 1;
+    expected.Status[1] = L"megjelenítve (1 / 5)";
+    expected.Modified = true;
+    EXPECT_EQ(program.State(), expected);
+}
+
+TEST_F(frmEditRecTest, MovingTheOnlyRowAwaySelectsNothing) {
+    program.Add(2, {{L"E", L"http://e.hu"}});
+    program.ClickTab(2);
+    program.ClickRow(1);
+    const DialogOnScreen dialog = Open();
+    dialog.Pick(ID_frmEditRec_cmbKateg, 11);
+    Accept(dialog);
+    MainState expected = EmptyState();
+    expected.SelectedTab = 2;
+    expected.Status[1] = L"megjelenítve (0 / 6)";
+    expected.Modified = true;
+    EXPECT_EQ(program.State(), expected);
+}
+
+TEST_F(frmEditRecTest, MovingForgetsTheMarksOfTheSourceOnly) {
+    program.ClickTab(3);
+    program.ClickBox(2);
+    program.ClickTab(1);
+    program.ClickBox(1);
+    program.ClickBox(3);
+    program.ClickRow(2);
+    const DialogOnScreen dialog = Open();
+    dialog.Pick(ID_frmEditRec_cmbKateg, 4);
+    Accept(dialog);
+    MainState expected = FirstCategory();
+    expected.Rows.erase(expected.Rows.begin() + 1);
+    expected.SelectedRow = 2;
+    expected.Status[1] = L"megjelenítve (2 / 5)";
+    expected.Modified = true;
+    EXPECT_EQ(program.State(), expected);
+    program.ClickTab(3);
+    EXPECT_EQ(program.State().Checked, std::vector<int>{2});
+    EXPECT_EQ(program.State().Status[2], L"bejelölve 1");
+    program.ClickTab(1);
+    EXPECT_EQ(program.State().Checked, std::vector<int>{});
+}
+
+TEST_F(frmEditRecTest, CancelLeavesListAndMarks) {
+    program.ClickBox(1);
+    program.ClickRow(3);
+    const MainState before = program.State();
+    for (const int way : {ID_frmEditRec_Command1, IDCANCEL}) {
+        const DialogOnScreen dialog = Open();
+        dialog.SetText(ID_frmEditRec_txtDesc, L"más");
+        PostMessageW(dialog.Handle(), WM_COMMAND, static_cast<WPARAM>(way), 0);
+        dialog.WaitForClose();
+        program.Settle();
+        EXPECT_EQ(program.State(), before);
+    }
+}
+
+TEST_F(frmEditRecTest, MissingFieldsAndForeignCharactersAreRefused) {
+    program.ClickRow(1);
+    const MainState before = program.State();
+    const DialogOnScreen dialog = Open();
+    dialog.SetText(ID_frmEditRec_txtDesc, L" ");
+    dialog.Click(ID_frmEditRec_cmdOk);
+    const BoxOnScreen missing = program.Box();
+    EXPECT_EQ(missing.Title(), L"Nem töltött ki minden mezőt");
+    EXPECT_EQ(missing.Text(), L"Kérem előbb töltse ki a szükséges mezőket!");
+    missing.Press(IDOK);
+    program.Settle();
+    dialog.SetText(ID_frmEditRec_txtDesc, L"漢");
+    dialog.Click(ID_frmEditRec_cmdOk);
+    const BoxOnScreen foreign = program.Box();
+    EXPECT_EQ(foreign.Title(), L"Hiba");
+    EXPECT_EQ(foreign.Text(), L"Ezt a karaktert a könyv nem tudja tárolni: „漢” (U+6F22)");
+    foreign.Press(IDOK);
+    program.Settle();
+    EXPECT_EQ(dialog.Focus(), ID_frmEditRec_txtDesc);
+    EXPECT_EQ(dialog.Text(ID_frmEditRec_txtDesc), L"漢");
+    dialog.Cancel();
+    dialog.WaitForClose();
+    program.Settle();
+    EXPECT_EQ(program.State(), before);
+}
+
+}  // namespace
+}  // namespace lindrel::testing
