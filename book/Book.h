@@ -72,6 +72,9 @@ class Book {
     // of that entry changes or the book is replaced.
     std::string_view SiteNames(int index) const { return entries_.At(index).SiteName; }
     std::string_view SiteURLs(int index) const { return entries_.At(index).URL; }
+    // Both texts. A copy of them stays readable whatever happens to the book while Texts() is kept.
+    const AddressEntry& Entry(int index) const { return entries_.At(index); }
+    std::shared_ptr<const TextStore> Texts() const { return entries_.SharedTexts(); }
     // Size of the entry sequence. Never decide emptiness by it: a book without entries keeps one blank
     // element, or what a larger book left behind.
     int UpperBound() const { return entries_.Size(); }

@@ -1,0 +1,65 @@
+#include "find/EntrySearch.h"
+
+#include <algorithm>
+#include <optional>
+#include <string>
+
+namespace lindrel {
+
+namespace {
+
+constexpr std::string_view kWebHost = "http://www";
+constexpr std::size_t kBehindScheme = 4;
+constexpr std::size_t kBehindWebHost = 11;
+const CaselessNeedle web_host_needle(kWebHost);
+
+// Nothing when the text holds a character that no name or address can hold.
+std::optional<CaselessNeedle> NeedleOf(std::wstring_view typed) {
+    if (FirstForeignCharacter(typed)) return std::nullopt;
+    return CaselessNeedle(ToBookText(typed));
+}
+
+// Asks each entry of the book for its place among the hits.
+template <typename Accepts>
+Hits Collect(const Book& book, const Accepts& accepts) {
+    Hits hits{.Items = {}, .Texts = book.Texts()};
+    // A book that was loaded with too few headers may count entries that it does not have.
+    const int last = std::min(book.EntryCount(), book.UpperBound());
+    int category = 1;
+    for (int i = 1; i <= last; ++i) {
+        while (category < kCategories && book.CategoryStarts(category + 1) <= i) ++category;
+        const AddressEntry& entry = book.Entry(i);
+        if (accepts(entry)) hits.Items.push_back({i, category, entry});
+    }
+    return hits;
+}
+
+}  // namespace
+
+bool CarriesEnding(std::string_view url, const CaselessNeedle& ending) {
+    const bool on_web_host = web_host_needle.IsIn(url.substr(0, kWebHost.size()));
+    return ending.FindIn(url, on_web_host ? kBehindWebHost : kBehindScheme) != std::string_view::npos;
+}
+
+Hits FindEntries(const Book& book, std::wstring_view what, std::wstring_view ending) {
+    const std::optional<CaselessNeedle> name_part = NeedleOf(what);
+    const std::optional<CaselessNeedle> url_part = NeedleOf(L"." + std::wstring(ending));
+    if (!name_part || !url_part) return {};
+    if (ending.empty())
+        return Collect(book, [&](const AddressEntry& entry) { return name_part->IsIn(entry.SiteName); });
+    return Collect(book, [&](const AddressEntry& entry) {
+        return name_part->IsIn(entry.SiteName) && CarriesEnding(entry.URL, *url_part);
+    });
+}
+
+void FindInCategory(const Book& book, std::wstring_view text, int category, std::int16_t& position) {
+    const std::optional<CaselessNeedle> needle = NeedleOf(text);
+    while (needle && position < book.CategoryCounts(category)) {
+        const bool found = needle->IsIn(book.SiteNames(book.CategoryStarts(category) + position));
+        ++position;
+        if (found) return;
+    }
+    position = 0;
+}
+
+}  // namespace lindrel

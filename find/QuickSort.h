@@ -1,0 +1,36 @@
+// Sorting in place between two indices.
+#pragma once
+
+#include <span>
+#include <utility>
+
+#include "book/Faults.h"
+
+namespace lindrel {
+
+// Sorts the values low..high (0-based, both included) into ascending order by their "<"; equal values may
+// change places. Nothing happens without values or when high is not greater than low. Throws RangeFault, and
+// has changed nothing, for indices beyond the values.
+template <typename Value>
+void QuickSort(std::span<Value> values, int low, int high) {
+    if (values.empty() || high <= low) return;
+    if (low < 0 || high >= static_cast<int>(values.size())) throw RangeFault();
+    const auto at = [values](int index) -> Value& { return values[static_cast<std::size_t>(index)]; };
+
+    const Value pivot = at(low + (high - low) / 2);
+    int i = low;
+    int j = high;
+    while (i <= j) {
+        while (at(i) < pivot && i < high) ++i;
+        while (pivot < at(j) && j > low) --j;
+        if (i <= j) {
+            std::swap(at(i), at(j));
+            ++i;
+            --j;
+        }
+    }
+    if (low < j) QuickSort(values, low, j);
+    if (i < high) QuickSort(values, i, high);
+}
+
+}  // namespace lindrel

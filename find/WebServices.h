@@ -1,0 +1,29 @@
+// The search services on the internet that the search box offers: the one place that knows their addresses.
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+
+namespace lindrel {
+
+struct WebService {
+    std::wstring_view Name;    // as the user chooses it
+    std::wstring_view Prefix;  // what stands before the words searched for
+};
+
+// By their place in the choice. The first, empty one means: search the book.
+inline constexpr std::array<WebService, 6> kWebServices{{
+    {L"", L""},
+    {L"AltaVista", L"https://search.yahoo.com/search?fr=altavista&p="},
+    {L"Lycos", L"https://search.lycos.com/web/?q="},
+    {L"Excite", L"http://search.excite.com/search.gw?searchType=Concept&search="},
+    {L"Yahoo", L"https://search.yahoo.com/search?p="},
+    {L"Altavizsla - hu!", L"https://www.altavizsla.hu/search?q="},
+}};
+
+// The address that shows what a service (1..5; RangeFault otherwise) finds. The text is appended exactly as
+// typed, blanks and accented letters included (intended: the shell and the browser encode it).
+std::wstring ServiceAddress(int service, std::wstring_view text);
+
+}  // namespace lindrel

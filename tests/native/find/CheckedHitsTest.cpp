@@ -1,0 +1,90 @@
+#include "find/CheckedHits.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace lindrel {
+namespace {
+
+// Categories 2, 5 and 12 with three entries each: indices 1 to 9.
+Book NineEntries() {
+    Book book;
+    for (const int category : {2, 5, 12}) {
+        book.NewEntries.clear();
+        for (int i = 1; i <= 3; ++i)
+            book.NewEntries.push_back({"n" + std::to_string(category) + "." + std::to_string(i), "u"});
+        book.AddEntry(category);
+    }
+    return book;
+}
+
+std::vector<std::string> NamesOf(const Book& book) {
+    std::vector<std::string> names;
+    for (int k = 1; k <= kCategories; ++k)
+        for (const AddressEntry& entry : book.RowsOf(k).Entries) names.emplace_back(entry.SiteName);
+    return names;
+}
+
+TEST(CheckedHitsTest, DeletesExactlyTheEntries) {
+    Book book = NineEntries();
+    DeleteEntries(book, {1, 3, 4, 5, 9});
+    EXPECT_EQ(NamesOf(book), (std::vector<std::string>{"n2.2", "n5.3", "n12.1", "n12.2"}));
+    EXPECT_EQ(book.CategoryCounts(2), 1);
+    EXPECT_EQ(book.CategoryCounts(5), 1);
+    EXPECT_EQ(book.CategoryCounts(12), 2);
+    EXPECT_EQ(book.EntryCount(), 4);
+}
+
+TEST(CheckedHitsTest, DeletingEverythingLeavesAnEmptyBook) {
+    Book book = NineEntries();
+    DeleteEntries(book, {1, 2, 3, 4, 5, 6, 7, 8, 9});
+    EXPECT_TRUE(book.IsEmpty());
+    EXPECT_EQ(book.EntryCount(), 0);
+    EXPECT_EQ(book.UpperBound(), 1);
+}
+
+TEST(CheckedHitsTest, DeletingNothingChangesNothing) {
+    Book book = NineEntries();
+    DeleteEntries(book, {});
+    EXPECT_EQ(NamesOf(book), NamesOf(NineEntries()));
+}
+
+TEST(CheckedHitsTest, ChecksExactlyTheEntriesInTheirCategories) {
+    Book book = NineEntries();
+    book.SavedCheckCounts(1) = 2;
+    book.SavedCheckLists(1) = {4, 5};
+    book.SavedCheckCounts(5) = 3;
+    book.SavedCheckLists(5) = {1, 2, 3};
+    book.CheckedCount = 3;
+    CheckOnly(book, {1, 3, 5}, 2);
+
+    PerCategory<std::int16_t> counts;
+    counts(2) = 2;
+    counts(5) = 1;
+    EXPECT_EQ(book.SavedCheckCounts, counts);
+    EXPECT_EQ(book.SavedCheckLists(2), (std::vector<std::int16_t>{1, 3}));
+    EXPECT_EQ(book.SavedCheckLists(5), std::vector<std::int16_t>{2});
+    EXPECT_EQ(book.CheckedCount, 2);
+}
+
+TEST(CheckedHitsTest, TheShownCategoryMayHaveNoneOfThem) {
+    Book book = NineEntries();
+    book.CheckedCount = 1;
+    CheckOnly(book, {9}, 5);
+    EXPECT_EQ(book.CheckedCount, 0);
+    EXPECT_EQ(book.SavedCheckLists(12), std::vector<std::int16_t>{3});
+}
+
+TEST(CheckedHitsTest, NoneClearsEveryCheckMark) {
+    Book book = NineEntries();
+    book.SavedCheckCounts(2) = 1;
+    book.SavedCheckLists(2) = {2};
+    book.CheckedCount = 1;
+    CheckOnly(book, {}, 2);
+    EXPECT_EQ(book.SavedCheckCounts, PerCategory<std::int16_t>());
+    EXPECT_EQ(book.CheckedCount, 0);
+}
+
+}  // namespace
+}  // namespace lindrel

@@ -1,0 +1,217 @@
+#include "find/EntrySearch.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace lindrel {
+namespace {
+
+// Names and addresses in wide text; the book's own form is not readable in a source file.
+using Row = std::pair<std::wstring, std::wstring>;
+
+void Add(Book& book, int category, const std::vector<Row>& rows) {
+    book.NewEntries.clear();
+    for (const auto& [name, url] : rows) book.NewEntries.push_back({ToBookText(name), ToBookText(url)});
+    book.AddEntry(category);
+}
+
+Book HungarianBook() {
+    Book book;
+    Add(book, 1, {{L"MŰSOR", L"http://musor.hu"}, {L"Időjárás", L"http://www.idojaras.com"}});
+    Add(book, 4, {{L"űrhajó", L"http://www.URHAJO.HU/Musor"}});
+    Add(book, 12, {{L"", L"http://ures.hu"}, {L"Árvíztűrő tükörfúrógép", L"ftp://gep.gov"}});
+    return book;
+}
+
+std::vector<int> IndicesOf(const Hits& hits) {
+    std::vector<int> indices;
+    for (const Hit& hit : hits.Items) indices.push_back(hit.Index);
+    return indices;
+}
+
+TEST(EntrySearchTest, FindsNamesInBookOrderWithTheirCategories) {
+    const Book book = HungarianBook();
+    const std::vector<Hit> expected = {{1, 1, book.Entry(1)}, {3, 4, book.Entry(3)}, {5, 12, book.Entry(5)}};
+    EXPECT_EQ(FindEntries(book, L"ű", L"").Items, expected);
+}
+
+TEST(EntrySearchTest, LetterCaseIsNotLookedAt) {
+    const Book book = HungarianBook();
+    EXPECT_EQ(IndicesOf(FindEntries(book, L"ű", L"")), (std::vector<int>{1, 3, 5}));
+    EXPECT_EQ(IndicesOf(FindEntries(book, L"Ű", L"")), (std::vector<int>{1, 3, 5}));
+    EXPECT_EQ(IndicesOf(FindEntries(book, L"műsor", L"")), std::vector<int>{1});
+    EXPECT_EQ(IndicesOf(FindEntries(book, L"IDŐJÁRÁS", L"")), std::vector<int>{2});
+    EXPECT_EQ(IndicesOf(FindEntries(book, L"TŰRŐ TÜKÖR", L"")), std::vector<int>{5});
+}
+
+TEST(EntrySearchTest, ALetterIsNotItsUnaccentedOne) {
+    const Book book = HungarianBook();
+    EXPECT_EQ(IndicesOf(FindEntries(book, L"musor", L"")), std::vector<int>{});
+    EXPECT_EQ(IndicesOf(FindEntries(book, L"ü", L"")), std::vector<int>{5});
+}
+
+TEST(EntrySearchTest, OnlyNamesAreSearched) {
+    EXPECT_EQ(IndicesOf(FindEntries(HungarianBook(), L"http", L"")), std::vector<int>{});
+}
+
+TEST(EntrySearchTest, AnEmptyTextIsInEveryNameAlsoInAnEmptyOne) {
+    EXPECT_EQ(IndicesOf(FindEntries(HungarianBook(), L"", L"")), (std::vector<int>{1, 2, 3, 4, 5}));
+}
+
+TEST(EntrySearchTest, AnEndingAloneListsEveryAddressThatCarriesIt) {
+    const Book book = HungarianBook();
+    EXPECT_EQ(IndicesOf(FindEntries(book, L"", L"hu")), (std::vector<int>{1, 3, 4}));
+    EXPECT_EQ(IndicesOf(FindEntries(book, L"", L"HU")), (std::vector<int>{1, 3, 4}));
+    EXPECT_EQ(IndicesOf(FindEntries(book, L"", L"com")), std::vector<int>{2});
+    EXPECT_EQ(IndicesOf(FindEntries(book, L"", L"gov")), std::vector<int>{5});
+    EXPECT_EQ(IndicesOf(FindEntries(book, L"", L"net")), std::vector<int>{});
+}
+
+TEST(EntrySearchTest, AnEndingNarrowsTheNames) {
+    const Book book = HungarianBook();
+    EXPECT_EQ(IndicesOf(FindEntries(book, L"ű", L"hu")), (std::vector<int>{1, 3}));
+    EXPECT_EQ(IndicesOf(FindEntries(book, L"Ő", L"com")), std::vector<int>{2});
+}
+
+TEST(EntrySearchTest, WhatNoBookCanHoldFindsNothingNotEvenQuestionMarks) {
+    Book book;
+    Add(book, 1, {{L"Mi ez?", L"http://a.?"}});
+    EXPECT_EQ(IndicesOf(FindEntries(book, L"?", L"?")), std::vector<int>{1});
+    EXPECT_EQ(IndicesOf(FindEntries(book, L"ж", L"")), std::vector<int>{});
+    EXPECT_EQ(IndicesOf(FindEntries(book, L"", L"ж")), std::vector<int>{});
+}
+
+TEST(EntrySearchTest, EmptyBooksHaveNoHits) {
+    Book book;
+    EXPECT_EQ(IndicesOf(FindEntries(book, L"", L"")), std::vector<int>{});
+    // The last deletion leaves one blank element behind, which is no entry.
+    Add(book, 3, {{L"Egy", L"http://egy.hu"}});
+    book.DeleteEntry(3, 1, 1);
+    EXPECT_EQ(IndicesOf(FindEntries(book, L"", L"")), std::vector<int>{});
+    // So does an emptied book.
+    Add(book, 3, {{L"Egy", L"http://egy.hu"}, {L"Kettő", L"http://ketto.hu"}});
+    book.Reset();
+    EXPECT_EQ(IndicesOf(FindEntries(book, L"", L"")), std::vector<int>{});
+}
+
+TEST(EntrySearchTest, HitsStayReadableWhenTheirEntriesAreGone) {
+    Book book;
+    Add(book, 2, {{L"Műsor", L"http://musor.hu"}});
+    const Hits hits = FindEntries(book, L"ŰS", L"");
+    book.DeleteEntry(2, 1, 1);
+    Add(book, 2, {{L"Más", L"http://mas.hu"}});
+    ASSERT_EQ(hits.Items.size(), 1u);
+    EXPECT_EQ(FromBookText(hits.Items[0].Entry.SiteName), L"Műsor");
+    EXPECT_EQ(FromBookText(hits.Items[0].Entry.URL), L"http://musor.hu");
+}
+
+struct EndingCase {
+    const char* url;
+    const char* ending;
+    bool carries;
+};
+
+TEST(EntrySearchTest, TheEndingRule) {
+    const EndingCase cases[] = {
+        // Plain hosts.
+        {"http://index.hu", ".hu", true},
+        {"http://index.hu/", ".hu", true},
+        {"http://index.com", ".hu", false},
+        {"HTTP://INDEX.HU", ".hu", true},
+        {"http://www.index.hu", ".hu", true},
+        {"HTTP://WWW.INDEX.HU", ".hu", true},
+        // The host behind "www." may begin like the ending.
+        {"http://www.hungary.com", ".hu", false},
+        {"http://www.hungary.hu", ".hu", true},
+        {"HTTP://WWW.HUNGARY.COM", ".hu", false},
+        {"http://www.hu", ".hu", false},
+        {"http://www.com.hu", ".com", false},
+        {"http://www.a.hu", ".hu", true},
+        // Any host that begins with "www" counts as one with its dot; the search starts at the same place.
+        {"http://www2.hu", ".hu", true},
+        {"http://www.", ".hu", false},
+        {"http://www", ".hu", false},
+        // Only "http" is known to have "www."; elsewhere the host may match.
+        {"https://www.hungary.com", ".hu", true},
+        {"ftp://www.hungary.com", ".hu", true},
+        {"www.hungary.com", ".hu", false},
+        {"http://hungary.com", ".hu", false},
+        {"http://x.hungary.com", ".hu", true},
+        // One-letter hosts, and places around the fifth character, where the search starts.
+        {"http://x.hu/lap", ".hu", true},
+        {"a.hu", ".hu", false},
+        {"abc.hu", ".hu", false},
+        {"abcd.hu", ".hu", true},
+        {"abcde.hu", ".hu", true},
+        // An ending in the path or within a longer word.
+        {"http://pelda.com/lap.hu/index.html", ".hu", true},
+        {"http://www.pelda.com/lap.hu", ".hu", true},
+        {"http://pelda.human.org", ".hu", true},
+        {"mailto:valaki@pelda.hu", ".hu", true},
+        // Endings of several parts and of accented letters.
+        {"http://bolt.co.uk/", ".co.uk", true},
+        {"http://bolt.uk/", ".co.uk", false},
+        {"http://pelda.\xD5", ".\xF5", true},
+        {"", ".hu", false},
+    };
+    for (const EndingCase& tried : cases)
+        EXPECT_EQ(CarriesEnding(tried.url, CaselessNeedle(tried.ending)), tried.carries)
+            << tried.url << " and " << tried.ending;
+}
+
+// Steps of a search, one after the other, from the position that the last left behind.
+std::vector<int> Steps(const Book& book, std::wstring_view text, int category, int steps) {
+    std::vector<int> positions;
+    std::int16_t position = 0;
+    for (int step = 0; step < steps; ++step) {
+        FindInCategory(book, text, category, position);
+        positions.push_back(position);
+    }
+    return positions;
+}
+
+TEST(EntrySearchTest, StepsWalkThroughTheCategoryAndStartAgain) {
+    Book book;
+    Add(book, 1, {{L"ab", L""}});
+    Add(book, 2, {{L"első", L"http://ab.hu"}, {L"kABát", L""}, {L"harmadik", L""}, {L"AB", L""}});
+    Add(book, 3, {{L"ab", L""}});
+    EXPECT_EQ(Steps(book, L"ab", 2, 4), (std::vector<int>{2, 4, 0, 2}));
+    EXPECT_EQ(Steps(book, L"nincs", 2, 2), (std::vector<int>{0, 0}));
+    EXPECT_EQ(Steps(book, L"ab", 5, 1), std::vector<int>{0});
+}
+
+TEST(EntrySearchTest, StepsKnowHungarianLetters) {
+    Book book;
+    Add(book, 7, {{L"ŐSZI VÁSÁR", L""}, {L"tűz", L""}, {L"TŰZ", L""}});
+    EXPECT_EQ(Steps(book, L"őszi vásár", 7, 2), (std::vector<int>{1, 0}));
+    EXPECT_EQ(Steps(book, L"Tűz", 7, 3), (std::vector<int>{2, 3, 0}));
+    EXPECT_EQ(Steps(book, L"жт", 7, 1), std::vector<int>{0});
+}
+
+TEST(EntrySearchTest, AStepGoesOnFromWhereAnotherCategoryWasLeft) {
+    Book book;
+    Add(book, 1, {{L"x", L""}, {L"y", L""}, {L"műsor", L""}});
+    Add(book, 2, {{L"műsor", L""}, {L"z", L""}, {L"z", L""}, {L"Műsor", L""}});
+    Add(book, 3, {{L"műsor", L""}});
+    std::int16_t position = 0;
+    FindInCategory(book, L"műsor", 1, position);
+    EXPECT_EQ(position, 3);
+    FindInCategory(book, L"műsor", 2, position);
+    EXPECT_EQ(position, 4);
+    // Behind the end of a shorter one there is nothing.
+    FindInCategory(book, L"műsor", 3, position);
+    EXPECT_EQ(position, 0);
+}
+
+TEST(EntrySearchTest, TheLastEntryOfTheLargestBookIsFound) {
+    Book book;
+    book.NewEntries.assign(kMostEntries - 1, {"x", "http://x.hu"});
+    book.NewEntries.push_back({ToBookText(L"utolsó ŰR"), "http://utolso.hu"});
+    book.AddEntry(1);
+    EXPECT_EQ(IndicesOf(FindEntries(book, L"űr", L"hu")), std::vector<int>{kMostEntries});
+    EXPECT_EQ(Steps(book, L"űr", 1, 2), (std::vector<int>{kMostEntries, 0}));
+}
+
+}  // namespace
+}  // namespace lindrel

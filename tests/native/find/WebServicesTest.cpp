@@ -1,0 +1,39 @@
+#include "find/WebServices.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "book/Faults.h"
+
+namespace lindrel {
+namespace {
+
+TEST(WebServicesTest, SixChoicesTheFirstEmpty) {
+    std::vector<std::wstring_view> names;
+    for (const WebService& service : kWebServices) names.push_back(service.Name);
+    EXPECT_EQ(names, (std::vector<std::wstring_view>{L"", L"AltaVista", L"Lycos", L"Excite", L"Yahoo",
+                                                     L"Altavizsla - hu!"}));
+}
+
+TEST(WebServicesTest, TheTextFollowsThePrefixAsTyped) {
+    EXPECT_EQ(ServiceAddress(3, L"két szó"),
+              L"http://search.excite.com/search.gw?searchType=Concept&search=két szó");
+    EXPECT_EQ(ServiceAddress(4, L"ŰR & 100% +?#"), L"https://search.yahoo.com/search?p=ŰR & 100% +?#");
+}
+
+TEST(WebServicesTest, EveryServiceHasAWebAddressOfItsOwn) {
+    for (int service = 1; service < static_cast<int>(kWebServices.size()); ++service) {
+        const std::wstring prefix = ServiceAddress(service, L"");
+        EXPECT_TRUE(prefix.starts_with(service == 3 ? L"http://" : L"https://")) << service;
+        EXPECT_TRUE(prefix.ends_with(L'=')) << service;
+        for (int other = 1; other < service; ++other) EXPECT_NE(prefix, ServiceAddress(other, L""));
+    }
+}
+
+TEST(WebServicesTest, TheEmptyChoiceAndPlacesBeyondHaveNoAddress) {
+    for (const int service : {-1, 0, 6}) EXPECT_THROW(ServiceAddress(service, L"x"), RangeFault);
+}
+
+}  // namespace
+}  // namespace lindrel
