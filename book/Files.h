@@ -20,6 +20,9 @@ void WriteFileBytes(const std::filesystem::path& path, std::string_view bytes);
 // is as it was and no temporary file is left.
 void ReplaceFileBytes(const std::filesystem::path& path, std::string_view bytes);
 
+// A path as text for the user.
+std::wstring WideText(const std::filesystem::path& path);
+
 // The part of a path after its last backslash, without blanks at its ends; without a backslash the whole
 // path.
 std::wstring FileNameOf(std::wstring_view path);

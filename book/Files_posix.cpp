@@ -16,7 +16,7 @@ namespace {
 
 [[noreturn]] void Fail(const std::filesystem::path& path, int error = errno) {
     const std::string reason = std::strerror(error);
-    throw FileFault(path.wstring(), std::wstring(reason.begin(), reason.end()));
+    throw FileFault(WideText(path), std::wstring(reason.begin(), reason.end()));
 }
 
 class File {
@@ -88,6 +88,11 @@ class File {
 
 }  // namespace
 
+std::wstring WideText(const std::filesystem::path& path) {
+    const std::u32string characters = path.u32string();
+    return {characters.begin(), characters.end()};
+}
+
 std::vector<char> ReadFileBytes(const std::filesystem::path& path) {
     const File file(path, O_RDONLY, 0);
     std::vector<char> bytes(static_cast<std::size_t>(file.Status().st_size));
@@ -117,7 +122,7 @@ void ReplaceFileBytes(const std::filesystem::path& path, std::string_view bytes)
         if (::rename(temporary.c_str(), path.c_str()) != 0) Fail(path);
     } catch (const FileFault& fault) {
         ::unlink(temporary.c_str());
-        throw FileFault(path.wstring(), fault.Meaning());
+        throw FileFault(WideText(path), fault.Meaning());
     }
 }
 

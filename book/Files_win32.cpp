@@ -28,7 +28,7 @@ std::wstring ReasonOf(DWORD error) {
 }
 
 [[noreturn]] void Fail(const std::filesystem::path& path, DWORD error = GetLastError()) {
-    throw FileFault(path.wstring(), ReasonOf(error));
+    throw FileFault(WideText(path), ReasonOf(error));
 }
 
 class File {
@@ -112,6 +112,10 @@ void PutInPlace(const std::filesystem::path& temporary, const std::filesystem::p
 
 }  // namespace
 
+std::wstring WideText(const std::filesystem::path& path) {
+    return path.wstring();
+}
+
 std::vector<char> ReadFileBytes(const std::filesystem::path& path) {
     const File file(path, GENERIC_READ, FILE_SHARE_READ, OPEN_EXISTING);
     std::vector<char> bytes(file.Size());
@@ -140,7 +144,7 @@ void ReplaceFileBytes(const std::filesystem::path& path, std::string_view bytes)
     } catch (const FileFault& fault) {
         // Not there when it could not be created.
         static_cast<void>(DeleteFileW(temporary.c_str()));
-        throw FileFault(path.wstring(), fault.Meaning());
+        throw FileFault(WideText(path), fault.Meaning());
     }
 }
 

@@ -1,5 +1,6 @@
 #include "edit/CheckedRuns.h"
 
+#include <ranges>
 #include <utility>
 
 namespace lindrel {
@@ -25,8 +26,8 @@ void DeleteRuns(Book& book, int category, const std::vector<RowRun>& runs) {
 
 void MoveRuns(Book& book, int source, const std::vector<RowRun>& runs, int destination) {
     std::vector<NewEntry> staged;
-    for (auto run = runs.rbegin(); run != runs.rend(); ++run)
-        for (int position = run->Position; position < run->Position + run->Count; ++position) {
+    for (const RowRun& run : std::views::reverse(runs))
+        for (int position = run.Position; position < run.Position + run.Count; ++position) {
             const int index = book.IndexOf(source, position);
             staged.push_back({std::string(book.SiteNames(index)), std::string(book.SiteURLs(index))});
         }

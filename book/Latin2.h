@@ -1,0 +1,14 @@
+// ISO 8859-2, the encoding of exported pages and of some imported ones.
+#pragma once
+
+#include <optional>
+
+namespace lindrel {
+
+// The byte of a character (a UTF-32 value), or nothing when ISO 8859-2 lacks it.
+std::optional<char> Latin2Byte(char32_t character);
+
+// The UTF-32 value of a byte.
+char32_t Latin2Character(char byte);
+
+}  // namespace lindrel

@@ -1,0 +1,64 @@
+#include "export/Favorites.h"
+
+#include <string>
+#include <vector>
+
+#include "book/BookText.h"
+
+#include "book/Files.h"
+#include "export/ExportedEntries.h"
+#include "export/Shortcut.h"
+
+namespace lindrel {
+
+namespace {
+
+struct ShortcutToWrite {
+    int Entry;
+    std::string SafeName;
+    std::filesystem::path Folder;
+};
+
+// Book text as a path, in whatever encoding this system has for them.
+std::filesystem::path PathOf(std::string_view text) {
+    std::u32string characters;
+    for (const char byte : text) characters.push_back(CharacterOf(byte));
+    return characters;
+}
+
+std::vector<ShortcutToWrite> PlanShortcuts(const Book& book, const std::filesystem::path& folder,
+                                           bool folder_for_each_category) {
+    std::vector<ShortcutToWrite> plan;
+    for (int c = 1; c <= kCategories; ++c) {
+        if (!IsExported(book, c)) continue;
+        const std::filesystem::path target =
+            folder_for_each_category ? folder / PathOf(SafeFolderName(book.CategoryNames(c))) : folder;
+        for (const int e : ExportedEntries(book, c)) {
+            std::string name(book.SiteNames(e));
+            SafeFileName(name);
+            plan.push_back({e, std::move(name), target});
+        }
+    }
+    return plan;
+}
+
+void CreateFolder(const std::filesystem::path& folder) {
+    std::error_code error;
+    std::filesystem::create_directory(folder, error);
+    if (error && !std::filesystem::is_directory(folder))
+        throw FileFault(WideText(folder), L"A mappa nem hozható létre");
+}
+
+}  // namespace
+
+void saveTo_fav(Book& book, const std::filesystem::path& folder, bool folder_for_each_category) {
+    const std::vector<ShortcutToWrite> plan = PlanShortcuts(book, folder, folder_for_each_category);
+    for (const ShortcutToWrite& shortcut : plan) {
+        if (folder_for_each_category) CreateFolder(shortcut.Folder);
+        WriteFileBytes(shortcut.Folder / PathOf(shortcut.SafeName + ".url"),
+                       ShortcutFile(book.SiteURLs(shortcut.Entry)));
+    }
+    for (const ShortcutToWrite& shortcut : plan) book.SetSiteName(shortcut.Entry, shortcut.SafeName);
+}
+
+}  // namespace lindrel

@@ -1,0 +1,105 @@
+#include "export/HtmlPage.h"
+
+#include <utility>
+
+#include "Version.h"
+#include "book/BookText.h"
+#include "export/ExportedEntries.h"
+#include "export/HtmlText.h"
+
+namespace lindrel {
+
+namespace {
+
+constexpr std::size_t kMostFields = 6;
+constexpr std::size_t kHeadLine = 5;  // the fragment that only themes have
+constexpr std::string_view kOpenRow = "<tr><td>";
+
+bool ContainsRow(std::string_view fragment) {
+    return CaselessNeedle("<tr>").IsIn(fragment);
+}
+
+class PageWriter {
+  public:
+    PageWriter(const Book& book, const PageStyle& style, const ByteSink& out)
+        : book_(book), style_(style), out_(out) {
+        for (const std::string& part : style.ThemeParts) parts_.push_back(HtmlFragment(part));
+        // A row is opened with each table's line; this second one is intended.
+        if (!ContainsRow(parts_.at(3))) parts_.at(3).append("\r\n").append(kOpenRow);
+    }
+
+    void Write() {
+        WriteHead();
+        Line(parts_.at(0));
+        for (int c = 1; c <= kCategories; ++c)
+            if (IsExported(book_, c)) WriteCategory(c);
+        Text("</TABLE><BR><BR><BR></BODY></HTML>");
+    }
+
+  private:
+    void Text(std::string_view text) { out_(text); }
+    void Line(std::string_view text) { out_(std::string(text) + "\r\n"); }
+
+    void WriteHead() {
+        // Single slashes, the missing quotation marks and the mixed case are intended: readers of old pages
+        // know them.
+        Line(R"(<!DOCTYPE HTML PUBLIC "-/W3C/DTD HTML 4.0 Transitional/EN">)");
+        Line("<html><head>");
+        if (parts_.size() > kHeadLine) Line(parts_[kHeadLine]);
+        Line("<TITLE>" + HtmlText(style_.Title) + "</TITLE>");
+        Line("<meta http-equiv=Content-Type content=text/html; charset=iso-8859-2>");
+        Line(R"(<META NAME="GENERATOR" content="Lindrel - )" LINDREL_HOME_PAGE R"(">)");
+        if (!style_.ThemeApplied) Line(R"(<BASEFONT FACE="Arial,Helvetica">)");
+        Text("</HEAD><BODY ");
+        if (!style_.ThemeApplied)
+            Text("BGCOLOR=" + style_.Background + R"( link="#725E50" vlink="#990000" alink="#ff0000" text=)" +
+                 style_.Text);
+        Line("><BR><BR>");
+    }
+
+    void WriteCategory(int category) {
+        Line(parts_.at(1) + HtmlText(book_.CategoryNames(category)) + parts_.at(2));
+        Line("</TD></TR>");
+        Line("<TR><TD>");
+        Line(parts_.at(3) + "\r\n" + std::string(kOpenRow));
+        for (const int e : ExportedEntries(book_, category))
+            Line("<A HREF=" + HtmlAddress(book_.SiteURLs(e)) + ">" + HtmlText(book_.SiteNames(e)) +
+                 "</A><BR>");
+        Line(parts_.at(4) + "</td></tr></table></TD></TR>");
+    }
+
+    const Book& book_;
+    const PageStyle& style_;
+    const ByteSink& out_;
+    Fragments parts_;
+};
+
+}  // namespace
+
+Fragments DefaultThemeParts() {
+    return {
+        "<table border=0 cellspacing=0 cellpadding=1 bgcolor=#155BBB>",
+        R"(<tr><td bgcolor=#655BBB><font color=#FFFFFF size=1 face="verdana,arial, helvetica"><b>)",
+        "<B></FONT>",  // no end tag for the bold face (intended, pages have always looked so)
+        R"(<table width=100% bgcolor="FFFFFF" cellpadding=5 cellspacing=0 border=0>)",
+        "",
+    };
+}
+
+Fragments ApplyTheme(Fragments parts, std::string_view theme_file) {
+    std::size_t field = 0;
+    for (std::size_t end = theme_file.find('^'); end != std::string_view::npos; end = theme_file.find('^')) {
+        if (field == kMostFields) throw RangeFault();
+        if (field == parts.size()) parts.emplace_back();
+        parts.at(field) = theme_file.substr(0, end);
+        theme_file.remove_prefix(end + 1);
+        ++field;
+    }
+    return parts;
+}
+
+void WriteHtmlPage(const Book& book, const PageStyle& style, const ByteSink& out) {
+    PageWriter(book, style, out).Write();
+}
+
+}  // namespace lindrel

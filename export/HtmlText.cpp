@@ -1,0 +1,95 @@
+#include "export/HtmlText.h"
+
+#include "book/BookText.h"
+#include "book/Latin2.h"
+
+namespace lindrel {
+
+namespace {
+
+// Control characters above ASCII mean something else to browsers, whatever the encoding.
+constexpr char32_t kFirstControl = 0x80;
+constexpr char32_t kLastControl = 0x9F;
+
+constexpr std::string_view kEndsAnAddress = " \t\r\n\f'`";
+
+void AppendReference(std::string& html, char32_t character) {
+    html.append("&#").append(std::to_string(static_cast<unsigned long>(character))).append(";");
+}
+
+void AppendCharacter(std::string& html, char32_t character) {
+    const auto byte = Latin2Byte(character);
+    if (byte && (character < kFirstControl || character > kLastControl))
+        html.push_back(*byte);
+    else
+        AppendReference(html, character);
+}
+
+// False for a character that needs no escape.
+bool AppendEscaped(std::string& html, char32_t character) {
+    switch (character) {
+        case U'&':
+            html += "&amp;";
+            return true;
+        case U'<':
+            html += "&lt;";
+            return true;
+        case U'>':
+            html += "&gt;";
+            return true;
+        case U'"':
+            html += "&quot;";
+            return true;
+        default:
+            return false;
+    }
+}
+
+bool IsHighSurrogate(char32_t unit) {
+    return unit >= 0xD800 && unit <= 0xDBFF;
+}
+bool IsLowSurrogate(char32_t unit) {
+    return unit >= 0xDC00 && unit <= 0xDFFF;
+}
+
+}  // namespace
+
+std::string HtmlText(std::wstring_view text) {
+    constexpr char32_t kReplacement = 0xFFFD;
+    std::string html;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        auto character = static_cast<char32_t>(text[i]);
+        if (IsHighSurrogate(character) && i + 1 < text.size() &&
+            IsLowSurrogate(static_cast<char32_t>(text[i + 1])))
+            character = 0x10000 + ((character - 0xD800) << 10) + (static_cast<char32_t>(text[++i]) - 0xDC00);
+        else if (IsHighSurrogate(character) || IsLowSurrogate(character))
+            character = kReplacement;
+        if (!AppendEscaped(html, character)) AppendCharacter(html, character);
+    }
+    return html;
+}
+
+std::string HtmlText(std::string_view book_text) {
+    return HtmlText(FromBookText(book_text));
+}
+
+std::string HtmlAddress(std::string_view book_text) {
+    std::string html;
+    for (const char byte : book_text) {
+        const char32_t character = CharacterOf(byte);
+        if (AppendEscaped(html, character)) continue;
+        if (kEndsAnAddress.find(byte) != std::string_view::npos)
+            AppendReference(html, character);
+        else
+            AppendCharacter(html, character);
+    }
+    return html;
+}
+
+std::string HtmlFragment(std::string_view book_text) {
+    std::string html;
+    for (const char byte : book_text) AppendCharacter(html, CharacterOf(byte));
+    return html;
+}
+
+}  // namespace lindrel

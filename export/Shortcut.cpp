@@ -1,0 +1,64 @@
+#include "export/Shortcut.h"
+
+#include <algorithm>
+
+#include "book/BookText.h"
+#include "book/Faults.h"
+
+namespace lindrel {
+
+namespace {
+
+constexpr std::string_view kReplaced = "\\/:?";
+constexpr std::string_view kNotInFolderNames = "\\/:?*\"<>|";
+
+// Upper case of what a book can hold; anything else as it is.
+wchar_t UpperCase(wchar_t character) {
+    for (int number = 0; number < 256; ++number) {
+        const auto byte = static_cast<char>(number);
+        const char lower = LowerCase(byte);
+        if (lower != byte && CharacterOf(lower) == static_cast<char32_t>(character))
+            return static_cast<wchar_t>(CharacterOf(byte));
+    }
+    return character;
+}
+
+}  // namespace
+
+std::string ShortcutFile(std::string_view url) {
+    return "[InternetShortcut]\r\nURL=" + std::string(url);
+}
+
+void MakeShortcutFileName(std::string& name) {
+    for (char& byte : name)
+        if (kReplaced.find(byte) != std::string_view::npos) byte = '_';
+}
+
+void SafeFileName(std::string& name) {
+    constexpr std::size_t kLastPosition = 255;
+    if (name.find_first_of(kReplaced, kLastPosition) != std::string::npos) throw OverflowFault();
+    MakeShortcutFileName(name);
+}
+
+std::string SafeFolderName(std::string_view name) {
+    std::string safe(name);
+    for (char& byte : safe)
+        if (kNotInFolderNames.find(byte) != std::string_view::npos || static_cast<unsigned char>(byte) < ' ')
+            byte = '_';
+    if (!safe.empty() && (safe.back() == '.' || safe.back() == ' ')) safe.back() = '_';
+    return safe;
+}
+
+std::wstring DesktopPath(std::wstring_view folder) {
+    constexpr std::size_t kTakenUnseen = 5;
+    std::wstring path;
+    for (const wchar_t character : folder) {
+        const wchar_t upper = UpperCase(character);
+        const bool goes_on = upper == L'\\' || (upper >= L'A' && upper <= L'Z');
+        if (path.size() >= kTakenUnseen && !goes_on) break;
+        path.push_back(upper);
+    }
+    return path;
+}
+
+}  // namespace lindrel

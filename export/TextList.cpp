@@ -1,0 +1,36 @@
+#include "export/TextList.h"
+
+#include <string>
+
+#include "export/ExportedEntries.h"
+
+namespace lindrel {
+
+namespace {
+
+// Book text: division signs, a degree sign.
+constexpr std::string_view kHeaderStart = "\xF7\xF7\xF7\xF7\xF7< ";
+constexpr std::string_view kNameStart = "\xB0 ";
+constexpr std::string_view kAddressStart = "  ";
+constexpr std::string_view kLineEnd = "\r\n";
+// Name and dashes together, so that all headers are of one length.
+constexpr std::size_t kHeaderRest = 120;
+
+}  // namespace
+
+void WriteTextList(const Book& book, const ByteSink& out) {
+    for (int c = 1; c <= kCategories; ++c) {
+        if (!IsExported(book, c)) continue;
+        const std::string& name = book.CategoryNames(c);
+        if (name.size() > kHeaderRest) throw ArgumentFault();
+        std::string lines;
+        lines.append(kHeaderStart).append(name).append(kHeaderRest - name.size(), '-').append(kLineEnd);
+        for (const int e : ExportedEntries(book, c)) {
+            lines.append(kNameStart).append(book.SiteNames(e)).append(kLineEnd);
+            lines.append(kAddressStart).append(book.SiteURLs(e)).append(kLineEnd);
+        }
+        out(lines);
+    }
+}
+
+}  // namespace lindrel

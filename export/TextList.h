@@ -1,0 +1,13 @@
+// The export as a plain text list: a header line for each category, two lines for each entry.
+#pragma once
+
+#include "book/Book.h"
+#include "book/OutputFile.h"
+
+namespace lindrel {
+
+// Writes the checked entries in Windows-1250 with CR LF. Throws ArgumentFault at a category whose name is
+// longer than 120 characters; what stands before its header has been written then.
+void WriteTextList(const Book& book, const ByteSink& out);
+
+}  // namespace lindrel

@@ -1,0 +1,304 @@
+// The three writers, to the byte.
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <map>
+
+#include "book/Files.h"
+#include "export/Favorites.h"
+#include "export/HtmlPage.h"
+#include "export/HtmlText.h"
+#include "export/Shortcut.h"
+#include "export/TextList.h"
+
+namespace lindrel {
+namespace {
+
+class ExportTest : public ::testing::Test {
+  protected:
+    ExportTest() {
+        book.SetCategoryName(2, "H\xEDrek");
+        book.NewEntries = {{"M\xFBsor", "http://musor.hu/"},
+                           {"nem", "http://nem.hu"},
+                           {"\xC1llat", "http://allat.hu/a.htm"}};
+        book.AddEntry(2);
+        book.NewEntries = {{"X", "x"}};
+        book.AddEntry(5);
+    }
+    void Check(int category, std::vector<std::int16_t> positions) {
+        book.SavedCheckCounts(category) = static_cast<std::int16_t>(positions.size());
+        book.SavedCheckLists(category) = std::move(positions);
+    }
+    std::string TextList() const {
+        std::string bytes;
+        WriteTextList(book, [&](std::string_view piece) { bytes.append(piece); });
+        return bytes;
+    }
+    std::string Page(const PageStyle& style) const {
+        std::string bytes;
+        WriteHtmlPage(book, style, [&](std::string_view piece) { bytes.append(piece); });
+        return bytes;
+    }
+    static PageStyle White(const std::wstring& title) {
+        PageStyle style;
+        style.Title = title;
+        style.Background = "white";
+        style.Text = "black";
+        return style;
+    }
+
+    Book book;
+};
+
+TEST_F(ExportTest, ATextListHasAHeaderAndTwoLinesForEachEntry) {
+    Check(2, {1, 3});
+    EXPECT_EQ(TextList(),
+              "\xF7\xF7\xF7\xF7\xF7< H\xEDrek" + std::string(115, '-') +
+                  "\r\n\xB0 M\xFBsor\r\n  http://musor.hu/\r\n\xB0 \xC1llat\r\n  http://allat.hu/a.htm\r\n");
+}
+
+TEST_F(ExportTest, ATextListTakesTheCategoriesInTheirOrderWithHeadersOfOneLength) {
+    Check(2, {2});
+    Check(5, {1});
+    EXPECT_EQ(TextList(), "\xF7\xF7\xF7\xF7\xF7< H\xEDrek" + std::string(115, '-') +
+                              "\r\n\xB0 nem\r\n  http://nem.hu\r\n" + "\xF7\xF7\xF7\xF7\xF7< Project5" +
+                              std::string(112, '-') + "\r\n\xB0 X\r\n  x\r\n");
+}
+
+TEST_F(ExportTest, ATextListLeavesOutStaleMarks) {
+    Check(2, {1, 2});
+    book.SavedCheckCounts(2) = 0;
+    EXPECT_EQ(TextList(), "");
+}
+
+TEST_F(ExportTest, AHeaderThatIsTooLongIsAFaultAfterWhatStandsBefore) {
+    Check(2, {2});
+    Check(5, {1});
+    book.SetCategoryName(5, std::string(120, 'n'));
+    const std::string first =
+        "\xF7\xF7\xF7\xF7\xF7< H\xEDrek" + std::string(115, '-') + "\r\n\xB0 nem\r\n  http://nem.hu\r\n";
+    EXPECT_EQ(TextList(), first + "\xF7\xF7\xF7\xF7\xF7< " + std::string(120, 'n') + "\r\n\xB0 X\r\n  x\r\n");
+    book.SetCategoryName(5, std::string(121, 'n'));
+    std::string bytes;
+    EXPECT_THROW(WriteTextList(book, [&](std::string_view piece) { bytes.append(piece); }), ArgumentFault);
+    EXPECT_EQ(bytes, first);
+}
+
+constexpr char kHeadBeforeTitle[] =
+    "<!DOCTYPE HTML PUBLIC \"-/W3C/DTD HTML 4.0 Transitional/EN\">\r\n<html><head>\r\n";
+constexpr char kHeadAfterTitle[] =
+    "<meta http-equiv=Content-Type content=text/html; charset=iso-8859-2>\r\n"
+    "<META NAME=\"GENERATOR\" content=\"Lindrel - https://lindrel.example/\">\r\n";
+
+TEST_F(ExportTest, APageWithoutATheme) {
+    Check(2, {1, 3});
+    EXPECT_EQ(Page(White(L"Címeim")),
+              std::string(kHeadBeforeTitle) + "<TITLE>C\xEDmeim</TITLE>\r\n" + kHeadAfterTitle +
+                  "<BASEFONT FACE=\"Arial,Helvetica\">\r\n"
+                  "</HEAD><BODY BGCOLOR=white link=\"#725E50\" vlink=\"#990000\" alink=\"#ff0000\" "
+                  "text=black><BR><BR>\r\n"
+                  "<table border=0 cellspacing=0 cellpadding=1 bgcolor=#155BBB>\r\n"
+                  "<tr><td bgcolor=#655BBB><font color=#FFFFFF size=1 face=\"verdana,arial, "
+                  "helvetica\"><b>H\xEDrek<B></FONT>\r\n"
+                  "</TD></TR>\r\n"
+                  "<TR><TD>\r\n"
+                  "<table width=100% bgcolor=\"FFFFFF\" cellpadding=5 cellspacing=0 border=0>\r\n"
+                  "<tr><td>\r\n"
+                  "<tr><td>\r\n"
+                  "<A HREF=http://musor.hu/>M\xFBsor</A><BR>\r\n"
+                  "<A HREF=http://allat.hu/a.htm>\xC1llat</A><BR>\r\n"
+                  "</td></tr></table></TD></TR>\r\n"
+                  "</TABLE><BR><BR><BR></BODY></HTML>");
+}
+
+TEST_F(ExportTest, ABlackPageHasItsOwnWords) {
+    PageStyle style;
+    style.Background = "Black";
+    style.Text = "white";
+    EXPECT_EQ(Page(style),
+              std::string(kHeadBeforeTitle) + "<TITLE></TITLE>\r\n" + kHeadAfterTitle +
+                  "<BASEFONT FACE=\"Arial,Helvetica\">\r\n"
+                  "</HEAD><BODY BGCOLOR=Black link=\"#725E50\" vlink=\"#990000\" alink=\"#ff0000\" "
+                  "text=white><BR><BR>\r\n"
+                  "<table border=0 cellspacing=0 cellpadding=1 bgcolor=#155BBB>\r\n"
+                  "</TABLE><BR><BR><BR></BODY></HTML>");
+}
+
+TEST_F(ExportTest, AThemeReplacesTheFragmentsAndTheBodysAttributes) {
+    Check(5, {1});
+    PageStyle style = White(L"");
+    style.ThemeParts = ApplyTheme(style.ThemeParts, "A^B^C^D^E^");
+    style.ThemeApplied = true;
+    EXPECT_EQ(Page(style), std::string(kHeadBeforeTitle) + "<TITLE></TITLE>\r\n" + kHeadAfterTitle +
+                               "</HEAD><BODY ><BR><BR>\r\n"
+                               "A\r\n"
+                               "BProject5C\r\n"
+                               "</TD></TR>\r\n"
+                               "<TR><TD>\r\n"
+                               "D\r\n<tr><td>\r\n<tr><td>\r\n"
+                               "<A HREF=x>X</A><BR>\r\n"
+                               "E</td></tr></table></TD></TR>\r\n"
+                               "</TABLE><BR><BR><BR></BODY></HTML>");
+}
+
+TEST_F(ExportTest, ASixthFieldIsALineOfTheHeadAndARowOfTheThemeIsNotOpenedTwice) {
+    Check(5, {1});
+    PageStyle style = White(L"");
+    style.ThemeParts = ApplyTheme(style.ThemeParts, "A^\r\nB^C^D<TR>^E^<style>\r\nx</style>^ami ut\xE1na");
+    style.ThemeApplied = true;
+    EXPECT_EQ(Page(style), std::string(kHeadBeforeTitle) + "<style>\r\nx</style>\r\n<TITLE></TITLE>\r\n" +
+                               kHeadAfterTitle +
+                               "</HEAD><BODY ><BR><BR>\r\n"
+                               "A\r\n"
+                               "\r\nBProject5C\r\n"
+                               "</TD></TR>\r\n"
+                               "<TR><TD>\r\n"
+                               "D<TR>\r\n<tr><td>\r\n"
+                               "<A HREF=x>X</A><BR>\r\n"
+                               "E</td></tr></table></TD></TR>\r\n"
+                               "</TABLE><BR><BR><BR></BODY></HTML>");
+}
+
+TEST_F(ExportTest, AThemeWithoutFieldsKeepsTheDefaultsAndASeventhFieldIsAFault) {
+    EXPECT_EQ(ApplyTheme(DefaultThemeParts(), "nincs benne jel"), DefaultThemeParts());
+    EXPECT_EQ(ApplyTheme(DefaultThemeParts(), ""), DefaultThemeParts());
+    Fragments one = DefaultThemeParts();
+    one[0] = "A";
+    EXPECT_EQ(ApplyTheme(DefaultThemeParts(), "A^B"), one);
+    EXPECT_EQ(ApplyTheme(DefaultThemeParts(), "1^2^3^4^5^6^").size(), 6u);
+    EXPECT_EQ(ApplyTheme(DefaultThemeParts(), "1^2^3^4^5^6^7").size(), 6u);
+    EXPECT_THROW(ApplyTheme(DefaultThemeParts(), "1^2^3^4^5^6^7^"), RangeFault);
+}
+
+TEST_F(ExportTest, NothingOfAnEntryIsMarkup) {
+    book.SetSiteName(book.IndexOf(2, 1), "\"><script>alert(1)</script> & 'x' \x84 \xA5");
+    book.SetSiteURL(book.IndexOf(2, 1), "http://a.hu/?q=1&copy=2 3\t\"'<>`\x96\xB9");
+    EXPECT_EQ(HtmlText(book.SiteNames(book.IndexOf(2, 1))),
+              "&quot;&gt;&lt;script&gt;alert(1)&lt;/script&gt; &amp; 'x' &#8222; \xA1");
+    EXPECT_EQ(HtmlAddress(book.SiteURLs(book.IndexOf(2, 1))),
+              "http://a.hu/?q=1&amp;copy=2&#32;3&#9;&quot;&#39;&lt;&gt;&#96;&#8211;\xB1");
+}
+
+TEST_F(ExportTest, PlainTextIsWrittenAsItStandsAndTheRestAsReferences) {
+    EXPECT_EQ(HtmlText(L"árvíztűrő ŐŰ"), "\xE1rv\xEDzt\xFBr\xF5 \xD5\xDB");
+    EXPECT_EQ(HtmlText(L"Ω ☺ \x81"), "&#937; &#9786; &#129;");
+    const std::wstring smile =
+        sizeof(wchar_t) == 2 ? L"\xD83D\xDE00" : std::wstring(1, static_cast<wchar_t>(0x1F600));
+    EXPECT_EQ(HtmlText(smile), "&#128512;");
+    EXPECT_EQ(HtmlText(std::wstring(1, static_cast<wchar_t>(0xD83D))), "&#65533;");
+    EXPECT_EQ(HtmlAddress("http://a.hu/~x?y=z;k#v"), "http://a.hu/~x?y=z;k#v");
+    EXPECT_EQ(HtmlFragment("<p title=\"a & b\">\xE1\x8A</p>"), "<p title=\"a & b\">\xE1\xA9</p>");
+}
+
+TEST_F(ExportTest, AShortcutFileHasTwoLinesAndNoEnd) {
+    EXPECT_EQ(ShortcutFile("x"), "[InternetShortcut]\r\nURL=x");
+    EXPECT_EQ(ShortcutFile(""), "[InternetShortcut]\r\nURL=");
+}
+
+TEST_F(ExportTest, FourCharactersAreReplacedInNames) {
+    std::string name = "a:b/c?d\\e*f\"<>|";
+    MakeShortcutFileName(name);
+    EXPECT_EQ(name, "a_b_c_d_e*f\"<>|");
+    name = std::string(254, 'n') + "::";
+    MakeShortcutFileName(name);
+    EXPECT_EQ(name, std::string(254, 'n') + "__");
+    name = std::string(254, 'n') + ":";
+    SafeFileName(name);
+    EXPECT_EQ(name, std::string(254, 'n') + "_");
+    name = "a:" + std::string(253, 'n') + ":";
+    const std::string before = name;
+    EXPECT_THROW(SafeFileName(name), OverflowFault);
+    EXPECT_EQ(name, before);
+    name = std::string(300, 'n');
+    SafeFileName(name);
+    EXPECT_EQ(name, std::string(300, 'n'));
+}
+
+TEST_F(ExportTest, FolderNamesAreMadeSafe) {
+    EXPECT_EQ(SafeFolderName("H\xEDrek"), "H\xEDrek");
+    EXPECT_EQ(SafeFolderName("a\\b/c:d?e*f\"g<h>i|j\tk"), "a_b_c_d_e_f_g_h_i_j_k");
+    EXPECT_EQ(SafeFolderName("vége."), "vége_");
+    EXPECT_EQ(SafeFolderName(".. "), ".._");
+    EXPECT_EQ(SafeFolderName(""), "");
+}
+
+TEST_F(ExportTest, TheDesktopsPathEndsAtTheFirstOtherCharacter) {
+    const std::map<std::wstring, std::wstring> cases = {
+        {L"C:\\users\\root\\Desktop", L"C:\\USERS\\ROOT\\DESKTOP"},
+        {L"C:\\users\\Kis Pista\\Desktop", L"C:\\USERS\\KIS"},
+        {L"C:\\users\\anna2\\Desktop", L"C:\\USERS\\ANNA"},
+        {L"C:\\users\\a.b\\Desktop", L"C:\\USERS\\A"},
+        {L"C:\\users\\Őri\\Asztal", L"C:\\USERS\\"},
+        {L"C:\\Űr asztal", L"C:\\ŰR"},  // the first five characters are not looked at
+        {L"D:\\1 x", L"D:\\1 X"},
+        {L"C:\\ab", L"C:\\AB"},
+        {L"C:\\", L"C:\\"},
+        {L"", L""},
+    };
+    for (const auto& [folder, path] : cases) EXPECT_EQ(DesktopPath(folder), path);
+}
+
+class FavoritesTest : public ExportTest {
+  protected:
+    FavoritesTest() { std::filesystem::create_directories(folder); }
+    ~FavoritesTest() override { std::filesystem::remove_all(folder); }
+    std::map<std::string, std::string> Files() const {
+        std::map<std::string, std::string> files;
+        for (const auto& entry : std::filesystem::recursive_directory_iterator(folder))
+            if (entry.is_regular_file()) {
+                const std::vector<char> bytes = ReadFileBytes(entry.path());
+                files[entry.path().lexically_relative(folder).string()] = {bytes.begin(), bytes.end()};
+            }
+        return files;
+    }
+    std::filesystem::path folder = std::filesystem::temp_directory_path() /
+                                   ("lindrel-" + std::to_string(getpid()) + "-" +
+                                    ::testing::UnitTest::GetInstance()->current_test_info()->name());
+};
+
+TEST_F(FavoritesTest, AllFilesGoIntoOneFolderAndTheNamesIntoTheBook) {
+    book.SetSiteName(book.IndexOf(2, 2), "a:b/c?d");
+    Check(2, {1, 2});
+    Check(5, {1});
+    saveTo_fav(book, folder, false);
+    EXPECT_EQ(Files(), (std::map<std::string, std::string>{
+                           {"Műsor.url", "[InternetShortcut]\r\nURL=http://musor.hu/"},
+                           {"X.url", "[InternetShortcut]\r\nURL=x"},
+                           {"a_b_c_d.url", "[InternetShortcut]\r\nURL=http://nem.hu"},
+                       }));
+    EXPECT_EQ(book.SiteNames(book.IndexOf(2, 2)), "a_b_c_d");
+}
+
+TEST_F(FavoritesTest, EachCategoryHasItsFolderAndFilesAreOverwritten) {
+    book.SetCategoryName(5, "a/b");
+    Check(2, {3});
+    Check(5, {1});
+    saveTo_fav(book, folder, true);
+    book.SetSiteURL(book.IndexOf(5, 1), "y");
+    saveTo_fav(book, folder, true);
+    EXPECT_EQ(Files(), (std::map<std::string, std::string>{
+                           {"Hírek/Állat.url", "[InternetShortcut]\r\nURL=http://allat.hu/a.htm"},
+                           {"a_b/X.url", "[InternetShortcut]\r\nURL=y"},
+                       }));
+}
+
+TEST_F(FavoritesTest, ANameThatIsTooLongLeavesBookAndFolderAsTheyWere) {
+    book.SetSiteName(book.IndexOf(2, 1), "a:b");
+    book.SetSiteName(book.IndexOf(2, 2), std::string(255, 'n') + ":");
+    Check(2, {1, 2});
+    EXPECT_THROW(saveTo_fav(book, folder, false), OverflowFault);
+    EXPECT_EQ(Files(), (std::map<std::string, std::string>{}));
+    EXPECT_EQ(book.SiteNames(book.IndexOf(2, 1)), "a:b");
+}
+
+TEST_F(FavoritesTest, AFolderThatIsNotThereLeavesTheBookAsItWas) {
+    book.SetSiteName(book.IndexOf(2, 1), "a:b");
+    Check(2, {1});
+    EXPECT_THROW(saveTo_fav(book, folder / "nincs", false), FileFault);
+    EXPECT_THROW(saveTo_fav(book, folder / "nincs", true), FileFault);
+    EXPECT_EQ(book.SiteNames(book.IndexOf(2, 1)), "a:b");
+}
+
+}  // namespace
+}  // namespace lindrel
