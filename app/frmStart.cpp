@@ -150,6 +150,10 @@ void frmStart::OnCommand(int id, int) {
             return mnuMove_Click();
         case ID_mnuDel:
             return mnuDel_Click();
+        case ID_mnuExport:
+            return mnuExport_Click();
+        case ID_mnuToDesktop:
+            return mnuToDesktop_Click();
         case ID_NextTab:
             return SelectTab(SelectedCategory() % kCategories + 1);
         case ID_PreviousTab:

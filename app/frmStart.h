@@ -5,6 +5,7 @@
 //     frmStart_File.cpp    the file menu
 //     frmStart_List.cpp    tabs, list, check marks
 //     frmStart_Edit.cpp    adding, editing, moving, deleting, renaming
+//     frmStart_Export.cpp  export, shortcut on the desktop
 #pragma once
 
 #include <cstdint>
@@ -101,6 +102,8 @@ class frmStart {
     void mnuEdit_Click();
     void mnuMove_Click();
     void mnuDel_Click();
+    void mnuExport_Click();
+    void mnuToDesktop_Click();
 
   private:
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM first, LPARAM second);

@@ -86,6 +86,11 @@ std::wstring ComboBox::Item(int index) const {
     return ItemText(Handle(), CB_GETLBTEXTLEN, CB_GETLBTEXT, static_cast<WPARAM>(index));
 }
 
+void ListBox::Add(std::wstring_view text) const {
+    const std::wstring terminated(text);
+    if (Send(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(terminated.c_str())) < 0) throw std::bad_alloc();
+}
+
 int TabStrip::Count() const {
     return TabCtrl_GetItemCount(Handle());
 }

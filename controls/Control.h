@@ -71,6 +71,16 @@ class ComboBox : public Control {
     std::wstring Item(int index) const;
 };
 
+class ListBox : public Control {  // with several lines selected at once
+  public:
+    using Control::Control;
+
+    void Add(std::wstring_view text) const;
+    int SelectedCount() const { return static_cast<int>(Send(LB_GETSELCOUNT)); }
+    // 0-based.
+    bool IsSelected(int line) const { return Send(LB_GETSEL, static_cast<WPARAM>(line)) > 0; }
+};
+
 class TabStrip : public Control {
   public:
     using Control::Control;

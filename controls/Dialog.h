@@ -15,6 +15,7 @@
 #include <string>
 
 #include "controls/Control.h"
+#include "controls/ToolTips.h"
 #include "controls/Windows.h"
 
 namespace lindrel {
@@ -60,6 +61,8 @@ class Dialog {
     Wrapper Get(int id) const {
         return Wrapper(Item(id));
     }
+    // Shows a text while the mouse rests on a control.
+    void SetToolTip(int id, const std::wstring& text) { tool_tips_.Set(handle_, Item(id), text); }
 
   private:
     static INT_PTR CALLBACK Procedure(HWND handle, UINT message, WPARAM first, LPARAM second);
@@ -69,6 +72,7 @@ class Dialog {
 
     int template_id_;
     HWND handle_ = nullptr;
+    ToolTips tool_tips_;
     bool ending_ = false;
 };
 

@@ -3,6 +3,7 @@
 #include <shellapi.h>
 #include <shlobj.h>
 
+#include <algorithm>
 #include <vector>
 
 #include "controls/MsgBox.h"
@@ -20,16 +21,23 @@ std::wstring ProgramFolder() {
     return full.substr(0, full.rfind(L'\\'));
 }
 
-bool FileIsThere(const std::wstring& path) {
+std::vector<std::wstring> FilesMatching(const std::wstring& pattern) {
+    std::vector<std::wstring> names;
     WIN32_FIND_DATAW found{};
-    const HANDLE search = FindFirstFileW(path.c_str(), &found);
-    if (search == INVALID_HANDLE_VALUE) return false;
-    bool is_file = false;
+    const HANDLE search = FindFirstFileW(pattern.c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE) return names;
     do {
-        is_file = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
-    } while (!is_file && FindNextFileW(search, &found));
+        if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) names.emplace_back(found.cFileName);
+    } while (FindNextFileW(search, &found));
     static_cast<void>(FindClose(search));  // fails only for a handle that is none
-    return is_file;
+    std::sort(names.begin(), names.end(), [](const std::wstring& a, const std::wstring& b) {
+        return lstrcmpiW(a.c_str(), b.c_str()) < 0;
+    });
+    return names;
+}
+
+bool FileIsThere(const std::wstring& path) {
+    return !FilesMatching(path).empty();
 }
 
 bool FileExists(HWND owner, const std::wstring& path) {

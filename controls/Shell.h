@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "controls/Windows.h"
 
@@ -14,7 +15,10 @@ std::wstring ProgramFolder();
 // Whether a look-up of the path finds a file. The path may hold wildcards: any match counts. Folders do not.
 bool FileIsThere(const std::wstring& path);
 
-// The same, but tells the user when there is none ("A megadott fájl nem létezik").
+// Names of the files that match a path with wildcards in its last part, sorted as the user sorts names.
+std::vector<std::wstring> FilesMatching(const std::wstring& pattern);
+
+// Like FileIsThere, but tells the user when there is none ("A megadott fájl nem létezik").
 bool FileExists(HWND owner, const std::wstring& path);
 
 // Hands an address to the program that the shell has for it. The result is the shell's; above 32 means

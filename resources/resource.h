@@ -78,7 +78,35 @@
 #define ID_frmEditKats_cmdOk 1401
 #define ID_frmEditKats_cmdCancel 1402
 
-/* Blocks of the dialogs to come: frmFind 1500, frmExport 1600, frmSelectFavoritDir 1700, frmImport 1800, frmI_Fav
+/* Export. */
+#define IDD_frmExport 1600
+#define ID_frmExport_Frame1 1601
+#define ID_frmExport_lblText 1602
+#define ID_frmExport_lstSource 1603
+#define ID_frmExport_Label2 1604
+#define ID_frmExport_cmbType 1605
+#define ID_frmExport_Frame3 1606
+#define ID_frmExport_lblTitle 1607
+#define ID_frmExport_txtTitle 1608
+#define ID_frmExport_lblColor 1609
+#define ID_frmExport_optColor_0 1610
+#define ID_frmExport_optColor_1 1611
+#define ID_frmExport_Label3 1612
+#define ID_frmExport_cmbTheme 1613
+#define ID_frmExport_cmdBrowse 1614
+#define ID_frmExport_Frame2 1615
+#define ID_frmExport_optColor_2 1616
+#define ID_frmExport_optColor_3 1617
+#define ID_frmExport_cmdOK 1618
+#define ID_frmExport_cmdCancel 1619
+#define IDD_frmSelectFavoritDir 1700
+#define ID_frmSelectFavoritDir_lblChoose 1701
+#define ID_frmSelectFavoritDir_Dir1 1702
+#define ID_frmSelectFavoritDir_lblEffect 1703
+#define ID_frmSelectFavoritDir_cmdOk 1704
+#define ID_frmSelectFavoritDir_cmdCancel 1705
+
+/* Blocks of the dialogs to come: frmFind 1500, frmImport 1800, frmI_Fav
    1900, frmAbout 2000. */
 
 /* Commands, in the order of the menus. */

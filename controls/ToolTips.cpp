@@ -1,0 +1,38 @@
+#include "controls/ToolTips.h"
+
+namespace lindrel {
+
+namespace {
+
+TTTOOLINFOW ToolOf(HWND window, HWND control) {
+    TTTOOLINFOW tool{};
+    tool.cbSize = sizeof tool;
+    tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+    tool.hwnd = window;
+    tool.uId = reinterpret_cast<UINT_PTR>(control);
+    return tool;
+}
+
+}  // namespace
+
+void ToolTips::Set(HWND window, HWND control, const std::wstring& text) {
+    if (tips_ == nullptr)
+        tips_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr,
+                                WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, CW_USEDEFAULT, CW_USEDEFAULT,
+                                CW_USEDEFAULT, CW_USEDEFAULT, window, nullptr, nullptr, nullptr);
+    std::wstring shown = text;
+    TTTOOLINFOW tool = ToolOf(window, control);
+    tool.lpszText = shown.data();
+    SendMessageW(tips_, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+    SendMessageW(tips_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
+std::wstring ToolTips::Of(HWND window, HWND control) const {
+    wchar_t text[256] = L"";
+    TTTOOLINFOW tool = ToolOf(window, control);
+    tool.lpszText = text;
+    SendMessageW(tips_, TTM_GETTEXTW, 256, reinterpret_cast<LPARAM>(&tool));
+    return text;
+}
+
+}  // namespace lindrel
