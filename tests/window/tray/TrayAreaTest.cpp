@@ -1,0 +1,466 @@
+// The tray icon on a window of its own: what it tells the shell, and what it hears from it.
+
+#include "tray/TrayArea.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <ostream>
+#include <set>
+#include <stdexcept>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "controls/PendingFault.h"
+#include "tests/window/support/Polling.h"
+
+namespace lindrel::testing {
+namespace {
+
+// One call of the shell with everything that its record holds.
+struct Call {
+    DWORD Operation = 0;
+    DWORD Size = 0;
+    HWND Window = nullptr;
+    UINT Identifier = 0;
+    UINT Flags = 0;
+    UINT Message = 0;
+    HICON Icon = nullptr;
+    std::string Tip;  // the 64 characters of the field
+    bool operator==(const Call&) const = default;
+};
+
+void PrintTo(const Call& call, std::ostream* out) {
+    *out << "\n  operation " << call.Operation << " size " << call.Size << " window " << call.Window << " id "
+         << call.Identifier << " flags " << call.Flags << " message " << call.Message << " icon " << call.Icon
+         << " tip [" << ::testing::PrintToString(call.Tip) << "]";
+}
+
+std::vector<Call> calls;
+
+BOOL WINAPI Record(DWORD operation, NOTIFYICONDATAA* record) {
+    calls.push_back({operation, record->cbSize, record->hWnd, record->uID, record->uFlags,
+                     record->uCallbackMessage, record->hIcon, std::string(record->szTip, 64)});
+    // A reader that goes on to a NUL finds it right behind the field.
+    EXPECT_EQ(record->szTip[64], '\0');
+    return FALSE;  // a shell that refuses everything changes nothing
+}
+
+std::vector<Call> Taken() {
+    return std::exchange(calls, {});
+}
+
+class OwnerWindow {
+  public:
+    OwnerWindow()
+        : window_(CreateWindowExW(0, L"STATIC", L"tulajdonos", WS_OVERLAPPEDWINDOW, 0, 0, 300, 200, nullptr,
+                                  nullptr, nullptr, nullptr)) {
+        if (window_ == nullptr) throw std::runtime_error("no window");
+    }
+    ~OwnerWindow() { Close(); }
+    OwnerWindow(const OwnerWindow&) = delete;
+    OwnerWindow& operator=(const OwnerWindow&) = delete;
+    HWND Handle() const { return window_; }
+    void Close() {
+        if (window_ != nullptr) DestroyWindow(std::exchange(window_, nullptr));
+    }
+
+  private:
+    HWND window_;
+};
+
+class TrayAreaTest : public ::testing::Test {
+  protected:
+    static constexpr DWORD kSize = sizeof(void*) == 4 ? 88 : 104;
+
+    TrayAreaTest() {
+        TrayArea::NotifyShell = &Record;
+        calls.clear();
+        control->PropertyChanged = [this](const wchar_t* name) { changed.emplace_back(name); };
+        control->Place(owner.Handle());
+        window = control->Handle();
+    }
+    ~TrayAreaTest() override {
+        control.reset();
+        TrayArea::NotifyShell = &Shell_NotifyIconA;
+    }
+
+    static std::string Padded(const std::string& tip) {
+        const std::string field = tip + '\0';
+        return field + std::string(64 - field.size(), ' ');
+    }
+    Call Expected(DWORD operation, UINT identifier, UINT flags, UINT message, HICON shown,
+                  const std::string& tip) const {
+        return {operation, kSize, window, identifier, flags, message, shown, tip};
+    }
+    // Shows the icon and forgets the call; its identifier.
+    UINT Show() {
+        control->SetVisible(true);
+        const std::vector<Call> added = Taken();
+        EXPECT_EQ(added.size(), 1u);
+        changed.clear();
+        return added.at(0).Identifier;
+    }
+    void Mouse(LPARAM message) const { SendMessageW(window, 512, 4711, message); }
+    void HearEverything() {
+        control->MouseMove = [this] { heard.emplace_back(L"MouseMove"); };
+        control->MouseDown = [this](std::int16_t& button) {
+            heard.push_back(L"MouseDown " + std::to_wstring(button));
+        };
+        control->MouseUp = [this](std::int16_t& button) {
+            heard.push_back(L"MouseUp " + std::to_wstring(button));
+        };
+        control->DblClick = [this] { heard.emplace_back(L"DblClick"); };
+    }
+
+    using Texts = std::vector<std::wstring>;
+    const HICON icon = LoadIconW(nullptr, IDI_WARNING);
+    const HICON other_icon = LoadIconW(nullptr, IDI_ERROR);
+    const std::string no_tip = std::string(64, '\0');
+    OwnerWindow owner;
+    Texts changed;
+    Texts heard;
+    std::unique_ptr<TrayArea> control = std::make_unique<TrayArea>();
+    HWND window = nullptr;
+};
+
+TEST_F(TrayAreaTest, ANewControlIsEmptyAndTellsTheShellNothing) {
+    EXPECT_EQ(control->SavedProperties(), (TrayArea::Properties{HICON{}, L"", false}));
+    EXPECT_EQ(control->Icon(), TrayArea::Picture(HICON{}));
+    EXPECT_EQ(control->ToolTip(), L"");
+    EXPECT_FALSE(control->Visible());
+    EXPECT_EQ(Taken(), std::vector<Call>{});
+    EXPECT_EQ(changed, Texts{});
+    EXPECT_FALSE(IsWindowVisible(window));
+    EXPECT_EQ(GetParent(window), owner.Handle());
+}
+
+TEST_F(TrayAreaTest, ShowingAddsTheIconWithItsToolTipOnce) {
+    control->SetIcon(icon);
+    control->SetToolTip(L"  Lindrel  ");
+    Taken();
+    changed.clear();
+    control->SetVisible(true);
+    control->SetVisible(true);
+    const std::vector<Call> added = Taken();
+    ASSERT_EQ(added.size(), 1u);
+    EXPECT_GE(added[0].Identifier, 1u);
+    EXPECT_LE(added[0].Identifier, 65535u);
+    EXPECT_EQ(added[0], Expected(NIM_ADD, added[0].Identifier, 7, 512, icon, Padded("Lindrel")));
+    EXPECT_EQ(changed, Texts{L"Visible"});
+    EXPECT_TRUE(control->Visible());
+}
+
+TEST_F(TrayAreaTest, ShowingSendsOnlyWhatIsSet) {
+    const UINT bare = [&] {
+        control->SetVisible(true);
+        const std::vector<Call> added = Taken();
+        EXPECT_EQ(added, std::vector{Expected(NIM_ADD, added.at(0).Identifier, 1, 512, nullptr, no_tip)});
+        return added.at(0).Identifier;
+    }();
+    control->SetVisible(false);
+    EXPECT_EQ(Taken(), std::vector{Expected(NIM_DELETE, bare, 1, 512, nullptr, no_tip)});
+
+    control->SetIcon(icon);
+    control->SetVisible(true);
+    const std::vector<Call> with_icon = Taken();
+    EXPECT_EQ(with_icon, std::vector{Expected(NIM_ADD, with_icon.at(0).Identifier, 3, 512, icon, no_tip)});
+    control->SetVisible(false);
+    Taken();
+
+    control->SetIcon(std::nullopt);
+    control->SetToolTip(L"Súgó");
+    Taken();
+    control->SetVisible(true);
+    const std::vector<Call> with_tip = Taken();
+    ASSERT_EQ(GetACP(), 1250u);
+    EXPECT_EQ(with_tip,
+              std::vector{Expected(NIM_ADD, with_tip.at(0).Identifier, 5, 512, icon, Padded("S\xFAg\xF3"))});
+}
+
+TEST_F(TrayAreaTest, HidingRemovesTheIconAsTheRecordStandsOnce) {
+    control->SetIcon(icon);
+    const UINT identifier = Show();
+    control->SetVisible(false);
+    control->SetVisible(false);
+    EXPECT_EQ(Taken(), std::vector{Expected(NIM_DELETE, identifier, 3, 512, icon, no_tip)});
+    EXPECT_EQ(changed, Texts{L"Visible"});
+    EXPECT_FALSE(control->Visible());
+}
+
+TEST_F(TrayAreaTest, EachShowingDrawsANewIdentifierAndKeepsTheToolTip) {
+    control->SetIcon(icon);
+    control->SetToolTip(L"Lindrel");
+    Taken();
+    std::set<UINT> identifiers;
+    for (int showing = 0; showing < 20; ++showing) {
+        control->SetVisible(true);
+        const std::vector<Call> added = Taken();
+        ASSERT_EQ(added.size(), 1u);
+        const UINT identifier = added[0].Identifier;
+        EXPECT_TRUE(identifier >= 1 && identifier <= 65535) << identifier;
+        EXPECT_EQ(added[0], Expected(NIM_ADD, identifier, 7, 512, icon, Padded("Lindrel")));
+        identifiers.insert(identifier);
+        control->SetVisible(false);
+        EXPECT_EQ(Taken(), std::vector{Expected(NIM_DELETE, identifier, 7, 512, icon, Padded("Lindrel"))});
+    }
+    // Twenty draws of 65535 that come to fewer than fifteen numbers are no draws.
+    EXPECT_GE(identifiers.size(), 15u);
+}
+
+TEST_F(TrayAreaTest, ANewIconOfAShownOneModifiesIt) {
+    control->SetIcon(icon);
+    EXPECT_EQ(Taken(), std::vector<Call>{});
+    EXPECT_EQ(changed, Texts{L"Icon"});
+    control->SetToolTip(L"x");
+    Taken();
+    const UINT identifier = Show();
+    control->SetIcon(other_icon);
+    EXPECT_EQ(Taken(), std::vector{Expected(NIM_MODIFY, identifier, 2, 512, other_icon, Padded("x"))});
+    control->SetIcon(HICON{});
+    EXPECT_EQ(Taken(), std::vector{Expected(NIM_MODIFY, identifier, 2, 512, nullptr, Padded("x"))});
+    EXPECT_EQ(changed, (Texts{L"Icon", L"Icon"}));
+    EXPECT_TRUE(control->Visible());
+}
+
+TEST_F(TrayAreaTest, NoPictureAtAllRemovesTheShownIcon) {
+    control->SetIcon(icon);
+    const UINT identifier = Show();
+    control->SetIcon(std::nullopt);
+    EXPECT_EQ(Taken(), std::vector{Expected(NIM_DELETE, identifier, 3, 512, icon, no_tip)});
+    EXPECT_FALSE(control->Visible());
+    EXPECT_EQ(control->Icon(), std::nullopt);
+    EXPECT_EQ(changed, (Texts{L"Visible", L"Icon"}));
+    changed.clear();
+    control->SetIcon(std::nullopt);
+    EXPECT_EQ(Taken(), std::vector<Call>{});
+    EXPECT_EQ(changed, Texts{L"Icon"});
+}
+
+TEST_F(TrayAreaTest, AToolTipGoesToTheShellShownOrNot) {
+    control->SetToolTip(L"  két szó ");
+    EXPECT_EQ(control->ToolTip(), L"két szó");
+    EXPECT_EQ(Taken(), std::vector{Expected(NIM_MODIFY, 0, 4, 0, nullptr, Padded("k\xE9t sz\xF3"))});
+    EXPECT_EQ(changed, Texts{L"ToolTip"});
+    const UINT identifier = Show();
+    control->SetToolTip(L"új");
+    EXPECT_EQ(Taken(), std::vector{Expected(NIM_MODIFY, identifier, 4, 512, nullptr, Padded("\xFAj"))});
+    control->SetToolTip(L"   ");
+    EXPECT_EQ(control->ToolTip(), L"");
+    EXPECT_EQ(Taken(), std::vector{Expected(NIM_MODIFY, identifier, 4, 512, nullptr, Padded(""))});
+    EXPECT_EQ(changed, (Texts{L"ToolTip", L"ToolTip"}));
+}
+
+TEST_F(TrayAreaTest, OfALongToolTipTheRecordHolds64Characters) {
+    const auto tip_of = [this](std::size_t length) {
+        control->SetToolTip(std::wstring(length - 1, L'x') + L"ő");
+        return Taken().at(0).Tip;
+    };
+    EXPECT_EQ(tip_of(62), std::string(61, 'x') + '\xF5' + '\0' + ' ');
+    EXPECT_EQ(tip_of(63), std::string(62, 'x') + '\xF5' + '\0');
+    EXPECT_EQ(tip_of(64), std::string(63, 'x') + '\xF5');
+    EXPECT_EQ(tip_of(65), std::string(64, 'x'));
+    EXPECT_EQ(tip_of(100000), std::string(64, 'x'));
+    EXPECT_EQ(control->ToolTip(), std::wstring(99999, L'x') + L"ő");
+}
+
+TEST_F(TrayAreaTest, SavedPropertiesAreStoredWithoutACallToTheShell) {
+    control->ReadProperties({icon, L" mentett ", true});
+    EXPECT_EQ(Taken(), std::vector<Call>{});
+    EXPECT_EQ(changed, Texts{});
+    EXPECT_EQ(control->SavedProperties(), (TrayArea::Properties{icon, L" mentett ", true}));
+    // Not from false: no icon appears, nor with a new taskbar.
+    control->SetVisible(true);
+    SendMessageW(owner.Handle(), RegisterWindowMessageW(L"TaskbarCreated"), 0, 0);
+    EXPECT_EQ(Taken(), std::vector<Call>{});
+    EXPECT_EQ(changed, Texts{});
+    control->SetVisible(false);
+    EXPECT_EQ(Taken(), std::vector{Expected(NIM_DELETE, 0, 0, 0, nullptr, no_tip)});
+    control->SetVisible(true);
+    const std::vector<Call> added = Taken();
+    EXPECT_EQ(added,
+              std::vector{Expected(NIM_ADD, added.at(0).Identifier, 7, 512, icon, Padded(" mentett "))});
+}
+
+TEST_F(TrayAreaTest, ANewTaskbarGetsAShownIconAgain) {
+    const UINT created = RegisterWindowMessageW(L"TaskbarCreated");
+    SendMessageW(owner.Handle(), created, 0, 0);
+    EXPECT_EQ(Taken(), std::vector<Call>{});
+    control->SetIcon(icon);
+    control->SetToolTip(L"Lindrel");
+    Taken();
+    const UINT identifier = Show();
+    control->SetIcon(other_icon);
+    control->SetToolTip(L"Lindrel 2");
+    Taken();
+    SendMessageW(owner.Handle(), created, 0, 0);
+    EXPECT_EQ(Taken(), std::vector{Expected(NIM_ADD, identifier, 7, 512, other_icon, Padded("Lindrel 2"))});
+    control->SetVisible(false);
+    Taken();
+    SendMessageW(owner.Handle(), created, 0, 0);
+    EXPECT_EQ(Taken(), std::vector<Call>{});
+}
+
+TEST_F(TrayAreaTest, TheBroadcastOfANewTaskbarReachesTheControlOfAHiddenWindow) {
+    Show();
+    DWORD_PTR result = 0;
+    SendMessageTimeoutW(HWND_BROADCAST, RegisterWindowMessageW(L"TaskbarCreated"), 0, 0, SMTO_ABORTIFHUNG,
+                        20000, &result);
+    const std::vector<Call> again = Taken();
+    ASSERT_EQ(again.size(), 1u);
+    EXPECT_EQ(again[0].Operation, static_cast<DWORD>(NIM_ADD));
+}
+
+TEST_F(TrayAreaTest, EveryMouseMessageRaisesItsEvent) {
+    HearEverything();
+    for (LPARAM message = 505; message <= 530; ++message) Mouse(message);
+    EXPECT_EQ(heard, (Texts{L"MouseMove", L"MouseDown 1", L"MouseUp 1", L"DblClick", L"MouseDown 2",
+                            L"MouseUp 2", L"DblClick"}));
+}
+
+TEST_F(TrayAreaTest, ARightClickRaisesDownAndUpOfTheSecondButton) {
+    HearEverything();
+    for (const LPARAM message : {WM_MOUSEMOVE, WM_RBUTTONDOWN, WM_RBUTTONUP}) Mouse(message);
+    EXPECT_EQ(heard, (Texts{L"MouseMove", L"MouseDown 2", L"MouseUp 2"}));
+}
+
+TEST_F(TrayAreaTest, ALeftDoubleClickComesAfterTheFirstClick) {
+    HearEverything();
+    for (const LPARAM message : {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_LBUTTONUP})
+        Mouse(message);
+    EXPECT_EQ(heard, (Texts{L"MouseDown 1", L"MouseUp 1", L"DblClick", L"MouseUp 1"}));
+}
+
+TEST_F(TrayAreaTest, TheMiddleButtonRaisesNothing) {
+    HearEverything();
+    for (const LPARAM message : {WM_MBUTTONDOWN, WM_MBUTTONUP, WM_MBUTTONDBLCLK, WM_MOUSEWHEEL})
+        Mouse(message);
+    EXPECT_EQ(heard, Texts{});
+}
+
+TEST_F(TrayAreaTest, EventsThatNobodyHearsDoNothing) {
+    for (LPARAM message = 512; message <= 518; ++message) Mouse(message);
+    EXPECT_EQ(Taken(), std::vector<Call>{});
+}
+
+TEST_F(TrayAreaTest, AHandlerMayHideTheIconAndItsButtonIsItsOwn) {
+    const UINT identifier = Show();
+    HearEverything();
+    control->MouseDown = [this, hear = control->MouseDown](std::int16_t& button) {
+        hear(button);
+        button = 7;
+        control->SetVisible(false);
+    };
+    for (const LPARAM message : {WM_LBUTTONDOWN, WM_LBUTTONUP}) Mouse(message);
+    EXPECT_EQ(heard, (Texts{L"MouseDown 1", L"MouseUp 1"}));
+    EXPECT_EQ(Taken(), std::vector{Expected(NIM_DELETE, identifier, 1, 512, nullptr, no_tip)});
+}
+
+TEST_F(TrayAreaTest, AFaultOfAHandlerStopsAtTheWindowProcedure) {
+    control->MouseDown = [](std::int16_t&) { throw std::runtime_error("hiba"); };
+    Mouse(WM_LBUTTONDOWN);
+    EXPECT_THROW(ThrowPendingFault(), std::runtime_error);
+}
+
+TEST_F(TrayAreaTest, TheEndOfTheControlAlwaysRemovesItsIcon) {
+    const UINT identifier = Show();
+    control.reset();
+    EXPECT_EQ(Taken(), std::vector{Expected(NIM_DELETE, identifier, 1, 512, nullptr, no_tip)});
+    EXPECT_FALSE(IsWindow(window));
+    SendMessageW(owner.Handle(), RegisterWindowMessageW(L"TaskbarCreated"), 0, 0);
+    EXPECT_EQ(Taken(), std::vector<Call>{});
+
+    control = std::make_unique<TrayArea>();
+    control->Place(owner.Handle());
+    window = control->Handle();
+    control.reset();  // never shown
+    EXPECT_EQ(Taken(), std::vector{Expected(NIM_DELETE, 0, 0, 0, nullptr, no_tip)});
+}
+
+TEST_F(TrayAreaTest, TheEndOfTheOwnerRemovesTheIconOnce) {
+    const UINT identifier = Show();
+    owner.Close();
+    EXPECT_EQ(Taken(), std::vector{Expected(NIM_DELETE, identifier, 1, 512, nullptr, no_tip)});
+    EXPECT_EQ(control->Handle(), nullptr);
+    control.reset();
+    EXPECT_EQ(Taken(), std::vector<Call>{});
+}
+
+TEST_F(TrayAreaTest, TheControlKeepsTheSizeOfItsPicture) {
+    const auto size = [this] {
+        RECT place{};
+        EXPECT_TRUE(GetWindowRect(window, &place));
+        return std::make_pair(place.right - place.left, place.bottom - place.top);
+    };
+    const auto picture =
+        std::make_pair<LONG, LONG>(GetSystemMetrics(SM_CXSMICON), GetSystemMetrics(SM_CYSMICON));
+    EXPECT_EQ(size(), picture);
+    for (const int side : {0, 5, 300}) {
+        SetWindowPos(window, nullptr, 0, 0, side, side + 1, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+        EXPECT_EQ(size(), picture) << side;
+    }
+}
+
+TEST_F(TrayAreaTest, WhileTheWindowIsDesignedNoIconIsAdded) {
+    const OwnerWindow drawing_board;
+    TrayArea designed;
+    designed.PropertyChanged = [this](const wchar_t* name) { changed.emplace_back(name); };
+    designed.Place(drawing_board.Handle(), TrayArea::Environment::Design);
+    EXPECT_EQ(GetParent(designed.Handle()), drawing_board.Handle());
+    EXPECT_NE(GetWindowLongW(designed.Handle(), GWL_STYLE) & WS_VISIBLE, 0);
+    designed.SetVisible(true);
+    EXPECT_EQ(Taken(), std::vector<Call>{});
+    EXPECT_EQ(changed, Texts{L"Visible"});
+    EXPECT_TRUE(designed.Visible());
+}
+
+// Pumps the messages of this thread until the answer is true.
+void PumpUntil(const char* what, const std::function<bool()>& answer) {
+    WaitUntil(what, [&] {
+        MSG message{};
+        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
+        return answer();
+    });
+}
+
+// The middle of the icon that the shell shows, in the window in which Wine keeps such icons.
+std::optional<POINT> IconOnScreen() {
+    const HWND tray = FindWindowW(nullptr, L"Wine System Tray");
+    const HWND shown = tray == nullptr ? nullptr : GetWindow(tray, GW_CHILD);
+    RECT place{};
+    if (shown == nullptr || !IsWindowVisible(shown) || !GetWindowRect(shown, &place)) return std::nullopt;
+    return POINT{(place.left + place.right) / 2, (place.top + place.bottom) / 2};
+}
+
+void RealClick(POINT place, DWORD down, DWORD up) {
+    ASSERT_TRUE(SetCursorPos(place.x, place.y));
+    INPUT inputs[2]{};
+    inputs[0].type = INPUT_MOUSE;
+    inputs[0].mi.dwFlags = down;
+    inputs[1].type = INPUT_MOUSE;
+    inputs[1].mi.dwFlags = up;
+    ASSERT_EQ(SendInput(2, inputs, sizeof(INPUT)), 2u);
+}
+
+TEST_F(TrayAreaTest, TheRealIconHearsBothButtonsAndGoes) {
+    TrayArea::NotifyShell = &Shell_NotifyIconA;
+    HearEverything();
+    control->MouseMove = nullptr;  // as many as the pointer makes
+    control->SetIcon(icon);
+    control->SetToolTip(L"Lindrel");
+    control->SetVisible(true);
+    PumpUntil("the icon", [] { return IconOnScreen().has_value(); });
+    RealClick(*IconOnScreen(), MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP);
+    PumpUntil("the left button", [this] { return heard.size() >= 2; });
+    RealClick(*IconOnScreen(), MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP);
+    PumpUntil("the right button", [this] { return heard.size() >= 4; });
+    EXPECT_EQ(heard, (Texts{L"MouseDown 1", L"MouseUp 1", L"MouseDown 2", L"MouseUp 2"}));
+    control->SetVisible(false);
+    PumpUntil("the icon's end", [] { return !IconOnScreen().has_value(); });
+}
+
+}  // namespace
+}  // namespace lindrel::testing

@@ -1,0 +1,240 @@
+#include "tray/TrayArea.h"
+
+#include <algorithm>
+#include <new>
+
+#include "book/BookText.h"
+#include "controls/Display.h"
+#include "controls/PendingFault.h"
+#include "tray/TrayProtocol.h"
+
+namespace lindrel {
+
+namespace {
+
+constexpr wchar_t kWindowClass[] = L"TrayArea";
+// Of the control at its owner; a window holds one.
+constexpr UINT_PTR kSubclass = 512;
+
+// The shell sends the mouse messages of the icon under the number of an ordinary mouse move. The control's
+// window is never visible where a pointer could move over it.
+constexpr UINT kCallbackMessage = WM_MOUSEMOVE;
+
+// The shell's first record; the fields that came later are zero, so that a tool tip of 64 characters, which
+// has no room for its NUL, ends there.
+constexpr DWORD kRecordSize = NOTIFYICONDATAA_V1_SIZE;
+static_assert(kRecordSize == (sizeof(void*) == 4 ? 88 : 104));
+static_assert(sizeof NOTIFYICONDATAA::szTip > kTipLength);
+static_assert(WM_MOUSEMOVE == 512 && WM_LBUTTONDOWN == 513 && WM_RBUTTONDBLCLK == 518);
+
+// What the shell broadcasts when it has made a new taskbar, without the icons of the old one.
+UINT TaskbarCreated() {
+    static const UINT message = RegisterWindowMessageW(L"TaskbarCreated");
+    return message;
+}
+
+// In the machine's code page, in which the shell reads the record.
+std::string ShellText(std::wstring_view text) {
+    if (text.empty()) return {};
+    // The field keeps no more of it.
+    const int length = static_cast<int>(std::min(text.size(), kTipLength));
+    std::string narrow(kTipLength * 4, '\0');
+    const int used = WideCharToMultiByte(CP_ACP, 0, text.data(), length, narrow.data(),
+                                         static_cast<int>(narrow.size()), nullptr, nullptr);
+    narrow.resize(static_cast<std::size_t>(used));  // 0 when it fails: an icon without a tool tip
+    return narrow;
+}
+
+}  // namespace
+
+TrayArea::ShellNotifyIcon TrayArea::NotifyShell = &Shell_NotifyIconA;
+
+TrayArea::~TrayArea() {
+    // Already gone when the owner was closed.
+    if (handle_ != nullptr) static_cast<void>(DestroyWindow(handle_));
+}
+
+void TrayArea::Place(HWND owner, Environment environment) {
+    WNDCLASSEXW description{};
+    description.cbSize = sizeof description;
+    description.lpfnWndProc = &TrayArea::Procedure;
+    description.hInstance = GetModuleHandleW(nullptr);
+    description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+    description.lpszClassName = kWindowClass;
+    // Fails when the class is there already; then it is this one.
+    static_cast<void>(RegisterClassExW(&description));
+
+    environment_ = environment;
+    owner_ = owner;
+    const DWORD style = WS_CHILD | (environment == Environment::Design ? WS_VISIBLE : 0u);
+    const HWND window =
+        CreateWindowExW(0, kWindowClass, L"", style, 0, 0, 0, 0, owner, nullptr, description.hInstance, this);
+    ThrowPendingFault();
+    // The shell's broadcasts reach no child windows: the control hears them at its owner.
+    if (window == nullptr ||
+        !SetWindowSubclass(owner, &TrayArea::OwnerSubclass, kSubclass, reinterpret_cast<DWORD_PTR>(this)))
+        throw std::bad_alloc();
+    record_.cbSize = kRecordSize;
+    record_.hWnd = window;
+    // The shell may run with fewer rights than the program. Where that needs no leave, none is given.
+    static_cast<void>(ChangeWindowMessageFilterEx(owner, TaskbarCreated(), MSGFLT_ALLOW, nullptr));
+    Resize();
+}
+
+LRESULT CALLBACK TrayArea::OwnerSubclass(HWND window, UINT message, WPARAM first, LPARAM second, UINT_PTR,
+                                         DWORD_PTR control) {
+    // Under its old identifier: some taskbars that are called new still have the icon, and then refuse it.
+    if (message == TaskbarCreated() && reinterpret_cast<TrayArea*>(control)->added_)
+        reinterpret_cast<TrayArea*>(control)->AddIcon();
+    return DefSubclassProc(window, message, first, second);
+}
+
+LRESULT CALLBACK TrayArea::Procedure(HWND window, UINT message, WPARAM first, LPARAM second) {
+    if (message == WM_NCCREATE) {
+        auto* const made =
+            static_cast<TrayArea*>(reinterpret_cast<const CREATESTRUCTW*>(second)->lpCreateParams);
+        made->handle_ = window;
+        SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(made));
+    }
+    auto* const control = reinterpret_cast<TrayArea*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (control == nullptr) return DefWindowProcW(window, message, first, second);
+    if (message == WM_NCDESTROY) {
+        SetWindowLongPtrW(window, GWLP_USERDATA, 0);
+        control->handle_ = nullptr;
+        return DefWindowProcW(window, message, first, second);
+    }
+    return Guarded<LRESULT>(0, [&] { return control->Handle(message, first, second); });
+}
+
+LRESULT TrayArea::Handle(UINT message, WPARAM first, LPARAM second) {
+    switch (message) {
+        case kCallbackMessage:
+            Decode(second);
+            return 0;
+        case WM_SIZE:
+            if (!resizing_) Resize();
+            return 0;
+        case WM_PAINT:
+            PaintPicture();
+            return 0;
+        case WM_DESTROY:
+            // Fails when the control could not be placed; then it hears nothing.
+            static_cast<void>(RemoveWindowSubclass(owner_, &TrayArea::OwnerSubclass, kSubclass));
+            RemoveIcon();
+            return 0;
+        default:
+            return DefWindowProcW(handle_, message, first, second);
+    }
+}
+
+void TrayArea::Decode(LPARAM mouse_message) {
+    TrayMouse mouse = TrayMouseOf(static_cast<std::uint64_t>(mouse_message));
+    switch (mouse.Event) {
+        case TrayEvent::MouseMove:
+            if (MouseMove) MouseMove();
+            return;
+        case TrayEvent::MouseDown:
+            if (MouseDown) MouseDown(mouse.Button);
+            return;
+        case TrayEvent::MouseUp:
+            if (MouseUp) MouseUp(mouse.Button);
+            return;
+        case TrayEvent::DblClick:
+            if (DblClick) DblClick();
+            return;
+        case TrayEvent::None:
+            return;
+    }
+}
+
+SIZE TrayArea::PictureSize() const {
+    const UINT dpi = DpiOf(handle_);
+    return {GetSystemMetricsForDpi(SM_CXSMICON, dpi), GetSystemMetricsForDpi(SM_CYSMICON, dpi)};
+}
+
+void TrayArea::Resize() {
+    const SIZE size = PictureSize();
+    resizing_ = true;
+    static_cast<void>(
+        SetWindowPos(handle_, nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE));
+    resizing_ = false;
+}
+
+void TrayArea::PaintPicture() const {
+    PAINTSTRUCT paint{};
+    const HDC canvas = BeginPaint(handle_, &paint);
+    if (canvas == nullptr) return;
+    const SIZE size = PictureSize();
+    static_cast<void>(DrawIconEx(canvas, 0, 0, LoadIconW(nullptr, IDI_APPLICATION), size.cx, size.cy, 0,
+                                 GetSysColorBrush(COLOR_BTNFACE), DI_NORMAL));
+    static_cast<void>(EndPaint(handle_, &paint));  // never fails
+}
+
+void TrayArea::SetIcon(Picture New_Icon) {
+    properties_.Icon = New_Icon;
+    if (!New_Icon) {
+        SetVisible(false);
+    } else if (properties_.Visible) {
+        record_.uFlags = NIF_ICON;
+        record_.hIcon = *New_Icon;
+        Tell(NIM_MODIFY);
+    }
+    Announce(L"Icon");
+}
+
+void TrayArea::SetToolTip(std::wstring_view New_ToolTip) {
+    properties_.ToolTip = Trim(New_ToolTip);
+    record_.uFlags = NIF_TIP;
+    PutToolTip();
+    // Shown or not (intended): when it is not, the call has no effect.
+    Tell(NIM_MODIFY);
+    Announce(L"ToolTip");
+}
+
+void TrayArea::SetVisible(bool New_Visible) {
+    if (New_Visible == properties_.Visible) return;
+    properties_.Visible = New_Visible;
+    if (!New_Visible) {
+        RemoveIcon();
+    } else if (handle_ != nullptr && environment_ == Environment::Running) {
+        record_.uID = TrayIdentifier(std::uniform_real_distribution<double>(0.0, 1.0)(random_));
+        AddIcon();
+    }
+    Announce(L"Visible");
+}
+
+void TrayArea::AddIcon() {
+    record_.uFlags = NIF_MESSAGE;
+    record_.uCallbackMessage = kCallbackMessage;
+    if (properties_.Icon.value_or(nullptr) != nullptr) {
+        record_.uFlags |= NIF_ICON;
+        record_.hIcon = *properties_.Icon;
+    }
+    if (!properties_.ToolTip.empty()) {
+        record_.uFlags |= NIF_TIP;
+        PutToolTip();
+    }
+    Tell(NIM_ADD);
+    added_ = true;
+}
+
+void TrayArea::RemoveIcon() {
+    Tell(NIM_DELETE);
+    added_ = false;
+}
+
+void TrayArea::Tell(DWORD operation) {
+    // Refused when the shell is not there or knows no such icon; the user then sees none.
+    static_cast<void>(NotifyShell(operation, &record_));
+}
+
+void TrayArea::PutToolTip() {
+    const auto field = TipField(ShellText(properties_.ToolTip));
+    std::copy(field.begin(), field.end(), record_.szTip);
+}
+
+void TrayArea::Announce(const wchar_t* name) const {
+    if (PropertyChanged) PropertyChanged(name);
+}
+
+}  // namespace lindrel

@@ -1,0 +1,101 @@
+// An icon in the notification area of the task bar, with a tool tip. A window places the control on itself,
+// sets its properties and hears what the mouse does on the icon. The control is visible on the window only
+// while the window is being designed.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <random>
+#include <string>
+#include <string_view>
+
+#include "controls/Windows.h"
+// After the others: it needs them.
+#include <shellapi.h>
+
+namespace lindrel {
+
+class TrayArea {
+  public:
+    enum class Environment { Running, Design };
+
+    // A picture is an icon's handle, null for the empty picture; nothing is no picture at all. The icon is
+    // not the control's: it must live as long as the control shows it.
+    using Picture = std::optional<HICON>;
+
+    // What is saved with the design of the window, with its defaults.
+    struct Properties {
+        Picture Icon = HICON{};
+        std::wstring ToolTip;
+        bool Visible = false;
+        bool operator==(const Properties&) const = default;
+    };
+
+    TrayArea() = default;
+    // Removes the icon, as does the end of the owner.
+    ~TrayArea();
+    TrayArea(const TrayArea&) = delete;
+    TrayArea& operator=(const TrayArea&) = delete;
+
+    // Makes the control's own window, a child of its owner; once, before an icon can be shown. The owner is a
+    // main window of the same thread and holds one such control. Throws std::bad_alloc when the system
+    // cannot; then there is no control.
+    void Place(HWND owner, Environment environment = Environment::Running);
+    // The control's own window; null before it is placed and after its owner's end.
+    HWND Handle() const { return handle_; }
+
+    // Stores what was saved, as it is: nothing appears until Visible is set.
+    void ReadProperties(const Properties& saved) { properties_ = saved; }
+    const Properties& SavedProperties() const { return properties_; }
+
+    const Picture& Icon() const { return properties_.Icon; }
+    const std::wstring& ToolTip() const { return properties_.ToolTip; }
+    bool Visible() const { return properties_.Visible; }
+
+    // What the shell makes of a change is not looked at: an icon that it cannot add does not appear.
+    void SetIcon(Picture New_Icon);  // no picture at all removes the icon from the notification area
+    // Stored without the blanks around it. The shell keeps the first 64 characters of it.
+    void SetToolTip(std::wstring_view New_ToolTip);
+    void SetVisible(bool New_Visible);
+
+    // A property was set; named "Icon", "ToolTip" or "Visible".
+    std::function<void(const wchar_t* name)> PropertyChanged;
+
+    // What the mouse does on the icon. Button is 1 for the left one, 2 for the right one.
+    std::function<void()> MouseMove;
+    std::function<void(std::int16_t& Button)> MouseDown;
+    std::function<void(std::int16_t& Button)> MouseUp;
+    std::function<void()> DblClick;
+
+    // The shell's operation (NIM_ADD, NIM_MODIFY, NIM_DELETE), the one way of all controls to it.
+    using ShellNotifyIcon = BOOL(WINAPI*)(DWORD operation, NOTIFYICONDATAA* record);
+    static ShellNotifyIcon NotifyShell;
+
+  private:
+    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM first, LPARAM second);
+    static LRESULT CALLBACK OwnerSubclass(HWND window, UINT message, WPARAM first, LPARAM second, UINT_PTR id,
+                                          DWORD_PTR control);
+    LRESULT Handle(UINT message, WPARAM first, LPARAM second);
+    void Decode(LPARAM mouse_message);
+    void Resize();
+    void PaintPicture() const;
+    SIZE PictureSize() const;
+
+    void AddIcon();
+    void RemoveIcon();
+    void Tell(DWORD operation);
+    void PutToolTip();
+    void Announce(const wchar_t* name) const;
+
+    Properties properties_;
+    NOTIFYICONDATAA record_{};
+    std::mt19937 random_{std::random_device{}()};
+    Environment environment_ = Environment::Running;
+    HWND owner_ = nullptr;
+    HWND handle_ = nullptr;
+    bool added_ = false;     // the shell was told to show the icon
+    bool resizing_ = false;  // by the control itself
+};
+
+}  // namespace lindrel
