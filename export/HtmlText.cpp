@@ -7,19 +7,16 @@ namespace lindrel {
 
 namespace {
 
-// Control characters above ASCII mean something else to browsers, whatever the encoding.
-constexpr char32_t kFirstControl = 0x80;
-constexpr char32_t kLastControl = 0x9F;
-
-constexpr std::string_view kEndsAnAddress = " \t\r\n\f'`";
+constexpr std::string_view kEndsAnAddress = " \t\n\f'`";
 
 void AppendReference(std::string& html, char32_t character) {
     html.append("&#").append(std::to_string(static_cast<unsigned long>(character))).append(";");
 }
 
 void AppendCharacter(std::string& html, char32_t character) {
-    const auto byte = Latin2Byte(character);
-    if (byte && (character < kFirstControl || character > kLastControl))
+    // Bytes 80 to 9F must not be references: browsers take the numbers of those for characters of
+    // Windows-1252.
+    if (const auto byte = Latin2Byte(character))
         html.push_back(*byte);
     else
         AppendReference(html, character);
@@ -39,6 +36,10 @@ bool AppendEscaped(std::string& html, char32_t character) {
             return true;
         case U'"':
             html += "&quot;";
+            return true;
+        case U'\r':
+            // As it stands it would be a line feed to a browser.
+            AppendReference(html, character);
             return true;
         default:
             return false;

@@ -1,0 +1,111 @@
+// A real browser without a window, which shows what it makes of an exported page.
+#pragma once
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "book/Files.h"
+
+namespace lindrel::testing {
+
+// What a page is to the one who opens it. Texts are UTF-8, percent-encoded as encodeURIComponent does.
+struct PageInBrowser {
+    std::string Title;
+    std::vector<std::string> Links;  // "address,text"
+    std::string Elements;            // "A 3 BODY 1 ..."
+    std::string Handlers;            // names of attributes that would run something
+    std::string Ran;                 // what window.ran holds: set by nothing but markup that got through
+};
+
+// Runs a probe inside the page. Each browser has a profile of its own in a folder that is removed at the end.
+class Browser {
+  public:
+    Browser() {
+        std::string name = (std::filesystem::temp_directory_path() / "lindrel-browser-XXXXXX").string();
+        if (::mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
+        folder_ = name;
+    }
+    ~Browser() {
+        std::error_code error;
+        std::filesystem::remove_all(folder_, error);
+    }
+    Browser(const Browser&) = delete;
+    Browser& operator=(const Browser&) = delete;
+
+    PageInBrowser Open(std::string_view page) const {
+        constexpr std::string_view kProbe = R"(<script id=probe>
+            const texts = encodeURIComponent, probe = document.getElementById('probe'), counts = {}, handlers = [];
+            for (const element of document.querySelectorAll('*')) {
+              if (element === probe) continue;
+              counts[element.tagName] = (counts[element.tagName] || 0) + 1;
+              for (const attribute of element.attributes)
+                if (attribute.name.startsWith('on')) handlers.push(attribute.name);
+            }
+            const links = [...document.querySelectorAll('a')].map(
+                a => texts(a.getAttribute('href')) + ',' + texts(a.textContent)).join(';');
+            const report = [texts(document.title), links,
+                            Object.keys(counts).sort().map(tag => tag + ' ' + counts[tag]).join(' '),
+                            handlers.join(' '), String(window.ran)];
+            document.documentElement.textContent = '[[' + report.join('|') + ']]';
+            </script>)";
+        const std::filesystem::path file = folder_ / "page.htm";
+        WriteFileBytes(file, std::string(page) + std::string(kProbe));
+        const std::string report = Between(Run("--dump-dom 'file://" + file.string() + "'"), "[[", "]]");
+        PageInBrowser found;
+        const std::vector<std::string> parts = SplitAt(report, '|');
+        found.Title = parts.at(0);
+        found.Links = SplitAt(parts.at(1), ';');
+        found.Elements = parts.at(2);
+        found.Handlers = parts.at(3);
+        found.Ran = parts.at(4);
+        return found;
+    }
+
+  private:
+    std::string Run(const std::string& arguments) const {
+        const std::string command =
+            "timeout -k 5 100 chromium --headless --no-sandbox --disable-gpu "
+            "--disable-dev-shm-usage --user-data-dir='" +
+            (folder_ / "profile").string() + "' " + arguments + " 2>'" + (folder_ / "log").string() + "'";
+        std::FILE* const pipe = ::popen(command.c_str(), "r");
+        if (pipe == nullptr) throw std::runtime_error("no shell");
+        std::string output;
+        std::array<char, 65536> buffer{};
+        while (const std::size_t got = std::fread(buffer.data(), 1, buffer.size(), pipe))
+            output.append(buffer.data(), got);
+        const int status = ::pclose(pipe);
+        if (!WIFEXITED(status) || WEXITSTATUS(status) != 0)
+            throw std::runtime_error("the browser failed: " + command);
+        return output;
+    }
+
+    static std::vector<std::string> SplitAt(const std::string& text, char separator) {
+        std::vector<std::string> parts;
+        for (std::size_t start = 0; start <= text.size();) {
+            const std::size_t end = std::min(text.find(separator, start), text.size());
+            parts.push_back(text.substr(start, end - start));
+            start = end + 1;
+        }
+        return parts;
+    }
+
+    static std::string Between(const std::string& text, std::string_view left, std::string_view right) {
+        const std::size_t start = text.find(left);
+        const std::size_t end = start == std::string::npos ? start : text.find(right, start);
+        if (end == std::string::npos) throw std::runtime_error("the page says nothing: " + text);
+        return text.substr(start + left.size(), end - start - left.size());
+    }
+
+    std::filesystem::path folder_;
+};
+
+}  // namespace lindrel::testing
