@@ -67,7 +67,7 @@ int RunProgram(HINSTANCE instance, int show) {
     const ComApartment com;
     INITCOMMONCONTROLSEX classes{};
     classes.dwSize = sizeof classes;
-    classes.dwICC = ICC_WIN95_CLASSES | ICC_STANDARD_CLASSES;
+    classes.dwICC = ICC_WIN95_CLASSES | ICC_STANDARD_CLASSES | ICC_LINK_CLASS;
     // Fails only where version 6 of the common controls is missing; creating the window then says so.
     static_cast<void>(InitCommonControlsEx(&classes));
 

@@ -154,6 +154,12 @@ void frmStart::OnCommand(int id, int) {
             return mnuExport_Click();
         case ID_mnuToDesktop:
             return mnuToDesktop_Click();
+        case ID_mnuHelp:
+            return mnuHelp_Click();
+        case ID_mnuGoHome:
+            return mnuGoHome_Click();
+        case ID_mnuAbout:
+            return mnuAbout_Click();
         case ID_NextTab:
             return SelectTab(SelectedCategory() % kCategories + 1);
         case ID_PreviousTab:

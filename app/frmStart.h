@@ -6,6 +6,7 @@
 //     frmStart_List.cpp    tabs, list, check marks
 //     frmStart_Edit.cpp    adding, editing, moving, deleting, renaming
 //     frmStart_Export.cpp  export, shortcut on the desktop
+//     frmStart_Help.cpp    help, home page, about box
 #pragma once
 
 #include <cstdint>
@@ -104,6 +105,9 @@ class frmStart {
     void mnuDel_Click();
     void mnuExport_Click();
     void mnuToDesktop_Click();
+    void mnuHelp_Click();
+    void mnuGoHome_Click();
+    void mnuAbout_Click();
 
   private:
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM first, LPARAM second);

@@ -106,8 +106,19 @@
 #define ID_frmSelectFavoritDir_cmdOk 1704
 #define ID_frmSelectFavoritDir_cmdCancel 1705
 
-/* Blocks of the dialogs to come: frmFind 1500, frmImport 1800, frmI_Fav
-   1900, frmAbout 2000. */
+/* Blocks of the dialogs to come: frmFind 1500, frmImport 1800, frmI_Fav 1900. */
+
+/* The about box. */
+#define IDD_frmAbout 2000
+#define ID_frmAbout_picIcon 2001
+#define ID_frmAbout_lblTitle 2002
+#define ID_frmAbout_lblVersion 2003
+#define ID_frmAbout_lblDescription 2004
+#define ID_frmAbout_Label1 2005
+#define ID_frmAbout_lblDisclaimer 2006
+#define ID_frmAbout_cmdOK 2007
+#define ID_frmAbout_Line1_0 2010
+#define ID_frmAbout_Line1_1 2011
 
 /* Commands, in the order of the menus. */
 #define ID_mnuNew 40001

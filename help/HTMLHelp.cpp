@@ -1,0 +1,44 @@
+#include "help/HTMLHelp.h"
+
+#include "controls/Shell.h"
+
+namespace lindrel {
+
+namespace {
+
+constexpr UINT kDisplayContents = 1;  // HH_DISPLAY_TOC
+
+// The viewer is looked up when help is first wanted, so that the program also starts where it is not
+// installed. It is never unloaded: its windows may still be open.
+HelpViewer InstalledViewer() {
+    const HMODULE library = LoadLibraryExW(L"hhctrl.ocx", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+    if (library == nullptr) return nullptr;
+    return reinterpret_cast<HelpViewer>(reinterpret_cast<void*>(GetProcAddress(library, "HtmlHelpW")));
+}
+
+HWND WINAPI ShowInInstalledViewer(HWND owner, const wchar_t* file, UINT command, DWORD_PTR data) {
+    static const HelpViewer viewer = InstalledViewer();
+    return viewer != nullptr ? viewer(owner, file, command, data) : nullptr;
+}
+
+HelpViewer the_viewer = &ShowInInstalledViewer;
+
+}  // namespace
+
+std::wstring HelpFilePath(std::int16_t kind) {
+    return kind == 1 ? ProgramFolder() + L"\\lnd.chm" : std::wstring();
+}
+
+void ShowHelp(std::int16_t kind, const std::wstring& window) {
+    const std::wstring file = HelpFilePath(kind) + L">" + window;
+    // The result, the viewer's window, is of no use here; failures are the viewer's to report.
+    static_cast<void>(the_viewer(nullptr, file.c_str(), kDisplayContents, 0));
+}
+
+HelpViewer ExchangeHelpViewer(HelpViewer viewer) {
+    const HelpViewer before = the_viewer;
+    the_viewer = viewer;
+    return before;
+}
+
+}  // namespace lindrel

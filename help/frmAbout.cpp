@@ -1,0 +1,83 @@
+#include "help/frmAbout.h"
+
+#include <commctrl.h>
+
+#include "Version.h"
+#include "controls/MsgBox.h"
+#include "controls/Shell.h"
+#include "help/HomePage.h"
+#include "resources/resource.h"
+
+namespace lindrel {
+
+namespace {
+
+// Beside the title's height on a screen of 96 dots per inch.
+constexpr int kIconSide = 48;
+
+// The program's icon in the size that the resolution asks for, or nothing; the caller destroys it.
+HICON ProgramIcon(UINT dpi) {
+    const int side = MulDiv(kIconSide, static_cast<int>(dpi), USER_DEFAULT_SCREEN_DPI);
+    return static_cast<HICON>(CopyImage(LoadIconW(nullptr, IDI_APPLICATION), IMAGE_ICON, side, side, 0));
+}
+
+LOGFONTW TitleFont(UINT dpi) {
+    LOGFONTW font = MessageFont(dpi);
+    font.lfHeight = font.lfHeight * 5 / 3;
+    font.lfWeight = FW_BOLD;
+    return font;
+}
+
+}  // namespace
+
+std::wstring VersionLine(int major, int minor, int revision) {
+    return L"Version " + std::to_wstring(major) + L"." + std::to_wstring(minor) + L"." +
+           std::to_wstring(revision);
+}
+
+frmAbout::frmAbout() : Dialog(IDD_frmAbout) {}
+
+frmAbout::~frmAbout() {
+    if (icon_ != nullptr) static_cast<void>(DestroyIcon(icon_));  // fails only for an icon that is none
+}
+
+void frmAbout::Form_Load() {
+    const UINT dpi = DpiOf(Handle());
+    const std::wstring title = kApplicationTitle;
+    static_cast<void>(SetWindowTextW(Handle(), (title + L" névjegye").c_str()));
+    Get<Control>(ID_frmAbout_lblTitle).SetText(title);
+    Get<Control>(ID_frmAbout_lblVersion)
+        .SetText(VersionLine(LINDREL_VERSION_MAJOR, LINDREL_VERSION_MINOR, LINDREL_VERSION_REVISION));
+    Get<Control>(ID_frmAbout_Label1).SetText(L"<a>" + std::wstring(kHomePage) + L"</a>");
+
+    icon_ = ProgramIcon(dpi);
+    SendMessageW(Item(ID_frmAbout_picIcon), STM_SETICON, reinterpret_cast<WPARAM>(icon_), 0);
+    title_font_ = Font(TitleFont(dpi));
+    SendMessageW(Item(ID_frmAbout_lblTitle), WM_SETFONT, reinterpret_cast<WPARAM>(title_font_.Handle()),
+                 FALSE);
+    // Not on the link, which comes first: Enter closes the box.
+    FocusOn(ID_frmAbout_cmdOK);
+}
+
+void frmAbout::OnCommand(int id, int) {
+    switch (id) {
+        case ID_frmAbout_cmdOK:
+        case IDCANCEL:
+            return cmdOK_Click();
+        default:
+            return;
+    }
+}
+
+LRESULT frmAbout::OnNotify(const NMHDR& header) {
+    const bool used = header.code == NM_CLICK || header.code == NM_RETURN;
+    if (header.idFrom == ID_frmAbout_Label1 && used) Label1_Click();
+    return 0;
+}
+
+void frmAbout::Label1_Click() {
+    // An address that nothing opens is the shell's to report.
+    static_cast<void>(OpenAddress(kHomePage));
+}
+
+}  // namespace lindrel

@@ -1,0 +1,30 @@
+// The about box.
+#pragma once
+
+#include <string>
+
+#include "controls/Dialog.h"
+#include "controls/Display.h"
+
+namespace lindrel {
+
+// "Version 1.2.15": the numbers in decimal, not padded.
+std::wstring VersionLine(int major, int minor, int revision);
+
+class frmAbout : public Dialog {
+  public:
+    frmAbout();
+    ~frmAbout() override;
+
+  private:
+    void Form_Load() override;
+    void OnCommand(int id, int event) override;
+    LRESULT OnNotify(const NMHDR& header) override;
+    void cmdOK_Click() { Unload(); }
+    void Label1_Click();
+
+    HICON icon_ = nullptr;
+    Font title_font_;
+};
+
+}  // namespace lindrel

@@ -1,0 +1,140 @@
+// The help command and the call of the help viewer.
+
+#include "help/HTMLHelp.h"
+
+#include <gtest/gtest.h>
+
+#include <mutex>
+#include <ostream>
+
+#include "controls/Shell.h"
+#include "resources/resource.h"
+#include "tests/window/support/OpenedAddresses.h"
+#include "tests/window/support/Program.h"
+
+namespace lindrel::testing {
+namespace {
+
+struct ViewerCall {
+    HWND Owner;
+    std::wstring File;
+    UINT Command;
+    DWORD_PTR Data;
+    bool operator==(const ViewerCall&) const = default;
+};
+
+void PrintTo(const ViewerCall& call, std::ostream* out) {
+    *out << call.Owner << " " << ::testing::PrintToString(call.File) << " " << call.Command << " "
+         << call.Data;
+}
+
+// The help file, put into the program's folder with a test's own bytes, or kept away from it.
+class HTMLHelpTest : public ::testing::Test {
+  protected:
+    HTMLHelpTest() {
+        calls.clear();
+        before_ = ExchangeHelpViewer(&Record);
+        RemoveHelpFile();
+    }
+    ~HTMLHelpTest() override {
+        ExchangeHelpViewer(before_);
+        RemoveHelpFile();
+    }
+
+    static std::wstring InProgramFolder() { return ProgramFolder() + L"\\lnd.chm"; }
+    static void RemoveHelpFile() {
+        static_cast<void>(DeleteFileW(InProgramFolder().c_str()));  // usually there is none
+        static_cast<void>(RemoveDirectoryW(InProgramFolder().c_str()));
+    }
+    static void PutHelpFile() {
+        const HANDLE file = CreateFileW(InProgramFolder().c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                        FILE_ATTRIBUTE_NORMAL, nullptr);
+        ASSERT_NE(file, INVALID_HANDLE_VALUE);
+        CloseHandle(file);
+    }
+    static void ExpectMissingFileMessage(const Program& program) {
+        const BoxOnScreen box = program.Box();
+        EXPECT_EQ(box.Title(), L"Hiba");
+        EXPECT_EQ(box.Text(), L"Nem találom az lnd.chm fájlt");
+        EXPECT_EQ(box.Buttons(), std::vector<int>{IDOK});
+        EXPECT_EQ(box.Icon(), BoxIcon::None);
+        box.Press(IDOK);
+        program.Settle();
+        EXPECT_TRUE(program.NothingIsOpen());
+        EXPECT_EQ(program.State(), EmptyState());
+        EXPECT_EQ(calls, std::vector<ViewerCall>{});
+    }
+    static ViewerCall ContentsOf(const std::wstring& file) { return {nullptr, file, 1, 0}; }
+
+    // Made on the program's thread, looked at when it has settled.
+    static inline std::vector<ViewerCall> calls;
+
+  private:
+    static HWND WINAPI Record(HWND owner, const wchar_t* file, UINT command, DWORD_PTR data) {
+        calls.push_back({owner, file, command, data});
+        return nullptr;
+    }
+    HelpViewer before_;
+};
+
+TEST_F(HTMLHelpTest, TheHelpFileOfKindOneLiesBesideTheProgram) {
+    EXPECT_EQ(HelpFilePath(1), InProgramFolder());
+    EXPECT_EQ(ProgramFolder().back() == L'\\', false);
+}
+
+TEST_F(HTMLHelpTest, OtherKindsHaveNoFile) {
+    for (const int kind : {0, 2, -1, 32767, -32768})
+        EXPECT_EQ(HelpFilePath(static_cast<std::int16_t>(kind)), L"") << kind;
+}
+
+TEST_F(HTMLHelpTest, ShowHelpAsksForTheContentsInTheNamedWindow) {
+    ShowHelp(1, L"main");
+    ShowHelp(1, L"");
+    ShowHelp(2, L"más");
+    EXPECT_EQ(calls, (std::vector{ContentsOf(InProgramFolder() + L">main"),
+                                  ContentsOf(InProgramFolder() + L">"), ContentsOf(L">más")}));
+}
+
+TEST_F(HTMLHelpTest, WithoutTheFileF1ShowsTheMessage) {
+    const Program program;
+    program.PressKey(program.Ask<HWND>([](frmStart& form) { return form.ListURLs.Handle(); }), VK_F1);
+    ExpectMissingFileMessage(program);
+}
+
+TEST_F(HTMLHelpTest, WithoutTheFileTheMenuItemShowsTheMessage) {
+    const Program program;
+    program.Choose(ID_mnuHelp);
+    ExpectMissingFileMessage(program);
+}
+
+TEST_F(HTMLHelpTest, AFolderOfThatNameIsNoHelpFile) {
+    ASSERT_TRUE(CreateDirectoryW(InProgramFolder().c_str(), nullptr));
+    const Program program;
+    program.Choose(ID_mnuHelp);
+    ExpectMissingFileMessage(program);
+}
+
+TEST_F(HTMLHelpTest, F1AndTheMenuItemOpenTheContentsInTheMainWindowType) {
+    PutHelpFile();
+    const Program program;
+    program.PressKey(program.Ask<HWND>([](frmStart& form) { return form.txtSite.Handle(); }), VK_F1);
+    program.Settle();
+    EXPECT_EQ(calls, std::vector{ContentsOf(InProgramFolder() + L">main")});
+    program.Run(ID_mnuHelp);
+    EXPECT_EQ(calls, (std::vector{ContentsOf(InProgramFolder() + L">main"),
+                                  ContentsOf(InProgramFolder() + L">main")}));
+    EXPECT_TRUE(program.NothingIsOpen());
+    EXPECT_EQ(program.State(), EmptyState());
+}
+
+TEST_F(HTMLHelpTest, TheHomePageOpensInTheBrowser) {
+    const OpenedAddresses opened;
+    const Program program;
+    program.Run(ID_mnuGoHome);
+    EXPECT_EQ(opened.WaitFor(1), std::vector<std::string>{"https://lindrel.example/"});
+    EXPECT_TRUE(program.NothingIsOpen());
+    EXPECT_EQ(program.State(), EmptyState());
+}
+
+}  // namespace
+}  // namespace lindrel::testing

@@ -1,0 +1,107 @@
+// The about box.
+
+#include "help/frmAbout.h"
+
+#include <commctrl.h>
+#include <gtest/gtest.h>
+
+#include "Version.h"
+#include "resources/resource.h"
+#include "tests/window/support/OpenedAddresses.h"
+#include "tests/window/support/Program.h"
+
+namespace lindrel::testing {
+namespace {
+
+class frmAboutTest : public ::testing::Test {
+  protected:
+    DialogOnScreen Open() const {
+        program.Choose(ID_mnuAbout);
+        return program.Dialog(L"Lindrel névjegye");
+    }
+    void ExpectUntouched() const {
+        program.Settle();
+        EXPECT_TRUE(program.NothingIsOpen());
+        EXPECT_EQ(program.State(), EmptyState());
+    }
+    static RECT Place(const DialogOnScreen& dialog, int id) {
+        RECT place{};
+        EXPECT_TRUE(GetWindowRect(dialog.Control(id), &place));
+        return place;
+    }
+
+    Program program;
+};
+
+TEST_F(frmAboutTest, ShowsEveryTextToTheLetter) {
+    const DialogOnScreen dialog = Open();
+    EXPECT_EQ(dialog.Text(ID_frmAbout_lblTitle), L"Lindrel");
+    EXPECT_EQ(dialog.Text(ID_frmAbout_lblDescription), L"© 2026 Lindrel");
+    EXPECT_EQ(dialog.Text(ID_frmAbout_Label1), L"<a>https://lindrel.example/</a>");
+    EXPECT_EQ(dialog.Text(ID_frmAbout_lblDisclaimer),
+              L"Figyelmeztetés: Jelen számítógépes program a szerzői jog és nemzetközi szerződések védelme "
+              L"alatt áll.");
+    EXPECT_EQ(dialog.Text(ID_frmAbout_cmdOK), L"OK");
+    dialog.ClickAndWaitForClose(ID_frmAbout_cmdOK);
+    ExpectUntouched();
+}
+
+TEST_F(frmAboutTest, TheVersionLineIsTheProjectsVersionAndNothingElse) {
+    const DialogOnScreen dialog = Open();
+    EXPECT_EQ(dialog.Text(ID_frmAbout_lblVersion), L"Version " LINDREL_VERSION_TEXT);
+    dialog.ClickAndWaitForClose(ID_frmAbout_cmdOK);
+}
+
+TEST_F(frmAboutTest, VersionNumbersAreDecimalAndNotPadded) {
+    EXPECT_EQ(VersionLine(1, 2, 15), L"Version 1.2.15");
+    EXPECT_EQ(VersionLine(0, 0, 0), L"Version 0.0.0");
+    EXPECT_EQ(VersionLine(10, 200, 32767), L"Version 10.200.32767");
+}
+
+TEST_F(frmAboutTest, ItsPartsStandInTheirOrderFromTopToBottom) {
+    const DialogOnScreen dialog = Open();
+    const int order[] = {ID_frmAbout_lblTitle,       ID_frmAbout_lblVersion, ID_frmAbout_Line1_0,
+                         ID_frmAbout_lblDescription, ID_frmAbout_Label1,     ID_frmAbout_Line1_1,
+                         ID_frmAbout_lblDisclaimer,  ID_frmAbout_cmdOK};
+    EXPECT_LT(Place(dialog, ID_frmAbout_picIcon).right, Place(dialog, ID_frmAbout_lblTitle).left);
+    for (std::size_t i = 1; i < std::size(order); ++i)
+        EXPECT_LE(Place(dialog, order[i - 1]).bottom, Place(dialog, order[i]).top) << order[i];
+    EXPECT_NE(SendMessageW(dialog.Control(ID_frmAbout_picIcon), STM_GETICON, 0, 0), 0);
+    dialog.ClickAndWaitForClose(ID_frmAbout_cmdOK);
+}
+
+TEST_F(frmAboutTest, IsModalAndEscClosesItToo) {
+    const DialogOnScreen dialog = Open();
+    EXPECT_FALSE(IsWindowEnabled(program.Main()));
+    EXPECT_EQ(dialog.Focus(), ID_frmAbout_cmdOK);
+    dialog.Cancel();
+    dialog.WaitForClose();
+    EXPECT_TRUE(IsWindowEnabled(program.Main()));
+    ExpectUntouched();
+}
+
+TEST_F(frmAboutTest, TheHomePageLinkOpensItAndTheBoxStays) {
+    const OpenedAddresses opened;
+    const DialogOnScreen dialog = Open();
+    program.PressKey(dialog.Control(ID_frmAbout_cmdOK), VK_TAB);
+    ASSERT_EQ(dialog.Focus(), ID_frmAbout_Label1);
+    program.PressKey(dialog.Control(ID_frmAbout_Label1), VK_RETURN);
+    EXPECT_EQ(opened.WaitFor(1), std::vector<std::string>{"https://lindrel.example/"});
+
+    const HWND link = dialog.Control(ID_frmAbout_Label1);
+    const LPARAM place = MAKELPARAM(5, 5);
+    PostMessageW(link, WM_LBUTTONDOWN, MK_LBUTTON, place);
+    PostMessageW(link, WM_LBUTTONUP, 0, place);
+    EXPECT_EQ(opened.WaitFor(2), std::vector<std::string>(2, "https://lindrel.example/"));
+    EXPECT_TRUE(dialog.IsOpen());
+    dialog.ClickAndWaitForClose(ID_frmAbout_cmdOK);
+    ExpectUntouched();
+}
+
+TEST_F(frmAboutTest, OpensAgainAndAgain) {
+    for (int time = 0; time < 3; ++time) Open().ClickAndWaitForClose(ID_frmAbout_cmdOK);
+    ExpectUntouched();
+}
+
+}  // namespace
+}  // namespace lindrel::testing
