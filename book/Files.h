@@ -23,6 +23,9 @@ void ReplaceFileBytes(const std::filesystem::path& path, std::string_view bytes)
 // A path as text for the user.
 std::wstring WideText(const std::filesystem::path& path);
 
+// The last part of a path as text.
+std::wstring NameOfFile(const std::filesystem::path& path);
+
 // The part of a path after its last backslash, without blanks at its ends; without a backslash the whole
 // path.
 std::wstring FileNameOf(std::wstring_view path);

@@ -93,6 +93,12 @@ std::wstring WideText(const std::filesystem::path& path) {
     return {characters.begin(), characters.end()};
 }
 
+std::wstring NameOfFile(const std::filesystem::path& path) {
+    // File names are UTF-8 here, whatever the locale.
+    const std::u32string name = path.filename().u32string();
+    return {name.begin(), name.end()};
+}
+
 std::vector<char> ReadFileBytes(const std::filesystem::path& path) {
     const File file(path, O_RDONLY, 0);
     std::vector<char> bytes(static_cast<std::size_t>(file.Status().st_size));

@@ -116,6 +116,10 @@ std::wstring WideText(const std::filesystem::path& path) {
     return path.wstring();
 }
 
+std::wstring NameOfFile(const std::filesystem::path& path) {
+    return path.filename().native();
+}
+
 std::vector<char> ReadFileBytes(const std::filesystem::path& path) {
     const File file(path, GENERIC_READ, FILE_SHARE_READ, OPEN_EXISTING);
     std::vector<char> bytes(file.Size());

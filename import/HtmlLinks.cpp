@@ -1,0 +1,156 @@
+#include "import/HtmlLinks.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <optional>
+#include <string>
+
+#include "book/BookText.h"
+#include "book/Faults.h"
+#include "import/TextLines.h"
+
+namespace lindrel {
+
+namespace {
+
+constexpr std::size_t kNowhere = std::string_view::npos;
+constexpr std::string_view kAnchor = "a href=\"";
+constexpr std::string_view kClosing = "</a";
+constexpr std::size_t kLongestName = 55;
+
+constexpr char AsciiLower(char byte) {
+    return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte + ('a' - 'A')) : byte;
+}
+
+bool BeginsCaseless(std::string_view text, std::string_view lower) {
+    return text.size() >= lower.size() && std::equal(lower.begin(), lower.end(), text.begin(),
+                                                     [](char a, char b) { return a == AsciiLower(b); });
+}
+
+// How far a search for the anchor may go on when a byte stands under its last place (Horspool's table).
+constexpr auto kStep = [] {
+    std::array<std::uint8_t, 256> steps{};
+    steps.fill(static_cast<std::uint8_t>(kAnchor.size()));
+    for (unsigned byte = 0; byte < steps.size(); ++byte)
+        for (std::size_t i = 0; i + 1 < kAnchor.size(); ++i)
+            if (kAnchor[i] == AsciiLower(static_cast<char>(byte)))
+                steps[byte] = static_cast<std::uint8_t>(kAnchor.size() - 1 - i);
+    return steps;
+}();
+
+// Place of the next anchor in either case. No line end can be inside it.
+std::size_t FindAnchor(std::string_view page, std::size_t from) {
+    constexpr std::size_t kLast = kAnchor.size() - 1;
+    for (std::size_t at = from; at + kLast < page.size();) {
+        const char last = page[at + kLast];
+        if (last == kAnchor.back() && BeginsCaseless(page.substr(at), kAnchor)) return at;
+        at += kStep[static_cast<unsigned char>(last)];
+    }
+    return kNowhere;
+}
+
+std::size_t FindClosing(std::string_view line) {
+    for (std::size_t at = line.find('<'); at != kNowhere; at = line.find('<', at + 1))
+        if (BeginsCaseless(line.substr(at), kClosing)) return at;
+    return kNowhere;
+}
+
+// Counters that hold no more than 255.
+std::size_t CheckedShortCount(std::size_t count) {
+    if (count > std::numeric_limits<std::uint8_t>::max()) throw OverflowFault();
+    return count;
+}
+
+// Cuts a page into the chunks of its anchors: from the address to the closing tag.
+class AnchorScanner {
+  public:
+    explicit AnchorScanner(std::string_view page) : page_(page) {}
+
+    // The next chunk; it holds until the next call. Throws EndOfFileFault for an anchor that is not closed.
+    std::optional<std::string_view> Next() {
+        const std::size_t anchor = FindAnchor(page_, place_);
+        if (anchor == kNowhere) return std::nullopt;
+        if (anchor >= line_end_) line_end_ = EndOfLine(page_, anchor);
+        const std::size_t start = anchor + kAnchor.size();
+        const std::string_view rest = page_.substr(start, line_end_ - start);
+        const std::size_t closing = FindClosing(rest);
+        chunk_ = LowerCase(rest.substr(0, closing));
+        if (closing != kNowhere)
+            place_ = start + closing;
+        else
+            AppendFollowingLines();
+        return chunk_;
+    }
+
+  private:
+    // The lines after the anchor's own keep their case, and what follows the anchor on its last line is never
+    // looked at (both intended).
+    void AppendFollowingLines() {
+        for (bool closed = false; !closed;) {
+            place_ = BehindLineEnd(page_, line_end_);
+            if (place_ == page_.size()) throw EndOfFileFault();
+            line_end_ = EndOfLine(page_, place_);
+            const std::string_view line = page_.substr(place_, line_end_ - place_);
+            const std::size_t closing = FindClosing(line);
+            // A line that begins with the closing tag does not close the anchor (intended).
+            closed = closing != kNowhere && closing != 0;
+            chunk_.push_back(' ');
+            chunk_.append(closed ? line.substr(0, closing + kClosing.size() + 1) : line);
+        }
+        place_ = line_end_;
+    }
+
+    std::string_view page_;
+    std::size_t place_ = 0;     // where the search goes on
+    std::size_t line_end_ = 0;  // of the last line that was looked at
+    std::string chunk_;
+};
+
+bool IsOnline(std::string_view chunk) {
+    constexpr std::size_t kFrom = 2;
+    return chunk.find("://", kFrom) != kNowhere;
+}
+
+}  // namespace
+
+std::vector<NewEntry> LinksOfPage(std::string_view page, LinkChoice choice) {
+    std::vector<NewEntry> staged;
+    std::int16_t number = 1;
+    AnchorScanner anchors(page);
+    for (auto chunk = anchors.Next(); chunk; chunk = anchors.Next()) {
+        if (choice == LinkChoice::Online && !IsOnline(*chunk)) continue;
+        StageLink(staged, *chunk, number);
+        // The counter runs one ahead, so the last number it holds is never a link's (intended).
+        if (number == std::numeric_limits<std::int16_t>::max()) throw OverflowFault();
+        ++number;
+    }
+    return staged;
+}
+
+void StageLink(std::vector<NewEntry>& staged, std::string_view chunk, std::int16_t number) {
+    if (number < 1) throw RangeFault();
+    const std::size_t quote = chunk.find('"');
+    if (quote == kNowhere) throw ArgumentFault();
+    CheckedShortCount(quote + 1);
+    // Not found is the place before the first character: then the name is made of the whole chunk (intended).
+    std::string_view name = chunk.substr(chunk.find('>', quote) + 1);
+    CleanLinkText(name);
+    staged.resize(static_cast<std::size_t>(number));
+    staged.back() = {std::string(name), std::string(chunk.substr(0, quote))};
+}
+
+void CleanLinkText(std::string_view& text) {
+    if (text.find('<') != kNowhere) {
+        const std::size_t closing = text.find("</");
+        if (closing == kNowhere) {
+            text = "ismeretlen";
+            return;
+        }
+        text = text.substr(0, CheckedShortCount(closing + 1) - 1);
+        text = text.substr(text.rfind('>') + 1);
+    }
+    text = text.substr(0, kLongestName);
+}
+
+}  // namespace lindrel

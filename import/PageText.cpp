@@ -1,0 +1,161 @@
+#include "import/PageText.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <cstring>
+#include <optional>
+#include <span>
+#include <string>
+
+#include "book/BookText.h"
+#include "book/Latin2.h"
+
+namespace lindrel {
+
+namespace {
+
+constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
+
+// Length of the run of ASCII bytes at the start.
+std::size_t AsciiRun(std::string_view bytes) {
+    constexpr std::uint64_t kHighBits = 0x8080808080808080;
+    std::size_t length = 0;
+    for (std::uint64_t block = 0; bytes.size() - length >= sizeof block; length += sizeof block) {
+        std::memcpy(&block, bytes.data() + length, sizeof block);
+        if ((block & kHighBits) != 0) break;
+    }
+    while (length < bytes.size() && static_cast<unsigned char>(bytes[length]) < 0x80) ++length;
+    return length;
+}
+
+struct Utf8Character {
+    char32_t Value;
+    std::size_t Length;  // in bytes
+};
+
+// The character at the start of the bytes, which is not ASCII; nothing when they are no UTF-8.
+std::optional<Utf8Character> FirstUtf8Character(std::string_view bytes) {
+    const auto lead = static_cast<unsigned char>(bytes.front());
+    const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
+    if (lead < 0xC2 || lead > 0xF4 || length > bytes.size()) return std::nullopt;
+    char32_t value = lead & (0x7FU >> length);
+    for (const char byte : bytes.substr(1, length - 1)) {
+        const auto trail = static_cast<unsigned char>(byte);
+        if ((trail & 0xC0U) != 0x80) return std::nullopt;
+        value = value << 6 | (trail & 0x3FU);
+    }
+    constexpr std::array<char32_t, 5> kLeast = {0, 0, 0x80, 0x800, 0x10000};
+    const bool surrogate = value >= 0xD800 && value <= 0xDFFF;
+    if (value < kLeast.at(length) || surrogate || value > 0x10FFFF) return std::nullopt;
+    return Utf8Character{value, length};
+}
+
+bool IsUtf8BeyondAscii(std::string_view bytes) {
+    const std::size_t ascii = AsciiRun(bytes);
+    if (ascii == bytes.size()) return false;
+    for (bytes.remove_prefix(ascii); !bytes.empty(); bytes.remove_prefix(AsciiRun(bytes))) {
+        const std::optional<Utf8Character> character = FirstUtf8Character(bytes);
+        if (!character) return false;
+        bytes.remove_prefix(character->Length);
+    }
+    return true;
+}
+
+// The value of name = value at the start of a text, without its quotes; empty when there is no "=".
+std::string_view ValueAfterName(std::string_view text) {
+    constexpr std::string_view kBlanks = " \t\r\n\f";
+    constexpr std::string_view kEnds = " \t\r\n\f\"';>/?";
+    const auto skip = [&text](std::string_view unwanted) {
+        text.remove_prefix(std::min(text.find_first_not_of(unwanted), text.size()));
+    };
+    skip(kBlanks);
+    if (!text.starts_with('=')) return {};
+    text.remove_prefix(1);
+    skip(kBlanks);
+    skip("\"'");
+    skip(kBlanks);
+    return text.substr(0, text.find_first_of(kEnds));
+}
+
+// The encoding that a tag of the page's head names with an attribute, both in lower case; empty for none.
+std::string_view DeclaredIn(std::string_view head, std::string_view tag, std::string_view attribute) {
+    for (std::size_t start = head.find(tag); start != std::string_view::npos;
+         start = head.find(tag, start + 1)) {
+        const std::string_view whole = head.substr(start, head.find('>', start) - start);
+        for (std::size_t at = whole.find(attribute); at != std::string_view::npos;
+             at = whole.find(attribute, at + 1)) {
+            const std::string_view value = ValueAfterName(whole.substr(at + attribute.size()));
+            if (!value.empty()) return value;
+        }
+    }
+    return {};
+}
+
+std::optional<PageEncoding> DeclaredEncoding(std::string_view page) {
+    constexpr std::size_t kLongestHead = 4096;
+    constexpr std::array<std::string_view, 2> kUtf8Names = {"utf-8", "utf8"};
+    constexpr std::array<std::string_view, 5> kLatin2Names = {"iso-8859-2", "iso8859-2", "iso_8859-2",
+                                                              "latin2", "l2"};
+    const std::string head = LowerCase(page.substr(0, kLongestHead));
+    std::string_view name = DeclaredIn(head, "<meta", "charset");
+    if (name.empty()) name = DeclaredIn(head, "<?xml", "encoding");
+    const auto among = [name](std::span<const std::string_view> names) {
+        return std::find(names.begin(), names.end(), name) != names.end();
+    };
+    if (among(kUtf8Names)) return PageEncoding::Utf8;
+    if (among(kLatin2Names)) return PageEncoding::Latin2;
+    return std::nullopt;
+}
+
+// Book text is never longer than UTF-8, so it is written over the bytes that were read already.
+void FromUtf8(std::vector<char>& page) {
+    std::string_view rest(page.data(), page.size());
+    if (rest.starts_with(kUtf8Mark)) rest.remove_prefix(kUtf8Mark.size());
+    char* to = page.data();
+    while (!rest.empty()) {
+        const std::size_t ascii = AsciiRun(rest);
+        std::memmove(to, rest.data(), ascii);
+        to += ascii;
+        rest.remove_prefix(ascii);
+        if (rest.empty()) break;
+        const std::optional<Utf8Character> character = FirstUtf8Character(rest);
+        *to++ = character ? BookByte(character->Value).value_or('?') : '?';
+        rest.remove_prefix(character ? character->Length : 1);
+    }
+    page.resize(static_cast<std::size_t>(to - page.data()));
+}
+
+void FromLatin2(std::vector<char>& page) {
+    for (char& byte : page) {
+        // The control characters below are never meant: such pages hold dashes and quotes of Windows-1250.
+        constexpr unsigned char kFirstCharacter = 0xA0;
+        if (static_cast<unsigned char>(byte) < kFirstCharacter) continue;
+        byte = BookByte(Latin2Character(byte)).value_or('?');
+    }
+}
+
+}  // namespace
+
+PageEncoding EncodingOfPage(std::string_view page) {
+    if (page.starts_with(kUtf8Mark)) return PageEncoding::Utf8;
+    const std::optional<PageEncoding> declared = DeclaredEncoding(page);
+    if (declared == PageEncoding::Utf8 || IsUtf8BeyondAscii(page)) return PageEncoding::Utf8;
+    return declared.value_or(PageEncoding::Windows1250);
+}
+
+std::vector<char> BookTextOfPage(std::vector<char> page) {
+    switch (EncodingOfPage({page.data(), page.size()})) {
+        case PageEncoding::Utf8:
+            FromUtf8(page);
+            break;
+        case PageEncoding::Latin2:
+            FromLatin2(page);
+            break;
+        case PageEncoding::Windows1250:
+            break;
+    }
+    return page;
+}
+
+}  // namespace lindrel

@@ -1,0 +1,76 @@
+#include "import/Shortcuts.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <limits>
+#include <utility>
+
+#include "book/BookText.h"
+#include "book/Faults.h"
+#include "book/Files.h"
+#include "import/TextLines.h"
+
+namespace lindrel {
+
+namespace {
+
+// Length of ".url": the extension is cut by length, so its case does not matter.
+constexpr std::size_t kExtensionLength = 4;
+
+bool IsShortcutName(const std::wstring& name) {
+    return name.size() >= kExtensionLength &&
+           LowerCase(ToBookText(name.substr(name.size() - kExtensionLength))) == ".url";
+}
+
+struct ShortcutFile {
+    std::string Name;  // book text of its name
+    std::filesystem::path Path;
+};
+
+std::vector<ShortcutFile> FilesOf(const std::filesystem::path& folder) {
+    std::vector<ShortcutFile> files;
+    std::error_code error;
+    for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
+         entry.increment(error)) {
+        const std::wstring name = NameOfFile(entry->path());
+        // What cannot be asked is taken for a file: reading it then tells what is wrong.
+        std::error_code unknown;
+        if (IsShortcutName(name) && !entry->is_directory(unknown))
+            files.push_back({ToBookText(name), entry->path()});
+    }
+    std::sort(files.begin(), files.end(), [](const ShortcutFile& a, const ShortcutFile& b) {
+        return std::pair(LowerCase(a.Name), a.Path) < std::pair(LowerCase(b.Name), b.Path);
+    });
+    return files;
+}
+
+}  // namespace
+
+std::string_view ShortcutAddress(std::string_view file) {
+    const std::size_t second = BehindLineEnd(file, EndOfLine(file, 0));
+    if (second == file.size()) throw EndOfFileFault();
+    const std::string_view line = file.substr(second, EndOfLine(file, second) - second);
+
+    static const CaselessNeedle key("URL=");
+    const std::size_t found = key.FindIn(line);
+    // Without the key the first three characters are lost (intended).
+    const std::size_t behind_key = found == std::string_view::npos ? 3 : found + 4;
+    if (line.size() < behind_key) throw ArgumentFault();
+    return line.substr(behind_key);
+}
+
+std::vector<NewEntry> ShortcutsOfFolder(const std::filesystem::path& folder) {
+    std::vector<NewEntry> staged;
+    std::uint8_t count = 0;
+    for (const ShortcutFile& file : FilesOf(folder)) {
+        const std::vector<char> bytes = ReadFileBytes(file.Path);
+        const std::string_view address = ShortcutAddress({bytes.data(), bytes.size()});
+        staged.push_back({file.Name.substr(0, file.Name.size() - kExtensionLength), std::string(address)});
+        // The counter has 8 bits (intended).
+        if (count == std::numeric_limits<std::uint8_t>::max()) throw OverflowFault();
+        ++count;
+    }
+    return staged;
+}
+
+}  // namespace lindrel

@@ -1,0 +1,22 @@
+// Lines of text files that other programs wrote: CR LF, LF or CR alone end a line. A line end at the very end
+// of the text begins no further line.
+#pragma once
+
+#include <algorithm>
+#include <string_view>
+
+namespace lindrel {
+
+// Place of the end of the line that a place (0..size) is on: its CR or LF, or the text's size.
+inline std::size_t EndOfLine(std::string_view text, std::size_t from) {
+    const std::size_t feed = std::min(text.find('\n', from), text.size());
+    return from + std::min(text.substr(from, feed - from).find('\r'), feed - from);
+}
+
+// Place behind the line end that stands at a place; the text's size at its end.
+inline std::size_t BehindLineEnd(std::string_view text, std::size_t end) {
+    const std::size_t length = text.substr(end, 2) == "\r\n" ? 2 : 1;
+    return std::min(end + length, text.size());
+}
+
+}  // namespace lindrel

@@ -1,0 +1,210 @@
+#include "import/HtmlLinks.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "book/Faults.h"
+
+namespace lindrel {
+
+static void PrintTo(const NewEntry& entry, std::ostream* out) {
+    *out << "{\"" << entry.SiteName << "\", \"" << entry.URL << "\"}";
+}
+
+namespace {
+
+using Links = std::vector<NewEntry>;
+
+Links All(std::string_view page) {
+    return LinksOfPage(page, LinkChoice::All);
+}
+
+Links Online(std::string_view page) {
+    return LinksOfPage(page, LinkChoice::Online);
+}
+
+// Book text of a link's raw text, cleaned.
+std::string Cleaned(std::string_view text) {
+    CleanLinkText(text);
+    return std::string(text);
+}
+
+std::string Times(std::size_t count, char letter) {
+    return std::string(count, letter);
+}
+
+TEST(HtmlLinksTest, AnAnchorInCapitalsGivesNameAndAddressInLowerCase) {
+    EXPECT_EQ(Online("<A HREF=\"HTTP://Www.H\xCDREK.hu/Lap\">H\xCDrek</A>\r\n"),
+              (Links{{"h\xEDrek", "http://www.h\xEDrek.hu/lap"}}));
+}
+
+TEST(HtmlLinksTest, HungarianLettersAreLoweredLetterByLetter) {
+    EXPECT_EQ(All("<a href=\"x\">\xC1RV\xCDZT\xDBR\xD5 T\xDCK\xD6RF\xDAR\xD3G\xC9P</a>"),
+              (Links{{"\xE1rv\xEDzt\xFBr\xF5 t\xFCk\xF6rf\xFAr\xF3g\xE9p", "x"}}));
+}
+
+TEST(HtmlLinksTest, RelativeAndMailLinksAreSkippedInOnlineModeOnly) {
+    constexpr std::string_view kPage =
+        "<a href=\"lap.htm\">Lap</a>\r\n"
+        "<a href=\"mailto:ki@lap.hu\">Ki</a>\r\n"
+        "<a href=\"http://lap.hu\">H\xE1l\xF3</a>\r\n";
+    EXPECT_EQ(Online(kPage), (Links{{"h\xE1l\xF3", "http://lap.hu"}}));
+    EXPECT_EQ(All(kPage),
+              (Links{{"lap", "lap.htm"}, {"ki", "mailto:ki@lap.hu"}, {"h\xE1l\xF3", "http://lap.hu"}}));
+}
+
+TEST(HtmlLinksTest, OnlineMeansAProtocolFromTheThirdCharacterOnAnywhereInTheChunk) {
+    EXPECT_EQ(Online("<a href=\"ab://c\">n</a>"), (Links{{"n", "ab://c"}}));
+    EXPECT_EQ(Online("<a href=\"a://c\">n</a>"), Links{});
+    EXPECT_EQ(Online("<a href=\"://c\">n</a>"), Links{});
+    EXPECT_EQ(Online("<a href=\"lap.htm\">http://lap.hu</a>"), (Links{{"http://lap.hu", "lap.htm"}}));
+    EXPECT_EQ(Online("<a href=\"\"></a>"), Links{});
+}
+
+TEST(HtmlLinksTest, TagsAroundTheNameAreRemoved) {
+    EXPECT_EQ(All("<a href=\"x\"><b>H\xEDrek</b></a>"), (Links{{"h\xEDrek", "x"}}));
+    EXPECT_EQ(All("<a href=\"x\"><font size=2><b>H\xEDrek</b></font></a>"), (Links{{"h\xEDrek", "x"}}));
+    // Only what stands before the first closing tag and behind the last opening one is the name.
+    EXPECT_EQ(All("<a href=\"x\">els\xF5 <b>m\xE1sodik</b> harmadik</a>"), (Links{{"m\xE1sodik", "x"}}));
+}
+
+TEST(HtmlLinksTest, AnImageWithoutClosingTagIsUnknown) {
+    EXPECT_EQ(All("<a href=\"x\"><img src=\"k.gif\"></a>"), (Links{{"ismeretlen", "x"}}));
+    EXPECT_EQ(All("<a href=\"x\">el\xF5tte<br>ut\xE1na</a>"), (Links{{"ismeretlen", "x"}}));
+}
+
+TEST(HtmlLinksTest, AddressesWithoutQuotationMarksAreNotFound) {
+    EXPECT_EQ(All("<a href=http://lap.hu>Lap</a><a href='http://lap.hu'>Lap</a>"
+                  "<a target=_top href=\"http://lap.hu\">Lap</a><a  href=\"http://lap.hu\">Lap</a>"),
+              Links{});
+}
+
+TEST(HtmlLinksTest, AnythingThatEndsLikeAnAnchorIsOne) {
+    EXPECT_EQ(All("<area href=\"terkep\">T\xE9rk\xE9p</a>"), (Links{{"t\xE9rk\xE9p", "terkep"}}));
+}
+
+TEST(HtmlLinksTest, AllAnchorsOfALineAreFound) {
+    EXPECT_EQ(All("<a href=\"1\">Egy</a> \xE9s <A HREF=\"2\">Kett\xF5</A>, <a href=\"3\">H\xE1rom</a>\n"
+                  "<a href=\"4\">N\xE9gy</a>"),
+              (Links{{"egy", "1"}, {"kett\xF5", "2"}, {"h\xE1rom", "3"}, {"n\xE9gy", "4"}}));
+}
+
+TEST(HtmlLinksTest, FurtherAttributesStayOutOfTheName) {
+    EXPECT_EQ(All("<a href=\"x\" title=\"c\xEDm\" class=k>N\xE9v</a>"), (Links{{"n\xE9v", "x"}}));
+    EXPECT_EQ(All("<a href=\"x\" icon=\"" + Times(5000, 'i') + "\">N\xE9v</a>"), (Links{{"n\xE9v", "x"}}));
+}
+
+TEST(HtmlLinksTest, AnAnchorGoesOnOverLinesThatKeepTheirCase) {
+    EXPECT_EQ(All("<A HREF=\"HTTP://LAP.hu\">Els\xF5\r\nM\xC1SODIK\r\n\r\nHarmadik</A> m\xF6g\xF6tte\r\n"),
+              (Links{{"els\xF5 M\xC1SODIK  Harmadik", "http://lap.hu"}}));
+    EXPECT_EQ(All("<A HREF=\"LAP\nFOLYTATOM\">N\xC9V</A>"), (Links{{"N\xC9V", "lap FOLYTATOM"}}));
+}
+
+TEST(HtmlLinksTest, TheRestOfAClosingLineIsNotScanned) {
+    EXPECT_EQ(All("<a href=\"1\">Egy\n</b></a><a href=\"2\">Kett\xF5</a>\n<a href=\"3\">H\xE1rom</a>\n"),
+              (Links{{"egy ", "1"}, {"h\xE1rom", "3"}}));
+}
+
+TEST(HtmlLinksTest, ALineThatBeginsWithTheClosingTagDoesNotClose) {
+    EXPECT_EQ(All("<a href=\"1\">Egy\n</a> <a href=\"2\">Kett\xF5</a>\nvége</a>\n"), (Links{{"egy ", "1"}}));
+    EXPECT_THROW(All("<a href=\"1\">Egy\n</a>\n"), EndOfFileFault);
+}
+
+TEST(HtmlLinksTest, AClosingLineIsTakenToOneCharacterBehindTheTag) {
+    // The chunk is  1 N</ax : without ">" behind the quotation mark the whole chunk is the raw text.
+    EXPECT_EQ(All("<a href=\"1\"\nN</axyz>\n"), (Links{{"1\" N", "1"}}));
+    EXPECT_EQ(All("<a href=\"1\">Egy\nN</a"), (Links{{"egy N", "1"}}));
+}
+
+TEST(HtmlLinksTest, AChunkWithoutTagEndIsTheNameAsAWhole) {
+    EXPECT_EQ(All("<a href=\"x\" rossz</a>"), (Links{{"x\" rossz", "x"}}));
+}
+
+TEST(HtmlLinksTest, AnyLineEndIsOne) {
+    for (const std::string_view end : {"\r\n", "\n", "\r"}) {
+        const std::string page = "<A HREF=\"1\">EGY" + std::string(end) + "KETT\xD5</A><a href=\"2\">x</a>" +
+                                 std::string(end) + "<A HREF=\"3\">H\xC1ROM</A>";
+        EXPECT_EQ(All(page), (Links{{"egy KETT\xD5", "1"}, {"h\xE1rom", "3"}}));
+    }
+}
+
+TEST(HtmlLinksTest, PagesWithoutLinksGiveNone) {
+    for (const std::string_view page : {"", "\r\n", "a href=", "<a href=\r\n\"x\">n</a>", "<p>Semmi</p>"})
+        EXPECT_EQ(All(page), Links{});
+}
+
+TEST(HtmlLinksTest, AnAnchorLeftOpenIsReadingPastTheEnd) {
+    for (const std::string_view page :
+         {"<a href=\"", "<a href=\"x\">n", "<a href=\"x\">n\r\n", "<a href=\"x\">n\r\n\r\n<a href=\"y\">\r\n",
+          "<a href=\"1\">Egy</a>\n<a href=\"2\">Kett\xF5"})
+        EXPECT_THROW(All(page), EndOfFileFault);
+    // Also where the link would have been skipped.
+    EXPECT_THROW(Online("<a href=\"x\">n"), EndOfFileFault);
+}
+
+TEST(HtmlLinksTest, AnAddressWithoutClosingQuotationMarkIsAFaultOfItsOwn) {
+    EXPECT_THROW(All("<a href=\"lap.htm>N\xE9v</a>"), ArgumentFault);
+    EXPECT_THROW(Online("<a href=\"http://lap.hu>N\xE9v</a>"), ArgumentFault);
+    EXPECT_EQ(Online("<a href=\"lap.htm>N\xE9v</a>"), Links{});
+}
+
+TEST(HtmlLinksTest, AnAddressOf254CharactersIsTheLongest) {
+    const auto page = [](std::size_t length) { return "<a href=\"" + Times(length, 'u') + "\">N</a>"; };
+    EXPECT_EQ(All(page(254)), (Links{{"n", Times(254, 'u')}}));
+    EXPECT_THROW(All(page(255)), OverflowFault);
+}
+
+TEST(HtmlLinksTest, AClosingTagBehindThe255thCharacterOfTheTextOverflows) {
+    const auto page = [](std::size_t length) { return "<a href=\"x\">" + Times(length, 'n') + "</b></a>"; };
+    EXPECT_EQ(All(page(254)), (Links{{Times(55, 'n'), "x"}}));
+    EXPECT_THROW(All(page(255)), OverflowFault);
+    // Without any tag the text may be as long as it likes.
+    EXPECT_EQ(All("<a href=\"x\">" + Times(70000, 'n') + "</a>"), (Links{{Times(55, 'n'), "x"}}));
+}
+
+TEST(HtmlLinksTest, The16BitCounterEndsAt32766Links) {
+    std::string page;
+    Links expected;
+    for (int i = 1; i <= 32766; ++i) {
+        const std::string number = std::to_string(i);
+        page.append("<a href=\"").append(number).append("\">n").append(number).append("</a>\n");
+        expected.push_back({"n" + number, number});
+    }
+    EXPECT_EQ(All(page), expected);
+    EXPECT_EQ(Online(page + "<a href=\"http://u\">u</a>"), (Links{{"u", "http://u"}}));
+    EXPECT_THROW(All(page + "<a href=\"32767\">n32767</a>"), OverflowFault);
+}
+
+TEST(HtmlLinksTest, LinkTextsAreCutTo55Characters) {
+    EXPECT_EQ(Cleaned(Times(70, 'n')), Times(55, 'n'));
+    EXPECT_EQ(Cleaned(Times(56, 'n')), Times(55, 'n'));
+    EXPECT_EQ(Cleaned(Times(55, 'n')), Times(55, 'n'));
+    EXPECT_EQ(Cleaned("<b>" + Times(70, 'n') + "</b>"), Times(55, 'n'));
+    EXPECT_EQ(Cleaned("<b>" + Times(55, 'n') + "</b>"), Times(55, 'n'));
+}
+
+TEST(HtmlLinksTest, CleansByTheLastOpeningAndTheFirstClosingTag) {
+    EXPECT_EQ(Cleaned(""), "");
+    EXPECT_EQ(Cleaned(" n\xE9v "), " n\xE9v ");
+    EXPECT_EQ(Cleaned("nagyobb > kisebb"), "nagyobb > kisebb");
+    EXPECT_EQ(Cleaned("<"), "ismeretlen");
+    EXPECT_EQ(Cleaned("<br/>"), "ismeretlen");
+    EXPECT_EQ(Cleaned("</b>"), "");
+    EXPECT_EQ(Cleaned("<i>a</i><b>b</b>"), "a");
+    EXPECT_EQ(Cleaned("<b></b>"), "");
+}
+
+TEST(HtmlLinksTest, StagesUnderTheNumberAndLeavesTheOthers) {
+    Links staged{{"egy", "1"}};
+    StageLink(staged, "2\">kett\xF5", 2);
+    EXPECT_EQ(staged, (Links{{"egy", "1"}, {"kett\xF5", "2"}}));
+    EXPECT_THROW(StageLink(staged, "idez\xF5jel n\xE9lk\xFCl", 3), ArgumentFault);
+    EXPECT_THROW(StageLink(staged, Times(255, 'u') + "\">n", 3), OverflowFault);
+    EXPECT_THROW(StageLink(staged, "3\">" + Times(255, 'n') + "</b>", 3), OverflowFault);
+    EXPECT_THROW(StageLink(staged, "3\">n", 0), RangeFault);
+    EXPECT_EQ(staged, (Links{{"egy", "1"}, {"kett\xF5", "2"}}));
+}
+
+}  // namespace
+}  // namespace lindrel
