@@ -16,4 +16,8 @@ complain 'A test that is switched off:' "$(grep -rnE '\bDISABLED_|GTEST_SKIP' --
 complain 'A source file that no target knows:' \
   "$(for file in $(git ls-files '*.cpp' 2>/dev/null | grep -vE '^(tests|bench|fuzz)/'); do
        grep -q "$(basename "$file")" "$(dirname "$file")/CMakeLists.txt" || echo "$file"; done)"
+# CTest runs the suite that bears the file's name.
+complain 'A suite that does not bear its file'"'"'s name:' \
+  "$(for file in $(git ls-files 'tests/window/*Test.cpp' 'tests/e2e/*Test.cpp' 2>/dev/null); do
+       grep -HoE '^TEST(_F|_P)?\([A-Za-z0-9_]+' "$file" | grep -v "($(basename "$file" .cpp)$"; done)"
 exit $failed

@@ -1,0 +1,180 @@
+// The choice of a folder, and the shortcut files in it.
+
+#include <shlobj.h>
+
+#include <algorithm>
+#include <filesystem>
+
+#include "controls/Shell.h"
+#include "tests/window/export/ExportSession.h"
+
+namespace lindrel::testing {
+namespace {
+
+// A folder of the user's favourites, where the choice starts.
+class FavoritesFolder {
+  public:
+    FavoritesFolder() { std::filesystem::create_directories(Path() / L"Alsó"); }
+    ~FavoritesFolder() { std::filesystem::remove_all(Path()); }
+    FavoritesFolder(const FavoritesFolder&) = delete;
+    FavoritesFolder& operator=(const FavoritesFolder&) = delete;
+    static std::filesystem::path Start() { return ShellFolder(CSIDL_FAVORITES).value(); }
+    static std::filesystem::path Path() { return Start() / L"Lindrel próba"; }
+};
+
+std::wstring TextOfItem(HWND tree, HTREEITEM item) {
+    wchar_t text[MAX_PATH] = L"";
+    TVITEMW what{};
+    what.mask = TVIF_TEXT;
+    what.hItem = item;
+    what.pszText = text;
+    what.cchTextMax = MAX_PATH;
+    SendMessageW(tree, TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&what));
+    return text;
+}
+
+class frmSelectFavoritDirTest : public ExportSession {
+  protected:
+    DialogOnScreen OpenPicker(const DialogOnScreen& dialog) const {
+        dialog.Pick(ID_frmExport_cmbType, 2);
+        dialog.Click(ID_frmExport_cmdOK);
+        return program.Dialog(L"Exportálás a kedvencekbe");
+    }
+    // Walks down from the folder that is selected, by the keyboard.
+    void Descend(const DialogOnScreen& picker, const std::wstring& name) const {
+        const HWND tree = picker.Control(ID_frmSelectFavoritDir_Dir1);
+        program.PressKey(tree, VK_RIGHT);  // opens the folder, or goes into the open one
+        for (int step = 0; step < 20; ++step) {
+            const auto selected =
+                reinterpret_cast<HTREEITEM>(SendMessageW(tree, TVM_GETNEXTITEM, TVGN_CARET, 0));
+            if (TextOfItem(tree, selected) == name) return;
+            program.PressKey(tree, VK_DOWN);
+        }
+        FAIL() << "the folder is not in the tree";
+    }
+
+    FavoritesFolder favorites;
+};
+
+TEST_F(frmSelectFavoritDirTest, TheFolderChoiceStartsAtTheFavourites) {
+    const DialogOnScreen dialog = Open();
+    SelectLine(dialog, 1);
+    const DialogOnScreen picker = OpenPicker(dialog);
+    EXPECT_EQ(picker.Text(ID_frmSelectFavoritDir_lblChoose),
+              L"Kérem válassza ki azt a mappát, amelybe exportálni kíván");
+    EXPECT_EQ(picker.Text(ID_frmSelectFavoritDir_lblEffect),
+              L"Az Ön által kiválasztott címek hozzáadódnak az Internet Explorer kedvenc lapok listájához");
+    EXPECT_EQ(picker.Text(ID_frmSelectFavoritDir_cmdOk), L"Export");
+    EXPECT_EQ(picker.Text(ID_frmSelectFavoritDir_cmdCancel), L"Mégse");
+    const HWND tree = picker.Control(ID_frmSelectFavoritDir_Dir1);
+    const auto selected = reinterpret_cast<HTREEITEM>(SendMessageW(tree, TVM_GETNEXTITEM, TVGN_CARET, 0));
+    EXPECT_EQ(TextOfItem(tree, selected), FavoritesFolder::Start().filename().wstring());
+    RECT place{};
+    RECT client{};
+    GetClientRect(tree, &client);
+    ASSERT_TRUE(TreeView_GetItemRect(tree, selected, &place, TRUE));  // it is shown
+    RECT inside{};
+    EXPECT_TRUE(IntersectRect(&inside, &place, &client));
+    EXPECT_EQ(inside.bottom, place.bottom);
+    picker.Cancel();
+    picker.WaitForClose();
+    program.Settle();
+    EXPECT_TRUE(dialog.IsOpen());
+    EXPECT_EQ(Counts(), CountsOf(0, 1));  // what was not chosen is dropped all the same
+    dialog.Cancel();
+    dialog.WaitForClose();
+}
+
+TEST_F(frmSelectFavoritDirTest, AllFilesGoIntoTheChosenFolderAndTheNameChangesInTheBook) {
+    const std::string before = program.BookBytes();
+    const DialogOnScreen dialog = Open();
+    SelectLine(dialog, 0);
+    SelectLine(dialog, 1);
+    const DialogOnScreen picker = OpenPicker(dialog);
+    Descend(picker, L"Lindrel próba");
+    Descend(picker, L"Alsó");
+    picker.ClickAndWaitForClose(ID_frmSelectFavoritDir_cmdOk);
+    dialog.WaitForClose();
+    program.Settle();
+    std::vector<std::wstring> names;
+    for (const auto& entry : std::filesystem::directory_iterator(FavoritesFolder::Path() / L"Alsó"))
+        names.push_back(entry.path().filename().wstring());
+    std::sort(names.begin(), names.end());
+    EXPECT_EQ(names, (std::vector<std::wstring>{L"Első.url", L"Harmadik.url", L"a_b.url"}));
+    EXPECT_EQ(TemporaryFolder::Read((FavoritesFolder::Path() / L"Alsó" / L"a_b.url").wstring()),
+              "[InternetShortcut]\r\nURL=http://ab.hu");
+    EXPECT_EQ(Counts(), CountsOf(0, 0));
+    std::string expected = before;
+    expected.replace(expected.find("a:b"), 3, "a_b");
+    EXPECT_EQ(program.BookBytes(), expected);
+    EXPECT_FALSE(program.State().Modified);
+    program.ClickTab(5);
+    EXPECT_EQ(program.State().Rows, (std::vector<Row>{{L"a_b", L"http://ab.hu"}}));
+}
+
+TEST_F(frmSelectFavoritDirTest, EachCategoryHasAFolderOfItsOwn) {
+    const DialogOnScreen dialog = Open();
+    SelectLine(dialog, 0);
+    SelectLine(dialog, 1);
+    dialog.Click(ID_frmExport_optColor_3);
+    const DialogOnScreen picker = OpenPicker(dialog);
+    Descend(picker, L"Lindrel próba");
+    picker.ClickAndWaitForClose(ID_frmSelectFavoritDir_cmdOk);
+    dialog.WaitForClose();
+    const auto exists = [](const wchar_t* file) {
+        return std::filesystem::exists(FavoritesFolder::Path() / file);
+    };
+    EXPECT_TRUE(exists(L"Hírek\\Első.url"));
+    EXPECT_TRUE(exists(L"Hírek\\Harmadik.url"));
+    EXPECT_TRUE(exists(L"Project5\\a_b.url"));
+}
+
+TEST_F(frmSelectFavoritDirTest, AColonBehindThe255thCharacterEndsInTheReportAndLosesNothing) {
+    program.OnUi([&](frmStart& form) {
+        form.TheBook.SetSiteName(form.TheBook.IndexOf(5, 1), std::string(255, 'n') + ":");
+        form.OpenedFile = folder.File(L"a.lnd");
+        form.Modified = true;
+    });
+    const std::string before = program.BookBytes();
+    const DialogOnScreen dialog = Open();
+    SelectLine(dialog, 1);
+    const DialogOnScreen picker = OpenPicker(dialog);
+    Descend(picker, L"Lindrel próba");
+    picker.ClickAndWaitForClose(ID_frmSelectFavoritDir_cmdOk);
+    const BoxOnScreen report = program.Box();
+    EXPECT_EQ(report.Text(), L"Futásidejű hiba: 6\r\n\r\nTúlcsordulás.");
+    report.Press(IDOK);
+    const BoxOnScreen question = program.Box();
+    EXPECT_EQ(question.Title(), L"A fájl módosult");
+    question.Press(IDYES);
+    program.Box().Press(IDOK);
+    EXPECT_EQ(program.WaitForEnd(), 1);
+    EXPECT_EQ(TemporaryFolder::Read(folder.File(L"a.lnd")), before);
+}
+
+TEST_F(frmSelectFavoritDirTest, AFileThatCannotBeWrittenEndsInTheReportAndLosesNothing) {
+    program.OnUi([&](frmStart& form) {
+        form.OpenedFile = folder.File(L"a.lnd");
+        form.Modified = true;
+    });
+    const std::string before = program.BookBytes();
+    // A folder stands where the file should be.
+    std::filesystem::create_directory(FavoritesFolder::Path() / L"a_b.url");
+    const DialogOnScreen dialog = Open();
+    SelectLine(dialog, 1);
+    const DialogOnScreen picker = OpenPicker(dialog);
+    Descend(picker, L"Lindrel próba");
+    picker.ClickAndWaitForClose(ID_frmSelectFavoritDir_cmdOk);
+    const BoxOnScreen report = program.Box();
+    const std::wstring start =
+        L"Futásidejű hiba: 75\r\n\r\n" + (FavoritesFolder::Path() / L"a_b.url").wstring() + L"\r\n";
+    EXPECT_EQ(report.Text().substr(0, start.size()), start);
+    report.Press(IDOK);
+    program.Box().Press(IDYES);
+    program.Box().Press(IDOK);
+    EXPECT_EQ(program.WaitForEnd(), 1);
+    EXPECT_EQ(TemporaryFolder::Read(folder.File(L"a.lnd")), before);
+}
+
+}  // namespace
+}  // namespace lindrel::testing
