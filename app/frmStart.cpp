@@ -160,6 +160,8 @@ void frmStart::OnCommand(int id, int) {
             return mnuGoHome_Click();
         case ID_mnuAbout:
             return mnuAbout_Click();
+        case ID_mnuFind:
+            return mnuFind_Click();
         case ID_NextTab:
             return SelectTab(SelectedCategory() % kCategories + 1);
         case ID_PreviousTab:

@@ -7,6 +7,7 @@
 //     frmStart_Edit.cpp    adding, editing, moving, deleting, renaming
 //     frmStart_Export.cpp  export, shortcut on the desktop
 //     frmStart_Help.cpp    help, home page, about box
+//     frmStart_Search.cpp  search box, opening an address, the find dialog
 #pragma once
 
 #include <cstdint>
@@ -108,6 +109,7 @@ class frmStart {
     void mnuHelp_Click();
     void mnuGoHome_Click();
     void mnuAbout_Click();
+    void mnuFind_Click();
 
   private:
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM first, LPARAM second);

@@ -66,6 +66,10 @@ std::wstring TextBox::SelectedText() const {
     return Text().substr(start, end - start);
 }
 
+void TextBox::SetHint(const std::wstring& text) const {
+    Send(EM_SETCUEBANNER, TRUE, reinterpret_cast<LPARAM>(text.c_str()));
+}
+
 void CheckBox::SetChecked(bool checked) const {
     Send(BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED);
 }

@@ -48,6 +48,8 @@ class TextBox : public Control {
     void Select(int start, int length) const;
     void SelectAll() const { Select(0, GetWindowTextLengthW(Handle())); }
     std::wstring SelectedText() const;
+    // What stands in the box, greyed, as long as nothing is typed.
+    void SetHint(const std::wstring& text) const;
 };
 
 class CheckBox : public Control {  // option buttons too

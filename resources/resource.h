@@ -78,6 +78,22 @@
 #define ID_frmEditKats_cmdOk 1401
 #define ID_frmEditKats_cmdCancel 1402
 
+/* Finding entries. */
+#define IDD_frmFind 1500
+#define ID_frmFind_Label1 1501
+#define ID_frmFind_txtWhat 1502
+#define ID_frmFind_Label3 1503
+#define ID_frmFind_Label2 1504
+#define ID_frmFind_txtTag 1505
+#define ID_frmFind_cmdFind 1506
+#define ID_frmFind_ListView 1507
+#define ID_frmFind_lblURL 1508
+#define ID_frmFind_Command2 1509
+#define ID_frmFind_Command3 1510
+#define ID_frmFind_cmdDel 1511
+#define ID_frmFind_lblSum_0 1520
+#define ID_frmFind_lblSum_1 1521
+
 /* Export. */
 #define IDD_frmExport 1600
 #define ID_frmExport_Frame1 1601
@@ -106,7 +122,7 @@
 #define ID_frmSelectFavoritDir_cmdOk 1704
 #define ID_frmSelectFavoritDir_cmdCancel 1705
 
-/* Blocks of the dialogs to come: frmFind 1500, frmImport 1800, frmI_Fav 1900. */
+/* Blocks of the dialogs to come: frmImport 1800, frmI_Fav 1900. */
 
 /* The about box. */
 #define IDD_frmAbout 2000
@@ -119,7 +135,6 @@
 #define ID_frmAbout_cmdOK 2007
 #define ID_frmAbout_Line1_0 2010
 #define ID_frmAbout_Line1_1 2011
-
 /* Commands, in the order of the menus. */
 #define ID_mnuNew 40001
 #define ID_mnuOpen 40002

@@ -48,17 +48,6 @@ HWND MakeEar() {
                            nullptr);
 }
 
-std::wstring CellOf(HWND list, int row, int column) {
-    std::wstring text(4096, L'\0');
-    LVITEMW item{};
-    item.iSubItem = column;
-    item.pszText = text.data();
-    item.cchTextMax = static_cast<int>(text.size());
-    text.resize(static_cast<std::size_t>(
-        SendMessageW(list, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item))));
-    return text;
-}
-
 }  // namespace
 
 Program::Program() {
@@ -171,12 +160,10 @@ MainState Program::State() const {
         state.Title = TextOf(form.Handle());
         for (int k = 1; k <= form.TabStrip1.Count(); ++k) state.Tabs.push_back(form.TabStrip1.Caption(k));
         state.SelectedTab = form.TabStrip1.Selected();
-        const HWND list = form.ListURLs.Handle();
-        for (int row = 0; row < ListView_GetItemCount(list); ++row) {
-            state.Rows.emplace_back(CellOf(list, row, 0), CellOf(list, row, 1));
-            if (ListView_GetCheckState(list, row)) state.Checked.push_back(row + 1);
-        }
-        state.SelectedRow = ListView_GetNextItem(list, -1, LVNI_SELECTED) + 1;
+        const ListOnScreen list(form.ListURLs.Handle());
+        state.Rows = list.Rows();
+        state.Checked = list.Checked();
+        state.SelectedRow = list.Selected();
         for (int panel = 1; panel <= 3; ++panel) state.Status[panel - 1] = form.StatusBar1.Panel(panel);
         state.txtSite = form.txtSite.Text();
         state.txtURL = form.txtURL.Text();
@@ -205,32 +192,18 @@ void Program::ClickTab(int tab) const {
     Settle();
 }
 
-namespace {
-
-void ClickInList(const Program& program, int row, int part) {
-    HWND list = nullptr;
-    RECT place{};
-    program.OnUi([&](frmStart& form) {
-        list = form.ListURLs.Handle();
-        form.ListURLs.EnsureVisible(row);
-        static_cast<void>(ListView_GetItemRect(list, row - 1, &place, part));
-    });
-    // The check box stands just before the row's label.
-    const int x = part == LVIR_LABEL ? place.left + 6 : place.left - 8;
-    const LPARAM point = MAKELPARAM(x, (place.top + place.bottom) / 2);
-    PostMessageW(list, WM_LBUTTONDOWN, MK_LBUTTON, point);
-    PostMessageW(list, WM_LBUTTONUP, 0, point);
-    program.Settle();
+ListOnScreen Program::List() const {
+    return ListOnScreen(Ask<HWND>([](frmStart& form) { return form.ListURLs.Handle(); }));
 }
 
-}  // namespace
-
 void Program::ClickRow(int row) const {
-    ClickInList(*this, row, LVIR_LABEL);
+    List().ClickRow(row);
+    Settle();
 }
 
 void Program::ClickBox(int row) const {
-    ClickInList(*this, row, LVIR_ICON);
+    List().ClickBox(row);
+    Settle();
 }
 
 void Program::PressKey(HWND control, WPARAM key) const {

@@ -10,6 +10,7 @@
 
 #include "app/frmStart.h"
 #include "tests/window/support/Boxes.h"
+#include "tests/window/support/ListOnScreen.h"
 #include "tests/window/support/Polling.h"
 
 namespace lindrel::testing {
@@ -72,6 +73,8 @@ class Program {
     // The whole book as its file would be.
     std::string BookBytes() const;
     bool CommandEnabled(int menu_id) const;
+    // The address list.
+    ListOnScreen List() const;
     // What the user does in the list and on the tabs.
     void ClickTab(int tab) const;
     void ClickRow(int row) const;

@@ -1,0 +1,236 @@
+#include "find/frmFind.h"
+
+#include <cwchar>
+
+#include "controls/MsgBox.h"
+#include "controls/Shell.h"
+#include "find/CheckedHits.h"
+#include "resources/resource.h"
+
+namespace lindrel {
+
+namespace {
+
+constexpr wchar_t kDeleteTitle[] = L"Törlés engedélyezése";
+constexpr wchar_t kEndingHint[] = L"pl.: com, hu, gov";
+constexpr int kColumnOfNames = 0;
+constexpr int kColumnOfCategories = 1;
+
+LOGFONTW FixedPitchFont(UINT dpi) {
+    LOGFONTW font = MessageFont(dpi);
+    font.lfPitchAndFamily = FIXED_PITCH | FF_MODERN;
+    static_cast<void>(std::wcscpy(font.lfFaceName, L"Courier New"));
+    return font;
+}
+
+}  // namespace
+
+frmFind::frmFind(frmStart& main) : Dialog(IDD_frmFind), main_(main) {}
+
+void frmFind::Form_Load() {
+    LoadList();
+    Get<TextBox>(ID_frmFind_txtTag).SetHint(kEndingHint);
+    SetToolTip(ID_frmFind_txtTag, kEndingHint);
+    anchors_.Remember(Handle(), {{ID_frmFind_txtWhat, Growth::Stretches, Growth::Stays},
+                                 {ID_frmFind_cmdFind, Growth::Moves, Growth::Stays},
+                                 {ID_frmFind_ListView, Growth::Stretches, Growth::Stretches},
+                                 {ID_frmFind_lblURL, Growth::Stretches, Growth::Moves},
+                                 {ID_frmFind_Command2, Growth::Stays, Growth::Moves},
+                                 {ID_frmFind_Command3, Growth::Stays, Growth::Moves},
+                                 {ID_frmFind_cmdDel, Growth::Moves, Growth::Moves}});
+    ApplyResolution(DpiOf(Handle()));
+    // Half as high again as the smallest, so that there is room for hits.
+    RECT window{};
+    static_cast<void>(GetWindowRect(Handle(), &window));
+    const int width = window.right - window.left;
+    const int height = window.bottom - window.top;
+    static_cast<void>(SetWindowPos(Handle(), nullptr, 0, 0, width * 5 / 4, height * 3 / 2,
+                                   SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE));
+}
+
+void frmFind::LoadList() {
+    ListView.Attach(Item(ID_frmFind_ListView));
+    ListView.AddColumn(L"webhely neve", 0);
+    ListView.AddColumn(L"kategória", 0);
+    ListView.ItemClick = [this] { ListView_Click(); };
+    ListView.DoubleClick = [this] { ListView_DblClick(); };
+    ListView.ItemCheck = [this](int row) { ListView_ItemCheck(row); };
+}
+
+void frmFind::ApplyResolution(UINT dpi) {
+    Font font(FixedPitchFont(dpi));
+    SendMessageW(Item(ID_frmFind_lblURL), WM_SETFONT, reinterpret_cast<WPARAM>(font.Handle()), TRUE);
+    url_font_ = std::move(font);
+    ListView.RemakeCheckBoxes();
+    SizeColumns();
+}
+
+// Names take two thirds of the list, categories the rest, beside the scroll bar that many hits bring.
+void frmFind::SizeColumns() {
+    RECT list{};
+    if (!GetWindowRect(ListView.Handle(), &list)) return;
+    const UINT dpi = DpiOf(Handle());
+    const int frame = 2 * GetSystemMetricsForDpi(SM_CXEDGE, dpi);
+    const int room = list.right - list.left - frame - GetSystemMetricsForDpi(SM_CXVSCROLL, dpi);
+    ListView.SetColumnWidth(kColumnOfNames, room * 2 / 3);
+    ListView.SetColumnWidth(kColumnOfCategories, room - room * 2 / 3);
+}
+
+void frmFind::Form_Resize() {
+    anchors_.Place();
+    if (ListView.Handle() != nullptr) SizeColumns();
+}
+
+bool frmFind::OnMessage(UINT message, WPARAM first, LPARAM second, LRESULT&) {
+    switch (message) {
+        case WM_SIZE:
+            Form_Resize();
+            return false;
+        case WM_GETMINMAXINFO:
+            anchors_.LimitSize(*reinterpret_cast<MINMAXINFO*>(second));
+            return true;
+        case WM_DPICHANGED:
+            // The dialog manager scales window and controls after this; the resize that it causes then places
+            // the controls anew.
+            anchors_.ChangeResolution(LOWORD(first));
+            ApplyResolution(LOWORD(first));
+            return false;
+        default:
+            return false;
+    }
+}
+
+void frmFind::OnCommand(int id, int event) {
+    switch (id) {
+        case ID_frmFind_txtWhat:
+            if (event == EN_SETFOCUS) txtWhat_GotFocus();
+            return;
+        // The default button: Enter in the text boxes presses it too.
+        case ID_frmFind_cmdFind:
+            return cmdFind_Click();
+        case ID_frmFind_Command2:
+            return Command2_Click();
+        case ID_frmFind_Command3:
+            return Command3_Click();
+        case ID_frmFind_cmdDel:
+            return cmdDel_Click();
+        case IDCANCEL:
+            return Unload();
+        default:
+            return;
+    }
+}
+
+LRESULT frmFind::OnNotify(const NMHDR& header) {
+    return header.hwndFrom == ListView.Handle() ? ListView.Notify(header) : 0;
+}
+
+bool frmFind::PreTranslate(const MSG& message) {
+    // Taken before they become characters, which the list would look for among its rows.
+    return message.message == WM_KEYDOWN && message.hwnd == ListView.Handle() &&
+           ListView_KeyDown(message.wParam);
+}
+
+bool frmFind::ListView_KeyDown(WPARAM key) {
+    switch (key) {
+        case VK_MULTIPLY:
+        case VK_ADD:
+            Command2_Click();
+            return true;
+        case VK_SUBTRACT:
+            Command3_Click();
+            return true;
+        case VK_DELETE:
+            DeleteSelectedHit();
+            return true;
+        default:
+            return false;
+    }
+}
+
+void frmFind::txtWhat_GotFocus() const {
+    Get<TextBox>(ID_frmFind_txtWhat).SelectAll();
+}
+
+void frmFind::cmdFind_Click() {
+    hits_ = FindEntries(main_.TheBook, Text(ID_frmFind_txtWhat), Text(ID_frmFind_txtTag));
+    ListView.SetRows(static_cast<int>(hits_.Items.size()), [this](int row, int column) {
+        const Hit& hit = hits_.Items.at(static_cast<std::size_t>(row - 1));
+        return FromBookText(column == kColumnOfNames ? hit.Entry.SiteName
+                                                     : main_.TheBook.CategoryNames(hit.Category));
+    });
+    Get<Control>(ID_frmFind_lblSum_1).SetText(std::to_wstring(ListView.Count()));
+    // The hit whose address stood there is no longer selected, and perhaps deleted.
+    Get<Control>(ID_frmFind_lblURL).SetText(L"");
+    CheckedHits = 0;
+}
+
+const Hit* frmFind::SelectedHit() const {
+    const int row = ListView.Selected();
+    return row == 0 ? nullptr : &hits_.Items.at(static_cast<std::size_t>(row - 1));
+}
+
+void frmFind::ListView_Click() const {
+    if (const Hit* const hit = SelectedHit())
+        Get<Control>(ID_frmFind_lblURL).SetText(FromBookText(hit->Entry.URL));
+}
+
+void frmFind::ListView_DblClick() const {
+    // What the shell answers shows by itself: the browser opens or not.
+    if (const Hit* const hit = SelectedHit()) static_cast<void>(OpenAddress(FromBookText(hit->Entry.URL)));
+}
+
+void frmFind::ListView_ItemCheck(int row) {
+    CheckedHits += ListView.IsChecked(row) ? 1 : -1;
+}
+
+void frmFind::Command2_Click() {
+    SetAllChecks(true);
+}
+
+void frmFind::Command3_Click() {
+    SetAllChecks(false);
+}
+
+void frmFind::SetAllChecks(bool value) {
+    ListView.SetAllChecked(value);
+    CheckedHits = value ? ListView.Count() : 0;
+}
+
+void frmFind::DeleteSelectedHit() {
+    const Hit* const hit = SelectedHit();
+    if (hit == nullptr) return;
+    if (MsgBox(Handle(), L"Tényleg ki akarja törölni ezt a web címet ?", MB_OKCANCEL | MB_ICONQUESTION,
+               kDeleteTitle) == IDOK)
+        DeleteFromBook({hit->Index});
+}
+
+void frmFind::cmdDel_Click() {
+    if (CheckedHits == 0) return;
+    const std::wstring question = L"Töröljem a (" + std::to_wstring(CheckedHits) + L") bejelölt címet?";
+    if (MsgBox(Handle(), question, MB_YESNO | MB_ICONQUESTION, kDeleteTitle) == IDYES)
+        DeleteFromBook(CheckedIndices());
+}
+
+void frmFind::DeleteFromBook(const std::vector<int>& indices) {
+    DeleteEntries(main_.TheBook, indices);
+    main_.Modified = true;
+    EntryDeleted = true;
+    cmdFind_Click();
+}
+
+std::vector<int> frmFind::CheckedIndices() const {
+    std::vector<int> indices;
+    for (int row = 1; row <= ListView.Count(); ++row)
+        if (ListView.IsChecked(row))
+            indices.push_back(hits_.Items.at(static_cast<std::size_t>(row - 1)).Index);
+    return indices;
+}
+
+// With nothing checked and nothing deleted the check marks of the main window stay as they were.
+void frmFind::Form_Unload() {
+    if (EntryDeleted || CheckedHits >= 1)
+        CheckOnly(main_.TheBook, CheckedIndices(), main_.SelectedCategory());
+}
+
+}  // namespace lindrel

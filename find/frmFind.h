@@ -1,0 +1,60 @@
+// Finds entries of all categories by their site names, narrowed to an ending of their addresses. The hits can
+// be opened, deleted and checked; on closing, the checked hits become the check marks of the main window.
+#pragma once
+
+#include <vector>
+
+#include "app/frmStart.h"
+#include "controls/Anchors.h"
+#include "controls/CheckListView.h"
+#include "controls/Dialog.h"
+#include "controls/Display.h"
+#include "find/EntrySearch.h"
+
+namespace lindrel {
+
+class frmFind : public Dialog {
+  public:
+    explicit frmFind(frmStart& main);
+
+  private:
+    void Form_Load() override;
+    void Form_Unload() override;
+    void OnCommand(int id, int event) override;
+    LRESULT OnNotify(const NMHDR& header) override;
+    bool OnMessage(UINT message, WPARAM first, LPARAM second, LRESULT& result) override;
+    bool PreTranslate(const MSG& message) override;
+
+    void Form_Resize();
+    void txtWhat_GotFocus() const;
+    void cmdFind_Click();
+    void Command2_Click();
+    void Command3_Click();
+    void cmdDel_Click();
+    void ListView_Click() const;
+    void ListView_DblClick() const;
+    void ListView_ItemCheck(int row);
+    // True when the key is one of the list's own.
+    bool ListView_KeyDown(WPARAM key);
+
+    void LoadList();
+    void ApplyResolution(UINT dpi);
+    void SizeColumns();
+    void SetAllChecks(bool value);
+    void DeleteSelectedHit();
+    // Removes the entries at these ascending indices and searches again, which numbers the hits anew.
+    void DeleteFromBook(const std::vector<int>& indices);
+    // Indices of the checked hits, in list order.
+    std::vector<int> CheckedIndices() const;
+    const Hit* SelectedHit() const;
+
+    frmStart& main_;
+    CheckListView ListView;
+    Anchors anchors_;
+    Font url_font_;
+    Hits hits_;  // row r shows Items[r - 1]
+    int CheckedHits = 0;
+    bool EntryDeleted = false;
+};
+
+}  // namespace lindrel
