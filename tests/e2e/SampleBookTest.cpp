@@ -112,5 +112,41 @@ TEST_F(SampleBookTest, SavesUnderAnotherNameToTheByteAndCloses) {
     EXPECT_EQ(program.WaitForEnd(), 0u);
 }
 
+TEST_F(SampleBookTest, AddsAnEntryByKeysAloneAndIsAskedAboutItAtTheEnd) {
+    Open();
+    const int rows = program.RowCount();
+    program.Press({'A', {VK_CONTROL}});
+    const DialogOnScreen add = WaitForDialog(program.Thread(), L"Új oldal hozzáadása");
+    WaitUntil("the dialog in front", [&] { return GetForegroundWindow() == add.Handle(); });
+    program.Type(L"Árvíztűrő");
+    program.Press({'U', {VK_MENU}});  // the access key of the address
+    program.Press({'A', {VK_CONTROL}});
+    program.Type(L"http://arviz.hu/");
+    program.Press({VK_RETURN});
+    add.WaitForClose();
+    EXPECT_TRUE(Eventually([&] { return program.RowCount() == rows + 1; }));
+    EXPECT_EQ(program.Cell(rows + 1, 0), L"Árvíztűrő");
+    EXPECT_EQ(program.Cell(rows + 1, 1), L"http://arviz.hu/");
+
+    program.Press({VK_F4, {VK_MENU}});
+    const BoxOnScreen first = program.Box();
+    EXPECT_EQ(first.Title(), L"A fájl módosult");
+    EXPECT_EQ(first.Text(), L"Kívánja menteni a módosításokat ?");
+    program.Press({VK_ESCAPE});
+    WaitUntil("the question to go", [&] { return !IsWindow(first.Handle()); });
+    EXPECT_EQ(program.RowCount(), rows + 1);
+
+    program.Press({VK_F4, {VK_MENU}});
+    program.Box().Press(IDYES);
+    const BoxOnScreen saved = program.Box();
+    EXPECT_EQ(saved.Text(), L"Elmentve : " + book);
+    program.Press({VK_RETURN});
+    EXPECT_EQ(program.WaitForEnd(), 0u);
+    const std::string added = "\xC1rv\xEDzt\xFBr\xF5\r\nhttp://arviz.hu/\r\n";
+    std::string expected = bytes;
+    expected.insert(expected.find("\r\n#") + 2, added);
+    EXPECT_EQ(TemporaryFolder::Read(book), expected);
+}
+
 }  // namespace
 }  // namespace lindrel::testing
