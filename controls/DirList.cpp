@@ -19,24 +19,66 @@ bool SameName(const std::wstring& one, const std::wstring& other) {
                                 static_cast<int>(other.size()), TRUE) == CSTR_EQUAL;
 }
 
-// Names of the folders in a folder, as the user sorts names. A folder that may not be read has none.
-std::vector<std::wstring> FoldersIn(const std::wstring& path) {
-    std::vector<std::wstring> names;
+// An empty drive must not raise the system's box that asks for a disk.
+class WithoutDiskBoxes {
+  public:
+    WithoutDiskBoxes() : changed_(SetThreadErrorMode(SEM_FAILCRITICALERRORS, &before_) != FALSE) {}
+    ~WithoutDiskBoxes() {
+        if (changed_) static_cast<void>(SetThreadErrorMode(before_, nullptr));
+    }
+    WithoutDiskBoxes(const WithoutDiskBoxes&) = delete;
+    WithoutDiskBoxes& operator=(const WithoutDiskBoxes&) = delete;
+
+  private:
+    DWORD before_ = 0;
+    bool changed_;
+};
+
+// Hands the names of the folders in a folder to a visitor until that returns false. A folder that may not be
+// read has none; hidden ones are left out.
+template <typename Visitor>
+void VisitFolders(const std::wstring& path, Visitor&& visitor) {
+    const WithoutDiskBoxes quiet;
     const std::wstring pattern = path + (path.ends_with(L'\\') ? L"*" : L"\\*");
     WIN32_FIND_DATAW found{};
     const HANDLE search = FindFirstFileW(pattern.c_str(), &found);
-    if (search == INVALID_HANDLE_VALUE) return names;
+    if (search == INVALID_HANDLE_VALUE) return;
+    bool wanted = true;
     do {
         const std::wstring name = found.cFileName;
         const bool folder = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
         const bool hidden = (found.dwFileAttributes & FILE_ATTRIBUTE_HIDDEN) != 0;
-        if (folder && !hidden && name != L"." && name != L"..") names.push_back(name);
-    } while (FindNextFileW(search, &found));
+        if (folder && !hidden && name != L"." && name != L"..") wanted = visitor(name);
+    } while (wanted && FindNextFileW(search, &found));
     static_cast<void>(FindClose(search));  // fails only for a handle that is none
+}
+
+// As the user sorts names.
+std::vector<std::wstring> FoldersIn(const std::wstring& path) {
+    std::vector<std::wstring> names;
+    VisitFolders(path, [&](const std::wstring& name) {
+        names.push_back(name);
+        return true;
+    });
     std::sort(names.begin(), names.end(), [](const std::wstring& a, const std::wstring& b) {
         return lstrcmpiW(a.c_str(), b.c_str()) < 0;
     });
     return names;
+}
+
+bool HasFolders(const std::wstring& path) {
+    bool has = false;
+    VisitFolders(path, [&](const std::wstring&) {
+        has = true;
+        return false;
+    });
+    return has;
+}
+
+bool FolderIsThere(const std::wstring& path) {
+    const WithoutDiskBoxes quiet;
+    const DWORD attributes = GetFileAttributesW(path.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
 // Index of the system's picture of a folder, closed or open.
@@ -56,29 +98,44 @@ HIMAGELIST SystemPictures() {
                        SHGFI_SYSICONINDEX | SHGFI_SMALLICON | SHGFI_USEFILEATTRIBUTES));
 }
 
+// How much of a path is the tree's root for it: "C:\" or "\\server\share".
+std::size_t RootLength(const std::wstring& path) {
+    if (!path.starts_with(L"\\\\")) return std::min(path.find(L'\\'), path.size());
+    const std::size_t server_end = std::min(path.find(L'\\', 2), path.size());
+    return std::min(path.find(L'\\', server_end + 1), path.size());
+}
+
+std::wstring Joined(const std::wstring& folder, const std::wstring& name) {
+    return folder + (folder.ends_with(L'\\') ? L"" : L"\\") + name;
+}
+
 }  // namespace
 
 void DirList::Attach(HWND tree) {
     static_cast<Control&>(*this) = Control(tree);
+    closed_picture_ = FolderPicture(false);
+    open_picture_ = FolderPicture(true);
     // The system's own list, which the control never frees.
     static_cast<void>(TreeView_SetImageList(tree, SystemPictures(), TVSIL_NORMAL));
     const DWORD drives = GetLogicalDrives();
     for (int drive = 0; drive < 26; ++drive)
         if ((drives >> drive & 1) != 0)
-            static_cast<void>(Add(TVI_ROOT, {static_cast<wchar_t>(L'A' + drive), L':', L'\\'}));
+            static_cast<void>(Add(TVI_ROOT, {static_cast<wchar_t>(L'A' + drive), L':', L'\\'}, TVI_LAST));
 }
 
-HTREEITEM DirList::Add(HTREEITEM parent, const std::wstring& name) const {
+HTREEITEM DirList::Add(HTREEITEM parent, const std::wstring& name, HTREEITEM place) const {
     std::wstring text = name;
     TVINSERTSTRUCTW item{};
     item.hParent = parent;
-    item.hInsertAfter = TVI_LAST;
+    item.hInsertAfter = place;
     item.item.mask = TVIF_TEXT | TVIF_CHILDREN | TVIF_PARAM | TVIF_IMAGE | TVIF_SELECTEDIMAGE;
     item.item.pszText = text.data();
-    item.item.cChildren = 1;  // looked at only when the user opens it
+    // A folder is looked into when it comes on the screen, a drive, which may be slow or empty, when it is
+    // opened.
+    item.item.cChildren = parent == TVI_ROOT ? 1 : I_CHILDRENCALLBACK;
     item.item.lParam = kNotFilled;
-    item.item.iImage = FolderPicture(false);
-    item.item.iSelectedImage = FolderPicture(true);
+    item.item.iImage = closed_picture_;
+    item.item.iSelectedImage = open_picture_;
     const HTREEITEM added = TreeView_InsertItem(Handle(), &item);
     if (added == nullptr) throw std::bad_alloc();
     return added;
@@ -90,7 +147,7 @@ void DirList::FillFolder(HTREEITEM folder) const {
     item.hItem = folder;
     if (!TreeView_GetItem(Handle(), &item) || item.lParam == kFilled) return;
     const std::vector<std::wstring> names = FoldersIn(PathOf(folder));
-    for (const std::wstring& name : names) static_cast<void>(Add(folder, name));
+    for (const std::wstring& name : names) static_cast<void>(Add(folder, name, TVI_LAST));
     item.mask = TVIF_PARAM | TVIF_CHILDREN;
     item.lParam = kFilled;
     item.cChildren = names.empty() ? 0 : 1;
@@ -111,18 +168,30 @@ std::wstring DirList::NameOf(HTREEITEM folder) const {
 std::wstring DirList::PathOf(HTREEITEM item) const {
     std::wstring path = NameOf(item);
     for (HTREEITEM parent = TreeView_GetParent(Handle(), item); parent != nullptr;
-         parent = TreeView_GetParent(Handle(), parent)) {
-        const std::wstring folder = NameOf(parent);
-        path.insert(0, folder.ends_with(L'\\') ? folder : folder + L"\\");
-    }
+         parent = TreeView_GetParent(Handle(), parent))
+        path = Joined(NameOf(parent), path);
     return path;
 }
 
 HTREEITEM DirList::ChildNamed(HTREEITEM parent, const std::wstring& name) const {
-    for (HTREEITEM child = TreeView_GetChild(Handle(), parent); child != nullptr;
-         child = TreeView_GetNextSibling(Handle(), child))
-        if (SameName(NameOf(child), name)) return child;
-    return nullptr;
+    HTREEITEM child = parent == TVI_ROOT ? TreeView_GetRoot(Handle()) : TreeView_GetChild(Handle(), parent);
+    while (child != nullptr && !SameName(NameOf(child), name))
+        child = TreeView_GetNextSibling(Handle(), child);
+    return child;
+}
+
+// The item of a folder that the tree may not show yet; nullptr when there is no such folder.
+HTREEITEM DirList::Reach(HTREEITEM parent, const std::wstring& name, const std::wstring& path) const {
+    HTREEITEM item = ChildNamed(parent, name);
+    if (item == nullptr && FolderIsThere(path)) {
+        item = Add(parent, name, parent == TVI_ROOT ? TVI_LAST : TVI_SORT);
+        TVITEMW opener{};
+        opener.mask = TVIF_CHILDREN;
+        opener.hItem = parent;
+        opener.cChildren = 1;
+        if (parent != TVI_ROOT) static_cast<void>(TreeView_SetItem(Handle(), &opener));
+    }
+    return item;
 }
 
 std::wstring DirList::Path() const {
@@ -131,19 +200,21 @@ std::wstring DirList::Path() const {
 }
 
 void DirList::SetPath(const std::wstring& path) const {
-    HTREEITEM reached = nullptr;
-    for (std::size_t start = 0; start < path.size();) {
-        const std::size_t end = std::min(path.find(L'\\', start), path.size());
-        std::wstring name = path.substr(start, end - start);
-        start = end + 1;
-        if (name.empty()) continue;
-        if (reached == nullptr) name += L'\\';
-        const HTREEITEM next = ChildNamed(reached == nullptr ? TVI_ROOT : reached, name);
+    const bool share = path.starts_with(L"\\\\");
+    std::size_t end = RootLength(path);
+    const std::wstring root = path.substr(0, end) + (share ? L"" : L"\\");
+    HTREEITEM reached = share ? Reach(TVI_ROOT, root, root) : ChildNamed(TVI_ROOT, root);
+    while (reached != nullptr && end < path.size()) {
+        const std::size_t start = end + 1;
+        end = std::min(path.find(L'\\', start), path.size());
+        if (end == start) continue;
+        FillFolder(reached);
+        const HTREEITEM next = Reach(reached, path.substr(start, end - start), path.substr(0, end));
         if (next == nullptr) break;
-        FillFolder(next);
         reached = next;
     }
-    if (reached == nullptr) return;
+    if (reached == nullptr) reached = TreeView_GetRoot(Handle());
+    FillFolder(reached);
     static_cast<void>(TreeView_SelectItem(Handle(), reached));
     static_cast<void>(
         TreeView_Expand(Handle(), reached, TVE_EXPAND));  // fails where there is nothing to open
@@ -154,6 +225,11 @@ LRESULT DirList::Notify(const NMHDR& header) const {
     if (header.code == TVN_ITEMEXPANDINGW) {
         const auto& change = reinterpret_cast<const NMTREEVIEWW&>(header);
         if (change.action == TVE_EXPAND) FillFolder(change.itemNew.hItem);
+    }
+    if (header.code == TVN_GETDISPINFOW) {
+        auto& asked = const_cast<NMTVDISPINFOW&>(reinterpret_cast<const NMTVDISPINFOW&>(header));
+        if ((asked.item.mask & TVIF_CHILDREN) != 0)
+            asked.item.cChildren = HasFolders(PathOf(asked.item.hItem)) ? 1 : 0;
     }
     return 0;
 }

@@ -56,7 +56,8 @@ void frmExport::FillThemes() const {
         cmbTheme.Add((styles / file).wstring());
 }
 
-void frmExport::Form_Unload() {
+// Also when a fault ends the dialog: the book's save dialog may follow it.
+frmExport::~frmExport() {
     main_.CommonDialog1.Filter = kBookFilter;
 }
 
@@ -217,7 +218,8 @@ void frmExport::ReadTheme(std::wstring& title, std::string& background, std::str
     ThemeApplied = false;
     const std::wstring theme = Text(ID_frmExport_cmbTheme);
     if (theme.size() > kTooShortForATheme) {
-        if (FileIsThere(theme)) {
+        std::error_code error;  // a name that no file can have is not there either
+        if (std::filesystem::is_regular_file(theme, error)) {
             const std::vector<char> bytes = ReadFileBytes(theme);
             ThemeParts = ApplyTheme(ThemeParts, {bytes.data(), bytes.size()});
             ThemeApplied = true;

@@ -13,6 +13,7 @@ namespace lindrel {
 class frmExport : public Dialog {
   public:
     explicit frmExport(frmStart& main);
+    ~frmExport() override;
 
     // The folder for shortcut files; empty when its choice was cancelled.
     void FavorithPath(const std::wstring& vData) { favorPath = vData; }
@@ -22,7 +23,6 @@ class frmExport : public Dialog {
     enum Kind { WebPage, TextFile, Favorites };
 
     void Form_Load() override;
-    void Form_Unload() override;
     void OnCommand(int id, int event) override;
     void cmbType_Click();
     void cmdOK_Click();

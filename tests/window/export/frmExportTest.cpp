@@ -200,6 +200,20 @@ TEST_F(frmExportTest, AMissingThemeIsReportedAndThePageWrittenWithoutIt) {
     EXPECT_EQ(Counts(), CountsOf(0, 0));
 }
 
+TEST_F(frmExportTest, AThemeNameWithWildcardsIsNoFile) {
+    folder.Write(L"van.aut", "A^");
+    const DialogOnScreen dialog = Open();
+    SelectLine(dialog, 1);
+    SetWindowTextW(dialog.Control(ID_frmExport_cmbTheme), folder.File(L"*.aut").c_str());
+    Export(dialog, folder.File(L"lap.htm"), kPages);
+    const BoxOnScreen box = program.Box();
+    EXPECT_EQ(box.Text(), L"Salynálom, de a " + folder.File(L"*.aut") +
+                              L" arculatfájl nem létezik. Igy azt az exportfájlra nem lehet alkalmazni.");
+    box.Press(IDOK);
+    dialog.WaitForClose();
+    EXPECT_NE(TemporaryFolder::Read(folder.File(L"lap.htm")).find("<BODY BGCOLOR=white "), std::string::npos);
+}
+
 TEST_F(frmExportTest, AThemeTextOfThreeCharactersIsNone) {
     const DialogOnScreen dialog = Open();
     SelectLine(dialog, 1);

@@ -176,5 +176,43 @@ TEST_F(frmSelectFavoritDirTest, AFileThatCannotBeWrittenEndsInTheReportAndLosesN
     EXPECT_EQ(TemporaryFolder::Read(folder.File(L"a.lnd")), before);
 }
 
+TEST_F(frmSelectFavoritDirTest, ANewBookIsOfferedToBeSavedAsABook) {
+    program.OnUi([&](frmStart& form) {
+        form.TheBook.SetSiteName(form.TheBook.IndexOf(5, 1), "csillag*");
+        form.Modified = true;
+    });
+    const std::string before = program.BookBytes();
+    const DialogOnScreen dialog = Open();
+    SelectLine(dialog, 1);
+    const DialogOnScreen picker = OpenPicker(dialog);
+    picker.ClickAndWaitForClose(ID_frmSelectFavoritDir_cmdOk);
+    program.Box().Press(IDOK);
+    program.Box().Press(IDYES);
+    const FileDialogOnScreen file = program.FileDialog();
+    EXPECT_EQ(file.Title(), L"File mentése");
+    EXPECT_EQ(file.Filters(), std::vector<std::wstring>{L"Lindrel fájlok (*.lnd)"});
+    file.Accept(folder.File(L"uj"));
+    program.Box().Press(IDOK);
+    EXPECT_EQ(program.WaitForEnd(), 1);
+    EXPECT_EQ(TemporaryFolder::Read(folder.File(L"uj.lnd")), before);
+}
+
+TEST_F(frmSelectFavoritDirTest, ASecondExportOverwritesWithoutAQuestion) {
+    for (const wchar_t* const url : {L"http://regi.hu/hosszu/cim", L"http://uj.hu"}) {
+        program.OnUi(
+            [&](frmStart& form) { form.TheBook.SetSiteURL(form.TheBook.IndexOf(2, 1), ToBookText(url)); });
+        const DialogOnScreen dialog = Open();
+        SelectLine(dialog, 0);
+        const DialogOnScreen picker = OpenPicker(dialog);
+        Descend(picker, L"Lindrel próba");
+        picker.ClickAndWaitForClose(ID_frmSelectFavoritDir_cmdOk);
+        dialog.WaitForClose();
+        program.Settle();
+        EXPECT_TRUE(program.NothingIsOpen());
+    }
+    EXPECT_EQ(TemporaryFolder::Read((FavoritesFolder::Path() / L"Első.url").wstring()),
+              "[InternetShortcut]\r\nURL=http://uj.hu");
+}
+
 }  // namespace
 }  // namespace lindrel::testing
