@@ -1,0 +1,21 @@
+#!/usr/bin/env bash
+# Builds the help file from its pages:
+#   help/build-chm.sh <pages> <scratch folder> <lnd.chm> <home page>
+# The pages are kept in UTF-8. The viewer wants the contents and the index in the code page of the file's language, so
+# all texts are converted to Windows-1250, and say so.
+set -eu
+pages=$1 scratch=$2 target=$3 home_page=$4
+
+rm -rf "$scratch"
+mkdir -p "$scratch"
+cp -r "$pages/pictures" "$scratch/"
+for source in "$pages"/*.html "$pages"/lnd.hh? "$pages"/*.css; do
+  sed -e 's/charset=utf-8/charset=windows-1250/' -e "s|@LINDREL_HOME_PAGE@|$home_page|g" "$source" |
+    iconv -f UTF-8 -t WINDOWS-1250 >"$scratch/$(basename "$source")"
+done
+
+cd "$scratch"
+# The compiler ends well even when a page refers to what is not there; its report is the only sign.
+report=$(chmcmd --verbosity 3 lnd.hhp 2>&1) || { echo "$report"; exit 1; }
+if grep -iE '^(error|warning)|not found|missing|cannot|can.t' <<<"$report"; then exit 1; fi
+cp lnd.chm "$target"
