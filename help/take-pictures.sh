@@ -142,6 +142,12 @@ wait_for '^Exportálás$'
 keys Escape
 wait_for "$main"
 
+menu 5 3
+wait_for '^Lindrel névjegye$'
+take nevjegy
+keys Escape
+wait_for "$main"
+
 menu 4 1
 wait_for '^Importálás$'
 take importalas
@@ -150,11 +156,5 @@ wait_for '^Importálás a kedvencekből$'
 take import-mappa
 keys Escape
 wait_for '^Importálás$'
-keys Escape
-wait_for "$main"
-
-menu 5 3
-wait_for '^Lindrel névjegye$'
-take nevjegy
 keys Escape
 wait_for "$main"
