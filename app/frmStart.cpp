@@ -150,6 +150,8 @@ void frmStart::OnCommand(int id, int) {
             return mnuMove_Click();
         case ID_mnuDel:
             return mnuDel_Click();
+        case ID_mnuImport:
+            return mnuImport_Click();
         case ID_mnuExport:
             return mnuExport_Click();
         case ID_mnuToDesktop:

@@ -6,6 +6,7 @@
 //     frmStart_List.cpp    tabs, list, check marks
 //     frmStart_Edit.cpp    adding, editing, moving, deleting, renaming
 //     frmStart_Export.cpp  export, shortcut on the desktop
+//     frmStart_Import.cpp  import
 //     frmStart_Help.cpp    help, home page, about box
 //     frmStart_Search.cpp  search box, opening an address, the find dialog
 #pragma once
@@ -104,6 +105,7 @@ class frmStart {
     void mnuEdit_Click();
     void mnuMove_Click();
     void mnuDel_Click();
+    void mnuImport_Click();
     void mnuExport_Click();
     void mnuToDesktop_Click();
     void mnuHelp_Click();

@@ -122,7 +122,23 @@
 #define ID_frmSelectFavoritDir_cmdOk 1704
 #define ID_frmSelectFavoritDir_cmdCancel 1705
 
-/* Blocks of the dialogs to come: frmImport 1800, frmI_Fav 1900. */
+/* Import. */
+#define IDR_frmImport 110
+#define IDD_frmImport 1800
+#define ID_frmImport_Frame1 1801
+#define ID_frmImport_from_0 1810
+#define ID_frmImport_from_1 1811
+#define ID_frmImport_Label1 1802
+#define ID_frmImport_Label2 1803
+#define ID_frmImport_cmbKateg 1804
+#define ID_frmImport_cmdOK 1805
+#define ID_frmImport_cmdCancel 1806
+#define IDD_frmI_Fav 1900
+#define ID_frmI_Fav_lblChoose 1901
+#define ID_frmI_Fav_Dir1 1902
+#define ID_frmI_Fav_lblEffect 1903
+#define ID_frmI_Fav_cmdImport 1904
+#define ID_frmI_Fav_cmdCancel 1905
 
 /* The about box. */
 #define IDD_frmAbout 2000
@@ -158,6 +174,9 @@
 #define ID_mnuHelp 40401
 #define ID_mnuGoHome 40402
 #define ID_mnuAbout 40403
+/* The import dialog's own menu. */
+#define ID_mnuOnline 40601
+#define ID_mnuAll 40602
 /* Keys without a menu item: the next and the previous category. */
 #define ID_NextTab 40501
 #define ID_PreviousTab 40502
