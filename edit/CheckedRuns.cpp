@@ -1,6 +1,5 @@
 #include "edit/CheckedRuns.h"
 
-#include <ranges>
 #include <utility>
 
 namespace lindrel {
@@ -26,11 +25,13 @@ void DeleteRuns(Book& book, int category, const std::vector<RowRun>& runs) {
 
 void MoveRuns(Book& book, int source, const std::vector<RowRun>& runs, int destination) {
     std::vector<NewEntry> staged;
-    for (const RowRun& run : std::views::reverse(runs))
+    for (std::size_t i = runs.size(); i-- > 0;) {
+        const RowRun& run = runs[i];
         for (int position = run.Position; position < run.Position + run.Count; ++position) {
             const int index = book.IndexOf(source, position);
             staged.push_back({std::string(book.SiteNames(index)), std::string(book.SiteURLs(index))});
         }
+    }
     DeleteRuns(book, source, runs);
     book.NewEntries = std::move(staged);
     book.AddEntry(destination);

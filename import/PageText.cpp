@@ -17,16 +17,18 @@ namespace {
 
 constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 
-// Length of the run of ASCII bytes at the start.
-std::size_t AsciiRun(std::string_view bytes) {
-    constexpr std::uint64_t kHighBits = 0x8080808080808080;
-    std::size_t length = 0;
-    for (std::uint64_t block = 0; bytes.size() - length >= sizeof block; length += sizeof block) {
-        std::memcpy(&block, bytes.data() + length, sizeof block);
-        if ((block & kHighBits) != 0) break;
-    }
-    while (length < bytes.size() && static_cast<unsigned char>(bytes[length]) < 0x80) ++length;
-    return length;
+constexpr bool IsAscii(char byte) {
+    return static_cast<unsigned char>(byte) < 0x80;
+}
+
+// Eight bytes at once, for the long stretches of ASCII that pages are made of.
+using Block = std::uint64_t;
+
+bool BeginsWithAsciiBlock(std::string_view bytes, Block& block) {
+    constexpr Block kHighBits = 0x8080808080808080;
+    if (bytes.size() < sizeof block) return false;
+    std::memcpy(&block, bytes.data(), sizeof block);
+    return (block & kHighBits) == 0;
 }
 
 struct Utf8Character {
@@ -52,14 +54,20 @@ std::optional<Utf8Character> FirstUtf8Character(std::string_view bytes) {
 }
 
 bool IsUtf8BeyondAscii(std::string_view bytes) {
-    const std::size_t ascii = AsciiRun(bytes);
-    if (ascii == bytes.size()) return false;
-    for (bytes.remove_prefix(ascii); !bytes.empty(); bytes.remove_prefix(AsciiRun(bytes))) {
-        const std::optional<Utf8Character> character = FirstUtf8Character(bytes);
-        if (!character) return false;
-        bytes.remove_prefix(character->Length);
+    bool beyond = false;
+    for (Block block = 0; !bytes.empty();) {
+        std::size_t length = 1;
+        if (BeginsWithAsciiBlock(bytes, block)) {
+            length = sizeof block;
+        } else if (!IsAscii(bytes.front())) {
+            const std::optional<Utf8Character> character = FirstUtf8Character(bytes);
+            if (!character) return false;
+            length = character->Length;
+            beyond = true;
+        }
+        bytes.remove_prefix(length);
     }
-    return true;
+    return beyond;
 }
 
 // The value of name = value at the start of a text, without its quotes; empty when there is no "=".
@@ -113,15 +121,19 @@ void FromUtf8(std::vector<char>& page) {
     std::string_view rest(page.data(), page.size());
     if (rest.starts_with(kUtf8Mark)) rest.remove_prefix(kUtf8Mark.size());
     char* to = page.data();
-    while (!rest.empty()) {
-        const std::size_t ascii = AsciiRun(rest);
-        std::memmove(to, rest.data(), ascii);
-        to += ascii;
-        rest.remove_prefix(ascii);
-        if (rest.empty()) break;
-        const std::optional<Utf8Character> character = FirstUtf8Character(rest);
-        *to++ = character ? BookByte(character->Value).value_or('?') : '?';
-        rest.remove_prefix(character ? character->Length : 1);
+    for (Block block = 0; !rest.empty();) {
+        if (BeginsWithAsciiBlock(rest, block)) {
+            std::memcpy(to, &block, sizeof block);
+            to += sizeof block;
+            rest.remove_prefix(sizeof block);
+        } else if (IsAscii(rest.front())) {
+            *to++ = rest.front();
+            rest.remove_prefix(1);
+        } else {
+            const std::optional<Utf8Character> character = FirstUtf8Character(rest);
+            *to++ = character ? BookByte(character->Value).value_or('?') : '?';
+            rest.remove_prefix(character ? character->Length : 1);
+        }
     }
     page.resize(static_cast<std::size_t>(to - page.data()));
 }

@@ -1,0 +1,110 @@
+// Importing a large saved web page, beside a search for the same links with grep over the same file.
+
+#include <benchmark/benchmark.h>
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <stdexcept>
+
+#include "bench/SampleBook.h"
+#include "book/Files.h"
+#include "import/HtmlLinks.h"
+#include "import/PageText.h"
+
+extern char** environ;
+
+namespace lindrel::bench {
+namespace {
+
+constexpr int kLinks = 16384;
+constexpr std::size_t kBytes = 5U << 20U;
+
+// A page of about 5 MB in UTF-8: links between paragraphs, each on a line of its own.
+std::string LargePage() {
+    constexpr std::string_view kParagraph =
+        "<p class=\"leiras\">Műsorok, hírek, időjárás: minden egy helyen.</p>\r\n";
+    std::string page = "<!DOCTYPE html>\r\n<html><head><title>Lapok</title></head><body>\r\n";
+    for (int link = 1; link <= kLinks; ++link) {
+        const std::string number = std::to_string(link);
+        page.append("<dt><a href=\"http://www.lap-")
+            .append(number)
+            .append(".hu/index.html\" class=\"kedvenc\"><b>Műsor ");
+        page.append(number).append("</b></a>\r\n");
+        const std::size_t share = kBytes / kLinks * static_cast<std::size_t>(link);
+        while (page.size() < share) page.append(kParagraph);
+    }
+    return page.append("</body></html>\r\n");
+}
+
+const std::filesystem::path& Utf8Page() {
+    static const std::filesystem::path path = [] {
+        const std::filesystem::path file = TemporaryFile("utf8.htm");
+        WriteFileBytes(file, LargePage());
+        return file;
+    }();
+    return path;
+}
+
+// The same page in Windows-1250.
+const std::filesystem::path& AnsiPage() {
+    static const std::filesystem::path path = [] {
+        const std::filesystem::path file = TemporaryFile("ansi.htm");
+        const std::string utf8 = LargePage();
+        const std::vector<char> ansi = BookTextOfPage({utf8.begin(), utf8.end()});
+        WriteFileBytes(file, {ansi.data(), ansi.size()});
+        return file;
+    }();
+    return path;
+}
+
+// The addresses with grep, written to a file: what goes to the null device is not searched for.
+void FloorGrep(benchmark::State& state) {
+    const std::string path = AnsiPage().string();
+    posix_spawn_file_actions_t actions;
+    if (posix_spawn_file_actions_init(&actions) != 0) throw std::bad_alloc();
+    const std::string output = TemporaryFile("found.txt").string();
+    if (posix_spawn_file_actions_addopen(&actions, 1, output.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600) !=
+        0)
+        throw std::bad_alloc();
+    std::array<std::string, 5> arguments = {"env", "LC_ALL=C", "grep", "-o", "a href=\"[^\"]*\""};
+    std::array<char*, 7> list{};
+    for (std::size_t i = 0; i < arguments.size(); ++i) list.at(i) = arguments.at(i).data();
+    std::string file = path;
+    list.at(5) = file.data();
+    for (auto _ : state) {
+        pid_t process = 0;
+        int status = 0;
+        if (posix_spawnp(&process, "env", &actions, nullptr, list.data(), environ) != 0 ||
+            waitpid(process, &status, 0) != process || status != 0)
+            throw std::runtime_error("grep does not run");
+    }
+    posix_spawn_file_actions_destroy(&actions);
+}
+BENCHMARK(FloorGrep)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+void Import(benchmark::State& state, const std::filesystem::path& path) {
+    for (auto _ : state) {
+        const std::vector<char> page = BookTextOfPage(ReadFileBytes(path));
+        Book book;
+        book.NewEntries = LinksOfPage({page.data(), page.size()}, LinkChoice::Online);
+        book.AddEntry(1);
+        if (book.EntryCount() != kLinks) throw std::runtime_error("links are missing");
+    }
+    state.SetLabel("FloorGrep");
+}
+
+void ImportPage(benchmark::State& state) {
+    Import(state, AnsiPage());
+}
+BENCHMARK(ImportPage)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+void ImportUtf8Page(benchmark::State& state) {
+    Import(state, Utf8Page());
+}
+BENCHMARK(ImportUtf8Page)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+}  // namespace
+}  // namespace lindrel::bench

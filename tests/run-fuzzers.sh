@@ -1,0 +1,39 @@
+#!/usr/bin/env bash
+# Runs fuzz targets side by side, each for a number of seconds from its seed corpus. What they find new is dropped; an
+# input that fails is kept in the folder fuzz of their build.
+# Usage: run-fuzzers.sh SECONDS PROGRAM...
+set -eu
+seconds=$1
+shift
+sources=$(cd "$(dirname "$0")/../fuzz" && pwd)
+
+# The words that a target's inputs are made of, if there is a list of them.
+dictionary_of() {
+  case $1 in
+    ImportPageFuzz) echo "-dict=$sources/html.dict" ;;
+    ShortcutFuzz) echo "-dict=$sources/shortcut.dict" ;;
+  esac
+}
+
+run_one() { # program
+  local name corpus words=()
+  name=$(basename "$1")
+  corpus=$(mktemp -d)
+  mapfile -t words < <(dictionary_of "$name")
+  local result=0
+  "$1" -max_total_time="$seconds" -timeout=10 -max_len=8192 -print_final_stats=1 -verbosity=1 \
+    -artifact_prefix="$(dirname "$1")/$name-" "${words[@]}" "$corpus" "$sources/corpus/$name" 2>&1 |
+    grep -vE '^(#[0-9]+[[:space:]]+(NEW|REDUCE|pulse|RELOAD)|"|######)' | sed "s/^/$name: /" || result=$?
+  rm -rf "$corpus"
+  return "$result"
+}
+set -o pipefail
+
+processes=()
+for program in "$@"; do
+  run_one "$program" &
+  processes+=($!)
+done
+failed=0
+for process in "${processes[@]}"; do wait "$process" || failed=1; done
+exit $failed
