@@ -109,6 +109,9 @@ LRESULT frmStart::Handle(UINT message, WPARAM first, LPARAM second) {
         case WM_COMMAND:
             OnCommand(LOWORD(first), HIWORD(first));
             return 0;
+        case WM_DRAWITEM:
+            OnDrawItem(*reinterpret_cast<const DRAWITEMSTRUCT*>(second));
+            return TRUE;
         case WM_NOTIFY:
             return OnNotify(*reinterpret_cast<const NMHDR*>(second));
         case WM_QUERYENDSESSION:
@@ -124,7 +127,7 @@ LRESULT frmStart::Handle(UINT message, WPARAM first, LPARAM second) {
     }
 }
 
-void frmStart::OnCommand(int id, int) {
+void frmStart::OnCommand(int id, int event) {
     switch (id) {
         case ID_mnuNew:
             return mnuNew_Click();
@@ -164,6 +167,15 @@ void frmStart::OnCommand(int id, int) {
             return mnuAbout_Click();
         case ID_mnuFind:
             return mnuFind_Click();
+        case ID_mnuGoto:
+        case ID_frmStart_picGo:
+            return picGo_Click();
+        case ID_frmStart_Image1:
+            return Image1_Click();
+        case ID_frmStart_txtFind:
+            if (event == EN_CHANGE) txtFind_Change();
+            if (event == EN_SETFOCUS) txtFind_GotFocus();
+            return;
         case ID_NextTab:
             return SelectTab(SelectedCategory() % kCategories + 1);
         case ID_PreviousTab:
@@ -171,6 +183,11 @@ void frmStart::OnCommand(int id, int) {
         default:
             return;
     }
+}
+
+void frmStart::OnDrawItem(const DRAWITEMSTRUCT& item) const {
+    for (const PictureButton* const button : {&picGo, &Image1})
+        if (item.hwndItem == button->Handle()) button->Draw(item);
 }
 
 LRESULT frmStart::OnNotify(const NMHDR& header) {

@@ -20,6 +20,8 @@
 #include "controls/CommonDialog.h"
 #include "controls/Control.h"
 #include "controls/Display.h"
+#include "controls/PictureButton.h"
+#include "controls/ToolTips.h"
 #include "controls/Windows.h"
 #include "edit/CheckedRuns.h"
 
@@ -58,7 +60,8 @@ class frmStart {
     // Controls.
     TabStrip TabStrip1;
     CheckListView ListURLs;
-    Control lblSiteName, lblURL, FrameSearch, picGo, Image1;
+    Control lblSiteName, lblURL, FrameSearch;
+    PictureButton picGo, Image1;
     TextBox txtSite, txtURL, txtFind;
     ComboBox cmbFinders;
     StatusBar StatusBar1;
@@ -112,11 +115,14 @@ class frmStart {
     void mnuGoHome_Click();
     void mnuAbout_Click();
     void mnuFind_Click();
+    // Opens the address below the list; the menu's "Ugorj az oldalra" too.
+    void picGo_Click();
 
   private:
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM first, LPARAM second);
     LRESULT Handle(UINT message, WPARAM first, LPARAM second);
     void OnCommand(int id, int event);
+    void OnDrawItem(const DRAWITEMSTRUCT& item) const;
     LRESULT OnNotify(const NMHDR& header);
 
     // Life of the window.
@@ -153,6 +159,17 @@ class frmStart {
     // Editing.
     void DeleteCheckedEntries();
 
+    // The search box: a service on the internet when one is chosen, else the shown category step by step.
+    void LoadSearchFrame();
+    void Image1_Click();
+    void SearchTheWeb(const std::wstring& text);
+    void SearchTheBook(const std::wstring& text);
+    void txtFind_KeyPress(wchar_t key);
+    void txtFind_Change();
+    void txtFind_GotFocus() const;
+    static LRESULT CALLBACK FindSubclass(HWND window, UINT message, WPARAM first, LPARAM second, UINT_PTR id,
+                                         DWORD_PTR data);
+
     // The fields below the list.
     static LRESULT CALLBACK UrlSubclass(HWND window, UINT message, WPARAM first, LPARAM second, UINT_PTR id,
                                         DWORD_PTR data);
@@ -165,6 +182,7 @@ class frmStart {
     HWND remembered_focus_ = nullptr;
     UINT dpi_ = USER_DEFAULT_SCREEN_DPI;
     Font font_;
+    ToolTips tool_tips_;
 };
 
 }  // namespace lindrel

@@ -43,16 +43,18 @@ void frmStart::CreateControls() {
     lblURL = Control(CreateControl(WC_STATICW, L"URL", SS_LEFT, ID_frmStart_lblURL));
     txtURL =
         TextBox(CreateControl(WC_EDITW, L"", kField | ES_READONLY, ID_frmStart_txtURL, WS_EX_CLIENTEDGE));
-    picGo =
-        Control(CreateControl(WC_BUTTONW, L"Ugorj a web oldalra", WS_TABSTOP | BS_ICON, ID_frmStart_picGo));
+    picGo.Attach(CreateControl(WC_BUTTONW, L"Ugorj a web oldalra", WS_TABSTOP | PictureButton::kStyle,
+                               ID_frmStart_picGo));
     FrameSearch = Control(
         CreateControl(WC_BUTTONW, L"&keresés", BS_GROUPBOX, ID_frmStart_FrameSearch, WS_EX_TRANSPARENT));
     cmbFinders = ComboBox(
         CreateControl(WC_COMBOBOXW, L"", WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST, ID_frmStart_cmbFinders));
     txtFind = TextBox(CreateControl(WC_EDITW, L"", kField, ID_frmStart_txtFind, WS_EX_CLIENTEDGE));
-    Image1 = Control(CreateControl(WC_BUTTONW, L"Keresés", WS_TABSTOP | BS_ICON, ID_frmStart_Image1));
+    Image1.Attach(
+        CreateControl(WC_BUTTONW, L"Keresés", WS_TABSTOP | PictureButton::kStyle, ID_frmStart_Image1));
     StatusBar1 = StatusBar(CreateControl(STATUSCLASSNAMEW, L"", SBARS_SIZEGRIP, ID_frmStart_StatusBar1));
 
+    LoadSearchFrame();
     if (!SetWindowSubclass(txtURL.Handle(), &frmStart::UrlSubclass, 0, reinterpret_cast<DWORD_PTR>(this)))
         throw std::bad_alloc();
 }
@@ -64,6 +66,9 @@ void frmStart::ApplyResolution() {
     for (HWND child = GetWindow(handle_, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT))
         SendMessageW(child, WM_SETFONT, reinterpret_cast<WPARAM>(font.Handle()), TRUE);
     font_ = std::move(font);
+    const int picture_size = GetSystemMetricsForDpi(SM_CXSMICON, dpi_);
+    picGo.SetPicture(IDI_Go, picture_size);
+    Image1.SetPicture(IDI_Search, picture_size);
     ListURLs.RemakeCheckBoxes();
     ListURLs.SetColumnWidth(kColumnOfNames, PixelsOf(3000, dpi_));
     ListURLs.SetColumnWidth(kColumnOfAddresses, PixelsOf(4250, dpi_));

@@ -6,6 +6,10 @@
 
 #define IDR_frmStart 100
 
+/* Pictures. */
+#define IDI_Go 201
+#define IDI_Search 202
+
 /* The main window. */
 #define ID_frmStart_TabStrip1 1001
 #define ID_frmStart_ListURLs 1002

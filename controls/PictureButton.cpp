@@ -1,0 +1,87 @@
+#include "controls/PictureButton.h"
+
+#include <new>
+
+namespace lindrel {
+
+PictureButton::~PictureButton() {
+    if (Handle() != nullptr) static_cast<void>(RemoveWindowSubclass(Handle(), &PictureButton::Subclass, 0));
+    DropPicture();
+}
+
+void PictureButton::DropPicture() {
+    // Fails only for what is no icon.
+    if (picture_ != nullptr) static_cast<void>(DestroyIcon(picture_));
+    picture_ = nullptr;
+}
+
+void PictureButton::Attach(HWND button) {
+    static_cast<Control&>(*this) = Control(button);
+    if (!SetWindowSubclass(button, &PictureButton::Subclass, 0, reinterpret_cast<DWORD_PTR>(this)))
+        throw std::bad_alloc();
+}
+
+void PictureButton::SetPicture(int icon_id, int size) {
+    DropPicture();
+    size_ = size;
+    // Without the icon the button shows its text.
+    picture_ = static_cast<HICON>(
+        LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(icon_id), IMAGE_ICON, size, size, 0));
+    static_cast<void>(InvalidateRect(Handle(), nullptr, TRUE));
+}
+
+void PictureButton::Draw(const DRAWITEMSTRUCT& item) const {
+    RECT place = item.rcItem;
+    static_cast<void>(FillRect(item.hDC, &place, GetSysColorBrush(COLOR_BTNFACE)));
+    if (picture_ != nullptr) {
+        const int left = (place.left + place.right - size_) / 2;
+        const int top = (place.top + place.bottom - size_) / 2;
+        static_cast<void>(DrawIconEx(item.hDC, left, top, picture_, size_, size_, 0, nullptr, DI_NORMAL));
+    } else {
+        static_cast<void>(SetBkMode(item.hDC, TRANSPARENT));
+        static_cast<void>(SetTextColor(item.hDC, GetSysColor(COLOR_BTNTEXT)));
+        const std::wstring text = Text();
+        static_cast<void>(DrawTextW(item.hDC, text.c_str(), static_cast<int>(text.size()), &place,
+                                    DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS));
+    }
+    const bool show_focus = (item.itemState & ODS_FOCUS) != 0 && (item.itemState & ODS_NOFOCUSRECT) == 0;
+    if (show_focus) static_cast<void>(DrawFocusRect(item.hDC, &place));
+}
+
+void PictureButton::ShowBorder(bool shown) const {
+    const LONG_PTR style = GetWindowLongPtrW(Handle(), GWL_STYLE);
+    const LONG_PTR wanted = shown ? style | WS_BORDER : style & ~static_cast<LONG_PTR>(WS_BORDER);
+    if (wanted == style) return;
+    SetWindowLongPtrW(Handle(), GWL_STYLE, wanted);
+    static_cast<void>(
+        SetWindowPos(Handle(), nullptr, 0, 0, 0, 0,
+                     SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED));
+    static_cast<void>(InvalidateRect(Handle(), nullptr, TRUE));
+}
+
+LRESULT CALLBACK PictureButton::Subclass(HWND button, UINT message, WPARAM first, LPARAM second, UINT_PTR id,
+                                         DWORD_PTR data) {
+    auto* const self = reinterpret_cast<PictureButton*>(data);
+    switch (message) {
+        case WM_LBUTTONDOWN:
+        case WM_LBUTTONDBLCLK:
+            self->MouseDown();
+            break;
+        case WM_LBUTTONUP:
+        case WM_CAPTURECHANGED:  // the button never comes up when something else takes the mouse
+            self->MouseUp();
+            break;
+        case WM_GETDLGCODE:
+            // Enter presses the button that has the focus.
+            return DLGC_BUTTON | (GetFocus() == button ? DLGC_DEFPUSHBUTTON : DLGC_UNDEFPUSHBUTTON);
+        case WM_NCDESTROY:
+            static_cast<void>(RemoveWindowSubclass(button, &PictureButton::Subclass, id));
+            static_cast<Control&>(*self) = Control();
+            break;
+        default:
+            break;
+    }
+    return DefSubclassProc(button, message, first, second);
+}
+
+}  // namespace lindrel

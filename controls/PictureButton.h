@@ -1,0 +1,37 @@
+// A button that shows a picture in the place of its text. The text stays its name for screen readers.
+#pragma once
+
+#include "controls/Control.h"
+
+namespace lindrel {
+
+class PictureButton : public Control {
+  public:
+    PictureButton() = default;
+    ~PictureButton();
+    PictureButton(const PictureButton&) = delete;
+    PictureButton& operator=(const PictureButton&) = delete;
+
+    // Takes over a button that was made with kStyle. Its parent passes WM_DRAWITEM for it to Draw(). Throws
+    // std::bad_alloc when the system cannot.
+    void Attach(HWND button);
+    static constexpr DWORD kStyle = BS_OWNERDRAW;
+
+    // Shows an icon of the resources at a size in pixels.
+    void SetPicture(int icon_id, int size);
+    void Draw(const DRAWITEMSTRUCT& item) const;
+
+  private:
+    static LRESULT CALLBACK Subclass(HWND button, UINT message, WPARAM first, LPARAM second, UINT_PTR id,
+                                     DWORD_PTR data);
+    // A single-line border while the mouse holds it is all that pressing the button shows (intended).
+    void MouseDown() const { ShowBorder(true); }
+    void MouseUp() const { ShowBorder(false); }
+    void ShowBorder(bool shown) const;
+    void DropPicture();
+
+    HICON picture_ = nullptr;
+    int size_ = 0;
+};
+
+}  // namespace lindrel

@@ -1,0 +1,347 @@
+// The search box and the button that opens the shown address.
+
+#include <gtest/gtest.h>
+
+#include "resources/resource.h"
+#include "tests/window/support/Program.h"
+#include "tests/window/support/RecordedShell.h"
+
+namespace lindrel::testing {
+namespace {
+
+constexpr wchar_t kExcite[] = L"http://search.excite.com/search.gw?searchType=Concept&search=";
+
+class frmStartSearchTest : public ::testing::Test {
+  protected:
+    // The second and the fourth entry of the first category hold "AB".
+    frmStartSearchTest() {
+        program.Add(1, {{L"első", L"http://ab.hu"},
+                        {L"kABát", L"http://2.hu"},
+                        {L"harmadik", L"http://3.hu"},
+                        {L"ABlak", L"http://4.hu"}});
+        program.Add(2, {{L"TŰZIJÁTÉK", L"http://tuz.hu"}, {L"időjárás", L"http://ido.hu"}});
+    }
+    HWND Control(int id) const { return GetDlgItem(program.Main(), id); }
+    void Type(const std::wstring& text) const {
+        SendMessageW(Control(ID_frmStart_txtFind), EM_SETSEL, 0, -1);
+        SendMessageW(Control(ID_frmStart_txtFind), EM_REPLACESEL, TRUE,
+                     reinterpret_cast<LPARAM>(text.c_str()));
+    }
+    void Choose(int service) const {
+        SendMessageW(Control(ID_frmStart_cmbFinders), CB_SETCURSEL, static_cast<WPARAM>(service), 0);
+    }
+    int Chosen() const { return ComboBox(Control(ID_frmStart_cmbFinders)).Selected(); }
+    // The picture button; returns at once, since a box may open.
+    void PressSearch() const { PostMessageW(Control(ID_frmStart_Image1), BM_CLICK, 0, 0); }
+    void Search() const {
+        PressSearch();
+        program.Settle();
+    }
+    int SelectedAfterSearch() const {
+        Search();
+        return program.List().Selected();
+    }
+    void NothingMoreIsFound() const {
+        PressSearch();
+        const BoxOnScreen box = program.Box();
+        EXPECT_EQ(box.Title(), L"Lindrel");
+        EXPECT_EQ(box.Text(), L"Nem találtam többet");
+        EXPECT_EQ(box.Buttons(), std::vector<int>{IDOK});
+        EXPECT_EQ(box.Icon(), BoxIcon::None);
+        box.Press(IDOK);
+        program.Settle();
+    }
+    std::wstring ToolTip(int id) const {
+        std::wstring text(256, L'\0');
+        program.OnUi([&](frmStart& form) {
+            TTTOOLINFOW tool{};
+            tool.cbSize = sizeof tool;
+            tool.hwnd = form.Handle();
+            tool.uId = reinterpret_cast<UINT_PTR>(Control(id));
+            tool.lpszText = text.data();
+            for (HWND tips = FindWindowExW(nullptr, nullptr, TOOLTIPS_CLASSW, nullptr); tips != nullptr;
+                 tips = FindWindowExW(nullptr, tips, TOOLTIPS_CLASSW, nullptr))
+                if (GetWindow(tips, GW_OWNER) == form.Handle() && text[0] == L'\0')
+                    SendMessageW(tips, TTM_GETTEXTW, 256, reinterpret_cast<LPARAM>(&tool));
+        });
+        return text.c_str();
+    }
+
+    Program program;
+};
+
+TEST_F(frmStartSearchTest, OffersSixChoicesTheEmptyOneFirst) {
+    const ComboBox finders(Control(ID_frmStart_cmbFinders));
+    std::vector<std::wstring> items;
+    for (int i = 0; i < finders.Count(); ++i) items.push_back(finders.Item(i));
+    EXPECT_EQ(items, (std::vector<std::wstring>{L"", L"AltaVista", L"Lycos", L"Excite", L"Yahoo",
+                                                L"Altavizsla - hu!"}));
+    EXPECT_EQ(finders.Selected(), 0);
+    EXPECT_EQ(TextOf(Control(ID_frmStart_FrameSearch)), L"&keresés");
+    EXPECT_EQ(TextOf(Control(ID_frmStart_txtFind)), L"");
+}
+
+TEST_F(frmStartSearchTest, EachControlHasItsToolTip) {
+    EXPECT_EQ(ToolTip(ID_frmStart_cmbFinders), L"keress az interneten");
+    EXPECT_EQ(ToolTip(ID_frmStart_txtFind), L"a keresett szó");
+    EXPECT_EQ(ToolTip(ID_frmStart_Image1), L"Keresés");
+    EXPECT_EQ(ToolTip(ID_frmStart_picGo), L"Ugorj a web oldalra");
+}
+
+TEST_F(frmStartSearchTest, SearchesWalkThroughTheHitsOfTheCategoryAndStartAgain) {
+    Type(L"ab");
+    EXPECT_EQ(SelectedAfterSearch(), 2);
+    EXPECT_EQ(SelectedAfterSearch(), 4);
+    NothingMoreIsFound();
+    EXPECT_EQ(program.List().Selected(), 4);
+    EXPECT_EQ(SelectedAfterSearch(), 2);
+}
+
+TEST_F(frmStartSearchTest, AHitIsSelectedButNotShownInTheFields) {
+    const MainState before = program.State();
+    Type(L"ab");
+    Search();
+    MainState expected = before;
+    expected.SelectedRow = 2;
+    EXPECT_EQ(program.State(), expected);
+}
+
+TEST_F(frmStartSearchTest, AChangedTextSearchesFromTheFirstEntry) {
+    Type(L"ab");
+    EXPECT_EQ(SelectedAfterSearch(), 2);
+    EXPECT_EQ(SelectedAfterSearch(), 4);
+    Type(L"aba");
+    NothingMoreIsFound();
+    Type(L"abá");
+    EXPECT_EQ(SelectedAfterSearch(), 2);
+    // One letter taken away by the keyboard.
+    program.OnUi([&](frmStart&) { SetFocus(Control(ID_frmStart_txtFind)); });
+    SendMessageW(Control(ID_frmStart_txtFind), EM_SETSEL, 3, 3);
+    PostMessageW(Control(ID_frmStart_txtFind), WM_CHAR, VK_BACK, 1);
+    program.Settle();
+    EXPECT_EQ(TextOf(Control(ID_frmStart_txtFind)), L"ab");
+    EXPECT_EQ(SelectedAfterSearch(), 2);
+}
+
+TEST_F(frmStartSearchTest, HungarianLettersAreFoundInEitherCase) {
+    program.ClickTab(2);
+    Type(L"tűzijáték");
+    EXPECT_EQ(SelectedAfterSearch(), 1);
+    Type(L"IDŐJÁRÁS");
+    EXPECT_EQ(SelectedAfterSearch(), 2);
+    Type(L"tuz");
+    NothingMoreIsFound();
+}
+
+TEST_F(frmStartSearchTest, OnlyNamesOfTheShownCategoryAreSearched) {
+    Type(L"http");
+    NothingMoreIsFound();
+    Type(L"időjárás");
+    NothingMoreIsFound();
+}
+
+TEST_F(frmStartSearchTest, ASearchGoesOnAtTheOldPlaceAfterATabChange) {
+    program.Add(3, {{L"ab1", L"1"}, {L"ab2", L"2"}, {L"ab3", L"3"}});
+    Type(L"ab");
+    EXPECT_EQ(SelectedAfterSearch(), 2);
+    program.ClickTab(3);
+    EXPECT_EQ(SelectedAfterSearch(), 3);
+    NothingMoreIsFound();
+    EXPECT_EQ(SelectedAfterSearch(), 1);
+}
+
+TEST_F(frmStartSearchTest, FewerThanTwoCharactersDoNothing) {
+    const RecordedShell shell;
+    for (const wchar_t* const text : {L"", L"a"}) {
+        Type(text);
+        Choose(0);
+        Search();
+        EXPECT_EQ(program.List().Selected(), 0);
+        Choose(3);
+        Search();
+        EXPECT_EQ(Chosen(), 3);
+    }
+    EXPECT_TRUE(program.NothingIsOpen());
+    // Had one of them opened an address, it would come first.
+    Type(L"ab");
+    Search();
+    EXPECT_EQ(shell.NextAddress(), std::wstring(kExcite) + L"ab");
+}
+
+TEST_F(frmStartSearchTest, AnEmptyCategoryIsNotSearched) {
+    program.ClickTab(5);
+    Type(L"ab");
+    const MainState before = program.State();
+    Search();
+    EXPECT_TRUE(program.NothingIsOpen());
+    EXPECT_EQ(program.State(), before);
+}
+
+TEST_F(frmStartSearchTest, AHitOutsideTheViewIsScrolledIn) {
+    std::vector<Row> many(500, {L"x", L"http://x.hu"});
+    many[399].first = L"itt ŐZ van";
+    program.Add(4, many);
+    program.ClickTab(4);
+    Type(L"őz");
+    EXPECT_EQ(SelectedAfterSearch(), 400);
+    const HWND list = program.List().Handle();
+    const int first_shown = ListView_GetTopIndex(list) + 1;
+    EXPECT_GT(first_shown, 1);
+    EXPECT_LE(first_shown, 400);
+    EXPECT_LT(400, first_shown + ListView_GetCountPerPage(list));
+}
+
+TEST_F(frmStartSearchTest, AServiceOpensItsPageWithTheWordsAsTypedAndIsThenLeft) {
+    const RecordedShell shell;
+    Choose(3);
+    Type(L"két szó");
+    const MainState before = program.State();
+    Search();
+    EXPECT_EQ(shell.NextAddress(), L"http://search.excite.com/search.gw?searchType=Concept&search=két szó");
+    EXPECT_EQ(Chosen(), 0);
+    EXPECT_EQ(TextOf(Control(ID_frmStart_cmbFinders)), L"");
+    EXPECT_EQ(TextOf(Control(ID_frmStart_txtFind)), L"két szó");
+    EXPECT_EQ(program.State(), before);
+    // The next search goes to the book.
+    Type(L"ab");
+    EXPECT_EQ(SelectedAfterSearch(), 2);
+    EXPECT_EQ(shell.Addresses().size(), 1u);
+}
+
+TEST_F(frmStartSearchTest, EveryServiceOpensItsOwnPage) {
+    const RecordedShell shell;
+    const std::wstring pages[] = {
+        L"https://search.yahoo.com/search?fr=altavista&p=", L"https://search.lycos.com/web/?q=", kExcite,
+        L"https://search.yahoo.com/search?p=", L"https://www.altavizsla.hu/search?q="};
+    Type(L"ŰRHAJÓ & őz + 100%");
+    for (int service = 1; service <= 5; ++service) {
+        Choose(service);
+        Search();
+        EXPECT_EQ(shell.NextAddress(), pages[service - 1] + L"ŰRHAJÓ & őz + 100%");
+        EXPECT_EQ(Chosen(), 0);
+    }
+}
+
+TEST_F(frmStartSearchTest, AServiceIsAskedFromAnEmptyCategoryToo) {
+    const RecordedShell shell;
+    program.ClickTab(9);
+    Choose(3);
+    Type(L"ab");
+    Search();
+    EXPECT_EQ(shell.NextAddress(), std::wstring(kExcite) + L"ab");
+}
+
+TEST_F(frmStartSearchTest, EnterInTheTextBoxSearches) {
+    const RecordedShell shell;
+    Type(L"ab");
+    program.OnUi([&](frmStart&) { SetFocus(Control(ID_frmStart_txtFind)); });
+    const auto enter = [&] { program.PressKey(Control(ID_frmStart_txtFind), VK_RETURN); };
+    enter();
+    EXPECT_EQ(program.List().Selected(), 2);
+    // The focus stays, so that Enter goes on.
+    enter();
+    EXPECT_EQ(program.List().Selected(), 4);
+    PostMessageW(Control(ID_frmStart_txtFind), WM_KEYDOWN, VK_RETURN, 1);
+    const BoxOnScreen box = program.Box();
+    EXPECT_EQ(box.Text(), L"Nem találtam többet");
+    box.Press(IDOK);
+    program.Settle();
+    Choose(3);
+    enter();
+    EXPECT_EQ(shell.NextAddress(), std::wstring(kExcite) + L"ab");
+    EXPECT_EQ(Chosen(), 0);
+}
+
+TEST_F(frmStartSearchTest, EnterPressesThePictureButtonThatHasTheFocus) {
+    Type(L"ab");
+    program.OnUi([&](frmStart&) { SetFocus(Control(ID_frmStart_Image1)); });
+    program.PressKey(Control(ID_frmStart_Image1), VK_RETURN);
+    EXPECT_EQ(program.List().Selected(), 2);
+}
+
+TEST_F(frmStartSearchTest, TheTextIsSelectedWheneverItsBoxGainsTheFocus) {
+    Type(L"műsor");
+    const TextBox box(Control(ID_frmStart_txtFind));
+    program.OnUi([&](frmStart& form) {
+        form.ListURLs.SetFocus();
+        box.SetFocus();
+    });
+    EXPECT_EQ(box.SelectedText(), L"műsor");
+}
+
+TEST_F(frmStartSearchTest, DelInTheTextBoxDeletesTextNotEntries) {
+    Type(L"ab");
+    program.ClickBox(1);
+    program.OnUi([&](frmStart&) { SetFocus(Control(ID_frmStart_txtFind)); });
+    program.PressKey(Control(ID_frmStart_txtFind), VK_DELETE);
+    EXPECT_TRUE(program.NothingIsOpen());
+    EXPECT_EQ(TextOf(Control(ID_frmStart_txtFind)), L"");
+    EXPECT_EQ(program.State().Rows.size(), 4u);
+}
+
+TEST_F(frmStartSearchTest, TheButtonOpensTheShownAddress) {
+    const RecordedShell shell;
+    program.Add(6, {{L"út", L"https://pelda.hu/két szó/ÁRVÍZTŰRŐ?a=1&b=%20"}});
+    program.ClickTab(6);
+    const auto press = [&] {
+        PostMessageW(Control(ID_frmStart_picGo), BM_CLICK, 0, 0);
+        program.Settle();
+    };
+    // Nothing is shown yet.
+    press();
+    program.ClickRow(1);
+    press();
+    EXPECT_EQ(shell.NextAddress(), L"https://pelda.hu/két szó/ÁRVÍZTŰRŐ?a=1&b=%20");
+    program.ClickTab(1);
+    program.ClickRow(3);
+    program.Run(ID_mnuGoto);
+    EXPECT_EQ(shell.NextAddress(), L"http://3.hu");
+}
+
+TEST_F(frmStartSearchTest, AnAddressThatTheShellCannotOpenShowsNothing) {
+    program.Add(6, {{L"semmi", L"C:\\nincs ilyen\\fájl.html"}});
+    program.ClickTab(6);
+    program.ClickRow(1);
+    const MainState before = program.State();
+    PostMessageW(Control(ID_frmStart_picGo), BM_CLICK, 0, 0);
+    program.Settle();
+    EXPECT_TRUE(program.NothingIsOpen());
+    EXPECT_EQ(program.State(), before);
+}
+
+TEST_F(frmStartSearchTest, APictureButtonHasABorderWhileTheMouseHoldsIt) {
+    for (const int id : {ID_frmStart_Image1, ID_frmStart_picGo}) {
+        const HWND button = Control(id);
+        const auto has_border = [&] { return (GetWindowLongPtrW(button, GWL_STYLE) & WS_BORDER) != 0; };
+        EXPECT_FALSE(has_border());
+        PostMessageW(button, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+        program.Settle();
+        EXPECT_TRUE(has_border());
+        PostMessageW(button, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+        program.Settle();
+        EXPECT_FALSE(has_border());
+        // Released elsewhere.
+        PostMessageW(button, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+        PostMessageW(button, WM_LBUTTONUP, 0, MAKELPARAM(-50, -50));
+        program.Settle();
+        EXPECT_FALSE(has_border());
+        // Taken away.
+        PostMessageW(button, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+        program.Settle();
+        EXPECT_TRUE(has_border());
+        program.OnUi([](frmStart&) { ReleaseCapture(); });
+        EXPECT_FALSE(has_border());
+    }
+}
+
+TEST_F(frmStartSearchTest, TwoQuickClicksSearchTwice) {
+    Type(L"ab");
+    const HWND button = Control(ID_frmStart_Image1);
+    for (const auto message : {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_LBUTTONUP})
+        PostMessageW(button, static_cast<UINT>(message), 0, MAKELPARAM(5, 5));
+    program.Settle();
+    EXPECT_EQ(program.List().Selected(), 4);
+}
+
+}  // namespace
+}  // namespace lindrel::testing
