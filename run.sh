@@ -6,7 +6,7 @@ cd "$(dirname "$0")"
 source tests/wine-env.sh
 install_packages
 cmake --preset x64 >/dev/null
-cmake --build --preset x64 --target lindrel
+cmake --build --preset x64 --target lindrel help_file
 wine_environment
 make_template_prefix
 exe=build/x64/lindrel/lindrel.exe

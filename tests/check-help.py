@@ -2,7 +2,7 @@
 """Reads a compiled help file back and follows everything in it:
     tests/check-help.py lnd.chm <folder of the sources>
 Every page must be reachable from the contents; every link, picture, style sheet, entry of the contents and entry of the
-index must lead somewhere; and what the pages call menu items and shortcuts must be those of the program."""
+index must lead somewhere; and what the pages call menu items, shortcuts and messages must be those of the program."""
 
 import html.parser
 import pathlib
@@ -195,6 +195,27 @@ def check_menu(pages, menu):
             complain("billentyuk.html", f"does not tell that {shortcut} is {caption!r}")
 
 
+def texts_of(sources):
+    """Every text that the program can show, one a line; pieces of one literal are joined."""
+    code = "\n".join(
+        path.read_text(encoding="utf-8")
+        for folder in ("app", "book", "controls", "edit", "export", "find", "help", "import")
+        for path in sorted((sources / folder).glob("*.cpp")) + sorted((sources / folder).glob("*.rc")))
+    literals = re.findall(r'"(?:[^"\\\n]|\\.)*"(?:\s*L?"(?:[^"\\\n]|\\.)*")*', code)
+    return "\n".join(re.sub(r'"\s*L?"', "", literal)[1:-1] for literal in literals)
+
+
+def check_messages(pages, shown):
+    """The messages that the help explains are the program's own, to the letter; "..." stands for what varies."""
+    messages = [text for row in pages["uzenetek.html"].rows[1:] for text in re.findall("„([^”]*)”", row[0])]
+    if len(messages) != len(pages["uzenetek.html"].rows) - 1:
+        complain("uzenetek.html", "a row without its message")
+    for message in messages:
+        for piece in " ".join(message.split()).split("..."):
+            if piece.strip() not in shown:
+                complain("uzenetek.html", f"the program never says {piece.strip()!r}")
+
+
 def main():
     chm, sources = sys.argv[1], pathlib.Path(sys.argv[2])
     cache = (pathlib.Path(chm).resolve().parent.parent / "CMakeCache.txt").read_text(encoding="utf-8")
@@ -213,6 +234,7 @@ def main():
     check_contents(pages, contents)
     check_index(pages, index)
     check_menu(pages, menu_of(sources))
+    check_messages(pages, texts_of(sources))
     print("\n".join(complaints))
     print(f"{len(pages)} pages, {sum(len(page.links) for page in pages.values())} links, "
           f"{sum(len(page.files) for page in pages.values())} pictures and style sheets, "
