@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstdint>
 #include <cstring>
 
@@ -65,6 +66,37 @@ constexpr auto kLower = [] {
     }
     return table;
 }();
+
+// The other way round: the capital of each letter in lower case, anything else as it is. No letter of the
+// repertoire has two capitals.
+constexpr auto kUpper = [] {
+    std::array<std::uint8_t, 256> table{};
+    for (unsigned number = 0; number < 256; ++number) table[number] = static_cast<std::uint8_t>(number);
+    for (unsigned number = 0; number < 256; ++number)
+        if (kLower[number] != number) table[kLower[number]] = static_cast<std::uint8_t>(number);
+    return table;
+}();
+
+constexpr std::uint64_t kOnes = 0x0101010101010101;
+constexpr std::uint64_t kHighBits = 0x8080808080808080;
+
+// The word of the eight bytes at a place of a text, the first one in its lowest bits.
+std::uint64_t WordAt(std::string_view text, std::size_t place) {
+    static_assert(std::endian::native == std::endian::little);
+    std::uint64_t word = 0;
+    std::memcpy(&word, text.data() + place, sizeof word);
+    return word;
+}
+
+// Marks the zero bytes of a word by their high bits. Above the lowest zero byte, bytes of 1 can be marked
+// too.
+constexpr std::uint64_t ZeroBytes(std::uint64_t word) {
+    return (word - kOnes) & ~word & kHighBits;
+}
+
+constexpr std::size_t LowestMarked(std::uint64_t marks) {
+    return static_cast<std::size_t>(std::countr_zero(marks)) / 8;
+}
 
 constexpr bool IsLeadSurrogate(char32_t unit) {
     return unit >= 0xD800 && unit <= 0xDBFF;
@@ -144,18 +176,47 @@ std::wstring_view Trim(std::wstring_view text) {
     return TrimBlanks(text);
 }
 
+CaselessNeedle::CaselessNeedle(std::string_view needle) : needle_(LowerCase(needle)) {
+    if (needle_.empty()) return;
+    lower_ = kOnes * Number(needle_.front());
+    upper_ = kOnes * kUpper[Number(needle_.front())];
+}
+
+// Where a text from the place on has the first letter in one of its forms, or the text's size. Eight bytes at
+// a time, the last eight overlapping those before.
+std::size_t CaselessNeedle::NextStart(std::string_view text, std::size_t from) const noexcept {
+    constexpr std::size_t kWord = sizeof(std::uint64_t);
+    const auto marks = [this](std::uint64_t word) {
+        return ZeroBytes(word ^ lower_) | ZeroBytes(word ^ upper_);
+    };
+    if (text.size() < kWord) {
+        const auto is_first = [this](char byte) { return LowerCase(byte) == needle_.front(); };
+        const auto rest = text.substr(std::min(from, text.size()));
+        return static_cast<std::size_t>(std::find_if(rest.begin(), rest.end(), is_first) - text.begin());
+    }
+    std::size_t place = from;
+    for (; place + kWord <= text.size(); place += kWord)
+        if (const std::uint64_t found = marks(WordAt(text, place)); found != 0)
+            return place + LowestMarked(found);
+    if (place >= text.size()) return text.size();
+    const std::size_t seen = place + kWord - text.size();
+    const std::uint64_t found = marks(WordAt(text, text.size() - kWord)) >> (8 * seen);
+    return found == 0 ? text.size() : place + LowestMarked(found);
+}
+
+bool CaselessNeedle::MatchesAt(std::string_view text, std::size_t start) const noexcept {
+    for (std::size_t i = 0; i < needle_.size(); ++i)
+        if (LowerCase(text[start + i]) != needle_[i]) return false;
+    return true;
+}
+
 std::size_t CaselessNeedle::FindIn(std::string_view text, std::size_t from) const noexcept {
     if (from > text.size()) return std::string_view::npos;
     if (needle_.empty()) return from;
     if (needle_.size() > text.size()) return std::string_view::npos;
-    const char first = needle_.front();
     const std::size_t last_start = text.size() - needle_.size();
-    for (std::size_t start = from; start <= last_start; ++start) {
-        if (LowerCase(text[start]) != first) continue;
-        std::size_t matched = 1;
-        while (matched < needle_.size() && LowerCase(text[start + matched]) == needle_[matched]) ++matched;
-        if (matched == needle_.size()) return start;
-    }
+    for (std::size_t start = NextStart(text, from); start <= last_start; start = NextStart(text, start + 1))
+        if (MatchesAt(text, start)) return start;
     return std::string_view::npos;
 }
 

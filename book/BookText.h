@@ -3,6 +3,7 @@
 // the result does not depend on the machine's code page and nothing is ever replaced by a "best fit".
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -37,14 +38,20 @@ std::wstring_view Trim(std::wstring_view text);
 // for a needle and asked for many texts.
 class CaselessNeedle {
   public:
-    explicit CaselessNeedle(std::string_view needle) : needle_(LowerCase(needle)) {}
+    explicit CaselessNeedle(std::string_view needle);
 
     // 0-based place of the first occurrence at or after `from` (0-based), or npos.
     std::size_t FindIn(std::string_view text, std::size_t from = 0) const noexcept;
     bool IsIn(std::string_view text) const noexcept { return FindIn(text) != std::string_view::npos; }
 
   private:
-    std::string needle_;
+    std::size_t NextStart(std::string_view text, std::size_t from) const noexcept;
+    bool MatchesAt(std::string_view text, std::size_t start) const noexcept;
+
+    std::string needle_;  // in lower case
+    // The two forms of its first letter, each in every byte of a word.
+    std::uint64_t lower_ = 0;
+    std::uint64_t upper_ = 0;
 };
 
 // The same for wide text that need not fit a book (such as what the clipboard holds).

@@ -25,6 +25,8 @@ Hits Collect(const Book& book, const Accepts& accepts) {
     Hits hits{.Items = {}, .Texts = book.Texts()};
     // A book that was loaded with too few headers may count entries that it does not have.
     const int last = std::min(book.EntryCount(), book.UpperBound());
+    // Only what is used of it costs anything.
+    hits.Items.reserve(static_cast<std::size_t>(last));
     int category = 1;
     for (int i = 1; i <= last; ++i) {
         while (category < kCategories && book.CategoryStarts(category + 1) <= i) ++category;

@@ -59,6 +59,47 @@ TEST(BookTextTest, ContainmentIgnoresCase) {
     EXPECT_FALSE(ContainsCaseless(L"", L"a"));
 }
 
+// What the search must find, looked for letter by letter.
+std::size_t PlainFind(const std::string& text, const std::string& needle, std::size_t from) {
+    return from > text.size() ? std::string::npos : LowerCase(text).find(LowerCase(needle), from);
+}
+
+TEST(BookTextTest, ContainmentIsFoundAtEveryPlaceOfTextsOfEveryLength) {
+    // Few different letters, so that there are many near misses; neighbours of "a" and of "A" among them.
+    constexpr char kLetters[] = "aA`b@B\xFB\xDB\xFA\xFC";
+    unsigned dice = 1;
+    const auto letters = [&](std::size_t length) {
+        std::string text;
+        while (text.size() < length) {
+            dice = dice * 1664525u + 1013904223u;
+            text += kLetters[(dice >> 16) % (sizeof kLetters - 1)];
+        }
+        return text;
+    };
+    for (std::size_t length = 0; length <= 40; ++length)
+        for (std::size_t needle_length = 0; needle_length <= 10; ++needle_length)
+            for (int round = 0; round < 20; ++round) {
+                const std::string text = letters(length);
+                const std::string needle = letters(needle_length);
+                for (std::size_t from = 0; from <= length + 1; ++from)
+                    ASSERT_EQ(CaselessNeedle(needle).FindIn(text, from), PlainFind(text, needle, from))
+                        << '"' << needle << "\" in \"" << text << "\" from " << from;
+            }
+}
+
+TEST(BookTextTest, EveryLetterIsFoundInBothItsForms) {
+    for (int number = 0; number < 256; ++number) {
+        const char letter = static_cast<char>(number);
+        for (int other = 0; other < 256; ++other) {
+            const std::string text = "0123456789" + std::string(1, static_cast<char>(other));
+            if (number >= '0' && number <= '9') continue;
+            ASSERT_EQ(CaselessNeedle(std::string(1, letter)).IsIn(text),
+                      LowerCase(letter) == LowerCase(static_cast<char>(other)))
+                << number << " and " << other;
+        }
+    }
+}
+
 TEST(BookTextTest, TrimmingRemovesBlanksOnly) {
     EXPECT_EQ(Trim(L"  a b  "), L"a b");
     EXPECT_EQ(Trim(L"   "), L"");
