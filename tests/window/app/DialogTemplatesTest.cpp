@@ -1,0 +1,172 @@
+// What holds for every dialog of the program: keyboard access, labels before their controls, nothing outside,
+// nothing over another.
+
+#include <gtest/gtest.h>
+
+#include <cwctype>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "controls/Control.h"
+#include "tests/window/support/Text.h"
+
+namespace lindrel::testing {
+namespace {
+
+INT_PTR CALLBACK EmptyProcedure(HWND, UINT, WPARAM, LPARAM) {
+    return FALSE;
+}
+
+class DialogTemplatesTest : public ::testing::Test {
+  protected:
+    DialogTemplatesTest() {
+        EnumResourceNamesW(
+            nullptr, RT_DIALOG,
+            [](HMODULE, LPCWSTR, LPWSTR name, LONG_PTR list) {
+                const HWND dialog =
+                    CreateDialogParamW(GetModuleHandleW(nullptr), name, nullptr, &EmptyProcedure, 0);
+                reinterpret_cast<std::vector<HWND>*>(list)->push_back(dialog);
+                return TRUE;
+            },
+            reinterpret_cast<LONG_PTR>(&dialogs));
+    }
+    ~DialogTemplatesTest() override {
+        for (const HWND dialog : dialogs) EXPECT_TRUE(DestroyWindow(dialog));
+    }
+
+    static std::vector<HWND> ChildrenOf(HWND dialog) {
+        std::vector<HWND> children;
+        for (HWND child = GetWindow(dialog, GW_CHILD); child != nullptr;
+             child = GetWindow(child, GW_HWNDNEXT))
+            children.push_back(child);
+        return children;
+    }
+    static std::wstring ClassOf(HWND window) {
+        wchar_t name[64] = L"";
+        GetClassNameW(window, name, 64);
+        return name;
+    }
+    static LONG_PTR StyleOf(HWND window) { return GetWindowLongPtrW(window, GWL_STYLE); }
+    static bool IsFrame(HWND window) {
+        return ClassOf(window) == L"Button" && (StyleOf(window) & BS_TYPEMASK) == BS_GROUPBOX;
+    }
+    // The lower-case letter behind a single "&", or 0.
+    static wchar_t AccessKeyOf(HWND window) {
+        const std::wstring text = TextOf(window);
+        for (std::size_t i = 0; i + 1 < text.size(); ++i) {
+            if (text[i] != L'&') continue;
+            if (text[i + 1] != L'&')
+                return static_cast<wchar_t>(std::towlower(static_cast<wint_t>(text[i + 1])));
+            ++i;
+        }
+        return 0;
+    }
+    static RECT PlaceOf(HWND window, HWND dialog) {
+        RECT place{};
+        EXPECT_TRUE(GetWindowRect(window, &place));
+        MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&place), 2);
+        return place;
+    }
+    static std::string NameOf(HWND dialog, HWND control) {
+        return Narrow(TextOf(dialog)) + " / " + Narrow(TextOf(control)) + " (" +
+               std::to_string(GetDlgCtrlID(control)) + ")";
+    }
+
+    std::vector<HWND> dialogs;
+};
+
+TEST_F(DialogTemplatesTest, EachIsMadeAndHasACaption) {
+    EXPECT_GE(dialogs.size(), 10u);
+    for (const HWND dialog : dialogs) {
+        ASSERT_NE(dialog, nullptr);
+        EXPECT_NE(TextOf(dialog), L"");
+    }
+}
+
+TEST_F(DialogTemplatesTest, AccessKeysAreUniqueInEachDialog) {
+    for (const HWND dialog : dialogs) {
+        std::map<wchar_t, HWND> keys;
+        for (const HWND child : ChildrenOf(dialog)) {
+            const wchar_t key = AccessKeyOf(child);
+            if (key == 0 || ClassOf(child) == L"Edit") continue;
+            EXPECT_TRUE(keys.emplace(key, child).second)
+                << NameOf(dialog, child) << " has the key of " << NameOf(dialog, keys.at(key));
+        }
+    }
+}
+
+TEST_F(DialogTemplatesTest, ALabelWithAKeyStandsJustBeforeTheControlThatItNames) {
+    for (const HWND dialog : dialogs)
+        for (const HWND child : ChildrenOf(dialog)) {
+            if (ClassOf(child) != L"Static" || AccessKeyOf(child) == 0) continue;
+            const HWND next = GetWindow(child, GW_HWNDNEXT);
+            ASSERT_NE(next, nullptr) << NameOf(dialog, child);
+            EXPECT_NE(StyleOf(next) & WS_TABSTOP, 0) << NameOf(dialog, child);
+        }
+}
+
+TEST_F(DialogTemplatesTest, EveryTextBoxListAndComboHasALabelBeforeIt) {
+    for (const HWND dialog : dialogs)
+        for (const HWND child : ChildrenOf(dialog)) {
+            const std::wstring kind = ClassOf(child);
+            if (kind != L"Edit" && kind != L"ComboBox" && kind != L"ListBox" && kind != L"SysTreeView32" &&
+                kind != L"SysListView32")
+                continue;
+            const HWND before = GetWindow(child, GW_HWNDPREV);
+            ASSERT_NE(before, nullptr) << NameOf(dialog, child);
+            EXPECT_EQ(ClassOf(before), L"Static") << NameOf(dialog, child);
+            EXPECT_NE(TextOf(before), L"") << NameOf(dialog, child);
+        }
+}
+
+TEST_F(DialogTemplatesTest, NothingSticksOutOrLiesOverAnother) {
+    for (const HWND dialog : dialogs) {
+        RECT client{};
+        ASSERT_TRUE(GetClientRect(dialog, &client));
+        const std::vector<HWND> children = ChildrenOf(dialog);
+        for (const HWND child : children) {
+            const RECT place = PlaceOf(child, dialog);
+            EXPECT_TRUE(place.left >= 0 && place.top >= 0 && place.right <= client.right &&
+                        (place.bottom <= client.bottom || ClassOf(child) == L"ComboBox"))
+                << NameOf(dialog, child);
+            if (IsFrame(child) || (StyleOf(child) & WS_VISIBLE) == 0) continue;
+            for (const HWND other : children) {
+                RECT common{};
+                const RECT others = PlaceOf(other, dialog);
+                const bool counted = other != child && !IsFrame(other) && (StyleOf(other) & WS_VISIBLE) != 0;
+                EXPECT_FALSE(counted && IntersectRect(&common, &place, &others))
+                    << NameOf(dialog, child) << " and " << NameOf(dialog, other);
+            }
+        }
+    }
+}
+
+TEST_F(DialogTemplatesTest, NoTextIsWiderThanItsControl) {
+    for (const HWND dialog : dialogs) {
+        const HDC paper = GetDC(dialog);
+        const HGDIOBJ before =
+            SelectObject(paper, reinterpret_cast<HFONT>(SendMessageW(dialog, WM_GETFONT, 0, 0)));
+        for (const HWND child : ChildrenOf(dialog)) {
+            const bool label = ClassOf(child) == L"Static" && (StyleOf(child) & SS_TYPEMASK) <= SS_RIGHT;
+            const bool button = ClassOf(child) == L"Button" && (StyleOf(child) & BS_ICON) == 0;
+            if (!label && !button) continue;
+            const std::wstring text = TextOf(child);
+            RECT needed{0, 0, 0, 0};
+            RECT place{};
+            ASSERT_TRUE(GetClientRect(child, &place));
+            if (label) needed.right = place.right;
+            DrawTextW(paper, text.c_str(), -1, &needed, DT_CALCRECT | (label ? DT_WORDBREAK : DT_SINGLELINE));
+            EXPECT_LE(needed.right, place.right) << NameOf(dialog, child);
+            // A line's own leading may reach one pixel further than the label.
+            if (label) {
+                EXPECT_LE(needed.bottom, place.bottom + 1) << NameOf(dialog, child);
+            }
+        }
+        SelectObject(paper, before);
+        ReleaseDC(dialog, paper);
+    }
+}
+
+}  // namespace
+}  // namespace lindrel::testing
