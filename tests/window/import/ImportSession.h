@@ -1,0 +1,63 @@
+// A book with checked entries, and the import dialog on it.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "resources/resource.h"
+#include "tests/window/support/Program.h"
+
+namespace lindrel::testing {
+
+class ImportSession : public ::testing::Test {
+  protected:
+    // Entries in the categories 2 and 5; category 2 is shown with two rows checked and one selected.
+    ImportSession() {
+        program.OnUi([](frmStart& form) {
+            form.TheBook.SetCategoryName(2, ToBookText(L"Hírek"));
+            form.UpdateTabCaptions();
+        });
+        program.Add(2,
+                    {{L"Első", L"http://elso.hu"}, {L"Második", L"http://masodik.hu"}, {L"Harmadik", L"x"}});
+        program.Add(5, {{L"Ötödik", L"http://otodik.hu"}});
+        program.ClickTab(2);
+        program.ClickBox(3);
+        program.ClickBox(1);
+        program.ClickRow(2);
+    }
+
+    DialogOnScreen Open() const {
+        program.Choose(ID_mnuImport);
+        return program.Dialog(L"Importálás");
+    }
+    void Leave(const DialogOnScreen& dialog) const {
+        dialog.ClickAndWaitForClose(ID_frmImport_cmdCancel);
+        program.Settle();
+    }
+    void AnswerResult(int count) const {
+        const BoxOnScreen box = program.Box();
+        EXPECT_EQ(box.Title(), L"Lindrel");
+        EXPECT_EQ(box.Text(), L"Az importálás eredménye: " + std::to_wstring(count) + L" új cím");
+        EXPECT_EQ(box.Buttons(), std::vector<int>{IDOK});
+        EXPECT_EQ(box.Icon(), BoxIcon::None);
+        box.Press(IDOK);
+        program.Settle();
+    }
+    // Fills the book to a number of entries, all behind those it has.
+    void FillBookTo(int entries) const {
+        program.OnUi([&](frmStart& form) {
+            form.TheBook.NewEntries.assign(static_cast<std::size_t>(entries - form.TheBook.EntryCount()),
+                                           {"n", "http://n.hu"});
+            form.TheBook.AddEntry(12);
+        });
+    }
+    std::wstring FilterOfMain() const {
+        return program.Ask<std::wstring>([](frmStart& form) { return form.CommonDialog1.Filter; });
+    }
+
+    TemporaryFolder folder;
+    Program program;
+};
+
+}  // namespace lindrel::testing

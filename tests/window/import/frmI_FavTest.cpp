@@ -1,0 +1,212 @@
+// The choice of a folder of shortcut files, and their import.
+
+#include <filesystem>
+
+#include "book/Files.h"
+#include "export/Favorites.h"
+#include "export/Shortcut.h"
+#include "tests/window/import/ImportSession.h"
+#include "tests/window/support/FavoritesFolder.h"
+
+namespace lindrel::testing {
+namespace {
+
+class frmI_FavTest : public ImportSession {
+  protected:
+    DialogOnScreen OpenPicker(const DialogOnScreen& dialog) const {
+        dialog.Click(ID_frmImport_from_1);
+        dialog.Click(ID_frmImport_cmdOK);
+        return program.Dialog(L"Importálás a kedvencekből");
+    }
+    // Chooses the test's own folder of the favourites and presses the import button.
+    void ChooseFolder(const DialogOnScreen& dialog) const {
+        const DialogOnScreen picker = OpenPicker(dialog);
+        DescendTo(program, picker.Control(ID_frmI_Fav_Dir1), L"Lindrel próba");
+        picker.ClickAndWaitForClose(ID_frmI_Fav_cmdImport);
+    }
+    static void Write(const std::wstring& name, const std::string& bytes) {
+        WriteFileBytes(FavoritesFolder::Path() / name, bytes);
+    }
+    // The report of a fault, the offer to save taken, and that the saved book is the one from before.
+    void ExpectReport(const std::wstring& text) {
+        const std::string before = program.BookBytes();
+        program.OnUi([&](frmStart& form) {
+            form.OpenedFile = folder.File(L"konyv.lnd");
+            form.Modified = true;
+        });
+        const DialogOnScreen dialog = Open();
+        ChooseFolder(dialog);
+        FinishWithReport(text, before);
+    }
+    void FinishWithReport(const std::wstring& text, const std::string& before) {
+        const BoxOnScreen report = program.Box();
+        EXPECT_EQ(report.Title(), L"Lindrel");
+        EXPECT_EQ(report.Text(), text);
+        report.Press(IDOK);
+        const BoxOnScreen question = program.Box();
+        EXPECT_EQ(question.Title(), L"A fájl módosult");
+        question.Press(IDYES);
+        const BoxOnScreen saved = program.Box();
+        EXPECT_EQ(saved.Text(), L"Elmentve : " + folder.File(L"konyv.lnd"));
+        saved.Press(IDOK);
+        EXPECT_EQ(program.WaitForEnd(), 1);
+        EXPECT_EQ(TemporaryFolder::Read(folder.File(L"konyv.lnd")), before);
+    }
+
+    FavoritesFolder favorites;
+};
+
+TEST_F(frmI_FavTest, TheChoiceStartsAtTheFavouritesAndCancellingItIsSilent) {
+    const MainState before = program.State();
+    const DialogOnScreen dialog = Open();
+    const DialogOnScreen picker = OpenPicker(dialog);
+    EXPECT_EQ(picker.Text(ID_frmI_Fav_lblChoose),
+              L"Kérem válassza ki az azt a mappát, amelyből exportálni kíván");
+    EXPECT_EQ(picker.Text(ID_frmI_Fav_lblEffect),
+              L"A kiválasztott könyvtárból lesznek importálva az ott található (*.url) fájlokból a címek.");
+    EXPECT_EQ(picker.Text(ID_frmI_Fav_cmdImport), L"&Importálás");
+    EXPECT_EQ(picker.Text(ID_frmI_Fav_cmdCancel), L"&Mégse");
+    EXPECT_EQ(SelectedItemText(picker.Control(ID_frmI_Fav_Dir1)),
+              FavoritesFolder::Start().filename().wstring());
+    picker.ClickAndWaitForClose(ID_frmI_Fav_cmdCancel);
+    program.Settle();
+    EXPECT_TRUE(dialog.IsOpen());
+    const DialogOnScreen again = OpenPicker(dialog);
+    again.Cancel();
+    program.Settle();
+    Leave(dialog);
+    EXPECT_EQ(program.State(), before);
+}
+
+TEST_F(frmI_FavTest, EachFileBecomesAnEntryAndTheBookIsMarked) {
+    Write(L"Posta.url", ShortcutFile("http://posta.hu"));
+    Write(L"Hírek.url", ShortcutFile("http://hirek.hu"));
+    Write(L"Alsó\\belso.url", ShortcutFile("http://belso.hu"));
+    MainState expected = program.State();
+    const DialogOnScreen dialog = Open();
+    ChooseFolder(dialog);
+    AnswerResult(2);
+    EXPECT_TRUE(dialog.IsOpen());
+    Leave(dialog);
+    expected.Rows.emplace_back(L"Hírek", L"http://hirek.hu");
+    expected.Rows.emplace_back(L"Posta", L"http://posta.hu");
+    expected.SelectedRow = 0;
+    expected.txtSite = expected.txtURL = expected.Status[0] = L"";
+    expected.Status[1] = L"megjelenítve (5 / 6)";
+    expected.Modified = true;
+    EXPECT_EQ(program.State(), expected);
+}
+
+TEST_F(frmI_FavTest, ExportedEntriesComeBackAsTheyWere) {
+    const std::vector<NewEntry> entries = {{"\xC1rv\xEDz", "http://arviz.hu/?a=URL=b"},
+                                           {"Posta & t\xE1rsa", "mailto:ki@posta.hu"},
+                                           {"\xDAt", "http://ut.hu/#hely"}};
+    Book book;
+    book.NewEntries = entries;
+    book.AddEntry(3);
+    book.SavedCheckCounts(3) = 3;
+    book.SavedCheckLists(3) = {1, 2, 3};
+    saveTo_fav(book, FavoritesFolder::Path(), false);
+
+    const DialogOnScreen dialog = Open();
+    dialog.Pick(ID_frmImport_cmbKateg, 2);
+    ChooseFolder(dialog);
+    AnswerResult(3);
+    Leave(dialog);
+    program.ClickTab(3);
+    EXPECT_EQ(program.State().Rows, (std::vector<Row>{{L"Posta & társa", L"mailto:ki@posta.hu"},
+                                                      {L"Árvíz", L"http://arviz.hu/?a=URL=b"},
+                                                      {L"Út", L"http://ut.hu/#hely"}}));
+}
+
+TEST_F(frmI_FavTest, TheExtensionIsCutByLengthWhateverItsCase) {
+    Write(L"NAGY.URL", "[DEFAULT]\r\nBASEURL=http://alap.hu\r\n[InternetShortcut]\r\nURL=http://nagy.hu\r\n");
+    Write(L"Görög Ω.Url", "[InternetShortcut]\nurl=http://gorog.hu\nIconIndex=1\n");
+    const DialogOnScreen dialog = Open();
+    dialog.Pick(ID_frmImport_cmbKateg, 2);
+    ChooseFolder(dialog);
+    AnswerResult(2);
+    Leave(dialog);
+    program.ClickTab(3);
+    EXPECT_EQ(program.State().Rows,
+              (std::vector<Row>{{L"Görög ?", L"http://gorog.hu"}, {L"NAGY", L"http://alap.hu"}}));
+}
+
+TEST_F(frmI_FavTest, AFolderWithoutShortcutsIsReported) {
+    Write(L"lap.htm", "x");
+    const MainState before = program.State();
+    const DialogOnScreen dialog = Open();
+    ChooseFolder(dialog);
+    const BoxOnScreen box = program.Box();
+    EXPECT_EQ(box.Title(), L"Lindrel");
+    EXPECT_EQ(box.Text(), L"Salynálom, de a megadott könyvtárban nem találtam kedvenc weblapokat");
+    EXPECT_EQ(box.Buttons(), std::vector<int>{IDOK});
+    EXPECT_EQ(box.Icon(), BoxIcon::None);
+    box.Press(IDOK);
+    program.Settle();
+    Leave(dialog);
+    EXPECT_EQ(program.State(), before);
+}
+
+TEST_F(frmI_FavTest, AFolderThatHasVanishedIsSilent) {
+    const MainState before = program.State();
+    const DialogOnScreen dialog = Open();
+    const DialogOnScreen picker = OpenPicker(dialog);
+    DescendTo(program, picker.Control(ID_frmI_Fav_Dir1), L"Lindrel próba");
+    std::filesystem::remove_all(FavoritesFolder::Path());
+    picker.ClickAndWaitForClose(ID_frmI_Fav_cmdImport);
+    program.Settle();
+    Leave(dialog);
+    EXPECT_TRUE(program.NothingIsOpen());
+    EXPECT_EQ(program.State(), before);
+}
+
+TEST_F(frmI_FavTest, Import255FilesWorks) {
+    std::vector<Row> rows;
+    for (int i = 100; i < 355; ++i) {
+        const std::string number = std::to_string(i);
+        Write(std::to_wstring(i) + L".url", ShortcutFile("http://" + number + ".hu"));
+        rows.emplace_back(std::to_wstring(i), L"http://" + std::to_wstring(i) + L".hu");
+    }
+    const DialogOnScreen dialog = Open();
+    dialog.Pick(ID_frmImport_cmbKateg, 11);
+    ChooseFolder(dialog);
+    AnswerResult(255);
+    Leave(dialog);
+    program.ClickTab(12);
+    EXPECT_EQ(program.State().Rows, rows);
+}
+
+TEST_F(frmI_FavTest, A256thFileEndsInTheReportAndLosesNothing) {
+    for (int i = 0; i < 256; ++i) Write(std::to_wstring(i) + L".url", ShortcutFile("http://lap.hu"));
+    ExpectReport(L"Futásidejű hiba: 6\r\n\r\nTúlcsordulás.");
+}
+
+TEST_F(frmI_FavTest, AFileOfOneLineEndsInTheReportAndLosesNothing) {
+    Write(L"a.url", ShortcutFile("http://jo.hu"));
+    Write(L"b.url", "[InternetShortcut]\r\n");
+    ExpectReport(L"Futásidejű hiba: 62\r\n\r\nOlvasás a fájl vége után.");
+}
+
+TEST_F(frmI_FavTest, AShortSecondLineEndsInTheReportAndLosesNothing) {
+    Write(L"a.url", "[InternetShortcut]\r\nab\r\n");
+    ExpectReport(L"Futásidejű hiba: 5\r\n\r\nÉrvénytelen eljáráshívás vagy argumentum.");
+}
+
+TEST_F(frmI_FavTest, AFullBookEndsInTheReportAndLosesNothing) {
+    FillBookTo(32766);
+    Write(L"a.url", ShortcutFile("http://a.hu"));
+    Write(L"b.url", ShortcutFile("http://b.hu"));
+    const std::string before = program.BookBytes();
+    program.OnUi([&](frmStart& form) {
+        form.OpenedFile = folder.File(L"konyv.lnd");
+        form.Modified = true;
+    });
+    const DialogOnScreen dialog = Open();
+    ChooseFolder(dialog);
+    AnswerResult(2);  // comes before the entries are added
+    FinishWithReport(L"Futásidejű hiba: 6\r\n\r\nTúlcsordulás.", before);
+}
+
+}  // namespace
+}  // namespace lindrel::testing

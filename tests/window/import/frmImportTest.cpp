@@ -1,0 +1,330 @@
+// The import dialog and the import of web pages.
+
+#include "tests/window/import/ImportSession.h"
+
+namespace lindrel::testing {
+namespace {
+
+// The popup menu that is open in a thread.
+class PopupMenu {
+  public:
+    explicit PopupMenu(DWORD thread) {
+        WaitUntil("a popup menu", [&] {
+            for (const HWND window : WindowsOf(thread)) {
+                wchar_t name[16] = L"";
+                GetClassNameW(window, name, 16);
+                if (std::wstring(name) == L"#32768") window_ = window;
+            }
+            return window_ != nullptr;
+        });
+        constexpr UINT kGetMenu = 0x01E1;  // MN_GETHMENU
+        menu_ = reinterpret_cast<HMENU>(SendMessageW(window_, kGetMenu, 0, 0));
+    }
+    // Text and check mark of each item.
+    std::vector<std::pair<std::wstring, bool>> Items() const {
+        std::vector<std::pair<std::wstring, bool>> items;
+        for (int i = 0; i < GetMenuItemCount(menu_); ++i) {
+            wchar_t text[64] = L"";
+            GetMenuStringW(menu_, static_cast<UINT>(i), text, 64, MF_BYPOSITION);
+            const UINT state = GetMenuState(menu_, static_cast<UINT>(i), MF_BYPOSITION);
+            items.emplace_back(text, (state & MF_CHECKED) != 0);
+        }
+        return items;
+    }
+    // By the keyboard; 1-based.
+    void Choose(int item) const {
+        for (int i = 0; i < item; ++i) PostMessageW(window_, WM_KEYDOWN, VK_DOWN, 0);
+        PostMessageW(window_, WM_KEYDOWN, VK_RETURN, 0);
+        WaitForClose();
+    }
+    void Leave() const {
+        PostMessageW(window_, WM_KEYDOWN, VK_ESCAPE, 0);
+        WaitForClose();
+    }
+
+  private:
+    void WaitForClose() const {
+        WaitUntil("the popup menu to close",
+                  [this] { return !IsWindow(window_) || !IsWindowVisible(window_); });
+    }
+
+    HWND window_ = nullptr;
+    HMENU menu_ = nullptr;
+};
+
+using Items = std::vector<std::pair<std::wstring, bool>>;
+const Items kOnlineChecked = {{L"csak \"online címeket\"", true}, {L"minden címet", false}};
+const Items kAllChecked = {{L"csak \"online címeket\"", false}, {L"minden címet", true}};
+
+class frmImportTest : public ImportSession {
+  protected:
+    // Presses the import button and picks a page.
+    void Pick(const DialogOnScreen& dialog, const std::wstring& path) const {
+        dialog.Click(ID_frmImport_cmdOK);
+        const FileDialogOnScreen file = program.FileDialog();
+        EXPECT_EQ(file.Title(), L"Válasszon ki egy weblapot");
+        EXPECT_EQ(file.Filters(), std::vector<std::wstring>{L"weblapok (*.htm)"});
+        EXPECT_EQ(file.FileName(), L"");
+        file.Accept(path);
+    }
+    std::wstring Page(const std::string& bytes) const { return folder.Write(L"lap.htm", bytes); }
+
+    // Imports a page that fails: the message, if any, and that nothing at all is changed.
+    void ExpectFailure(const std::string& page, const std::wstring& title) const {
+        program.OnUi([](frmStart& form) { form.Modified = false; });
+        const MainState before = program.State();
+        const std::string book = program.BookBytes();
+        const DialogOnScreen dialog = Open();
+        dialog.Pick(ID_frmImport_cmbKateg, 4);
+        Pick(dialog, Page(page));
+        if (!title.empty()) {
+            const BoxOnScreen box = program.Box();
+            EXPECT_EQ(box.Title(), title);
+            EXPECT_EQ(box.Text(), L"Az importálás nem sikerült.");
+            EXPECT_EQ(box.Buttons(), std::vector<int>{IDOK});
+            EXPECT_EQ(box.Icon(), BoxIcon::None);
+            box.Press(IDOK);
+        }
+        program.Settle();
+        EXPECT_TRUE(dialog.IsOpen());
+        Leave(dialog);
+        EXPECT_TRUE(program.NothingIsOpen());
+        EXPECT_EQ(program.State(), before);
+        EXPECT_EQ(program.BookBytes(), book);
+        EXPECT_EQ(FilterOfMain(), L"Lindrel fájlok (*.lnd)|*.lnd");
+        program.OnUi([](frmStart& form) { EXPECT_EQ(form.TheBook.NewEntries, std::vector<NewEntry>{}); });
+    }
+
+    const std::wstring kTooMany = L"Túl sok címet tartalmaz a weblap";
+    const std::wstring kFaulty = L"Hibás a weblap";
+};
+
+TEST_F(frmImportTest, OpensForAPageAndTheShownCategory) {
+    const MainState before = program.State();
+    const DialogOnScreen dialog = Open();
+    EXPECT_EQ(dialog.Text(ID_frmImport_Frame1), L" forrás ");
+    EXPECT_EQ(dialog.Text(ID_frmImport_from_0), L"weblap - HTML");
+    EXPECT_EQ(dialog.Text(ID_frmImport_from_1), L"MS IE kedvencek - URL");
+    EXPECT_EQ(dialog.Text(ID_frmImport_Label2), L" >>");
+    EXPECT_EQ(dialog.Text(ID_frmImport_Label1), L"a cimeket helyezd ebbe a kategóriába");
+    EXPECT_EQ(dialog.Text(ID_frmImport_cmdOK), L"&Importálj");
+    EXPECT_EQ(dialog.Text(ID_frmImport_cmdCancel), L"&Mégse");
+    EXPECT_TRUE(dialog.IsChecked(ID_frmImport_from_0));
+    EXPECT_FALSE(dialog.IsChecked(ID_frmImport_from_1));
+    EXPECT_EQ(dialog.ComboItems(ID_frmImport_cmbKateg), before.Tabs);
+    EXPECT_EQ(dialog.Picked(ID_frmImport_cmbKateg), 1);
+    Leave(dialog);
+    EXPECT_EQ(program.State(), before);
+}
+
+TEST_F(frmImportTest, LinksGoBehindTheEntriesOfTheChosenCategory) {
+    MainState expected = program.State();
+    const DialogOnScreen dialog = Open();
+    Pick(dialog, Page("<A HREF=\"HTTP://Lap.hu/\">H\xCDrek</A>\r\n<a href=\"helyi.htm\">Helyi</a>\r\n"
+                      "<a href=\"http://ket.hu\"><b>K\xE9t</b></a>\r\n"));
+    AnswerResult(2);
+    EXPECT_TRUE(dialog.IsOpen());
+    EXPECT_EQ(program.State().Rows, expected.Rows);  // shown when the dialog closes
+    Leave(dialog);
+    expected.Rows.emplace_back(L"hírek", L"http://lap.hu/");
+    expected.Rows.emplace_back(L"két", L"http://ket.hu");
+    expected.SelectedRow = 0;
+    expected.txtSite = expected.txtURL = expected.Status[0] = L"";
+    expected.Status[1] = L"megjelenítve (5 / 6)";
+    expected.Modified = true;
+    EXPECT_EQ(program.State(), expected);
+    EXPECT_EQ(FilterOfMain(), L"Lindrel fájlok (*.lnd)|*.lnd");
+}
+
+TEST_F(frmImportTest, SeveralPagesAreImportedInARow) {
+    MainState expected = program.State();
+    const DialogOnScreen dialog = Open();
+    dialog.Pick(ID_frmImport_cmbKateg, 4);
+    Pick(dialog, Page("<a href=\"http://egy.hu\">Egy</a>"));
+    AnswerResult(1);
+    Pick(dialog, Page("<a href=\"http://ket.hu\">K\xE9t</a><a href=\"http://har.hu\">H\xE1rom</a>"));
+    AnswerResult(2);
+    Leave(dialog);
+    expected.SelectedRow = 0;
+    expected.txtSite = expected.txtURL = expected.Status[0] = L"";
+    expected.Status[1] = L"megjelenítve (3 / 7)";
+    expected.Modified = true;
+    EXPECT_EQ(program.State(), expected);
+    program.ClickTab(5);
+    EXPECT_EQ(program.State().Rows, (std::vector<Row>{{L"Ötödik", L"http://otodik.hu"},
+                                                      {L"egy", L"http://egy.hu"},
+                                                      {L"két", L"http://ket.hu"},
+                                                      {L"három", L"http://har.hu"}}));
+}
+
+TEST_F(frmImportTest, TheFirstLinksOfAnEmptyBookLeaveNothingStaged) {
+    program.OnUi([](frmStart& form) { form.ResetBook(); });
+    const DialogOnScreen dialog = Open();
+    for (int page = 1; page <= 2; ++page) {
+        Pick(dialog, Page("<a href=\"http://egy.hu\">Egy</a>"));
+        AnswerResult(1);
+    }
+    Leave(dialog);
+    EXPECT_EQ(program.State().Rows,
+              (std::vector<Row>{{L"egy", L"http://egy.hu"}, {L"egy", L"http://egy.hu"}}));
+}
+
+TEST_F(frmImportTest, TheMenuChoosesBetweenOnlineAndAllAddresses) {
+    const std::wstring page = Page("<a href=\"http://egy.hu\">Egy</a><a href=\"mailto:ki@lap.hu\">Ki</a>");
+    const DialogOnScreen dialog = Open();
+    const auto choose = [&](const Items& expected, int item) {
+        dialog.Click(ID_frmImport_Label2);
+        const PopupMenu menu(program.Thread());
+        EXPECT_EQ(menu.Items(), expected);
+        menu.Choose(item);
+        program.Settle();
+    };
+    choose(kOnlineChecked, 1);  // the checked one: nothing changes
+    choose(kOnlineChecked, 2);
+    choose(kAllChecked, 2);
+    Pick(dialog, page);
+    AnswerResult(2);
+    choose(kAllChecked, 1);
+    Pick(dialog, page);
+    AnswerResult(1);
+    Leave(dialog);
+    const DialogOnScreen again = Open();
+    again.Click(ID_frmImport_Label2);
+    const PopupMenu menu(program.Thread());
+    EXPECT_EQ(menu.Items(), kOnlineChecked);
+    menu.Leave();
+    Leave(again);
+}
+
+TEST_F(frmImportTest, TheMenuOpensWhenTheMouseGoesDownAndForPagesOnly) {
+    const DialogOnScreen dialog = Open();
+    const HWND button = dialog.Control(ID_frmImport_Label2);
+    PostMessageW(button, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(4, 4));
+    const PopupMenu menu(program.Thread());
+    EXPECT_EQ(menu.Items(), kOnlineChecked);
+    menu.Leave();
+    program.Settle();
+    dialog.Click(ID_frmImport_from_1);
+    program.Settle();
+    EXPECT_FALSE(dialog.IsEnabled(ID_frmImport_Label2));
+    PostMessageW(button, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(4, 4));
+    program.Settle();
+    EXPECT_EQ(WindowsOf(program.Thread()).size(), 2U);  // no menu: the dialog and the main window
+    dialog.Click(ID_frmImport_from_0);
+    program.Settle();
+    EXPECT_TRUE(dialog.IsEnabled(ID_frmImport_Label2));
+    Leave(dialog);
+}
+
+TEST_F(frmImportTest, HungarianNamesComeThroughInEveryEncoding) {
+    const std::string pages[] = {
+        "<a href=\"http://a.hu\">\xC1rv\xEDzt\xFBr\xF5 t\xFCk\xF6rf\xFAr\xF3g\xE9p</a>",
+        "<meta charset=iso-8859-2><a href=\"http://a.hu\">\xC1rv\xEDzt\xFBr\xF5 "
+        "t\xFCk\xF6rf\xFAr\xF3g\xE9p</a>",
+        "<a href=\"http://a.hu\">\xC3\x81rv\xC3\xADzt\xC5\xB1r\xC5\x91 "
+        "t\xC3\xBCk\xC3\xB6rf\xC3\xBAr\xC3\xB3g\xC3\xA9p</a>"};
+    const DialogOnScreen dialog = Open();
+    dialog.Pick(ID_frmImport_cmbKateg, 7);
+    for (const std::string& page : pages) {
+        Pick(dialog, Page(page));
+        AnswerResult(1);
+    }
+    Leave(dialog);
+    program.ClickTab(8);
+    const Row expected{L"árvíztűrő tükörfúrógép", L"http://a.hu"};
+    EXPECT_EQ(program.State().Rows, (std::vector<Row>{expected, expected, expected}));
+}
+
+TEST_F(frmImportTest, APageWithoutLinksGivesZeroAndDoesNotMarkTheBook) {
+    MainState expected = program.State();
+    const std::string book = program.BookBytes();
+    const DialogOnScreen dialog = Open();
+    Pick(dialog, Page("<p>Semmi</p><a href=\"helyi.htm\">Helyi</a>"));
+    AnswerResult(0);
+    Leave(dialog);
+    expected.SelectedRow = 0;  // the list is filled anew all the same
+    expected.txtSite = expected.txtURL = expected.Status[0] = L"";
+    EXPECT_EQ(program.State(), expected);
+    EXPECT_EQ(program.BookBytes(), book);
+}
+
+TEST_F(frmImportTest, AnAddressTooLongForItsCounterChangesNothing) {
+    ExpectFailure("<a href=\"http://jo.hu\">J\xF3</a><a href=\"http://" + std::string(300, 'u') + "\">N</a>",
+                  kTooMany);
+}
+
+TEST_F(frmImportTest, AClosingTagTooFarOffChangesNothing) {
+    ExpectFailure(
+        "<a href=\"http://jo.hu\">J\xF3</a><a href=\"http://a.hu\">" + std::string(300, 'n') + "</b></a>",
+        kTooMany);
+}
+
+TEST_F(frmImportTest, MoreLinksThanTheCounterHoldsChangeNothing) {
+    std::string page;
+    for (int i = 0; i < 32767; ++i) page += "<a href=\"http://a.hu\">N</a>\n";
+    ExpectFailure(page, kTooMany);
+}
+
+TEST_F(frmImportTest, AnAnchorLeftOpenChangesNothing) {
+    ExpectFailure("<a href=\"http://jo.hu\">J\xF3</a>\r\n<a href=\"http://a.hu\">N\r\nM\r\n", kFaulty);
+}
+
+TEST_F(frmImportTest, AnAddressWithoutClosingQuotationMarkChangesNothingWithoutAWord) {
+    ExpectFailure("<a href=\"http://jo.hu\">J\xF3</a><a href=\"http://a.hu>N</a>", L"");
+}
+
+TEST_F(frmImportTest, ANearlyFullBookTakesWhatFitsAndNothingOfWhatDoesNot) {
+    FillBookTo(32766);
+    ExpectFailure("<a href=\"http://a.hu\">A</a><a href=\"http://b.hu\">B</a>", kTooMany);
+    const DialogOnScreen dialog = Open();
+    Pick(dialog, Page("<a href=\"http://a.hu\">A</a>"));
+    AnswerResult(1);
+    Leave(dialog);
+    EXPECT_EQ(program.State().Status[1], L"megjelenítve (4 / 32767)");
+    ExpectFailure("<a href=\"http://b.hu\">B</a>", kTooMany);
+}
+
+TEST_F(frmImportTest, APageThatCannotBeReadChangesNothingWithoutAWord) {
+    const MainState before = program.State();
+    const std::wstring path = Page("<a href=\"http://a.hu\">A</a>");
+    const HANDLE held = CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    ASSERT_NE(held, INVALID_HANDLE_VALUE);
+    const DialogOnScreen dialog = Open();
+    Pick(dialog, path);
+    program.Settle();
+    Leave(dialog);
+    CloseHandle(held);
+    EXPECT_EQ(program.State(), before);
+}
+
+TEST_F(frmImportTest, TheCancelledFileDialogEndsTheClick) {
+    const MainState before = program.State();
+    const DialogOnScreen dialog = Open();
+    dialog.Click(ID_frmImport_cmdOK);
+    program.FileDialog().Cancel();
+    program.Settle();
+    EXPECT_TRUE(dialog.IsOpen());
+    EXPECT_EQ(FilterOfMain(), L"weblapok (*.htm)|*.htm");  // put back when the dialog closes
+    Leave(dialog);
+    EXPECT_EQ(FilterOfMain(), L"Lindrel fájlok (*.lnd)|*.lnd");
+    EXPECT_EQ(program.State(), before);
+}
+
+TEST_F(frmImportTest, AMissingPageIsAskedForAgain) {
+    const MainState before = program.State();
+    const DialogOnScreen dialog = Open();
+    Pick(dialog, folder.File(L"nincs.htm"));
+    const BoxOnScreen box = program.Box();
+    EXPECT_EQ(box.Title(), L"Hiba");
+    EXPECT_EQ(box.Text(), L"A megadott fájl nem létezik");
+    box.Press(IDOK);
+    const FileDialogOnScreen again = program.FileDialog();
+    EXPECT_EQ(again.Title(), L"Válasszon ki egy weblapot");
+    again.Cancel();
+    program.Settle();
+    Leave(dialog);
+    EXPECT_EQ(program.State(), before);
+}
+
+}  // namespace
+}  // namespace lindrel::testing
