@@ -95,6 +95,24 @@ void ListBox::Add(std::wstring_view text) const {
     if (Send(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(terminated.c_str())) < 0) throw std::bad_alloc();
 }
 
+void ComboBox::WidenList() const {
+    const HDC screen = GetDC(Handle());
+    if (screen == nullptr) return;  // the list stays as wide as the box
+    const HGDIOBJ before = SelectObject(screen, reinterpret_cast<HFONT>(Send(WM_GETFONT)));
+    LONG widest = 0;
+    for (int i = 0; i < Count(); ++i) {
+        const std::wstring text = Item(i);
+        SIZE size{};
+        // Without an answer the item asks for no width.
+        static_cast<void>(GetTextExtentPoint32W(screen, text.c_str(), static_cast<int>(text.size()), &size));
+        widest = std::max(widest, size.cx);
+    }
+    static_cast<void>(SelectObject(screen, before));
+    static_cast<void>(ReleaseDC(Handle(), screen));
+    const int edges = GetSystemMetrics(SM_CXVSCROLL) + 4 * GetSystemMetrics(SM_CXEDGE);
+    Send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(widest + edges));
+}
+
 int TabStrip::Count() const {
     return TabCtrl_GetItemCount(Handle());
 }

@@ -71,6 +71,8 @@ class ComboBox : public Control {
     int Selected() const { return static_cast<int>(Send(CB_GETCURSEL)); }
     void Select(int index) const;
     std::wstring Item(int index) const;
+    // Makes the list that drops down as wide as its longest item, if that is wider than the box.
+    void WidenList() const;
 };
 
 class ListBox : public Control {  // with several lines selected at once

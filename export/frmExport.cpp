@@ -54,6 +54,7 @@ void frmExport::FillThemes() const {
     const auto cmbTheme = Get<ComboBox>(ID_frmExport_cmbTheme);
     for (const std::wstring& file : FilesMatching((styles / L"*.aut").wstring()))
         cmbTheme.Add((styles / file).wstring());
+    cmbTheme.WidenList();
 }
 
 // Also when a fault ends the dialog: the book's save dialog may follow it.

@@ -200,6 +200,27 @@ TEST_F(frmExportTest, AMissingThemeIsReportedAndThePageWrittenWithoutIt) {
     EXPECT_EQ(Counts(), CountsOf(0, 0));
 }
 
+TEST_F(frmExportTest, AThemeWithoutFieldsStillTakesFontAndColoursAway) {
+    const DialogOnScreen dialog = Open();
+    SelectLine(dialog, 1);
+    SetWindowTextW(dialog.Control(ID_frmExport_cmbTheme), folder.Write(L"jel.aut", "nincs jel").c_str());
+    Export(dialog, folder.File(L"lap.htm"), kPages);
+    dialog.WaitForClose();
+    const std::string page = TemporaryFolder::Read(folder.File(L"lap.htm"));
+    EXPECT_EQ(page.substr(page.find("<META")),
+              "<META NAME=\"GENERATOR\" content=\"Lindrel - https://lindrel.example/\">\r\n"
+              "</HEAD><BODY ><BR><BR>\r\n"
+              "<table border=0 cellspacing=0 cellpadding=1 bgcolor=#155BBB>\r\n"
+              "<tr><td bgcolor=#655BBB><font color=#FFFFFF size=1 face=\"verdana,arial, "
+              "helvetica\"><b>Project5<B></FONT>\r\n"
+              "</TD></TR>\r\n<TR><TD>\r\n"
+              "<table width=100% bgcolor=\"FFFFFF\" cellpadding=5 cellspacing=0 border=0>\r\n"
+              "<tr><td>\r\n<tr><td>\r\n"
+              "<A HREF=http://ab.hu>a:b</A><BR>\r\n"
+              "</td></tr></table></TD></TR>\r\n"
+              "</TABLE><BR><BR><BR></BODY></HTML>");
+}
+
 TEST_F(frmExportTest, AThemeNameWithWildcardsIsNoFile) {
     folder.Write(L"van.aut", "A^");
     const DialogOnScreen dialog = Open();
@@ -252,8 +273,14 @@ TEST_F(frmExportTest, TheThemesBesideTheProgramAreOfferedByTheirPaths) {
     const std::wstring path = ProgramFolder() + L"\\styles\\próba.aut";
     EXPECT_EQ(std::count(items.begin(), items.end(), path), 1);
     for (const std::wstring& item : items) EXPECT_TRUE(item.ends_with(L".aut")) << item.size();
-    SendMessageW(dialog.Control(ID_frmExport_cmbTheme), CB_SELECTSTRING, static_cast<WPARAM>(-1),
-                 reinterpret_cast<LPARAM>(path.c_str()));
+    const HWND combo = dialog.Control(ID_frmExport_cmbTheme);
+    const HDC screen = GetDC(combo);
+    SelectObject(screen, reinterpret_cast<HFONT>(SendMessageW(combo, WM_GETFONT, 0, 0)));
+    SIZE size{};
+    GetTextExtentPoint32W(screen, path.c_str(), static_cast<int>(path.size()), &size);
+    ReleaseDC(combo, screen);
+    EXPECT_GE(SendMessageW(combo, CB_GETDROPPEDWIDTH, 0, 0), size.cx);  // a path is not cut off
+    SendMessageW(combo, CB_SELECTSTRING, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(path.c_str()));
     SendMessageW(dialog.Handle(), WM_COMMAND, MAKEWPARAM(ID_frmExport_cmbTheme, CBN_SELCHANGE), 0);
     EXPECT_FALSE(dialog.IsEnabled(ID_frmExport_optColor_0));
     dialog.Cancel();

@@ -1,0 +1,62 @@
+// The themes that are shipped.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "tests/native/export/HostilePage.h"
+
+namespace lindrel::testing {
+namespace {
+
+std::filesystem::path StylesFolder() {
+    return std::filesystem::path(LINDREL_SOURCE_DIR) / "styles";
+}
+
+std::vector<std::string> ThemeNames() {
+    std::vector<std::string> names;
+    for (const auto& file : std::filesystem::directory_iterator(StylesFolder()))
+        if (file.path().extension() == ".aut") names.push_back(file.path().stem().string());
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+class ShippedThemeTest : public ::testing::TestWithParam<std::string> {
+  protected:
+    static PageStyle Style() {
+        const std::vector<char> bytes = ReadFileBytes(StylesFolder() / (GetParam() + ".aut"));
+        PageStyle style;
+        style.ThemeParts = ApplyTheme(style.ThemeParts, {bytes.data(), bytes.size()});
+        style.ThemeApplied = true;
+        return style;
+    }
+};
+
+TEST_P(ShippedThemeTest, HoldsTheLinksAndRunsNothing) {
+    const Browser browser;
+    const std::vector<NewEntry> hostile = HostileEntries();
+    ExpectHarmless(browser.Open(PageOf(kHostileCategory, hostile, Style(), kHostileTitle)),
+                   browser.Open(PageOf("Zene", PlainEntries(hostile.size()), Style(), L"c\x151m")));
+}
+
+TEST_P(ShippedThemeTest, GivesAllSixFragmentsForAPhoneToo) {
+    const Fragments parts = Style().ThemeParts;
+    ASSERT_EQ(parts.size(), 6u);
+    EXPECT_NE(parts[5].find("<html lang=\"hu\">"), std::string::npos);
+    EXPECT_NE(parts[5].find("<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">"),
+              std::string::npos);
+    // Plain ASCII reads the same in every encoding of an editor.
+    for (const std::string& part : parts)
+        EXPECT_TRUE(std::all_of(part.begin(), part.end(), [](char byte) { return byte > 0; }));
+}
+
+TEST(ShippedThemesTest, ThereAreALightADarkAPrintableAClassicAndAColourfulOne) {
+    EXPECT_EQ(ThemeNames(),
+              (std::vector<std::string>{"klasszikus", "nyomtathato", "sotet", "szines", "vilagos"}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Styles, ShippedThemeTest, ::testing::ValuesIn(ThemeNames()),
+                         [](const auto& instance) { return instance.param; });
+
+}  // namespace
+}  // namespace lindrel::testing
