@@ -6,7 +6,7 @@ namespace lindrel {
 
 MainLayout LayOut(const MainFrame& frame) {
     MainLayout places;
-    places.Toolbar.Width = frame.ClientWidth;
+    places.Toolbar.Width = frame.ClientWidth - places.Toolbar.Left;
     places.TabStrip1.Width = std::min(frame.Width - 120, frame.ClientWidth - places.TabStrip1.Left);
 
     Place& list = places.ListURLs;

@@ -21,7 +21,7 @@ inline constexpr int kMinimisedHeight = 500;
 
 struct MainLayout {
     // As designed; LayOut() moves and resizes what follows the window.
-    Place Toolbar{0, 0, 7580, 540};
+    Place Toolbar{60, 30, 7520, 510};
     Place TabStrip1{0, 570, 7580, 345};
     Place ListURLs{120, 930, 3900, 3180};
     Place lblSiteName{4250, 930, 3210, 225};

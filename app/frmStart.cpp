@@ -128,6 +128,8 @@ LRESULT frmStart::Handle(UINT message, WPARAM first, LPARAM second) {
 }
 
 void frmStart::OnCommand(int id, int event) {
+    if (id >= ID_frmStart_Toolbar_1 && id <= ID_frmStart_Toolbar_10)
+        return Toolbar_ButtonClick(id - ID_frmStart_Toolbar_1 + 1);
     switch (id) {
         case ID_mnuNew:
             return mnuNew_Click();
@@ -167,7 +169,6 @@ void frmStart::OnCommand(int id, int event) {
             return mnuAbout_Click();
         case ID_mnuFind:
             return mnuFind_Click();
-        case ID_mnuGoto:
         case ID_frmStart_picGo:
             return picGo_Click();
         case ID_frmStart_Image1:
@@ -176,6 +177,12 @@ void frmStart::OnCommand(int id, int event) {
             if (event == EN_CHANGE) txtFind_Change();
             if (event == EN_SETFOCUS) txtFind_GotFocus();
             return;
+        case ID_mnuGridLines:
+            return mnuGridLines_Click();
+        case ID_mnuTray:
+            return mnuTray_Click();
+        case ID_mnuGoto:
+            return mnuGoto_Click();
         case ID_NextTab:
             return SelectTab(SelectedCategory() % kCategories + 1);
         case ID_PreviousTab:
@@ -193,6 +200,7 @@ void frmStart::OnDrawItem(const DRAWITEMSTRUCT& item) const {
 LRESULT frmStart::OnNotify(const NMHDR& header) {
     if (header.hwndFrom == ListURLs.Handle()) return ListURLs.Notify(header);
     if (header.hwndFrom == TabStrip1.Handle() && header.code == TCN_SELCHANGE) TabStrip1_Click();
+    if (header.hwndFrom == Toolbar.Handle()) Toolbar_Notify(header);
     return 0;
 }
 
@@ -233,6 +241,7 @@ void frmStart::EnableCommand(int id, bool enabled) {
     const UINT state = enabled ? MF_ENABLED : MF_GRAYED;
     // -1 for an item that is not there: every id of the resources is.
     static_cast<void>(EnableMenuItem(GetMenu(handle_), static_cast<UINT>(id), MF_BYCOMMAND | state));
+    UpdateToolbar();
 }
 
 bool frmStart::Form_QueryUnload() {

@@ -4,6 +4,8 @@
 //     frmStart_Window.cpp  making the controls, layout, resolution, keyboard focus
 //     frmStart_File.cpp    the file menu
 //     frmStart_List.cpp    tabs, list, check marks
+//     frmStart_Toolbar.cpp the toolbar and all pictures
+//     frmStart_Commands.cpp  stripes, page of the shown entry, tray mode
 //     frmStart_Edit.cpp    adding, editing, moving, deleting, renaming
 //     frmStart_Export.cpp  export, shortcut on the desktop
 //     frmStart_Import.cpp  import
@@ -20,10 +22,12 @@
 #include "controls/CommonDialog.h"
 #include "controls/Control.h"
 #include "controls/Display.h"
+#include "controls/Picture.h"
 #include "controls/PictureButton.h"
 #include "controls/ToolTips.h"
 #include "controls/Windows.h"
 #include "edit/CheckedRuns.h"
+#include "tray/TrayArea.h"
 
 namespace lindrel {
 
@@ -58,6 +62,7 @@ class frmStart {
     CommonDialog CommonDialog1;
 
     // Controls.
+    Control Toolbar;
     TabStrip TabStrip1;
     CheckListView ListURLs;
     Control lblSiteName, lblURL, FrameSearch;
@@ -65,6 +70,7 @@ class frmStart {
     TextBox txtSite, txtURL, txtFind;
     ComboBox cmbFinders;
     StatusBar StatusBar1;
+    lindrel::TrayArea TrayArea;
 
     // Book and display.
     void ResetBook();
@@ -109,6 +115,9 @@ class frmStart {
     void mnuMove_Click();
     void mnuDel_Click();
     void mnuImport_Click();
+    void mnuGridLines_Click();
+    void mnuTray_Click();
+    void mnuGoto_Click();
     void mnuExport_Click();
     void mnuToDesktop_Click();
     void mnuHelp_Click();
@@ -156,6 +165,17 @@ class frmStart {
     void ListURLs_ColumnClick();
     void ShowEntry(int index);
 
+    // Toolbar and pictures.
+    void CreateToolbar();
+    void ShowPictures();
+    void UpdateToolbar();
+    void Toolbar_ButtonClick(int Button);  // 1-based
+    void Toolbar_Notify(const NMHDR& header);
+    void Toolbar_ButtonDropDown(int Button);
+
+    // Tray mode.
+    void TrayArea_MouseDown(std::int16_t& Button);
+
     // Editing.
     void DeleteCheckedEntries();
 
@@ -183,6 +203,8 @@ class frmStart {
     UINT dpi_ = USER_DEFAULT_SCREEN_DPI;
     Font font_;
     ToolTips tool_tips_;
+    Picture large_icon_, small_icon_, tray_icon_;
+    PictureList ImageList1, disabled_pictures_;  // of the toolbar
 };
 
 }  // namespace lindrel

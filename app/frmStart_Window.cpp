@@ -24,6 +24,7 @@ HWND frmStart::CreateControl(const wchar_t* window_class, const wchar_t* text, D
 
 // In tab order; a label stands just before its control, so that screen readers name the control by it.
 void frmStart::CreateControls() {
+    CreateToolbar();
     TabStrip1 = TabStrip(
         CreateControl(WC_TABCONTROLW, L"Kategóriák", WS_TABSTOP | WS_CLIPSIBLINGS, ID_frmStart_TabStrip1));
     for (int k = 1; k <= kCategories; ++k) TabStrip1.Add(L"");
@@ -55,6 +56,9 @@ void frmStart::CreateControls() {
     StatusBar1 = StatusBar(CreateControl(STATUSCLASSNAMEW, L"", SBARS_SIZEGRIP, ID_frmStart_StatusBar1));
 
     LoadSearchFrame();
+    TrayArea.Place(handle_);
+    TrayArea.MouseDown = [this](std::int16_t& Button) { TrayArea_MouseDown(Button); };
+
     if (!SetWindowSubclass(txtURL.Handle(), &frmStart::UrlSubclass, 0, reinterpret_cast<DWORD_PTR>(this)))
         throw std::bad_alloc();
 }
@@ -66,9 +70,7 @@ void frmStart::ApplyResolution() {
     for (HWND child = GetWindow(handle_, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT))
         SendMessageW(child, WM_SETFONT, reinterpret_cast<WPARAM>(font.Handle()), TRUE);
     font_ = std::move(font);
-    const int picture_size = GetSystemMetricsForDpi(SM_CXSMICON, dpi_);
-    picGo.SetPicture(IDI_Go, picture_size);
-    Image1.SetPicture(IDI_Search, picture_size);
+    ShowPictures();
     ListURLs.RemakeCheckBoxes();
     ListURLs.SetColumnWidth(kColumnOfNames, PixelsOf(3000, dpi_));
     ListURLs.SetColumnWidth(kColumnOfAddresses, PixelsOf(4250, dpi_));
@@ -117,6 +119,7 @@ void frmStart::PlaceControls(const MainLayout& places) {
         return place;
     };
     const std::pair<const Control*, Place> placed[] = {
+        {&Toolbar, places.Toolbar},
         {&TabStrip1, places.TabStrip1},
         {&ListURLs, places.ListURLs},
         {&lblSiteName, places.lblSiteName},

@@ -6,13 +6,6 @@ namespace lindrel {
 
 PictureButton::~PictureButton() {
     if (Handle() != nullptr) static_cast<void>(RemoveWindowSubclass(Handle(), &PictureButton::Subclass, 0));
-    DropPicture();
-}
-
-void PictureButton::DropPicture() {
-    // Fails only for what is no icon.
-    if (picture_ != nullptr) static_cast<void>(DestroyIcon(picture_));
-    picture_ = nullptr;
 }
 
 void PictureButton::Attach(HWND button) {
@@ -22,28 +15,19 @@ void PictureButton::Attach(HWND button) {
 }
 
 void PictureButton::SetPicture(int icon_id, int size) {
-    DropPicture();
+    picture_ = Picture(GetModuleHandleW(nullptr), icon_id, size);
     size_ = size;
-    // Without the icon the button shows its text.
-    picture_ = static_cast<HICON>(
-        LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(icon_id), IMAGE_ICON, size, size, 0));
     static_cast<void>(InvalidateRect(Handle(), nullptr, TRUE));
 }
 
 void PictureButton::Draw(const DRAWITEMSTRUCT& item) const {
     RECT place = item.rcItem;
     static_cast<void>(FillRect(item.hDC, &place, GetSysColorBrush(COLOR_BTNFACE)));
-    if (picture_ != nullptr) {
-        const int left = (place.left + place.right - size_) / 2;
-        const int top = (place.top + place.bottom - size_) / 2;
-        static_cast<void>(DrawIconEx(item.hDC, left, top, picture_, size_, size_, 0, nullptr, DI_NORMAL));
-    } else {
-        static_cast<void>(SetBkMode(item.hDC, TRANSPARENT));
-        static_cast<void>(SetTextColor(item.hDC, GetSysColor(COLOR_BTNTEXT)));
-        const std::wstring text = Text();
-        static_cast<void>(DrawTextW(item.hDC, text.c_str(), static_cast<int>(text.size()), &place,
-                                    DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS));
-    }
+    const int left = (place.left + place.right - size_) / 2;
+    const int top = (place.top + place.bottom - size_) / 2;
+    if (picture_.Handle() != nullptr)
+        static_cast<void>(
+            DrawIconEx(item.hDC, left, top, picture_.Handle(), size_, size_, 0, nullptr, DI_NORMAL));
     const bool show_focus = (item.itemState & ODS_FOCUS) != 0 && (item.itemState & ODS_NOFOCUSRECT) == 0;
     if (show_focus) static_cast<void>(DrawFocusRect(item.hDC, &place));
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "controls/Control.h"
+#include "controls/Picture.h"
 
 namespace lindrel {
 
@@ -17,7 +18,7 @@ class PictureButton : public Control {
     void Attach(HWND button);
     static constexpr DWORD kStyle = BS_OWNERDRAW;
 
-    // Shows an icon of the resources at a size in pixels.
+    // Shows an icon of the resources at a size in pixels. Throws std::bad_alloc when there is none.
     void SetPicture(int icon_id, int size);
     void Draw(const DRAWITEMSTRUCT& item) const;
 
@@ -28,9 +29,8 @@ class PictureButton : public Control {
     void MouseDown() const { ShowBorder(true); }
     void MouseUp() const { ShowBorder(false); }
     void ShowBorder(bool shown) const;
-    void DropPicture();
 
-    HICON picture_ = nullptr;
+    Picture picture_;
     int size_ = 0;
 };
 

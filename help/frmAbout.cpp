@@ -15,12 +15,6 @@ namespace {
 // Beside the title's height on a screen of 96 dots per inch.
 constexpr int kIconSide = 48;
 
-// The program's icon in the size that the resolution asks for, or nothing; the caller destroys it.
-HICON ProgramIcon(UINT dpi) {
-    const int side = MulDiv(kIconSide, static_cast<int>(dpi), USER_DEFAULT_SCREEN_DPI);
-    return static_cast<HICON>(CopyImage(LoadIconW(nullptr, IDI_APPLICATION), IMAGE_ICON, side, side, 0));
-}
-
 LOGFONTW TitleFont(UINT dpi) {
     LOGFONTW font = MessageFont(dpi);
     font.lfHeight = font.lfHeight * 5 / 3;
@@ -37,10 +31,6 @@ std::wstring VersionLine(int major, int minor, int revision) {
 
 frmAbout::frmAbout() : Dialog(IDD_frmAbout) {}
 
-frmAbout::~frmAbout() {
-    if (icon_ != nullptr) static_cast<void>(DestroyIcon(icon_));  // fails only for an icon that is none
-}
-
 void frmAbout::Form_Load() {
     const UINT dpi = DpiOf(Handle());
     const std::wstring title = kApplicationTitle;
@@ -50,8 +40,9 @@ void frmAbout::Form_Load() {
         .SetText(VersionLine(LINDREL_VERSION_MAJOR, LINDREL_VERSION_MINOR, LINDREL_VERSION_REVISION));
     Get<Control>(ID_frmAbout_Label1).SetText(L"<a>" + std::wstring(kHomePage) + L"</a>");
 
-    icon_ = ProgramIcon(dpi);
-    SendMessageW(Item(ID_frmAbout_picIcon), STM_SETICON, reinterpret_cast<WPARAM>(icon_), 0);
+    icon_ = Picture(GetModuleHandleW(nullptr), IDI_frmStart,
+                    MulDiv(kIconSide, static_cast<int>(dpi), USER_DEFAULT_SCREEN_DPI));
+    SendMessageW(Item(ID_frmAbout_picIcon), STM_SETICON, reinterpret_cast<WPARAM>(icon_.Handle()), 0);
     title_font_ = Font(TitleFont(dpi));
     SendMessageW(Item(ID_frmAbout_lblTitle), WM_SETFONT, reinterpret_cast<WPARAM>(title_font_.Handle()),
                  FALSE);

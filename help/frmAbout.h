@@ -5,6 +5,7 @@
 
 #include "controls/Dialog.h"
 #include "controls/Display.h"
+#include "controls/Picture.h"
 
 namespace lindrel {
 
@@ -14,7 +15,6 @@ std::wstring VersionLine(int major, int minor, int revision);
 class frmAbout : public Dialog {
   public:
     frmAbout();
-    ~frmAbout() override;
 
   private:
     void Form_Load() override;
@@ -23,7 +23,7 @@ class frmAbout : public Dialog {
     void cmdOK_Click() { Unload(); }
     void Label1_Click();
 
-    HICON icon_ = nullptr;
+    Picture icon_;
     Font title_font_;
 };
 

@@ -5,10 +5,35 @@
 #define LINDREL_RESOURCE_H
 
 #define IDR_frmStart 100
+/* The drop-down menu of the toolbar's fifth button. */
+#define IDR_frmStart_Toolbar_5 101
 
-/* Pictures. */
-#define IDI_Go 201
-#define IDI_Search 202
+/* Pictures. The program's own comes first, so that it stands for the program file too. */
+#define IDI_frmStart 101
+#define IDI_TrayArea 102
+#define IDI_picGo 103
+#define IDI_Image1 104
+/* Of the toolbar's buttons, and their disabled looks. */
+#define IDI_ImageList1_1 111
+#define IDI_ImageList1_2 112
+#define IDI_ImageList1_3 113
+#define IDI_ImageList1_4 114
+#define IDI_ImageList1_5 115
+#define IDI_ImageList1_6 116
+#define IDI_ImageList1_7 117
+#define IDI_ImageList1_8 118
+#define IDI_ImageList1_9 119
+#define IDI_ImageList1_10 120
+#define IDI_ImageList1_Disabled_1 131
+#define IDI_ImageList1_Disabled_2 132
+#define IDI_ImageList1_Disabled_3 133
+#define IDI_ImageList1_Disabled_4 134
+#define IDI_ImageList1_Disabled_5 135
+#define IDI_ImageList1_Disabled_6 136
+#define IDI_ImageList1_Disabled_7 137
+#define IDI_ImageList1_Disabled_8 138
+#define IDI_ImageList1_Disabled_9 139
+#define IDI_ImageList1_Disabled_10 140
 
 /* The main window. */
 #define ID_frmStart_TabStrip1 1001
@@ -24,6 +49,18 @@
 #define ID_frmStart_Image1 1011
 #define ID_frmStart_StatusBar1 1012
 #define ID_frmStart_Toolbar 1013
+#define ID_frmStart_Toolbar_1 1021
+#define ID_frmStart_Toolbar_2 1022
+#define ID_frmStart_Toolbar_3 1023
+#define ID_frmStart_Toolbar_4 1024
+#define ID_frmStart_Toolbar_5 1025
+#define ID_frmStart_Toolbar_6 1026
+#define ID_frmStart_Toolbar_7 1027
+#define ID_frmStart_Toolbar_8 1028
+#define ID_frmStart_Toolbar_9 1029
+#define ID_frmStart_Toolbar_10 1030
+#define ID_frmStart_ButtonMenu_1 1031
+#define ID_frmStart_ButtonMenu_2 1032
 
 /* Adding and editing an entry, moving entries, category names. */
 #define IDD_frmAdd 1100

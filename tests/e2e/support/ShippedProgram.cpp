@@ -142,6 +142,10 @@ void ShippedProgram::Type(const std::wstring& text) const {
 
 void ShippedProgram::Click(HWND window, POINT place, bool right) const {
     WaitUntilInFront();
+    ClickAnywhere(window, place, right);
+}
+
+void ShippedProgram::ClickAnywhere(HWND window, POINT place, bool right) {
     Demand(ClientToScreen(window, &place) != FALSE, "a place of the window");
     Demand(SetCursorPos(place.x, place.y) != FALSE, "the mouse pointer");
     INPUT input{};
@@ -242,6 +246,14 @@ POINT ShippedProgram::TabAt(int tab) const {
            "a tab");
     const RECT place = memory.Get<RECT>();
     return {(place.left + place.right) / 2, (place.top + place.bottom) / 2};
+}
+
+RECT ShippedProgram::ToolbarButton(int position) const {
+    const RemoteMemory memory(process_.hProcess, sizeof(RECT));
+    Demand(SendMessageW(Control(ID_frmStart_Toolbar), TB_GETITEMRECT, static_cast<WPARAM>(position - 1),
+                        memory.At()) != 0,
+           "a button of the toolbar");
+    return memory.Get<RECT>();
 }
 
 DWORD ShippedProgram::WaitForEnd() const {

@@ -37,6 +37,8 @@ class ShippedProgram {
     void Type(const std::wstring& text) const;
     // At a place of a window's client area.
     void Click(HWND window, POINT place, bool right = false) const;
+    // The same in a window of another program.
+    static void ClickAnywhere(HWND window, POINT place, bool right = false);
 
     BoxOnScreen Box() const { return WaitForBox(thread_id_); }
     FileDialogOnScreen FileDialog() const { return WaitForFileDialog(thread_id_); }
@@ -56,6 +58,8 @@ class ShippedProgram {
     POINT CheckBoxOf(int row) const;
     POINT TextOf(int row) const;
     POINT TabAt(int tab) const;
+    // 1-based; client coordinates of the toolbar.
+    RECT ToolbarButton(int position) const;
 
     // Waits for the end of the process; its exit code.
     DWORD WaitForEnd() const;

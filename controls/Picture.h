@@ -1,0 +1,44 @@
+// Pictures from the program's resources, in the size that the screen's resolution asks for.
+#pragma once
+
+#include <span>
+
+#include "controls/Windows.h"
+
+namespace lindrel {
+
+// The side of a picture on a button or a toolbar, in pixels: 16 at 96 dots per inch.
+int PictureSize(UINT dpi);
+
+// An icon that is destroyed with its owner.
+class Picture {
+  public:
+    Picture() = default;
+    // The icon of the resources, `size` pixels wide and high; where the resources have no such size, the
+    // nearest one scaled. Throws std::bad_alloc when there is none.
+    Picture(HINSTANCE instance, int id, int size);
+    ~Picture();
+    Picture(Picture&& other) noexcept;
+    Picture& operator=(Picture&& other) noexcept;
+    HICON Handle() const { return handle_; }
+
+  private:
+    HICON handle_ = nullptr;
+};
+
+// Pictures of one size, for controls that show several. Destroyed with its owner.
+class PictureList {
+  public:
+    PictureList() = default;
+    // The icons of the resources in the given order. Throws std::bad_alloc when one is missing.
+    PictureList(HINSTANCE instance, std::span<const int> ids, int size);
+    ~PictureList();
+    PictureList(PictureList&& other) noexcept;
+    PictureList& operator=(PictureList&& other) noexcept;
+    HIMAGELIST Handle() const { return handle_; }
+
+  private:
+    HIMAGELIST handle_ = nullptr;
+};
+
+}  // namespace lindrel

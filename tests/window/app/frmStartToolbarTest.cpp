@@ -1,0 +1,306 @@
+// The toolbar of the main window and the pictures on its buttons.
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "resources/resource.h"
+#include "tests/window/support/Program.h"
+
+namespace lindrel::testing {
+namespace {
+
+class frmStartToolbarTest : public ::testing::Test {
+  protected:
+    HWND Toolbar() const {
+        return program.Ask<HWND>([](frmStart& form) { return form.Toolbar.Handle(); });
+    }
+    RECT PlaceOf(int position) const {
+        return program.Ask<RECT>([position](frmStart& form) {
+            RECT place{};
+            EXPECT_TRUE(SendMessageW(form.Toolbar.Handle(), TB_GETITEMRECT, static_cast<WPARAM>(position - 1),
+                                     reinterpret_cast<LPARAM>(&place)));
+            return place;
+        });
+    }
+    // With the mouse, on the picture or on what is at the right end of the button.
+    void Press(int position, bool right_end = false) const {
+        const RECT place = PlaceOf(position);
+        const LPARAM point = MAKELPARAM(right_end ? place.right - 4 : place.left + 12, place.top + 12);
+        const HWND toolbar = Toolbar();
+        PostMessageW(toolbar, WM_MOUSEMOVE, 0, point);
+        PostMessageW(toolbar, WM_LBUTTONDOWN, MK_LBUTTON, point);
+        PostMessageW(toolbar, WM_LBUTTONUP, 0, point);
+    }
+    bool ButtonEnabled(int position) const {
+        return program.Ask<bool>([position](frmStart& form) {
+            return SendMessageW(form.Toolbar.Handle(), TB_ISBUTTONENABLED,
+                                static_cast<WPARAM>(ID_frmStart_Toolbar_1 + position - 1), 0) != 0;
+        });
+    }
+    HWND OpenMenu() const {
+        HWND menu = nullptr;
+        WaitUntil("the drop-down menu", [&] {
+            for (const HWND window : WindowsOf(program.Thread())) {
+                wchar_t name[32] = L"";
+                GetClassNameW(window, name, 32);
+                if (std::wstring(name) == L"#32768") menu = window;
+            }
+            return menu != nullptr;
+        });
+        return menu;
+    }
+    // Two entries in the first category; the first is selected, none is checked.
+    MainState TwoEntries() const {
+        program.Add(1, {{L"Egy", L"http://egy.hu"}, {L"Kettő", L"http://ketto.hu"}});
+        program.ClickRow(1);
+        return program.State();
+    }
+
+    Program program;
+};
+
+TEST_F(frmStartToolbarTest, HasTenButtonsWithNamesAndPictures) {
+    program.OnUi([](frmStart& form) {
+        const HWND toolbar = form.Toolbar.Handle();
+        const std::vector<std::wstring> names{L"Új fájl", L"Megnyit", L"Mentés",   L"Hozzáad", L"Export",
+                                              L"Módosít", L"Keresés", L"Áthelyez", L"Töröl",   L"ki/bejelöl"};
+        ASSERT_EQ(SendMessageW(toolbar, TB_BUTTONCOUNT, 0, 0), 10);
+        for (int i = 0; i < 10; ++i) {
+            TBBUTTON button{};
+            SendMessageW(toolbar, TB_GETBUTTON, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&button));
+            EXPECT_EQ(button.idCommand, ID_frmStart_Toolbar_1 + i);
+            EXPECT_EQ(button.iBitmap, i);
+            EXPECT_EQ(button.fsStyle, i == 4 ? BTNS_DROPDOWN : BTNS_BUTTON);
+            wchar_t name[32] = L"";
+            SendMessageW(toolbar, TB_GETBUTTONTEXTW, static_cast<WPARAM>(button.idCommand),
+                         reinterpret_cast<LPARAM>(name));
+            EXPECT_EQ(name, names[static_cast<std::size_t>(i)]);
+        }
+        for (const int message : {TB_GETIMAGELIST, TB_GETDISABLEDIMAGELIST}) {
+            const auto pictures =
+                reinterpret_cast<HIMAGELIST>(SendMessageW(toolbar, static_cast<UINT>(message), 0, 0));
+            EXPECT_EQ(ImageList_GetImageCount(pictures), 10);
+            int width = 0;
+            int height = 0;
+            EXPECT_TRUE(ImageList_GetIconSize(pictures, &width, &height));
+            EXPECT_EQ(width, PixelsOf(360, DpiOf(form.Handle())));
+            EXPECT_EQ(height, width);
+        }
+    });
+}
+
+TEST_F(frmStartToolbarTest, AllButTheFirstButtonHaveToolTips) {
+    const std::vector<std::wstring> tips = program.Ask<std::vector<std::wstring>>([](frmStart& form) {
+        const HWND toolbar = form.Toolbar.Handle();
+        const auto window = reinterpret_cast<HWND>(SendMessageW(toolbar, TB_GETTOOLTIPS, 0, 0));
+        std::vector<std::wstring> texts;
+        for (int i = 0; i < 10; ++i) {
+            wchar_t text[80] = L"";
+            TTTOOLINFOW tool{};
+            tool.cbSize = sizeof tool;
+            tool.hwnd = toolbar;
+            tool.uId = static_cast<UINT_PTR>(ID_frmStart_Toolbar_1 + i);
+            tool.lpszText = text;
+            SendMessageW(window, TTM_GETTEXTW, 80, reinterpret_cast<LPARAM>(&tool));
+            texts.emplace_back(text);
+        }
+        return texts;
+    });
+    EXPECT_EQ(tips, (std::vector<std::wstring>{L"", L"Megnyit", L"Mentés", L"Hozzáad", L"Export", L"Módosít",
+                                               L"Keresés", L"Áthelyez", L"Töröl", L"ki/bejelöl"}));
+}
+
+TEST_F(frmStartToolbarTest, TheFirstButtonStartsANewBook) {
+    MainState expected = EmptyState();
+    expected.Status[0] = TwoEntries().Status[0];
+    Press(1);
+    program.Settle();
+    EXPECT_EQ(program.State(), expected);
+}
+
+TEST_F(frmStartToolbarTest, TheSecondButtonOpens) {
+    Press(2);
+    const FileDialogOnScreen dialog = program.FileDialog();
+    EXPECT_EQ(dialog.Title(), L"File megnyitása");
+    dialog.Cancel();
+}
+
+TEST_F(frmStartToolbarTest, TheThirdButtonSaves) {
+    program.OnUi([](frmStart& form) { form.Modified = true; });
+    Press(3);
+    const FileDialogOnScreen dialog = program.FileDialog();
+    EXPECT_EQ(dialog.Title(), L"File mentése");
+    dialog.Cancel();
+}
+
+TEST_F(frmStartToolbarTest, TheFourthButtonAdds) {
+    Press(4);
+    program.Dialog(L"Új oldal hozzáadása").Cancel();
+}
+
+TEST_F(frmStartToolbarTest, TheFifthButtonExports) {
+    TwoEntries();
+    program.ClickBox(2);
+    Press(5);
+    program.Dialog(L"Exportálás").Cancel();
+}
+
+TEST_F(frmStartToolbarTest, TheSixthButtonModifies) {
+    TwoEntries();
+    Press(6);
+    program.Dialog(L"Cím módosítása").Cancel();
+}
+
+TEST_F(frmStartToolbarTest, TheSeventhButtonFinds) {
+    TwoEntries();
+    Press(7);
+    program.Dialog(L"Keresés").Cancel();
+}
+
+TEST_F(frmStartToolbarTest, TheEighthButtonMoves) {
+    TwoEntries();
+    Press(8);
+    program.Dialog(L"A kiválasztott címek áthelyezése").Cancel();
+}
+
+TEST_F(frmStartToolbarTest, TheNinthButtonDeletes) {
+    MainState expected = TwoEntries();
+    Press(9);
+    const BoxOnScreen box = program.Box();
+    EXPECT_EQ(box.Text(), L"Tényleg ki akarja törölni ezt a web címet ?");
+    box.Press(IDCANCEL);
+    EXPECT_EQ(program.State(), expected);
+}
+
+TEST_F(frmStartToolbarTest, TheTenthButtonChecksAndUnchecksAll) {
+    const MainState before = TwoEntries();
+    Press(10);
+    program.Settle();
+    MainState expected = before;
+    expected.Checked = {1, 2};
+    expected.Status[2] = L"bejelölve 2";
+    EXPECT_EQ(program.State(), expected);
+    Press(10);
+    program.Settle();
+    EXPECT_EQ(program.State(), before);
+}
+
+TEST_F(frmStartToolbarTest, PositionsThatHoldNoButtonDoNothing) {
+    const MainState before = TwoEntries();
+    for (const int id : {ID_frmStart_Toolbar_1 - 1, ID_frmStart_Toolbar_10 + 1}) program.Run(id);
+    EXPECT_EQ(program.State(), before);
+    EXPECT_TRUE(program.NothingIsOpen());
+}
+
+TEST_F(frmStartToolbarTest, TheEntriesOfTheExportMenuDoNothing) {
+    TwoEntries();
+    program.ClickBox(1);
+    const MainState before = program.State();
+    for (const int downs : {1, 2}) {
+        Press(5, true);
+        const HWND menu = OpenMenu();
+        const auto items = reinterpret_cast<HMENU>(SendMessageW(menu, MN_GETHMENU, 0, 0));
+        std::vector<std::wstring> texts;
+        for (UINT i = 0; i < static_cast<UINT>(GetMenuItemCount(items)); ++i) {
+            wchar_t text[40] = L"";
+            GetMenuStringW(items, i, text, 40, MF_BYPOSITION);
+            texts.emplace_back(text);
+        }
+        EXPECT_EQ(texts, (std::vector<std::wstring>{L"Szöveges fájlba", L"HTML fájlba"}));
+        for (int down = 0; down < downs; ++down) PostMessageW(program.Main(), WM_KEYDOWN, VK_DOWN, 1);
+        PostMessageW(program.Main(), WM_KEYDOWN, VK_RETURN, 1);
+        WaitUntil("the menu to close", [menu] { return !IsWindowVisible(menu); });
+        program.Settle();
+        EXPECT_TRUE(program.NothingIsOpen());
+        EXPECT_EQ(program.State(), before);
+    }
+}
+
+TEST_F(frmStartToolbarTest, AButtonIsEnabledWithItsCommand) {
+    const int commands[] = {ID_mnuNew,  ID_mnuOpen, ID_mnuSave, ID_mnuAdd, ID_mnuExport,
+                            ID_mnuEdit, ID_mnuFind, ID_mnuMove, ID_mnuDel, ID_mnuSelectAll};
+    program.OnUi([&commands](frmStart& form) {
+        for (const int command : commands) form.EnableCommand(command, true);
+    });
+    for (int position = 1; position <= 10; ++position) {
+        const int command = commands[position - 1];
+        EXPECT_TRUE(ButtonEnabled(position)) << position;
+        program.OnUi([command](frmStart& form) { form.EnableCommand(command, false); });
+        for (int other = 1; other <= 10; ++other) EXPECT_EQ(ButtonEnabled(other), other != position);
+        program.OnUi([command](frmStart& form) { form.EnableCommand(command, true); });
+    }
+}
+
+TEST_F(frmStartToolbarTest, ADisabledButtonRunsNothing) {
+    const MainState before = TwoEntries();
+    program.OnUi([](frmStart& form) { form.EnableCommand(ID_mnuNew, false); });
+    Press(1);
+    program.Settle();
+    EXPECT_EQ(program.State(), before);
+}
+
+TEST_F(frmStartToolbarTest, StandsWholeBetweenMenuAndTabs) {
+    RECT toolbar{};
+    RECT tabs{};
+    GetWindowRect(Toolbar(), &toolbar);
+    program.OnUi([&](frmStart& form) { GetWindowRect(form.TabStrip1.Handle(), &tabs); });
+    POINT origin{0, 0};
+    ClientToScreen(program.Main(), &origin);
+    EXPECT_GE(toolbar.top, origin.y);
+    EXPECT_LT(toolbar.bottom, tabs.top);
+    RECT last = PlaceOf(10);
+    EXPECT_LE(last.right, toolbar.right - toolbar.left);
+    EXPECT_LE(last.bottom, toolbar.bottom - toolbar.top);
+}
+
+TEST_F(frmStartToolbarTest, TheTwoPictureButtonsShowDifferentPicturesAndKeepTheirNames) {
+    const auto painted = [](const PictureButton& button) {
+        constexpr int kSide = 24;
+        const HDC screen = GetDC(nullptr);
+        const HDC canvas = CreateCompatibleDC(screen);
+        const HBITMAP bitmap = CreateCompatibleBitmap(screen, kSide, kSide);
+        const HGDIOBJ before = SelectObject(canvas, bitmap);
+        DRAWITEMSTRUCT item{};
+        item.hDC = canvas;
+        item.rcItem = {0, 0, kSide, kSide};
+        button.Draw(item);
+        std::vector<COLORREF> pixels;
+        for (int at = 0; at < kSide * kSide; ++at) pixels.push_back(GetPixel(canvas, at % kSide, at / kSide));
+        SelectObject(canvas, before);
+        DeleteObject(bitmap);
+        DeleteDC(canvas);
+        ReleaseDC(nullptr, screen);
+        return pixels;
+    };
+    program.OnUi([&](frmStart& form) {
+        EXPECT_EQ(form.picGo.Text(), L"Ugorj a web oldalra");
+        EXPECT_EQ(form.Image1.Text(), L"Keresés");
+        const std::vector<COLORREF> go = painted(form.picGo);
+        const std::vector<COLORREF> search = painted(form.Image1);
+        const std::vector<COLORREF> empty(go.size(), GetSysColor(COLOR_BTNFACE));
+        EXPECT_NE(go, search);
+        EXPECT_NE(go, empty);
+        EXPECT_NE(search, empty);
+    });
+}
+
+TEST_F(frmStartToolbarTest, ANewResolutionKeepsButtonsAndNames) {
+    const MainState before = TwoEntries();
+    const RECT place = PlaceOf(10);
+    program.OnUi([](frmStart& form) {
+        RECT proposed{};
+        GetWindowRect(form.Handle(), &proposed);
+        SendMessageW(form.Handle(), WM_DPICHANGED, MAKEWPARAM(96, 96), reinterpret_cast<LPARAM>(&proposed));
+        SendMessageW(form.Handle(), WM_SETTINGCHANGE, 0, 0);
+    });
+    const RECT after = PlaceOf(10);
+    EXPECT_TRUE(EqualRect(&place, &after));
+    EXPECT_EQ(program.State(), before);
+    Press(10);
+    program.Settle();
+    EXPECT_EQ(program.State().Checked, (std::vector<int>{1, 2}));
+}
+
+}  // namespace
+}  // namespace lindrel::testing

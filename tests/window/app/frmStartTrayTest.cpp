@@ -1,0 +1,200 @@
+// Tray mode: the window is hidden and only the icon is there, until it is pressed.
+
+#include <gtest/gtest.h>
+
+#include <utility>
+
+#include "resources/resource.h"
+#include "tests/window/support/Program.h"
+
+namespace lindrel::testing {
+namespace {
+
+struct Call {
+    DWORD Operation = 0;
+    NOTIFYICONDATAA Record{};
+};
+std::vector<Call> calls;
+
+BOOL WINAPI Record(DWORD operation, NOTIFYICONDATAA* record) {
+    calls.push_back({operation, *record});
+    return TRUE;
+}
+
+// A shell that only writes down, from before the program's start until after its end.
+class RecordingShell {
+  public:
+    RecordingShell() {
+        calls.clear();
+        TrayArea::NotifyShell = &Record;
+    }
+    ~RecordingShell() { TrayArea::NotifyShell = &Shell_NotifyIconA; }
+    RecordingShell(const RecordingShell&) = delete;
+    RecordingShell& operator=(const RecordingShell&) = delete;
+};
+
+class frmStartTrayTest : public ::testing::Test {
+  protected:
+    frmStartTrayTest() {
+        program.Add(3, {{L"Egy", L"http://egy.hu"}, {L"Kettő", L"http://ketto.hu"}});
+        program.ClickTab(3);
+        program.ClickRow(2);
+        program.ClickBox(1);
+    }
+
+    std::vector<Call> Taken() const {
+        std::vector<Call> taken;
+        program.OnUi([&](frmStart&) { taken = std::exchange(calls, {}); });
+        return taken;
+    }
+    HWND Control() const {
+        return program.Ask<HWND>([](frmStart& form) { return form.TrayArea.Handle(); });
+    }
+    HICON Icon() const {
+        return program.Ask<HICON>([](frmStart& form) { return form.TrayArea.Icon().value_or(nullptr); });
+    }
+    bool IconIsShown() const {
+        return program.Ask<bool>([](frmStart& form) { return form.TrayArea.Visible(); });
+    }
+    // As the shell tells it.
+    void Mouse(int message) const {
+        PostMessageW(Control(), 512, 1, static_cast<LPARAM>(message));
+        program.Settle();
+    }
+    void ExpectInTray() const {
+        EXPECT_FALSE(IsWindowVisible(program.Main()));
+        EXPECT_TRUE(IconIsShown());
+    }
+    void ExpectBack() const {
+        EXPECT_TRUE(IsWindowVisible(program.Main()));
+        EXPECT_FALSE(IconIsShown());
+    }
+    // What the shell was told when the icon came: its tool tip, then the icon. Its identifier.
+    UINT ExpectIconAdded() const {
+        const std::vector<Call> taken = Taken();
+        EXPECT_EQ(taken.size(), 2u);
+        if (taken.size() != 2) return 0;
+        EXPECT_EQ(taken[0].Operation, static_cast<DWORD>(NIM_MODIFY));
+        EXPECT_EQ(taken[0].Record.uFlags, static_cast<UINT>(NIF_TIP));
+        EXPECT_EQ(taken[1].Operation, static_cast<DWORD>(NIM_ADD));
+        const NOTIFYICONDATAA& added = taken[1].Record;
+        EXPECT_EQ(added.cbSize, static_cast<DWORD>(NOTIFYICONDATAA_V1_SIZE));
+        EXPECT_EQ(added.hWnd, Control());
+        EXPECT_EQ(added.uFlags, static_cast<UINT>(NIF_MESSAGE | NIF_ICON | NIF_TIP));
+        EXPECT_EQ(added.uCallbackMessage, 512u);
+        EXPECT_EQ(added.hIcon, Icon());
+        EXPECT_EQ(std::string(added.szTip, 64), std::string("Lindrel\0", 8) + std::string(56, ' '));
+        EXPECT_GE(added.uID, 1u);
+        EXPECT_LE(added.uID, 65535u);
+        return added.uID;
+    }
+    void ExpectIconRemoved(UINT identifier) const {
+        const std::vector<Call> taken = Taken();
+        ASSERT_EQ(taken.size(), 1u);
+        EXPECT_EQ(taken[0].Operation, static_cast<DWORD>(NIM_DELETE));
+        EXPECT_EQ(taken[0].Record.uID, identifier);
+        EXPECT_EQ(taken[0].Record.hWnd, Control());
+    }
+
+    RecordingShell shell;
+    Program program;
+};
+
+TEST_F(frmStartTrayTest, TheWindowStartsShownWithoutAnIcon) {
+    ExpectBack();
+    EXPECT_NE(Icon(), nullptr);
+    EXPECT_TRUE(Taken().empty());
+}
+
+TEST_F(frmStartTrayTest, EitherButtonBringsTheWindowBackAsItWas) {
+    const MainState before = program.State();
+    RECT place{};
+    GetWindowRect(program.Main(), &place);
+    for (const int press : {WM_LBUTTONDOWN, WM_RBUTTONDOWN}) {
+        program.Run(ID_mnuTray);
+        ExpectInTray();
+        const UINT identifier = ExpectIconAdded();
+        Mouse(press);
+        ExpectBack();
+        ExpectIconRemoved(identifier);
+        EXPECT_EQ(program.State(), before);
+        RECT after{};
+        GetWindowRect(program.Main(), &after);
+        EXPECT_TRUE(EqualRect(&place, &after));
+        EXPECT_EQ(GetWindow(program.Main(), GW_OWNER), nullptr);
+    }
+}
+
+TEST_F(frmStartTrayTest, TheIconComesAgainWithANewIdentifierAndTheSameToolTip) {
+    program.Run(ID_mnuTray);
+    const UINT first = ExpectIconAdded();
+    // Two draws of 65,535 agree once in a long while; ten in a row never.
+    bool differs = false;
+    for (int i = 0; i < 10; ++i) {
+        Mouse(WM_LBUTTONDOWN);
+        static_cast<void>(Taken());
+        program.Run(ID_mnuTray);
+        differs = ExpectIconAdded() != first || differs;
+    }
+    EXPECT_TRUE(differs);
+    Mouse(WM_LBUTTONDOWN);
+}
+
+TEST_F(frmStartTrayTest, MovesReleasesDoubleClicksAndTheMiddleButtonDoNothing) {
+    program.Run(ID_mnuTray);
+    static_cast<void>(Taken());
+    for (const int message : {WM_MOUSEMOVE, WM_LBUTTONUP, WM_RBUTTONUP, WM_LBUTTONDBLCLK, WM_RBUTTONDBLCLK,
+                              WM_MBUTTONDOWN, WM_MBUTTONUP, WM_MBUTTONDBLCLK, WM_MOUSEWHEEL}) {
+        Mouse(message);
+        ExpectInTray();
+        EXPECT_TRUE(Taken().empty()) << message;
+    }
+    Mouse(WM_LBUTTONDOWN);
+    ExpectBack();
+}
+
+TEST_F(frmStartTrayTest, AMaximisedWindowComesBackMaximised) {
+    program.OnUi([](frmStart& form) { ShowWindow(form.Handle(), SW_MAXIMIZE); });
+    program.Settle();
+    program.Run(ID_mnuTray);
+    ExpectInTray();
+    Mouse(WM_RBUTTONDOWN);
+    ExpectBack();
+    EXPECT_TRUE(IsZoomed(program.Main()));
+}
+
+TEST_F(frmStartTrayTest, TheFocusIsNotLost) {
+    program.OnUi([](frmStart& form) { form.txtFind.SetFocus(); });
+    program.Run(ID_mnuTray);
+    Mouse(WM_LBUTTONDOWN);
+    EXPECT_TRUE(Eventually(
+        [this] { return program.Ask<bool>([](frmStart& form) { return form.txtFind.HasFocus(); }); }));
+}
+
+TEST_F(frmStartTrayTest, ANewResolutionGivesTheShownIconANewPicture) {
+    program.Run(ID_mnuTray);
+    const UINT identifier = ExpectIconAdded();
+    program.OnUi([](frmStart& form) { SendMessageW(form.Handle(), WM_SETTINGCHANGE, 0, 0); });
+    const std::vector<Call> taken = Taken();
+    ASSERT_EQ(taken.size(), 1u);
+    EXPECT_EQ(taken[0].Operation, static_cast<DWORD>(NIM_MODIFY));
+    EXPECT_EQ(taken[0].Record.uID, identifier);
+    EXPECT_EQ(taken[0].Record.uFlags, static_cast<UINT>(NIF_ICON));
+    EXPECT_EQ(taken[0].Record.hIcon, Icon());
+    Mouse(WM_LBUTTONDOWN);
+}
+
+TEST_F(frmStartTrayTest, ClosingInTheTrayRemovesTheIcon) {
+    program.Run(ID_mnuTray);
+    const UINT identifier = ExpectIconAdded();
+    const HWND control = Control();
+    program.Close();
+    EXPECT_EQ(program.WaitForEnd(), 0);
+    ASSERT_FALSE(calls.empty());  // the program's thread is over
+    EXPECT_EQ(calls.back().Operation, static_cast<DWORD>(NIM_DELETE));
+    EXPECT_EQ(calls.back().Record.uID, identifier);
+    EXPECT_EQ(calls.back().Record.hWnd, control);
+}
+
+}  // namespace
+}  // namespace lindrel::testing
