@@ -1,37 +1,13 @@
 // The choice of a folder, and the shortcut files in it.
 
-#include <shlobj.h>
-
 #include <algorithm>
 #include <filesystem>
 
-#include "controls/Shell.h"
 #include "tests/window/export/ExportSession.h"
+#include "tests/window/support/FavoritesFolder.h"
 
 namespace lindrel::testing {
 namespace {
-
-// A folder of the user's favourites, where the choice starts.
-class FavoritesFolder {
-  public:
-    FavoritesFolder() { std::filesystem::create_directories(Path() / L"Alsó"); }
-    ~FavoritesFolder() { std::filesystem::remove_all(Path()); }
-    FavoritesFolder(const FavoritesFolder&) = delete;
-    FavoritesFolder& operator=(const FavoritesFolder&) = delete;
-    static std::filesystem::path Start() { return ShellFolder(CSIDL_FAVORITES).value(); }
-    static std::filesystem::path Path() { return Start() / L"Lindrel próba"; }
-};
-
-std::wstring TextOfItem(HWND tree, HTREEITEM item) {
-    wchar_t text[MAX_PATH] = L"";
-    TVITEMW what{};
-    what.mask = TVIF_TEXT;
-    what.hItem = item;
-    what.pszText = text;
-    what.cchTextMax = MAX_PATH;
-    SendMessageW(tree, TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&what));
-    return text;
-}
 
 class frmSelectFavoritDirTest : public ExportSession {
   protected:
@@ -40,17 +16,8 @@ class frmSelectFavoritDirTest : public ExportSession {
         dialog.Click(ID_frmExport_cmdOK);
         return program.Dialog(L"Exportálás a kedvencekbe");
     }
-    // Walks down from the folder that is selected, by the keyboard.
     void Descend(const DialogOnScreen& picker, const std::wstring& name) const {
-        const HWND tree = picker.Control(ID_frmSelectFavoritDir_Dir1);
-        program.PressKey(tree, VK_RIGHT);  // opens the folder, or goes into the open one
-        for (int step = 0; step < 20; ++step) {
-            const auto selected =
-                reinterpret_cast<HTREEITEM>(SendMessageW(tree, TVM_GETNEXTITEM, TVGN_CARET, 0));
-            if (TextOfItem(tree, selected) == name) return;
-            program.PressKey(tree, VK_DOWN);
-        }
-        FAIL() << "the folder is not in the tree";
+        DescendTo(program, picker.Control(ID_frmSelectFavoritDir_Dir1), name);
     }
 
     FavoritesFolder favorites;
@@ -68,7 +35,7 @@ TEST_F(frmSelectFavoritDirTest, TheFolderChoiceStartsAtTheFavourites) {
     EXPECT_EQ(picker.Text(ID_frmSelectFavoritDir_cmdCancel), L"Mégse");
     const HWND tree = picker.Control(ID_frmSelectFavoritDir_Dir1);
     const auto selected = reinterpret_cast<HTREEITEM>(SendMessageW(tree, TVM_GETNEXTITEM, TVGN_CARET, 0));
-    EXPECT_EQ(TextOfItem(tree, selected), FavoritesFolder::Start().filename().wstring());
+    EXPECT_EQ(SelectedItemText(tree), FavoritesFolder::Start().filename().wstring());
     RECT place{};
     RECT client{};
     GetClientRect(tree, &client);
