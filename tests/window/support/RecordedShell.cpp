@@ -19,9 +19,10 @@ std::wstring CommandKey(const std::wstring& scheme) {
 }
 
 std::wstring RecorderPath() {
-    wchar_t path[MAX_PATH] = L"";
-    GetModuleFileNameW(nullptr, path, MAX_PATH);
-    return (std::filesystem::path(path).parent_path() / L"address_recorder.exe").wstring();
+    // Of this machine's own root, which Wine shows as a drive.
+    const std::filesystem::path path = std::filesystem::path(L"Z:" LINDREL_RECORDER).make_preferred();
+    if (!std::filesystem::exists(path)) throw std::runtime_error("the recorder of addresses is not there");
+    return path.wstring();
 }
 
 std::wstring CommandOf(const std::wstring& scheme) {
