@@ -1,16 +1,16 @@
 // The main window. It owns the open book and shows it: the categories as tabs, the entries of the shown one
 // in a list with check boxes. Its commands stand in files of their own:
-//     frmStart.cpp         life of the window, the empty book, dispatch of commands
-//     frmStart_Window.cpp  making the controls, layout, resolution, keyboard focus
-//     frmStart_File.cpp    the file menu
-//     frmStart_List.cpp    tabs, list, check marks
-//     frmStart_Toolbar.cpp the toolbar and all pictures
-//     frmStart_Commands.cpp  stripes, page of the shown entry, tray mode
-//     frmStart_Edit.cpp    adding, editing, moving, deleting, renaming
-//     frmStart_Export.cpp  export, shortcut on the desktop
-//     frmStart_Import.cpp  import
-//     frmStart_Help.cpp    help, home page, about box
-//     frmStart_Search.cpp  search box, opening an address, the find dialog
+//     frmStart.cpp           life of the window, the empty book, dispatch of commands
+//     frmStart_Window.cpp    making the controls, layout, resolution, keyboard focus
+//     frmStart_File.cpp      the file menu
+//     frmStart_List.cpp      tabs, list, check marks
+//     frmStart_Toolbar.cpp   the toolbar and all pictures
+//     frmStart_Commands.cpp  stripes in the list, the page of the shown entry, tray mode
+//     frmStart_Edit.cpp      adding, editing, moving, deleting, renaming
+//     frmStart_Export.cpp    export, shortcut on the desktop
+//     frmStart_Import.cpp    import
+//     frmStart_Help.cpp      help, home page, about box
+//     frmStart_Search.cpp    search box, opening an address, the find dialog
 #pragma once
 
 #include <cstdint>

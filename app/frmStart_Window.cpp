@@ -67,8 +67,10 @@ void frmStart::CreateControls() {
 void frmStart::ApplyResolution() {
     dpi_ = DpiOf(handle_);
     Font font(MessageFont(dpi_));
-    for (HWND child = GetWindow(handle_, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT))
+    for (HWND child = GetWindow(handle_, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
         SendMessageW(child, WM_SETFONT, reinterpret_cast<WPARAM>(font.Handle()), TRUE);
+        SendMessageW(child, WM_SYSCOLORCHANGE, 0, 0);  // common controls hear of new colours only from here
+    }
     font_ = std::move(font);
     ShowPictures();
     ListURLs.RemakeCheckBoxes();
