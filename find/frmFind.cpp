@@ -28,6 +28,8 @@ LOGFONTW FixedPitchFont(UINT dpi) {
 frmFind::frmFind(frmStart& main) : Dialog(IDD_frmFind), main_(main) {}
 
 void frmFind::Form_Load() {
+    // A frame that can be resized shows an icon: the program's.
+    SendMessageW(Handle(), WM_SETICON, ICON_SMALL, SendMessageW(main_.Handle(), WM_GETICON, ICON_SMALL, 0));
     LoadList();
     Get<TextBox>(ID_frmFind_txtTag).SetHint(kEndingHint);
     SetToolTip(ID_frmFind_txtTag, kEndingHint);
