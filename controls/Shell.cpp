@@ -61,7 +61,8 @@ std::optional<std::wstring> ShellFolder(int csidl) {
     return path;
 }
 
-std::wstring WindowsFolder() {
+std::wstring FavoritesPath() {
+    if (const std::optional<std::wstring> favorites = ShellFolder(CSIDL_FAVORITES)) return *favorites;
     wchar_t path[MAX_PATH] = L"";
     const UINT length = GetWindowsDirectoryW(path, MAX_PATH);
     return length < MAX_PATH ? std::wstring(path, length) : std::wstring();

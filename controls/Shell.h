@@ -28,7 +28,7 @@ INT_PTR OpenAddress(const std::wstring& address);
 // Path of one of the shell's folders (a CSIDL_ value), or nothing when the shell has none.
 std::optional<std::wstring> ShellFolder(int csidl);
 
-// Path of the Windows folder.
-std::wstring WindowsFolder();
+// The folder of the user's favourites; the Windows folder when the shell has none.
+std::wstring FavoritesPath();
 
 }  // namespace lindrel

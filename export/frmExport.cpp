@@ -1,7 +1,5 @@
 #include "export/frmExport.h"
 
-#include <shlobj.h>
-
 #include <filesystem>
 #include <initializer_list>
 
@@ -186,7 +184,7 @@ void frmExport::DropCategoriesNotChosen() {
 bool frmExport::ExportToFavorites() {
     DropCategoriesNotChosen();
     frmSelectFavoritDir picker(*this);
-    picker.startDir(ShellFolder(CSIDL_FAVORITES).value_or(WindowsFolder()));
+    picker.startDir(FavoritesPath());
     picker.ShowModal(Handle());
     if (favorPath.empty()) return false;
     saveTo_fav();

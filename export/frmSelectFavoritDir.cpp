@@ -6,12 +6,7 @@
 namespace lindrel {
 
 frmSelectFavoritDir::frmSelectFavoritDir(frmExport& exporting)
-    : Dialog(IDD_frmSelectFavoritDir), export_(exporting) {}
-
-void frmSelectFavoritDir::Form_Load() {
-    Dir1.Attach(Item(ID_frmSelectFavoritDir_Dir1));
-    Dir1.SetPath(start_Dir);
-}
+    : FolderDialog(IDD_frmSelectFavoritDir, ID_frmSelectFavoritDir_Dir1), export_(exporting) {}
 
 void frmSelectFavoritDir::OnCommand(int id, int) {
     switch (id) {
@@ -23,10 +18,6 @@ void frmSelectFavoritDir::OnCommand(int id, int) {
         default:
             return;
     }
-}
-
-LRESULT frmSelectFavoritDir::OnNotify(const NMHDR& header) {
-    return header.hwndFrom == Dir1.Handle() ? Dir1.Notify(header) : 0;
 }
 
 void frmSelectFavoritDir::cmdOk_Click() {

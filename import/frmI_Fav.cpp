@@ -5,12 +5,7 @@
 
 namespace lindrel {
 
-frmI_Fav::frmI_Fav(frmImport& importing) : Dialog(IDD_frmI_Fav), import_(importing) {}
-
-void frmI_Fav::Form_Load() {
-    Dir1.Attach(Item(ID_frmI_Fav_Dir1));
-    Dir1.SetPath(start_Dir);
-}
+frmI_Fav::frmI_Fav(frmImport& importing) : FolderDialog(IDD_frmI_Fav, ID_frmI_Fav_Dir1), import_(importing) {}
 
 void frmI_Fav::OnCommand(int id, int) {
     switch (id) {
@@ -22,10 +17,6 @@ void frmI_Fav::OnCommand(int id, int) {
         default:
             return;
     }
-}
-
-LRESULT frmI_Fav::OnNotify(const NMHDR& header) {
-    return header.hwndFrom == Dir1.Handle() ? Dir1.Notify(header) : 0;
 }
 
 void frmI_Fav::cmdImport_Click() {

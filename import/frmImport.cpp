@@ -1,7 +1,5 @@
 #include "import/frmImport.h"
 
-#include <shlobj.h>
-
 #include <filesystem>
 #include <utility>
 
@@ -120,7 +118,7 @@ void frmImport::ImportHtmlLinks(const std::wstring& fileName) {
 
 void frmImport::ImportFavoritesFolder() {
     frmI_Fav picker(*this);
-    picker.startDir(ShellFolder(CSIDL_FAVORITES).value_or(WindowsFolder()));
+    picker.startDir(FavoritesPath());
     picker.ShowModal(Handle());
     // The empty path of a cancelled choice is none either.
     std::error_code unknown;
