@@ -12,7 +12,7 @@ namespace lindrel {
 
 namespace {
 
-// Beside the title's height on a screen of 96 dots per inch.
+// In pixels on a screen of 96 dots per inch.
 constexpr int kIconSide = 48;
 
 LOGFONTW TitleFont(UINT dpi) {

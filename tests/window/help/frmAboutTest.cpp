@@ -5,6 +5,8 @@
 #include <commctrl.h>
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include "Version.h"
 #include "resources/resource.h"
 #include "tests/window/support/OpenedAddresses.h"
@@ -28,6 +30,18 @@ class frmAboutTest : public ::testing::Test {
         RECT place{};
         EXPECT_TRUE(GetWindowRect(dialog.Control(id), &place));
         return place;
+    }
+
+    // How many colours the window shows on the screen.
+    static std::size_t ColoursOf(HWND window) {
+        RECT area{};
+        GetClientRect(window, &area);
+        const HDC context = GetDC(window);
+        std::set<COLORREF> colours;
+        for (int y = 0; y < area.bottom; ++y)
+            for (int x = 0; x < area.right; ++x) colours.insert(GetPixel(context, x, y));
+        ReleaseDC(window, context);
+        return colours.size();
     }
 
     Program program;
@@ -66,7 +80,14 @@ TEST_F(frmAboutTest, ItsPartsStandInTheirOrderFromTopToBottom) {
     EXPECT_LT(Place(dialog, ID_frmAbout_picIcon).right, Place(dialog, ID_frmAbout_lblTitle).left);
     for (std::size_t i = 1; i < std::size(order); ++i)
         EXPECT_LE(Place(dialog, order[i - 1]).bottom, Place(dialog, order[i]).top) << order[i];
-    EXPECT_NE(SendMessageW(dialog.Control(ID_frmAbout_picIcon), STM_GETICON, 0, 0), 0);
+    for (const int id : order) EXPECT_TRUE(dialog.IsShown(id)) << id;
+    dialog.ClickAndWaitForClose(ID_frmAbout_cmdOK);
+}
+
+TEST_F(frmAboutTest, TheProgramsIconIsPainted) {
+    const DialogOnScreen dialog = Open();
+    const HWND picture = dialog.Control(ID_frmAbout_picIcon);
+    EXPECT_TRUE(Eventually([&] { return ColoursOf(picture) > 4; })) << "nothing but the background";
     dialog.ClickAndWaitForClose(ID_frmAbout_cmdOK);
 }
 
