@@ -113,8 +113,9 @@ def windows_of(chm):
 def menu_of(sources):
     """The program's menu: for each item "Menu > Item" its shortcut."""
     resource = (sources / "app/frmStart.rc").read_text(encoding="utf-8")
+    menu_bar = re.search(r"^IDR_frmStart MENU\b.*?^END$", resource, re.MULTILINE | re.DOTALL).group()
     items, menu = {}, ""
-    for kind, caption in re.findall(r'(POPUP|MENUITEM) "([^"]*)"', resource.split("ACCELERATORS")[0]):
+    for kind, caption in re.findall(r'(POPUP|MENUITEM) "([^"]*)"', menu_bar):
         caption, _, shortcut = caption.replace("&", "").partition("\\t")
         if kind == "POPUP":
             menu = caption
