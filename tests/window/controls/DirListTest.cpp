@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "tests/window/support/Program.h"
+#include "tests/window/support/Text.h"
 
 namespace lindrel::testing {
 namespace {
@@ -145,6 +146,23 @@ TEST_F(DirListTest, HiddenFoldersAreShownOnTheWayOnly) {
     list.SetPath(folder.File(L"start\\hidden\\in"));
     EXPECT_EQ(list.Path(), folder.File(L"start\\hidden\\in"));
     EXPECT_EQ(NamesIn(start), (std::vector<std::wstring>{L"hidden", L"z"}));
+}
+
+TEST_F(DirListTest, AShareOfTheNetworkIsShownWhenItIsTheStart) {
+    // Wine looks for shares in the folder of its settings.
+    std::wstring shares(MAX_PATH, L'\0');
+    shares.resize(GetEnvironmentVariableW(L"WINECONFIGDIR", shares.data(), MAX_PATH));
+    constexpr std::wstring_view kMark = L"\\??\\";
+    ASSERT_TRUE(shares.starts_with(kMark)) << Narrow(shares);
+    shares = shares.substr(kMark.size()) + L"\\dosdevices\\unc";
+    std::filesystem::create_directories(shares + L"\\gep\\kozos\\Kedvencek\\in");
+    list.SetPath(L"\\\\gep\\kozos\\Kedvencek");
+    EXPECT_EQ(list.Path(), L"\\\\gep\\kozos\\Kedvencek");
+    EXPECT_EQ(NamesIn(Selected()), std::vector<std::wstring>{L"in"});
+    EXPECT_EQ(NameOf(TreeView_GetParent(tree, Selected())), L"\\\\gep\\kozos");
+    list.SetPath(L"\\\\gep\\kozos");
+    EXPECT_EQ(list.Path(), L"\\\\gep\\kozos");
+    std::filesystem::remove_all(shares);
 }
 
 TEST_F(DirListTest, ASignToOpenStandsWhereThereAreFolders) {

@@ -13,6 +13,29 @@
 namespace lindrel::testing {
 namespace {
 
+// Another desktop folder for the time of a test.
+class DesktopElsewhere {
+  public:
+    explicit DesktopElsewhere(const std::wstring& path)
+        : before_(ShellFolder(CSIDL_DESKTOPDIRECTORY).value()) {
+        Set(path);
+    }
+    ~DesktopElsewhere() { Set(before_); }
+    DesktopElsewhere(const DesktopElsewhere&) = delete;
+    DesktopElsewhere& operator=(const DesktopElsewhere&) = delete;
+
+  private:
+    static void Set(const std::wstring& path) {
+        EXPECT_EQ(
+            RegSetKeyValueW(HKEY_CURRENT_USER,
+                            L"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\User Shell Folders",
+                            L"Desktop", REG_SZ, path.c_str(),
+                            static_cast<DWORD>((path.size() + 1) * sizeof(wchar_t))),
+            ERROR_SUCCESS);
+    }
+    std::wstring before_;
+};
+
 class DesktopShortcutTest : public ::testing::Test {
   protected:
     ~DesktopShortcutTest() override {
@@ -61,6 +84,36 @@ TEST_F(DesktopShortcutTest, CancelWritesNothingAndKeepsTheName) {
     EXPECT_FALSE(std::filesystem::exists(File(L"a_b_c_.url")));
     EXPECT_EQ(program.Ask<std::string>([](frmStart& form) { return std::string(form.TheBook.SiteNames(1)); }),
               "a:b/c?");
+}
+
+TEST_F(DesktopShortcutTest, ABlankInTheDesktopsPathEndsItEarly) {
+    std::filesystem::create_directories(L"C:\\Asztal");
+    std::filesystem::create_directories(L"C:\\Asztal ide\\belso");
+    program.Add(1, {{L"a:b/c?", L"http://abc.hu"}});
+    program.ClickRow(1);
+    {
+        const DesktopElsewhere elsewhere(L"C:\\Asztal ide\\belso");
+        ASSERT_EQ(ShellFolder(CSIDL_DESKTOPDIRECTORY), L"C:\\Asztal ide\\belso");
+        AskFor(L"a:b/c?", IDOK);
+    }
+    EXPECT_TRUE(program.NothingIsOpen());
+    EXPECT_EQ(TemporaryFolder::Read(L"C:\\ASZTAL\\a_b_c_.url"), "[InternetShortcut]\r\nURL=http://abc.hu");
+    std::filesystem::remove_all(L"C:\\Asztal");
+    std::filesystem::remove_all(L"C:\\Asztal ide");
+}
+
+TEST_F(DesktopShortcutTest, ADesktopThatIsNotThereIsReported) {
+    program.Add(1, {{L"a:b/c?", L"http://abc.hu"}});
+    program.ClickRow(1);
+    const DesktopElsewhere elsewhere(L"Q:\\nincs\\ilyen");
+    AskFor(L"a:b/c?", IDOK);
+    const BoxOnScreen box = program.Box();
+    EXPECT_EQ(box.Title(), L"Hiba");
+    EXPECT_EQ(box.Text(), L"Nem jött létre a parancsikon");
+    EXPECT_EQ(box.Buttons(), std::vector<int>{IDOK});
+    EXPECT_EQ(box.Icon(), BoxIcon::Exclamation);
+    box.Press(IDOK);
+    program.Settle();
 }
 
 TEST_F(DesktopShortcutTest, AFileThatCannotBeCreatedIsReported) {
