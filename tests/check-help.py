@@ -236,7 +236,8 @@ def main():
     check_index(pages, index)
     check_menu(pages, menu_of(sources))
     check_messages(pages, texts_of(sources))
-    print("\n".join(complaints))
+    for complaint in complaints:
+        print(complaint)
     print(f"{len(pages)} pages, {sum(len(page.links) for page in pages.values())} links, "
           f"{sum(len(page.files) for page in pages.values())} pictures and style sheets, "
           f"{len(contents)} contents entries, {len(index)} index entries, {len(complaints)} complaints")
