@@ -28,6 +28,9 @@ constexpr ToolbarButton kButtons[] = {
 constexpr int kButtonCount = static_cast<int>(std::size(kButtons));
 constexpr int kButtonWithMenu = 5;
 constexpr int kTwipsOfToolbarPicture = 360;
+// Pixels around a picture, those of the system.
+constexpr int kPaddingX = 7;
+constexpr int kPaddingY = 6;
 
 constexpr int IdOfButton(int position) {
     return ID_frmStart_Toolbar_1 + position - 1;
@@ -113,6 +116,9 @@ void frmStart::ShowPictures() {
     const HWND toolbar = Toolbar.Handle();
     show(toolbar, TB_SETIMAGELIST, 0, pictures.Handle());
     show(toolbar, TB_SETDISABLEDIMAGELIST, 0, disabled_pictures.Handle());
+    // Buttons grow with their pictures by themselves, but do not shrink.
+    SendMessageW(toolbar, TB_SETBUTTONSIZE, 0, MAKELPARAM(size + kPaddingX, size + kPaddingY));
+
     large_icon_ = std::move(large_icon);
     small_icon_ = std::move(small_icon);
     tray_icon_ = std::move(tray_icon);

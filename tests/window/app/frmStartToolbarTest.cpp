@@ -86,6 +86,10 @@ TEST_F(frmStartToolbarTest, HasTenButtonsWithNamesAndPictures) {
             EXPECT_TRUE(ImageList_GetIconSize(pictures, &width, &height));
             EXPECT_EQ(width, PixelsOf(360, DpiOf(form.Handle())));
             EXPECT_EQ(height, width);
+            RECT button{};
+            EXPECT_TRUE(SendMessageW(toolbar, TB_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&button)));
+            EXPECT_GT(button.right - button.left, width);
+            EXPECT_GT(button.bottom - button.top, height);
         }
     });
 }
