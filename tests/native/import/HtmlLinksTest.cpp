@@ -115,6 +115,8 @@ TEST(HtmlLinksTest, AClosingLineIsTakenToOneCharacterBehindTheTag) {
     // The chunk is  1 N</ax : without ">" behind the quotation mark the whole chunk is the raw text.
     EXPECT_EQ(All("<a href=\"1\"\nN</axyz>\n"), (Links{{"1\" N", "1"}}));
     EXPECT_EQ(All("<a href=\"1\">Egy\nN</a"), (Links{{"egy N", "1"}}));
+    // Here that character is the ">", and no text stands behind it.
+    EXPECT_EQ(All("<a href=\"1\"\nN</a>\n"), (Links{{"", "1"}}));
 }
 
 TEST(HtmlLinksTest, AChunkWithoutTagEndIsTheNameAsAWhole) {

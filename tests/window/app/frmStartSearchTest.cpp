@@ -5,6 +5,7 @@
 #include "resources/resource.h"
 #include "tests/window/support/Program.h"
 #include "tests/window/support/RecordedShell.h"
+#include "tests/window/support/ToolTipOf.h"
 
 namespace lindrel::testing {
 namespace {
@@ -51,21 +52,7 @@ class frmStartSearchTest : public ::testing::Test {
         box.Press(IDOK);
         program.Settle();
     }
-    std::wstring ToolTip(int id) const {
-        std::wstring text(256, L'\0');
-        program.OnUi([&](frmStart& form) {
-            TTTOOLINFOW tool{};
-            tool.cbSize = sizeof tool;
-            tool.hwnd = form.Handle();
-            tool.uId = reinterpret_cast<UINT_PTR>(Control(id));
-            tool.lpszText = text.data();
-            for (HWND tips = FindWindowExW(nullptr, nullptr, TOOLTIPS_CLASSW, nullptr); tips != nullptr;
-                 tips = FindWindowExW(nullptr, tips, TOOLTIPS_CLASSW, nullptr))
-                if (GetWindow(tips, GW_OWNER) == form.Handle() && text[0] == L'\0')
-                    SendMessageW(tips, TTM_GETTEXTW, 256, reinterpret_cast<LPARAM>(&tool));
-        });
-        return text.c_str();
-    }
+    std::wstring ToolTip(int id) const { return ToolTipOf(program, Control(id)); }
 
     Program program;
 };

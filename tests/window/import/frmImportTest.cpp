@@ -1,6 +1,7 @@
 // The import dialog and the import of web pages.
 
 #include "tests/window/import/ImportSession.h"
+#include "tests/window/support/ToolTipOf.h"
 
 namespace lindrel::testing {
 namespace {
@@ -113,6 +114,8 @@ TEST_F(frmImportTest, OpensForAPageAndTheShownCategory) {
     EXPECT_FALSE(dialog.IsChecked(ID_frmImport_from_1));
     EXPECT_EQ(dialog.ComboItems(ID_frmImport_cmbKateg), before.Tabs);
     EXPECT_EQ(dialog.Picked(ID_frmImport_cmbKateg), 1);
+    EXPECT_EQ(ToolTipOf(program, dialog.Control(ID_frmImport_cmbKateg)),
+              L"az új címek ebbe a kategóriába importálódnak");
     Leave(dialog);
     EXPECT_EQ(program.State(), before);
 }
