@@ -714,18 +714,23 @@ TEST_F(frmFindTest, TheLargestBookIsSearchedAndListed) {
     const FindDialog dialog = Open();
     dialog.SetText(ID_frmFind_txtWhat, L"MŰSOR");
     dialog.SetText(ID_frmFind_txtTag, L"HU");
-    double milliseconds = 0;
+    using Clock = std::chrono::steady_clock;
+    using Milliseconds = std::chrono::duration<double, std::milli>;
+    Milliseconds listed = Milliseconds::max();
+    Milliseconds painted = Milliseconds::max();
     for (int run = 0; run < 25; ++run)
         program.OnUi([&](frmStart&) {
-            const auto start = std::chrono::steady_clock::now();
+            const auto start = Clock::now();
             SendMessageW(dialog.Handle(), WM_COMMAND, MAKEWPARAM(ID_frmFind_cmdFind, BN_CLICKED), 0);
+            const auto after_listing = Clock::now();
             UpdateWindow(dialog.List().Handle());
-            const std::chrono::duration<double, std::milli> taken = std::chrono::steady_clock::now() - start;
-            milliseconds = run == 0 ? taken.count() : std::min(milliseconds, taken.count());
+            listed = std::min<Milliseconds>(listed, after_listing - start);
+            painted = std::min<Milliseconds>(painted, Clock::now() - after_listing);
         });
-    std::cout << "[   FIGURE ] a search over 32,767 names with all of them listed and painted: "
-              << milliseconds << " ms (least of 25)\n";
-    RecordProperty("milliseconds", std::to_string(milliseconds));
+    std::cout << "[   FIGURE ] 32,767 names searched and listed in " << listed.count() << " ms, painted in "
+              << painted.count() << " ms (least of 25)\n";
+    RecordProperty("listed_ms", std::to_string(listed.count()));
+    RecordProperty("painted_ms", std::to_string(painted.count()));
     EXPECT_EQ(dialog.Text(ID_frmFind_lblSum_1), L"32767");
     EXPECT_EQ(dialog.List().Count(), kMostEntries);
     EXPECT_EQ(dialog.List().Cell(kMostEntries, 0), L"Magyar műsorok és hírek 32767");
