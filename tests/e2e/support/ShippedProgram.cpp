@@ -96,6 +96,7 @@ ShippedProgram::ShippedProgram() {
         }
         return main_ != nullptr;
     });
+    Demand(WaitForInputIdle(process_.hProcess, 20000) == 0, "the program does not come to rest");
     WaitUntilInFront();
 }
 
@@ -115,8 +116,13 @@ HWND ShippedProgram::Control(int id) const {
 }
 
 void ShippedProgram::WaitUntilInFront() const {
-    WaitUntil("the program in front",
-              [this] { return GetWindowThreadProcessId(GetForegroundWindow(), nullptr) == thread_id_; });
+    // Keys that come before a control has the focus are lost.
+    WaitUntil("the program in front, with a focus", [this] {
+        GUITHREADINFO info{};
+        info.cbSize = sizeof info;
+        return GetWindowThreadProcessId(GetForegroundWindow(), nullptr) == thread_id_ &&
+               GetGUIThreadInfo(thread_id_, &info) && info.hwndFocus != nullptr;
+    });
 }
 
 void ShippedProgram::Press(const Stroke& stroke) const {
