@@ -119,6 +119,20 @@ TEST_F(frmStartListTest, ATabRemembersItsCheckMarks) {
     EXPECT_EQ(program.State(), expected);
 }
 
+TEST_F(frmStartListTest, WithNothingCheckedTheSavedListStaysAndMeansNothing) {
+    program.ClickBox(2);
+    program.ClickTab(3);
+    program.ClickTab(1);
+    program.ClickBox(2);
+    program.ClickTab(3);
+    program.OnUi([](frmStart& form) {
+        EXPECT_EQ(form.TheBook.SavedCheckCounts(1), 0);
+        EXPECT_EQ(form.TheBook.SavedCheckLists(1), std::vector<std::int16_t>{2});
+    });
+    program.ClickTab(1);
+    EXPECT_EQ(program.State(), FirstCategory());
+}
+
 TEST_F(frmStartListTest, OneCheckMarkIsEnoughForCheckAllToClearThem) {
     program.ClickBox(2);
     program.Run(ID_mnuSelectAll);
