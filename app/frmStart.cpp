@@ -98,6 +98,7 @@ LRESULT frmStart::Handle(UINT message, WPARAM first, LPARAM second) {
             Form_Resize();
             return DefWindowProcW(handle_, message, first, second);
         case WM_ACTIVATE:
+            returned_focus_.OnActivate(first);
             if (LOWORD(first) == WA_INACTIVE)
                 RememberFocus();
             else
@@ -107,6 +108,7 @@ LRESULT frmStart::Handle(UINT message, WPARAM first, LPARAM second) {
             RestoreFocus();
             return 0;
         case WM_COMMAND:
+            if (HIWORD(first) == EN_SETFOCUS && returned_focus_.Is(reinterpret_cast<HWND>(second))) return 0;
             OnCommand(LOWORD(first), HIWORD(first));
             return 0;
         case WM_DRAWITEM:

@@ -24,6 +24,7 @@
 #include "controls/Display.h"
 #include "controls/Picture.h"
 #include "controls/PictureButton.h"
+#include "controls/ReturnedFocus.h"
 #include "controls/ToolTips.h"
 #include "controls/Windows.h"
 #include "edit/CheckedRuns.h"
@@ -200,6 +201,7 @@ class frmStart {
     HWND handle_ = nullptr;
     HACCEL shortcuts_ = nullptr;
     HWND remembered_focus_ = nullptr;
+    ReturnedFocus returned_focus_;
     UINT dpi_ = USER_DEFAULT_SCREEN_DPI;
     Font font_;
     ToolTips tool_tips_;

@@ -186,7 +186,12 @@ INT_PTR Dialog::Handle(UINT message, WPARAM first, LPARAM second) {
             Form_Load();
             return GetFocus() == before ? TRUE : FALSE;
         }
+        case WM_ACTIVATE:
+            returned_focus_.OnActivate(first);
+            return FALSE;
         case WM_COMMAND:
+            if (HIWORD(first) == EN_SETFOCUS && returned_focus_.Is(reinterpret_cast<HWND>(second)))
+                return TRUE;
             OnCommand(LOWORD(first), HIWORD(first));
             return TRUE;
         case WM_NOTIFY:

@@ -15,6 +15,7 @@
 #include <string>
 
 #include "controls/Control.h"
+#include "controls/ReturnedFocus.h"
 #include "controls/ToolTips.h"
 #include "controls/Windows.h"
 
@@ -42,7 +43,8 @@ class Dialog {
     virtual void Form_Load() {}
     // The dialog is about to close; its controls are still there.
     virtual void Form_Unload() {}
-    // A control or menu item was used. `event` is the notification code (BN_CLICKED, EN_CHANGE, ...).
+    // A control or menu item was used. `event` is the notification code (BN_CLICKED, EN_CHANGE, ...);
+    // EN_SETFOCUS only comes when the user moves in the dialog, not when the dialog comes to the front again.
     // The default closes the dialog for IDCANCEL (Esc and the title bar's button).
     virtual void OnCommand(int id, int event);
     // WM_NOTIFY; the result goes back to the control.
@@ -73,6 +75,7 @@ class Dialog {
     int template_id_;
     HWND handle_ = nullptr;
     ToolTips tool_tips_;
+    ReturnedFocus returned_focus_;
     bool ending_ = false;
 };
 

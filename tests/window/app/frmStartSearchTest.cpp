@@ -256,6 +256,18 @@ TEST_F(frmStartSearchTest, TheTextIsSelectedWheneverItsBoxGainsTheFocus) {
     EXPECT_EQ(box.SelectedText(), L"műsor");
 }
 
+TEST_F(frmStartSearchTest, ComingBackToTheWindowLeavesTheCaretInTheSearchText) {
+    Type(L"műsor");
+    const TextBox box(Control(ID_frmStart_txtFind));
+    program.OnUi([&](frmStart&) {
+        box.SetFocus();
+        box.Select(1, 2);
+    });
+    program.LeaveAndComeBack();
+    EXPECT_TRUE(program.Ask<bool>([&](frmStart&) { return box.HasFocus(); }));
+    EXPECT_EQ(box.SelectedText(), L"űs");
+}
+
 TEST_F(frmStartSearchTest, DelInTheTextBoxDeletesTextNotEntries) {
     Type(L"ab");
     program.ClickBox(1);

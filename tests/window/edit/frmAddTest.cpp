@@ -20,20 +20,20 @@ class frmAddTest : public ::testing::Test {
     // Text of the address field and its selection once it has the focus.
     struct Address {
         std::wstring Text;
-        DWORD Start = 0;
-        DWORD End = 0;
+        std::pair<int, int> Selection;
         bool operator==(const Address&) const = default;
     };
+    void GoToAddress(const DialogOnScreen& dialog) const {
+        SendMessageW(dialog.Handle(), WM_NEXTDLGCTL,
+                     reinterpret_cast<WPARAM>(dialog.Control(ID_frmAdd_txtURL)), TRUE);
+        program.Settle();
+        EXPECT_EQ(dialog.Focus(), ID_frmAdd_txtURL);
+    }
     Address AddressFor(const std::wstring& clipboard) const {
         PutClipboardText(clipboard);
         const DialogOnScreen dialog = Open();
-        const HWND field = dialog.Control(ID_frmAdd_txtURL);
-        SendMessageW(dialog.Handle(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(field), TRUE);
-        program.Settle();
-        EXPECT_EQ(dialog.Focus(), ID_frmAdd_txtURL);
-        Address address{dialog.Text(ID_frmAdd_txtURL)};
-        SendMessageW(field, EM_GETSEL, reinterpret_cast<WPARAM>(&address.Start),
-                     reinterpret_cast<LPARAM>(&address.End));
+        GoToAddress(dialog);
+        const Address address{dialog.Text(ID_frmAdd_txtURL), dialog.Selection(ID_frmAdd_txtURL)};
         dialog.Cancel();
         dialog.WaitForClose();
         return address;
@@ -69,16 +69,16 @@ TEST_F(frmAddTest, OpensWithTheShownCategoryAndTheBareAddress) {
 }
 
 TEST_F(frmAddTest, ProposesTheAddressOnTheClipboardAndSelectsIt) {
-    EXPECT_EQ(AddressFor(L"  WWW.Lap.hu  "), (Address{L"http://WWW.Lap.hu", 0, 17}));
-    EXPECT_EQ(AddressFor(L"Ezt nézd: HTTP://lap.hu jó"), (Address{L"Ezt nézd: HTTP://lap.hu jó", 0, 26}));
-    EXPECT_EQ(AddressFor(L"https://lap.hu"), (Address{L"https://lap.hu", 0, 14}));
-    EXPECT_EQ(AddressFor(L" ftp://lap.hu"), (Address{L"ftp://lap.hu", 0, 12}));
-    EXPECT_EQ(AddressFor(L"ki@lap.hu"), (Address{L"mailto:ki@lap.hu", 0, 16}));
-    EXPECT_EQ(AddressFor(L"MailTo:ki@lap.hu"), (Address{L"MailTo:ki@lap.hu", 0, 16}));
+    EXPECT_EQ(AddressFor(L"  WWW.Lap.hu  "), (Address{L"http://WWW.Lap.hu", {0, 17}}));
+    EXPECT_EQ(AddressFor(L"Ezt nézd: HTTP://lap.hu jó"), (Address{L"Ezt nézd: HTTP://lap.hu jó", {0, 26}}));
+    EXPECT_EQ(AddressFor(L"https://lap.hu"), (Address{L"https://lap.hu", {0, 14}}));
+    EXPECT_EQ(AddressFor(L" ftp://lap.hu"), (Address{L"ftp://lap.hu", {0, 12}}));
+    EXPECT_EQ(AddressFor(L"ki@lap.hu"), (Address{L"mailto:ki@lap.hu", {0, 16}}));
+    EXPECT_EQ(AddressFor(L"MailTo:ki@lap.hu"), (Address{L"MailTo:ki@lap.hu", {0, 16}}));
 }
 
 TEST_F(frmAddTest, LeavesTheBareAddressForAnythingElseWithTheCaretAtItsEnd) {
-    EXPECT_EQ(AddressFor(L"árvíztűrő szavak"), (Address{L"http://", 7, 7}));
+    EXPECT_EQ(AddressFor(L"árvíztűrő szavak"), (Address{L"http://", {7, 7}}));
     EmptyTheClipboard();
     const DialogOnScreen dialog = Open();
     EXPECT_EQ(dialog.Text(ID_frmAdd_txtURL), L"http://");
@@ -106,6 +106,27 @@ TEST_F(frmAddTest, TheMailButtonExchangesBareBeginningsOnly) {
     EXPECT_EQ(after_click(L""), L"");
     dialog.Cancel();
     dialog.WaitForClose();
+}
+
+TEST_F(frmAddTest, ComingBackToTheDialogLeavesTheCaretWhereItWas) {
+    for (const wchar_t* const clipboard : {L"http://a.hu/", L"nem cím"}) {
+        PutClipboardText(clipboard);
+        const DialogOnScreen dialog = Open();
+        GoToAddress(dialog);
+        SendMessageW(dialog.Control(ID_frmAdd_txtURL), EM_SETSEL, 2, 4);
+        program.LeaveAndComeBack();
+        EXPECT_EQ(dialog.Focus(), ID_frmAdd_txtURL);
+        EXPECT_EQ(dialog.Selection(ID_frmAdd_txtURL), std::pair(2, 4));
+        // Going there from another field is another thing.
+        SendMessageW(dialog.Handle(), WM_NEXTDLGCTL,
+                     reinterpret_cast<WPARAM>(dialog.Control(ID_frmAdd_txtDesc)), TRUE);
+        SendMessageW(dialog.Control(ID_frmAdd_txtURL), EM_SETSEL, 2, 4);
+        program.LeaveAndComeBack();
+        GoToAddress(dialog);
+        EXPECT_NE(dialog.Selection(ID_frmAdd_txtURL), std::pair(2, 4));
+        dialog.Cancel();
+        dialog.WaitForClose();
+    }
 }
 
 TEST_F(frmAddTest, MissingFieldsAreAskedForAndNothingIsStored) {
@@ -192,7 +213,7 @@ TEST_F(frmAddTest, CancelChangesNothing) {
 TEST_F(frmAddTest, ACharacterThatABookCannotHoldIsRefusedAndTheTextStays) {
     const MainState before = program.State();
     const DialogOnScreen dialog = Open();
-    const auto expect_refusal = [&](int field, const std::wstring& shown, DWORD start, DWORD end) {
+    const auto expect_refusal = [&](int field, const std::wstring& shown, int start, int end) {
         dialog.Click(ID_frmAdd_cmdOK);
         const BoxOnScreen box = program.Box();
         EXPECT_EQ(box.Title(), L"Hiba");
@@ -200,12 +221,7 @@ TEST_F(frmAddTest, ACharacterThatABookCannotHoldIsRefusedAndTheTextStays) {
         box.Press(IDOK);
         program.Settle();
         EXPECT_EQ(dialog.Focus(), field);
-        DWORD from = 0;
-        DWORD to = 0;
-        SendMessageW(dialog.Control(field), EM_GETSEL, reinterpret_cast<WPARAM>(&from),
-                     reinterpret_cast<LPARAM>(&to));
-        EXPECT_EQ(from, start);
-        EXPECT_EQ(to, end);
+        EXPECT_EQ(dialog.Selection(field), std::pair(start, end));
     };
     dialog.SetText(ID_frmAdd_txtDesc, L"Az Ω jel");
     dialog.SetText(ID_frmAdd_txtURL, L"http://a.hu/\xD83D\xDE00");

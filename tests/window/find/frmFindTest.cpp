@@ -269,6 +269,17 @@ TEST_F(frmFindTest, TheSearchTextIsSelectedWheneverItsBoxGainsTheFocus) {
     dialog.Close();
 }
 
+TEST_F(frmFindTest, ComingBackToTheDialogLeavesTheCaretInTheSearchText) {
+    AddHungarianEntries();
+    const FindDialog dialog = Open();
+    dialog.SetText(ID_frmFind_txtWhat, L"műsor");
+    SendMessageW(dialog.Control(ID_frmFind_txtWhat), EM_SETSEL, 1, 3);
+    program.LeaveAndComeBack();
+    EXPECT_EQ(dialog.Focus(), ID_frmFind_txtWhat);
+    EXPECT_EQ(dialog.Selection(ID_frmFind_txtWhat), std::pair(1, 3));
+    dialog.Close();
+}
+
 TEST_F(frmFindTest, AClickShowsTheAddressAndADoubleClickOpensIt) {
     const RecordedShell shell;
     program.Add(1, {{L"Nézd & lásd", L"http://pelda.hu/két szó/ŰRHAJÓ?a=1&b=2"}, {L"b", L"http://b.hu"}});

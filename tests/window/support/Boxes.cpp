@@ -204,6 +204,13 @@ bool DialogOnScreen::IsShown(int id) const {
     return IsWindowVisible(Control(id)) != FALSE;
 }
 
+std::pair<int, int> DialogOnScreen::Selection(int id) const {
+    DWORD start = 0;
+    DWORD end = 0;
+    SendMessageW(Control(id), EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
+    return {static_cast<int>(start), static_cast<int>(end)};
+}
+
 int DialogOnScreen::Focus() const {
     GUITHREADINFO info{};
     info.cbSize = sizeof info;

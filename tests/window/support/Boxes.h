@@ -4,6 +4,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "controls/Windows.h"
@@ -50,6 +51,8 @@ class DialogOnScreen {
     bool IsChecked(int id) const;
     bool IsEnabled(int id) const;
     bool IsShown(int id) const;
+    // First and last character (0-based, the last excluded) of what is selected in a text box.
+    std::pair<int, int> Selection(int id) const;
     // Id of the control that has the focus in the dialog's thread, 0 for none.
     int Focus() const;
     // Esc: what the title bar's button does too.

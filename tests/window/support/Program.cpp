@@ -212,6 +212,20 @@ void Program::PressKey(HWND control, WPARAM key) const {
     Settle();
 }
 
+void Program::LeaveAndComeBack() const {
+    OnUi([](frmStart&) {
+        const HWND in_front = GetActiveWindow();
+        const HWND other =
+            CreateWindowExW(0, L"Static", L"", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
+        EXPECT_EQ(SetActiveWindow(other), in_front);
+        EXPECT_EQ(GetActiveWindow(), other);
+        EXPECT_EQ(SetActiveWindow(in_front), other);
+        EXPECT_EQ(GetActiveWindow(), in_front);
+        DestroyWindow(other);
+    });
+    Settle();
+}
+
 bool Program::NothingIsOpen() const {
     for (const HWND window : WindowsOf(thread_id_)) {
         wchar_t name[32] = L"";

@@ -81,6 +81,8 @@ class Program {
     void ClickBox(int row) const;
     // A key in the control that has the focus, through the program's own loop.
     void PressKey(HWND control, WPARAM key) const;
+    // Brings another window in front of the one that is active, and goes back to it.
+    void LeaveAndComeBack() const;
 
     BoxOnScreen Box() const { return WaitForBox(thread_id_); }
     DialogOnScreen Dialog(const std::wstring& caption) const { return WaitForDialog(thread_id_, caption); }
