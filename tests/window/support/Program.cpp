@@ -18,7 +18,7 @@ namespace lindrel::testing {
 namespace {
 
 constexpr UINT kRunCode = WM_APP + 1;
-constexpr UINT kAreYouIdle = WM_APP + 2;
+constexpr UINT kTellWhenIdle = WM_APP + 2;
 constexpr wchar_t kEarClass[] = L"LindrelTestEar";
 
 LRESULT CALLBACK EarProcedure(HWND window, UINT message, WPARAM first, LPARAM second) {
@@ -26,13 +26,15 @@ LRESULT CALLBACK EarProcedure(HWND window, UINT message, WPARAM first, LPARAM se
         (*reinterpret_cast<const std::function<void()>*>(second))();
         return 0;
     }
-    if (message == kAreYouIdle) {
-        // Asked again behind whatever still waits.
-        const bool busy = HIWORD(GetQueueStatus(QS_INPUT | QS_PAINT | QS_TIMER)) != 0;
-        if (busy && second > 0)
-            PostMessageW(window, kAreYouIdle, first, second - 1);
-        else
-            SetEvent(reinterpret_cast<HANDLE>(first));
+    // A timer comes when nothing else waits: no message, no input, no paint.
+    if (message == kTellWhenIdle) {
+        SetTimer(window, first, USER_TIMER_MINIMUM, nullptr);
+        return 0;
+    }
+    if (message == WM_TIMER) {
+        if (HIWORD(GetQueueStatus(QS_ALLINPUT & ~QS_TIMER)) != 0) return 0;
+        KillTimer(window, first);
+        SetEvent(reinterpret_cast<HANDLE>(first));
         return 0;
     }
     return DefWindowProcW(window, message, first, second);
@@ -116,9 +118,8 @@ void Program::Choose(int menu_id) const {
 }
 
 void Program::Settle() const {
-    constexpr LPARAM kMostQuestions = 10000;
     const HANDLE idle = CreateEventW(nullptr, TRUE, FALSE, nullptr);
-    PostMessageW(ear_, kAreYouIdle, reinterpret_cast<WPARAM>(idle), kMostQuestions);
+    PostMessageW(ear_, kTellWhenIdle, reinterpret_cast<WPARAM>(idle), 0);
     const DWORD waited = WaitForSingleObject(idle, static_cast<DWORD>(kDeadline.count() * 1000));
     // An event that is still to be set must stay valid.
     if (waited != WAIT_OBJECT_0) throw DeadlinePassed("the program does not come to rest");
