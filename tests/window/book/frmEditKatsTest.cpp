@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "resources/resource.h"
+#include "tests/window/support/Expectations.h"
 #include "tests/window/support/Program.h"
 
 namespace lindrel::testing {
@@ -66,15 +67,9 @@ TEST_F(frmEditKatsTest, NamesAreTakenExactlyAsTyped) {
 }
 
 TEST_F(frmEditKatsTest, CancelLeavesNamesTabsAndMark) {
-    const MainState before = program.State();
-    for (const int way : {ID_frmEditKats_cmdCancel, IDCANCEL}) {
-        const DialogOnScreen dialog = Open();
-        dialog.SetText(Field(5), L"más");
-        PostMessageW(dialog.Handle(), WM_COMMAND, static_cast<WPARAM>(way), 0);
-        dialog.WaitForClose();
-        program.Settle();
-        EXPECT_EQ(program.State(), before);
-    }
+    ExpectCancelChangesNothing(
+        program, [this] { return Open(); },
+        [](const DialogOnScreen& dialog) { dialog.SetText(Field(5), L"más"); }, ID_frmEditKats_cmdCancel);
 }
 
 TEST_F(frmEditKatsTest, AForeignCharacterIsRefusedAndNoNameIsTaken) {

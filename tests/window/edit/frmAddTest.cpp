@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "resources/resource.h"
+#include "tests/window/support/Expectations.h"
 #include "tests/window/support/Program.h"
 #include "tests/window/support/RealClipboard.h"
 
@@ -199,15 +200,9 @@ TEST_F(frmAddTest, CancelChangesNothing) {
     program.Add(1, {{L"A", L"http://a.hu"}, {L"B", L"http://b.hu"}});
     program.ClickBox(2);
     program.ClickRow(1);
-    const MainState before = program.State();
-    for (const int way : {ID_frmAdd_cmdCancel, IDCANCEL}) {
-        const DialogOnScreen dialog = Open();
-        dialog.SetText(ID_frmAdd_txtDesc, L"D");
-        PostMessageW(dialog.Handle(), WM_COMMAND, static_cast<WPARAM>(way), 0);
-        dialog.WaitForClose();
-        program.Settle();
-        EXPECT_EQ(program.State(), before);
-    }
+    ExpectCancelChangesNothing(
+        program, [this] { return Open(); },
+        [](const DialogOnScreen& dialog) { dialog.SetText(ID_frmAdd_txtDesc, L"D"); }, ID_frmAdd_cmdCancel);
 }
 
 TEST_F(frmAddTest, ACharacterThatABookCannotHoldIsRefusedAndTheTextStays) {
@@ -236,31 +231,17 @@ TEST_F(frmAddTest, ACharacterThatABookCannotHoldIsRefusedAndTheTextStays) {
 }
 
 TEST_F(frmAddTest, AFullBookEndsInTheReportOffersToSaveAndLosesNothing) {
-    const TemporaryFolder folder;
-    program.OnUi([&](frmStart& form) {
+    program.OnUi([](frmStart& form) {
         form.TheBook.NewEntries.assign(32767, {"n", "http://n.hu"});
         form.TheBook.AddEntry(6);
         form.FillAddressList(1);
-        form.Modified = true;
-        form.OpenedFile = folder.File(L"tele.lnd");
     });
-    const std::string full = program.BookBytes();
+    const UnsavedBook book(program);
     const DialogOnScreen dialog = Open();
     dialog.SetText(ID_frmAdd_txtDesc, L"D");
     dialog.SetText(ID_frmAdd_txtURL, L"http://d.hu");
     dialog.Click(ID_frmAdd_cmdOK);
-    const BoxOnScreen report = program.Box();
-    EXPECT_EQ(report.Title(), L"Lindrel");
-    EXPECT_EQ(report.Text(), L"Futásidejű hiba: 6\r\n\r\nTúlcsordulás.");
-    report.Press(IDOK);
-    const BoxOnScreen question = program.Box();
-    EXPECT_EQ(question.Title(), L"A fájl módosult");
-    question.Press(IDYES);
-    const BoxOnScreen saved = program.Box();
-    EXPECT_EQ(saved.Text(), L"Elmentve : " + folder.File(L"tele.lnd"));
-    saved.Press(IDOK);
-    EXPECT_EQ(program.WaitForEnd(), 1);
-    EXPECT_EQ(TemporaryFolder::Read(folder.File(L"tele.lnd")), full);
+    book.ExpectReportAndSave(L"Futásidejű hiba: 6\r\n\r\nTúlcsordulás.");
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "resources/resource.h"
+#include "tests/window/support/Expectations.h"
 #include "tests/window/support/Program.h"
 
 namespace lindrel::testing {
@@ -158,15 +159,10 @@ TEST_F(frmEditRecTest, MovingForgetsTheMarksOfTheSourceOnly) {
 TEST_F(frmEditRecTest, CancelLeavesListAndMarks) {
     program.ClickBox(1);
     program.ClickRow(3);
-    const MainState before = program.State();
-    for (const int way : {ID_frmEditRec_Command1, IDCANCEL}) {
-        const DialogOnScreen dialog = Open();
-        dialog.SetText(ID_frmEditRec_txtDesc, L"más");
-        PostMessageW(dialog.Handle(), WM_COMMAND, static_cast<WPARAM>(way), 0);
-        dialog.WaitForClose();
-        program.Settle();
-        EXPECT_EQ(program.State(), before);
-    }
+    ExpectCancelChangesNothing(
+        program, [this] { return Open(); },
+        [](const DialogOnScreen& dialog) { dialog.SetText(ID_frmEditRec_txtDesc, L"más"); },
+        ID_frmEditRec_Command1);
 }
 
 TEST_F(frmEditRecTest, MissingFieldsAndForeignCharactersAreRefused) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "resources/resource.h"
+#include "tests/window/support/Expectations.h"
 #include "tests/window/support/Program.h"
 
 namespace lindrel::testing {
@@ -115,15 +116,9 @@ TEST_F(frmMoveTest, TheShownCategoryAsDestinationChangesNothing) {
 
 TEST_F(frmMoveTest, CancelChangesNothing) {
     program.ClickBox(2);
-    const MainState before = program.State();
-    for (const int way : {ID_frmMove_cmdCancel, IDCANCEL}) {
-        const DialogOnScreen dialog = Open();
-        dialog.Pick(ID_frmMove_cmbKateg, 5);
-        PostMessageW(dialog.Handle(), WM_COMMAND, static_cast<WPARAM>(way), 0);
-        dialog.WaitForClose();
-        program.Settle();
-        EXPECT_EQ(program.State(), before);
-    }
+    ExpectCancelChangesNothing(
+        program, [this] { return Open(); },
+        [](const DialogOnScreen& dialog) { dialog.Pick(ID_frmMove_cmbKateg, 5); }, ID_frmMove_cmdCancel);
 }
 
 TEST_F(frmMoveTest, AnAddressInTheFieldWithoutASelectedRowMovesNothing) {

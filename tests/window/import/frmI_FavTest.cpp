@@ -6,6 +6,7 @@
 #include "export/Favorites.h"
 #include "export/Shortcut.h"
 #include "tests/window/import/ImportSession.h"
+#include "tests/window/support/Expectations.h"
 #include "tests/window/support/FavoritesFolder.h"
 
 namespace lindrel::testing {
@@ -27,30 +28,11 @@ class frmI_FavTest : public ImportSession {
     static void Write(const std::wstring& name, const std::string& bytes) {
         WriteFileBytes(FavoritesFolder::Path() / name, bytes);
     }
-    // The report of a fault, the offer to save taken, and that the saved book is the one from before.
     void ExpectReport(const std::wstring& text) {
-        const std::string before = program.BookBytes();
-        program.OnUi([&](frmStart& form) {
-            form.OpenedFile = folder.File(L"konyv.lnd");
-            form.Modified = true;
-        });
+        const UnsavedBook book(program);
         const DialogOnScreen dialog = Open();
         ChooseFolder(dialog);
-        FinishWithReport(text, before);
-    }
-    void FinishWithReport(const std::wstring& text, const std::string& before) {
-        const BoxOnScreen report = program.Box();
-        EXPECT_EQ(report.Title(), L"Lindrel");
-        EXPECT_EQ(report.Text(), text);
-        report.Press(IDOK);
-        const BoxOnScreen question = program.Box();
-        EXPECT_EQ(question.Title(), L"A fájl módosult");
-        question.Press(IDYES);
-        const BoxOnScreen saved = program.Box();
-        EXPECT_EQ(saved.Text(), L"Elmentve : " + folder.File(L"konyv.lnd"));
-        saved.Press(IDOK);
-        EXPECT_EQ(program.WaitForEnd(), 1);
-        EXPECT_EQ(TemporaryFolder::Read(folder.File(L"konyv.lnd")), before);
+        book.ExpectReportAndSave(text);
     }
 
     FavoritesFolder favorites;
@@ -197,15 +179,11 @@ TEST_F(frmI_FavTest, AFullBookEndsInTheReportAndLosesNothing) {
     FillBookTo(32766);
     Write(L"a.url", ShortcutFile("http://a.hu"));
     Write(L"b.url", ShortcutFile("http://b.hu"));
-    const std::string before = program.BookBytes();
-    program.OnUi([&](frmStart& form) {
-        form.OpenedFile = folder.File(L"konyv.lnd");
-        form.Modified = true;
-    });
+    const UnsavedBook book(program);
     const DialogOnScreen dialog = Open();
     ChooseFolder(dialog);
     AnswerResult(2);  // comes before the entries are added
-    FinishWithReport(L"Futásidejű hiba: 6\r\n\r\nTúlcsordulás.", before);
+    book.ExpectReportAndSave(L"Futásidejű hiba: 6\r\n\r\nTúlcsordulás.");
 }
 
 }  // namespace
