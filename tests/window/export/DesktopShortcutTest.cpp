@@ -1,12 +1,14 @@
-// The shortcut on the desktop, in the real desktop folder.
+// The shortcut on the desktop, in the folder that the shell names.
 
 #include <gtest/gtest.h>
 #include <shlobj.h>
 
 #include <filesystem>
+#include <map>
+#include <optional>
+#include <string>
 
 #include "controls/Shell.h"
-#include "export/Shortcut.h"
 #include "resources/resource.h"
 #include "tests/window/support/Program.h"
 
@@ -38,14 +40,35 @@ class DesktopElsewhere {
 
 class DesktopShortcutTest : public ::testing::Test {
   protected:
+    static constexpr wchar_t kDesktop[] = L"C:\\Asztal";
+    static constexpr wchar_t kDesktopBehindABlank[] = L"C:\\Asztal ide\\belso";
+
+    DesktopShortcutTest() { EXPECT_EQ(ShellFolder(CSIDL_DESKTOPDIRECTORY), kDesktop); }
     ~DesktopShortcutTest() override {
-        std::error_code error;
-        std::filesystem::remove(File(L"a_b_c_.url"), error);
-        EXPECT_FALSE(error);
+        std::filesystem::remove_all(kDesktop);
+        std::filesystem::remove_all(L"C:\\Asztal ide");
     }
-    static std::wstring File(const std::wstring& name) {
-        return DesktopPath(ShellFolder(CSIDL_DESKTOPDIRECTORY).value()) + L"\\" + name;
+
+    using Files = std::map<std::wstring, std::string>;  // names and bytes
+    static Files FilesIn(const std::wstring& folder) {
+        Files files;
+        for (const auto& entry : std::filesystem::directory_iterator(folder))
+            files[entry.path().filename().wstring()] = TemporaryFolder::Read(entry.path().wstring());
+        return files;
     }
+
+    // An entry before the one that the shortcut is for, and that one, selected.
+    void ShowAndSelect(const std::wstring& name) const {
+        program.Add(1, {{L"X", L"http://x.hu"}, {name, L"http://abc.hu"}});
+        program.ClickRow(2);
+    }
+    // The book of ShowAndSelect() as its file would be.
+    static std::string BookWith(const std::string& name) {
+        std::string bytes = "#Project1\r\nX\r\nhttp://x.hu\r\n" + name + "\r\nhttp://abc.hu\r\n";
+        for (int k = 2; k <= 12; ++k) bytes += "#Project" + std::to_string(k) + "\r\n";
+        return bytes;
+    }
+
     void AskFor(const std::wstring& name, int answer) const {
         program.Choose(ID_mnuToDesktop);
         const BoxOnScreen box = program.Box();
@@ -56,77 +79,132 @@ class DesktopShortcutTest : public ::testing::Test {
         box.Press(answer);
         program.Settle();
     }
+    void ExpectNotCreated() const {
+        const BoxOnScreen box = program.Box();
+        EXPECT_EQ(box.Title(), L"Hiba");
+        EXPECT_EQ(box.Text(), L"Nem jött létre a parancsikon");
+        EXPECT_EQ(box.Buttons(), std::vector<int>{IDOK});
+        EXPECT_EQ(box.Icon(), BoxIcon::Exclamation);
+        box.Press(IDOK);
+        program.Settle();
+        EXPECT_TRUE(program.NothingIsOpen());
+    }
 
+    // A desktop of the test's own: that of a Wine user may be a folder that others write to.
+    const bool made = std::filesystem::create_directories(kDesktop);
+    DesktopElsewhere desktop{kDesktop};
     Program program;
 };
 
 TEST_F(DesktopShortcutTest, WritesTheFileAndChangesTheNameInTheBookOnly) {
-    program.Add(1, {{L"X", L"http://x.hu"}, {L"a:b/c?", L"http://abc.hu"}});
-    program.ClickRow(2);
+    ShowAndSelect(L"a:b/c?");
     const MainState before = program.State();
     AskFor(L"a:b/c?", IDOK);
     EXPECT_TRUE(program.NothingIsOpen());  // success says nothing
-    EXPECT_EQ(TemporaryFolder::Read(File(L"a_b_c_.url")), "[InternetShortcut]\r\nURL=http://abc.hu");
+    EXPECT_EQ(FilesIn(kDesktop), (Files{{L"a_b_c_.url", "[InternetShortcut]\r\nURL=http://abc.hu"}}));
     EXPECT_EQ(program.State(), before);  // list, fields and Modified show the old name
-    EXPECT_EQ(program.Ask<std::string>([](frmStart& form) { return std::string(form.TheBook.SiteNames(2)); }),
-              "a_b_c_");
+    EXPECT_EQ(program.BookBytes(), BookWith("a_b_c_"));
 
     program.OnUi([](frmStart& form) { form.TheBook.SetSiteURL(2, "http://uj.hu"); });
     AskFor(L"a_b_c_", IDOK);  // the second run overwrites
     EXPECT_TRUE(program.NothingIsOpen());
-    EXPECT_EQ(TemporaryFolder::Read(File(L"a_b_c_.url")), "[InternetShortcut]\r\nURL=http://uj.hu");
+    EXPECT_EQ(FilesIn(kDesktop), (Files{{L"a_b_c_.url", "[InternetShortcut]\r\nURL=http://uj.hu"}}));
+}
+
+TEST_F(DesktopShortcutTest, TheChangedNameIsShownByTheNextFillAndNotMarkedAsAChange) {
+    ShowAndSelect(L"\\a:b/c?\\ő");
+    MainState expected = program.State();
+    AskFor(L"\\a:b/c?\\ő", IDOK);
+    EXPECT_EQ(FilesIn(kDesktop), (Files{{L"_a_b_c__ő.url", "[InternetShortcut]\r\nURL=http://abc.hu"}}));
+    EXPECT_EQ(program.State(), expected);
+    program.ClickTab(2);
+    program.ClickTab(1);
+    expected.Rows = {{L"X", L"http://x.hu"}, {L"_a_b_c__ő", L"http://abc.hu"}};
+    expected.SelectedRow = 0;
+    expected.txtSite = expected.txtURL = expected.Status[0] = L"";
+    EXPECT_EQ(program.State(), expected);
+    EXPECT_FALSE(expected.Modified);
+    EXPECT_EQ(program.BookBytes(), BookWith("_a_b_c__\xF5"));
 }
 
 TEST_F(DesktopShortcutTest, CancelWritesNothingAndKeepsTheName) {
-    program.Add(1, {{L"a:b/c?", L"http://abc.hu"}});
-    program.ClickRow(1);
+    ShowAndSelect(L"a:b/c?");
+    const MainState before = program.State();
     AskFor(L"a:b/c?", IDCANCEL);
-    EXPECT_FALSE(std::filesystem::exists(File(L"a_b_c_.url")));
-    EXPECT_EQ(program.Ask<std::string>([](frmStart& form) { return std::string(form.TheBook.SiteNames(1)); }),
-              "a:b/c?");
+    EXPECT_TRUE(program.NothingIsOpen());
+    EXPECT_EQ(FilesIn(kDesktop), Files{});
+    EXPECT_EQ(program.State(), before);
+    EXPECT_EQ(program.BookBytes(), BookWith("a:b/c?"));
 }
 
 TEST_F(DesktopShortcutTest, ABlankInTheDesktopsPathEndsItEarly) {
-    std::filesystem::create_directories(L"C:\\Asztal");
-    std::filesystem::create_directories(L"C:\\Asztal ide\\belso");
-    program.Add(1, {{L"a:b/c?", L"http://abc.hu"}});
-    program.ClickRow(1);
+    std::filesystem::create_directories(kDesktopBehindABlank);
+    ShowAndSelect(L"a:b/c?");
     {
-        const DesktopElsewhere elsewhere(L"C:\\Asztal ide\\belso");
-        ASSERT_EQ(ShellFolder(CSIDL_DESKTOPDIRECTORY), L"C:\\Asztal ide\\belso");
+        const DesktopElsewhere elsewhere(kDesktopBehindABlank);
+        ASSERT_EQ(ShellFolder(CSIDL_DESKTOPDIRECTORY), kDesktopBehindABlank);
         AskFor(L"a:b/c?", IDOK);
     }
     EXPECT_TRUE(program.NothingIsOpen());
-    EXPECT_EQ(TemporaryFolder::Read(L"C:\\ASZTAL\\a_b_c_.url"), "[InternetShortcut]\r\nURL=http://abc.hu");
-    std::filesystem::remove_all(L"C:\\Asztal");
-    std::filesystem::remove_all(L"C:\\Asztal ide");
+    EXPECT_EQ(FilesIn(kDesktop), (Files{{L"a_b_c_.url", "[InternetShortcut]\r\nURL=http://abc.hu"}}));
+    EXPECT_EQ(FilesIn(kDesktopBehindABlank), Files{});
 }
 
-TEST_F(DesktopShortcutTest, ADesktopThatIsNotThereIsReported) {
-    program.Add(1, {{L"a:b/c?", L"http://abc.hu"}});
-    program.ClickRow(1);
-    const DesktopElsewhere elsewhere(L"Q:\\nincs\\ilyen");
-    AskFor(L"a:b/c?", IDOK);
-    const BoxOnScreen box = program.Box();
-    EXPECT_EQ(box.Title(), L"Hiba");
-    EXPECT_EQ(box.Text(), L"Nem jött létre a parancsikon");
-    EXPECT_EQ(box.Buttons(), std::vector<int>{IDOK});
-    EXPECT_EQ(box.Icon(), BoxIcon::Exclamation);
-    box.Press(IDOK);
-    program.Settle();
-}
-
-TEST_F(DesktopShortcutTest, AFileThatCannotBeCreatedIsReported) {
-    program.Add(1, {{L"csillag*", L"http://abc.hu"}});
-    program.ClickRow(1);
+TEST_F(DesktopShortcutTest, ADesktopThatTheShellDoesNotKnowIsReportedAndTheNameStays) {
+    ShowAndSelect(L"a:b/c?");
     const MainState before = program.State();
-    AskFor(L"csillag*", IDOK);
-    const BoxOnScreen box = program.Box();
-    EXPECT_EQ(box.Title(), L"Hiba");
-    EXPECT_EQ(box.Text(), L"Nem jött létre a parancsikon");
-    EXPECT_EQ(box.Icon(), BoxIcon::Exclamation);
-    box.Press(IDOK);
-    program.Settle();
+    {
+        const DesktopElsewhere elsewhere(L"Q:\\nincs\\ilyen");
+        ASSERT_EQ(ShellFolder(CSIDL_DESKTOPDIRECTORY), std::nullopt);
+        AskFor(L"a:b/c?", IDOK);
+        ExpectNotCreated();
+    }
+    EXPECT_EQ(FilesIn(kDesktop), Files{});
+    EXPECT_EQ(program.State(), before);
+    EXPECT_EQ(program.BookBytes(), BookWith("a:b/c?"));
+}
+
+TEST_F(DesktopShortcutTest, ADesktopWhoseShortenedPathIsNotThereIsReportedAfterTheNameHasChanged) {
+    std::filesystem::create_directories(kDesktopBehindABlank);
+    ShowAndSelect(L"a:b/c?");
+    const MainState before = program.State();
+    {
+        const DesktopElsewhere elsewhere(kDesktopBehindABlank);
+        ASSERT_TRUE(std::filesystem::remove(kDesktop));
+        ASSERT_EQ(ShellFolder(CSIDL_DESKTOPDIRECTORY), kDesktopBehindABlank);
+        AskFor(L"a:b/c?", IDOK);
+        ExpectNotCreated();
+        EXPECT_FALSE(std::filesystem::exists(kDesktop));
+        EXPECT_EQ(FilesIn(kDesktopBehindABlank), Files{});
+    }
+    EXPECT_EQ(program.State(), before);
+    EXPECT_EQ(program.BookBytes(), BookWith("a_b_c_"));
+}
+
+TEST_F(DesktopShortcutTest, AFileThatCannotBeCreatedIsReportedAfterTheNameHasChanged) {
+    // The shell's other forbidden characters stay (intended), and no file can bear them.
+    ShowAndSelect(L"a\\b/c:d?e*f\"g<h>i|j");
+    const MainState before = program.State();
+    AskFor(L"a\\b/c:d?e*f\"g<h>i|j", IDOK);
+    ExpectNotCreated();
+    EXPECT_EQ(FilesIn(kDesktop), Files{});
+    EXPECT_EQ(program.State(), before);
+    EXPECT_EQ(program.BookBytes(), BookWith("a_b_c_d_e*f\"g<h>i|j"));
+}
+
+TEST_F(DesktopShortcutTest, AFileThatIsInUseIsReportedAndKeepsItsBytes) {
+    ShowAndSelect(L"a:b/c?");
+    const MainState before = program.State();
+    const std::wstring path = std::wstring(kDesktop) + L"\\a_b_c_.url";
+    AskFor(L"a:b/c?", IDOK);
+    program.OnUi([](frmStart& form) { form.TheBook.SetSiteURL(2, "http://uj.hu"); });
+    const HANDLE other =
+        CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    ASSERT_NE(other, INVALID_HANDLE_VALUE);
+    AskFor(L"a_b_c_", IDOK);
+    ExpectNotCreated();
+    EXPECT_TRUE(CloseHandle(other));
+    EXPECT_EQ(FilesIn(kDesktop), (Files{{L"a_b_c_.url", "[InternetShortcut]\r\nURL=http://abc.hu"}}));
     EXPECT_EQ(program.State(), before);
 }
 
