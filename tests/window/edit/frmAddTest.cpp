@@ -24,10 +24,9 @@ class frmAddTest : public ::testing::Test {
         std::pair<int, int> Selection;
         bool operator==(const Address&) const = default;
     };
+    // The focus alone, as a click gives it: the dialog's own keys select the text themselves.
     void GoToAddress(const DialogOnScreen& dialog) const {
-        SendMessageW(dialog.Handle(), WM_NEXTDLGCTL,
-                     reinterpret_cast<WPARAM>(dialog.Control(ID_frmAdd_txtURL)), TRUE);
-        program.Settle();
+        program.OnUi([&](frmStart&) { SetFocus(dialog.Control(ID_frmAdd_txtURL)); });
         EXPECT_EQ(dialog.Focus(), ID_frmAdd_txtURL);
     }
     Address AddressFor(const std::wstring& clipboard) const {
@@ -59,6 +58,8 @@ TEST_F(frmAddTest, OpensWithTheShownCategoryAndTheBareAddress) {
     EXPECT_EQ(dialog.Text(ID_frmAdd_Label2), L"&kategória");
     EXPECT_EQ(dialog.Text(ID_frmAdd_lblHint), L"ebbe a kategóriában lesz létrehozva");
     EXPECT_EQ(dialog.Text(ID_frmAdd_lblURL), L"&URL címe");
+    EXPECT_EQ(dialog.Text(ID_frmAdd_cmdEmail), L"@");
+    EXPECT_EQ(dialog.Text(ID_frmAdd_cmdOK), L"OK");
     EXPECT_EQ(dialog.Text(ID_frmAdd_cmdCancel), L"&Mégse");
     EXPECT_EQ(dialog.ComboItems(ID_frmAdd_cmbKateg), EmptyState().Tabs);
     EXPECT_EQ(dialog.Picked(ID_frmAdd_cmbKateg), 3);
@@ -92,6 +93,22 @@ TEST_F(frmAddTest, LeavesTheBareAddressForAnythingElseWithTheCaretAtItsEnd) {
     again.WaitForClose();
 }
 
+TEST_F(frmAddTest, TheTabKeyComesToTheAddressWithTheSameSelection) {
+    const std::pair<const wchar_t*, std::pair<int, int>> selections[] = {{L"http://a.hu/", {0, 12}},
+                                                                         {L"nem cím", {7, 7}}};
+    for (const auto& [clipboard, selection] : selections) {
+        PutClipboardText(clipboard);
+        const DialogOnScreen dialog = Open();
+        program.PressKey(dialog.Control(ID_frmAdd_txtDesc), VK_TAB);
+        EXPECT_EQ(dialog.Focus(), ID_frmAdd_cmbKateg);
+        program.PressKey(dialog.Control(ID_frmAdd_cmbKateg), VK_TAB);
+        EXPECT_EQ(dialog.Focus(), ID_frmAdd_txtURL);
+        EXPECT_EQ(dialog.Selection(ID_frmAdd_txtURL), selection);
+        dialog.Cancel();
+        dialog.WaitForClose();
+    }
+}
+
 TEST_F(frmAddTest, TheMailButtonExchangesBareBeginningsOnly) {
     const DialogOnScreen dialog = Open();
     const auto after_click = [&](const std::wstring& before) {
@@ -110,7 +127,9 @@ TEST_F(frmAddTest, TheMailButtonExchangesBareBeginningsOnly) {
 }
 
 TEST_F(frmAddTest, ComingBackToTheDialogLeavesTheCaretWhereItWas) {
-    for (const wchar_t* const clipboard : {L"http://a.hu/", L"nem cím"}) {
+    const std::pair<const wchar_t*, std::pair<int, int>> selections[] = {{L"http://a.hu/", {0, 12}},
+                                                                         {L"nem cím", {7, 7}}};
+    for (const auto& [clipboard, on_arrival] : selections) {
         PutClipboardText(clipboard);
         const DialogOnScreen dialog = Open();
         GoToAddress(dialog);
@@ -119,12 +138,11 @@ TEST_F(frmAddTest, ComingBackToTheDialogLeavesTheCaretWhereItWas) {
         EXPECT_EQ(dialog.Focus(), ID_frmAdd_txtURL);
         EXPECT_EQ(dialog.Selection(ID_frmAdd_txtURL), std::pair(2, 4));
         // Going there from another field is another thing.
-        SendMessageW(dialog.Handle(), WM_NEXTDLGCTL,
-                     reinterpret_cast<WPARAM>(dialog.Control(ID_frmAdd_txtDesc)), TRUE);
-        SendMessageW(dialog.Control(ID_frmAdd_txtURL), EM_SETSEL, 2, 4);
+        program.OnUi([&](frmStart&) { SetFocus(dialog.Control(ID_frmAdd_txtDesc)); });
         program.LeaveAndComeBack();
+        EXPECT_EQ(dialog.Focus(), ID_frmAdd_txtDesc);
         GoToAddress(dialog);
-        EXPECT_NE(dialog.Selection(ID_frmAdd_txtURL), std::pair(2, 4));
+        EXPECT_EQ(dialog.Selection(ID_frmAdd_txtURL), on_arrival);
         dialog.Cancel();
         dialog.WaitForClose();
     }
@@ -182,6 +200,27 @@ TEST_F(frmAddTest, TheListKeepsItsMarksAndThePlaceOfItsSelection) {
     expected.Modified = true;
     EXPECT_EQ(program.State(), expected);
     EXPECT_EQ(program.Ask<std::wstring>([](frmStart& form) { return form.ResultTag; }), L"");
+}
+
+TEST_F(frmAddTest, InALongListTheRowThatWasSelectedIsScrolledBackIntoView) {
+    std::vector<Row> many;
+    for (int k = 1; k <= 200; ++k) many.emplace_back(std::to_wstring(k), L"http://a.hu");
+    program.Add(1, many);
+    program.ClickRow(150);
+    const HWND list = program.List().Handle();
+    program.OnUi([&](frmStart& form) { form.ListURLs.EnsureVisible(1); });
+    ASSERT_EQ(ListView_GetTopIndex(list), 0);
+    ASSERT_LT(ListView_GetCountPerPage(list), 150);
+    MainState expected = program.State();
+    ASSERT_EQ(expected.SelectedRow, 150);
+    Store(L"D", L"http://d.hu", 1);
+    expected.Rows.emplace_back(L"D", L"http://d.hu");
+    expected.txtSite = expected.txtURL = expected.Status[0] = L"";
+    expected.Status[1] = L"megjelenítve (201 / 201)";
+    expected.Modified = true;
+    EXPECT_EQ(program.State(), expected);
+    // Just as far as needed: the row is the last one in view.
+    EXPECT_EQ(ListView_GetTopIndex(list), 150 - ListView_GetCountPerPage(list));
 }
 
 TEST_F(frmAddTest, AnEntryOfAnotherCategoryLeavesTheShownOne) {

@@ -30,6 +30,25 @@ class frmEditRecTest : public ::testing::Test {
         return state;
     }
 
+    // A long category with a row selected and scrolled out of view; gives the state without the row's fields,
+    // which are empty after a change.
+    MainState LongCategory(int selected) const {
+        std::vector<Row> many;
+        for (int k = 1; k <= 200; ++k) many.emplace_back(std::to_wstring(k), L"http://a.hu");
+        program.Add(5, many);
+        program.ClickTab(5);
+        program.ClickRow(selected);
+        program.OnUi([](frmStart& form) { form.ListURLs.EnsureVisible(1); });
+        EXPECT_EQ(FirstInView(), 1);
+        EXPECT_LT(RowsInView(), selected);
+        MainState state = program.State();
+        EXPECT_EQ(state.SelectedRow, selected);
+        state.txtSite = state.txtURL = state.Status[0] = L"";
+        return state;
+    }
+    int FirstInView() const { return ListView_GetTopIndex(program.List().Handle()) + 1; }
+    int RowsInView() const { return ListView_GetCountPerPage(program.List().Handle()); }
+
     Program program;
 };
 
@@ -37,11 +56,15 @@ TEST_F(frmEditRecTest, ShowsTheSelectedEntryAndTheShownCategory) {
     program.ClickRow(2);
     const DialogOnScreen dialog = Open();
     EXPECT_EQ(dialog.Text(ID_frmEditRec_Frame1), L" Az oldal adatai ");
+    EXPECT_EQ(dialog.Text(ID_frmEditRec_Label1), L"az oldal &neve");
+    EXPECT_EQ(dialog.Text(ID_frmEditRec_Label2), L"&kategória");
     EXPECT_EQ(dialog.Text(ID_frmEditRec_lblHint), L"ebbe a kategóriába lesz áthelyezve");
+    EXPECT_EQ(dialog.Text(ID_frmEditRec_lblURL), L"&URL címe");
     EXPECT_EQ(dialog.Text(ID_frmEditRec_txtDesc), L"B");
     EXPECT_EQ(dialog.Text(ID_frmEditRec_txtURL), L"http://b.hu");
     EXPECT_EQ(dialog.ComboItems(ID_frmEditRec_cmbKateg), EmptyState().Tabs);
     EXPECT_EQ(dialog.Picked(ID_frmEditRec_cmbKateg), 0);
+    EXPECT_EQ(dialog.Text(ID_frmEditRec_cmdOk), L"OK");
     EXPECT_EQ(dialog.Text(ID_frmEditRec_Command1), L"&Mégse");
     dialog.Cancel();
     dialog.WaitForClose();
@@ -102,6 +125,31 @@ TEST_F(frmEditRecTest, MovingTheLastRowAwaySelectsTheNewLastRow) {
     program.ClickTab(3);
     EXPECT_EQ(program.State().Rows,
               (std::vector<Row>{{L"X", L"http://x.hu"}, {L"Y", L"http://y.hu"}, {L"Új C", L"http://c.hu"}}));
+}
+
+TEST_F(frmEditRecTest, InALongListTheEditedRowIsScrolledBackIntoView) {
+    MainState expected = LongCategory(150);
+    const DialogOnScreen dialog = Open();
+    dialog.SetText(ID_frmEditRec_txtDesc, L"más");
+    Accept(dialog);
+    expected.Rows[149].first = L"más";
+    expected.Modified = true;
+    EXPECT_EQ(program.State(), expected);
+    // Just as far as needed: the row is the last one in view.
+    EXPECT_EQ(FirstInView() + RowsInView() - 1, 150);
+}
+
+TEST_F(frmEditRecTest, InALongListTheNewLastRowIsScrolledIntoView) {
+    MainState expected = LongCategory(200);
+    const DialogOnScreen dialog = Open();
+    dialog.Pick(ID_frmEditRec_cmbKateg, 1);
+    Accept(dialog);
+    expected.Rows.pop_back();
+    expected.SelectedRow = 199;
+    expected.Status[1] = L"megjelenítve (199 / 205)";
+    expected.Modified = true;
+    EXPECT_EQ(program.State(), expected);
+    EXPECT_EQ(FirstInView() + RowsInView() - 1, 199);
 }
 
 TEST_F(frmEditRecTest, MovingTowardsTheFrontSelectsTheRowThatTookThePlace) {

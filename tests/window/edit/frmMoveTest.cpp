@@ -55,6 +55,7 @@ TEST_F(frmMoveTest, ShowsTheCategoriesWithTheShownOneChosen) {
     EXPECT_EQ(dialog.Text(ID_frmMove_lblHint), L"ebbe a kategóriába lesz(nek) áthelyezve");
     EXPECT_EQ(dialog.ComboItems(ID_frmMove_cmbKateg), EmptyState().Tabs);
     EXPECT_EQ(dialog.Picked(ID_frmMove_cmbKateg), 3);
+    EXPECT_EQ(dialog.Text(ID_frmMove_cmdOk), L"OK");
     EXPECT_EQ(dialog.Text(ID_frmMove_cmdCancel), L"&Mégse");
     dialog.Cancel();
     dialog.WaitForClose();
