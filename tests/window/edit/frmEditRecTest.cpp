@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "resources/resource.h"
+#include "tests/window/edit/LongCategory.h"
 #include "tests/window/support/Expectations.h"
 #include "tests/window/support/Program.h"
 
@@ -29,25 +30,6 @@ class frmEditRecTest : public ::testing::Test {
         state.Status[1] = L"megjelenítve (3 / 5)";
         return state;
     }
-
-    // A long category with a row selected and scrolled out of view; gives the state without the row's fields,
-    // which are empty after a change.
-    MainState LongCategory(int selected) const {
-        std::vector<Row> many;
-        for (int k = 1; k <= 200; ++k) many.emplace_back(std::to_wstring(k), L"http://a.hu");
-        program.Add(5, many);
-        program.ClickTab(5);
-        program.ClickRow(selected);
-        program.OnUi([](frmStart& form) { form.ListURLs.EnsureVisible(1); });
-        EXPECT_EQ(FirstInView(), 1);
-        EXPECT_LT(RowsInView(), selected);
-        MainState state = program.State();
-        EXPECT_EQ(state.SelectedRow, selected);
-        state.txtSite = state.txtURL = state.Status[0] = L"";
-        return state;
-    }
-    int FirstInView() const { return ListView_GetTopIndex(program.List().Handle()) + 1; }
-    int RowsInView() const { return ListView_GetCountPerPage(program.List().Handle()); }
 
     Program program;
 };
@@ -128,19 +110,20 @@ TEST_F(frmEditRecTest, MovingTheLastRowAwaySelectsTheNewLastRow) {
 }
 
 TEST_F(frmEditRecTest, InALongListTheEditedRowIsScrolledBackIntoView) {
-    MainState expected = LongCategory(150);
+    const LongCategory many(program, 5, 150);
+    MainState expected = many.WithoutFields();
     const DialogOnScreen dialog = Open();
     dialog.SetText(ID_frmEditRec_txtDesc, L"más");
     Accept(dialog);
     expected.Rows[149].first = L"más";
     expected.Modified = true;
     EXPECT_EQ(program.State(), expected);
-    // Just as far as needed: the row is the last one in view.
-    EXPECT_EQ(FirstInView() + RowsInView() - 1, 150);
+    many.ExpectScrolledIntoView(150);
 }
 
 TEST_F(frmEditRecTest, InALongListTheNewLastRowIsScrolledIntoView) {
-    MainState expected = LongCategory(200);
+    const LongCategory many(program, 5, LongCategory::kRows);
+    MainState expected = many.WithoutFields();
     const DialogOnScreen dialog = Open();
     dialog.Pick(ID_frmEditRec_cmbKateg, 1);
     Accept(dialog);
@@ -149,7 +132,7 @@ TEST_F(frmEditRecTest, InALongListTheNewLastRowIsScrolledIntoView) {
     expected.Status[1] = L"megjelenítve (199 / 205)";
     expected.Modified = true;
     EXPECT_EQ(program.State(), expected);
-    EXPECT_EQ(FirstInView() + RowsInView() - 1, 199);
+    many.ExpectScrolledIntoView(199);
 }
 
 TEST_F(frmEditRecTest, MovingTowardsTheFrontSelectsTheRowThatTookThePlace) {
