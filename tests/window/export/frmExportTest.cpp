@@ -6,11 +6,49 @@
 #include "book/Files.h"
 #include "controls/Shell.h"
 #include "tests/window/export/ExportSession.h"
+#include "tests/window/support/Expectations.h"
+#include "tests/window/support/ToolTipOf.h"
 
 namespace lindrel::testing {
 namespace {
 
-class frmExportTest : public ExportSession {};
+// While one lives the folder of the themes is not there, unless the program makes it.
+class MissingStyles {
+  public:
+    MissingStyles() {
+        std::error_code error;  // where there is none, nothing has to be kept
+        std::filesystem::rename(Folder(), Kept(), error);
+        EXPECT_EQ(std::filesystem::exists(Kept()), !error) << error.message();
+    }
+    ~MissingStyles() {
+        // Other test programs make the folder whenever they open the dialog.
+        EXPECT_TRUE(Eventually([] {
+            std::error_code error;
+            std::filesystem::remove_all(Folder(), error);
+            if (std::filesystem::exists(Kept())) std::filesystem::rename(Kept(), Folder(), error);
+            return !std::filesystem::exists(Kept());
+        }));
+    }
+    MissingStyles(const MissingStyles&) = delete;
+    MissingStyles& operator=(const MissingStyles&) = delete;
+    static std::filesystem::path Folder() { return std::filesystem::path(ProgramFolder()) / L"styles"; }
+
+  private:
+    static std::filesystem::path Kept() { return std::filesystem::path(ProgramFolder()) / L"styles kept"; }
+};
+
+class frmExportTest : public ExportSession {
+  protected:
+    // Replaces the theme's text as a program would: nothing is typed.
+    static void PutTheme(const DialogOnScreen& dialog, const std::wstring& theme) {
+        SendMessageW(dialog.Control(ID_frmExport_cmbTheme), WM_SETTEXT, 0,
+                     reinterpret_cast<LPARAM>(theme.c_str()));
+    }
+    static void ExpectColours(const DialogOnScreen& dialog, bool enabled) {
+        EXPECT_EQ(dialog.IsEnabled(ID_frmExport_optColor_0), enabled);
+        EXPECT_EQ(dialog.IsEnabled(ID_frmExport_optColor_1), enabled);
+    }
+};
 
 TEST_F(frmExportTest, WithNothingCheckedAsksForMarksAndOpensNothing) {
     program.Run(ID_mnuSelectAll);  // clears those of category 2
@@ -38,9 +76,20 @@ TEST_F(frmExportTest, OpensWithTheWebPageAndALineForEachCategoryWithMarks) {
     EXPECT_EQ(dialog.Picked(ID_frmExport_cmbType), 0);
     EXPECT_EQ(dialog.Text(ID_frmExport_lblText), L"Válassza ki, mely kategóriákból kíván exportálni");
     EXPECT_EQ(dialog.Text(ID_frmExport_Frame1), L" exportálva lesz(nek)");
+    EXPECT_EQ(dialog.Text(ID_frmExport_Label2), L"&fájltipus");
     EXPECT_EQ(dialog.Text(ID_frmExport_Frame2), L" hozzáadás a MS IE kedvencekhez beállitások");
     EXPECT_EQ(dialog.Text(ID_frmExport_Frame3), L" weblap tulajdonságai ");
+    EXPECT_EQ(dialog.Text(ID_frmExport_lblTitle), L"a weblap címe");
+    EXPECT_EQ(ToolTipOf(program, dialog.Control(ID_frmExport_txtTitle)), L"<TITLE>?\?\?</TITLE>");
+    EXPECT_EQ(dialog.Text(ID_frmExport_lblColor), L"háttérszín :");
+    EXPECT_EQ(dialog.Text(ID_frmExport_optColor_0), L"fehér");
+    EXPECT_EQ(dialog.Text(ID_frmExport_optColor_1), L"fekete");
+    EXPECT_EQ(dialog.Text(ID_frmExport_optColor_2), L"tegye az összes címet egy mappa alá");
+    EXPECT_EQ(dialog.Text(ID_frmExport_optColor_3), L"létrehozni a kategóriák neveivel új mappákat");
+    EXPECT_EQ(dialog.Text(ID_frmExport_Label3), L"arculat");
+    EXPECT_EQ(dialog.Text(ID_frmExport_cmdBrowse), L"Tallózz ..");
     EXPECT_EQ(dialog.Text(ID_frmExport_cmdOK), L"&Exportálj ...");
+    EXPECT_EQ(dialog.Text(ID_frmExport_cmdCancel), L"&Mégse");
     EXPECT_EQ(dialog.Text(ID_frmExport_txtTitle), L"");
     EXPECT_EQ(dialog.Text(ID_frmExport_cmbTheme), L"");
     EXPECT_TRUE(dialog.IsChecked(ID_frmExport_optColor_0));
@@ -88,6 +137,26 @@ TEST_F(frmExportTest, ANamedThemeGreysTheColours) {
     EXPECT_TRUE(enabled_with(L"abcd"));
     EXPECT_FALSE(enabled_with(L"abcde"));
     EXPECT_TRUE(enabled_with(L""));
+    dialog.Cancel();
+    dialog.WaitForClose();
+}
+
+TEST_F(frmExportTest, LeavingTheThemeDecidesTheColoursToo) {
+    const DialogOnScreen dialog = Open();
+    const HWND combo = dialog.Control(ID_frmExport_cmbTheme);
+    bool enabled = true;
+    for (const wchar_t* const theme : {L"abcde", L"abcd", L"arculat.aut", L""}) {
+        program.OnUi([&](frmStart&) {
+            SetFocus(combo);
+            EXPECT_EQ(GetParent(GetFocus()), combo);
+        });
+        PutTheme(dialog, theme);
+        program.Settle();
+        ExpectColours(dialog, enabled);  // nothing was typed
+        program.OnUi([&](frmStart&) { SetFocus(dialog.Control(ID_frmExport_txtTitle)); });
+        enabled = !enabled;
+        ExpectColours(dialog, enabled);
+    }
     dialog.Cancel();
     dialog.WaitForClose();
 }
@@ -162,6 +231,22 @@ TEST_F(frmExportTest, AWebPageWithTitleAndBlackGround) {
               "<A HREF=http://elso.hu>Els\xF5</A><BR>\r\n<A HREF=x>Harmadik</A><BR>\r\n"
               "</td></tr></table></TD></TR>\r\n</TABLE><BR><BR><BR></BODY></HTML>");
     EXPECT_EQ(Counts(), CountsOf(0, 0));
+}
+
+TEST_F(frmExportTest, AWebPageGetsItsExtensionAlsoWhenATextWasWantedBefore) {
+    const DialogOnScreen dialog = Open();
+    SelectLine(dialog, 1);
+    dialog.Pick(ID_frmExport_cmbType, 1);
+    dialog.Click(ID_frmExport_cmdOK);
+    program.FileDialog().Cancel();
+    program.Settle();
+    dialog.Pick(ID_frmExport_cmbType, 0);
+    Export(dialog, folder.File(L"lap"), kPages);
+    dialog.WaitForClose();
+    EXPECT_EQ(folder.Names(), std::vector<std::wstring>{L"lap.htm"});
+    // Some systems' dialogs append the filter's extension and only need to be told that one is wanted.
+    EXPECT_EQ(program.Ask<std::wstring>([](frmStart& form) { return form.CommonDialog1.DefaultExt; }),
+              L"htm");
 }
 
 TEST_F(frmExportTest, ATypedThemeShapesThePage) {
@@ -259,6 +344,17 @@ TEST_F(frmExportTest, ASeventhFieldClosesTheDialogBeforeAFileIsMade) {
     EXPECT_EQ(Counts(), CountsOf(2, 0));  // the one that was not chosen is dropped, the other is not
 }
 
+TEST_F(frmExportTest, AMissingFolderForThemesIsMadeAndOffersNone) {
+    const MissingStyles missing;
+    const DialogOnScreen dialog = Open();
+    EXPECT_EQ(dialog.ComboItems(ID_frmExport_cmbTheme), std::vector<std::wstring>{});
+    EXPECT_TRUE(std::filesystem::is_directory(MissingStyles::Folder()));
+    std::error_code error;
+    EXPECT_TRUE(std::filesystem::is_empty(MissingStyles::Folder(), error)) << error.message();
+    dialog.Cancel();
+    dialog.WaitForClose();
+}
+
 TEST_F(frmExportTest, TheThemesBesideTheProgramAreOfferedByTheirPaths) {
     const std::filesystem::path styles = std::filesystem::path(ProgramFolder()) / L"styles";
     const bool was_there = std::filesystem::exists(styles);
@@ -331,6 +427,18 @@ TEST_F(frmExportTest, DecliningToOverwriteLeavesEverything) {
     dialog.WaitForClose();
     EXPECT_EQ(TemporaryFolder::Read(path), Header("Project5") + "\xB0 a:b\r\n  http://ab.hu\r\n");
     EXPECT_EQ(Counts(), CountsOf(0, 0));
+}
+
+TEST_F(frmExportTest, CancelChangesNothing) {
+    ExpectCancelChangesNothing(
+        program, [this] { return Open(); },
+        [](const DialogOnScreen& dialog) {
+            SelectLine(dialog, 0);
+            dialog.Pick(ID_frmExport_cmbType, 2);
+        },
+        ID_frmExport_cmdCancel);
+    EXPECT_EQ(Counts(), CountsOf(2, 1));
+    EXPECT_EQ(FilterOfMain(), L"Lindrel fájlok (*.lnd)|*.lnd");
 }
 
 TEST_F(frmExportTest, ACancelledSaveDialogLeavesTheDialogAndTheCounts) {

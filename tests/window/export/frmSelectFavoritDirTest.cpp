@@ -1,7 +1,7 @@
 // The choice of a folder, and the shortcut files in it.
 
-#include <algorithm>
 #include <filesystem>
+#include <map>
 #include <stdexcept>
 
 #include "book/Faults.h"
@@ -44,6 +44,17 @@ class frmSelectFavoritDirTest : public ExportSession {
         throw std::runtime_error("the file can be written");
     }
 
+    // Every file below the folder with what is in it.
+    using Files = std::map<std::wstring, std::string>;
+    static Files FilesBelow(const std::filesystem::path& folder) {
+        Files files;
+        for (const auto& entry : std::filesystem::recursive_directory_iterator(folder))
+            if (!entry.is_directory())
+                files.emplace(entry.path().lexically_relative(folder).wstring(),
+                              TemporaryFolder::Read(entry.path().wstring()));
+        return files;
+    }
+
     FavoritesFolder favorites;
 };
 
@@ -76,6 +87,28 @@ TEST_F(frmSelectFavoritDirTest, TheFolderChoiceStartsAtTheFavourites) {
     dialog.WaitForClose();
 }
 
+TEST_F(frmSelectFavoritDirTest, CancellingAfterAChoiceWritesNothingAndLeavesTheDialogOpen) {
+    const DialogOnScreen dialog = Open();
+    SelectLine(dialog, 0);
+    const auto choose_and_cancel = [&](const std::function<void(const DialogOnScreen&)>& cancel) {
+        const DialogOnScreen picker = OpenPicker(dialog);
+        Descend(picker, L"Lindrel próba");
+        cancel(picker);
+        program.Settle();
+        EXPECT_TRUE(dialog.IsOpen());
+        EXPECT_EQ(FilesBelow(FavoritesFolder::Path()), Files{});
+        EXPECT_EQ(Counts(), CountsOf(2, 0));
+    };
+    choose_and_cancel(
+        [](const DialogOnScreen& picker) { picker.ClickAndWaitForClose(ID_frmSelectFavoritDir_cmdCancel); });
+    choose_and_cancel([](const DialogOnScreen& picker) {
+        PostMessageW(picker.Control(ID_frmSelectFavoritDir_Dir1), WM_KEYDOWN, VK_ESCAPE, 1);
+        picker.WaitForClose();
+    });
+    dialog.Cancel();
+    dialog.WaitForClose();
+}
+
 TEST_F(frmSelectFavoritDirTest, AllFilesGoIntoTheChosenFolderAndTheNameChangesInTheBook) {
     const std::string before = program.BookBytes();
     const DialogOnScreen dialog = Open();
@@ -87,13 +120,10 @@ TEST_F(frmSelectFavoritDirTest, AllFilesGoIntoTheChosenFolderAndTheNameChangesIn
     picker.ClickAndWaitForClose(ID_frmSelectFavoritDir_cmdOk);
     dialog.WaitForClose();
     program.Settle();
-    std::vector<std::wstring> names;
-    for (const auto& entry : std::filesystem::directory_iterator(FavoritesFolder::Path() / L"Alsó"))
-        names.push_back(entry.path().filename().wstring());
-    std::sort(names.begin(), names.end());
-    EXPECT_EQ(names, (std::vector<std::wstring>{L"Első.url", L"Harmadik.url", L"a_b.url"}));
-    EXPECT_EQ(TemporaryFolder::Read((FavoritesFolder::Path() / L"Alsó" / L"a_b.url").wstring()),
-              "[InternetShortcut]\r\nURL=http://ab.hu");
+    EXPECT_EQ(FilesBelow(FavoritesFolder::Path()),
+              (Files{{L"Alsó\\Első.url", "[InternetShortcut]\r\nURL=http://elso.hu"},
+                     {L"Alsó\\Harmadik.url", "[InternetShortcut]\r\nURL=x"},
+                     {L"Alsó\\a_b.url", "[InternetShortcut]\r\nURL=http://ab.hu"}}));
     EXPECT_EQ(Counts(), CountsOf(0, 0));
     std::string expected = before;
     expected.replace(expected.find("a:b"), 3, "a_b");
@@ -107,17 +137,20 @@ TEST_F(frmSelectFavoritDirTest, EachCategoryHasAFolderOfItsOwn) {
     const DialogOnScreen dialog = Open();
     SelectLine(dialog, 0);
     SelectLine(dialog, 1);
+    dialog.Pick(ID_frmExport_cmbType, 2);
     dialog.Click(ID_frmExport_optColor_3);
+    program.Settle();
+    EXPECT_FALSE(dialog.IsChecked(ID_frmExport_optColor_2));
+    EXPECT_TRUE(dialog.IsChecked(ID_frmExport_optColor_3));
     const DialogOnScreen picker = OpenPicker(dialog);
     Descend(picker, L"Lindrel próba");
     picker.ClickAndWaitForClose(ID_frmSelectFavoritDir_cmdOk);
     dialog.WaitForClose();
-    const auto exists = [](const wchar_t* file) {
-        return std::filesystem::exists(FavoritesFolder::Path() / file);
-    };
-    EXPECT_TRUE(exists(L"Hírek\\Első.url"));
-    EXPECT_TRUE(exists(L"Hírek\\Harmadik.url"));
-    EXPECT_TRUE(exists(L"Project5\\a_b.url"));
+    EXPECT_EQ(FilesBelow(FavoritesFolder::Path()),
+              (Files{{L"Hírek\\Első.url", "[InternetShortcut]\r\nURL=http://elso.hu"},
+                     {L"Hírek\\Harmadik.url", "[InternetShortcut]\r\nURL=x"},
+                     {L"Project5\\a_b.url", "[InternetShortcut]\r\nURL=http://ab.hu"}}));
+    EXPECT_EQ(Counts(), CountsOf(0, 0));
 }
 
 TEST_F(frmSelectFavoritDirTest, AColonBehindThe255thCharacterEndsInTheReportAndLosesNothing) {
