@@ -73,7 +73,7 @@ class frmStart {
     StatusBar StatusBar1;
     lindrel::TrayArea TrayArea;
 
-    // Book and display.
+    // Book and display. Categories are numbered 1..12.
     void ResetBook();
     void UpdateTabCaptions();
     // Shows the entries of a category, none checked and none selected, and empties the text fields.

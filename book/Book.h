@@ -89,13 +89,20 @@ class Book {
     void SetSiteName(int index, std::string_view name);
     void SetSiteURL(int index, std::string_view url);
 
+    // The next three throw RangeFault for a category outside 1..12 or one that counts entries which the book
+    // does not have (loaded with too few headers). Whatever fault they throw, book and NewEntries are as they
+    // were.
+
     // Appends NewEntries at the end of a category, in their order, then empties NewEntries; only when the
-    // book was empty they are left as they are (intended: the next caller stages afresh).
+    // book was empty they are left as they are (intended: the next caller stages afresh). Throws
+    // OverflowFault when the book or the category would hold more than 32,767 entries.
     void AddEntry(int category);
-    // Removes `count` entries of a category from the 1-based position on.
+    // Removes `count` entries of a category from the 1-based position on. Throws RangeFault when they do not
+    // all lie in the category.
     void DeleteEntry(int category, int position, int count);
     // Takes the entry at a 0-based (intended, unlike DeleteEntry) offset of a category and appends it to
-    // another one, which must not be the same (ArgumentFault). Sets CheckedCount to 0.
+    // another one. Sets CheckedCount to 0. Throws RangeFault for an offset that the source does not have,
+    // ArgumentFault when source and destination are the same.
     void MoveEntry(int source, int offset, int destination);
 
     // Staging area of AddEntry.

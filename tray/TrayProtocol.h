@@ -20,11 +20,12 @@ struct TrayMouse {
 // The event of a mouse message's number; None for all that the icon does not know, the middle button's too.
 TrayMouse TrayMouseOf(std::uint64_t message);
 
-// Characters that the shell keeps of a tool tip.
+// Length of the field that the shell keeps a tool tip in.
 inline constexpr std::size_t kTipLength = 64;
 
 // A tool tip in the shell's record: the text and its NUL, filled up with blanks or cut off. A text that is
-// cut has no NUL in the field.
+// cut has no NUL in the field. Text and field are bytes of the machine's ANSI code page, in which the shell
+// reads the record; 64 counts bytes.
 std::array<char, kTipLength> TipField(std::string_view tip);
 
 // An icon's identifier, 1..65535, of a random number in [0, 1).
