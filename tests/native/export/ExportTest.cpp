@@ -225,7 +225,7 @@ TEST_F(ExportTest, FolderNamesAreMadeSafe) {
 
 TEST_F(ExportTest, TheDesktopsPathEndsAtTheFirstOtherCharacter) {
     const std::map<std::wstring, std::wstring> cases = {
-        {L"C:\\users\\root\\Desktop", L"C:\\USERS\\ROOT\\DESKTOP"},
+        {L"C:\\users\\Pista\\Desktop", L"C:\\USERS\\PISTA\\DESKTOP"},
         {L"C:\\users\\Kis Pista\\Desktop", L"C:\\USERS\\KIS"},
         {L"C:\\users\\anna2\\Desktop", L"C:\\USERS\\ANNA"},
         {L"C:\\users\\a.b\\Desktop", L"C:\\USERS\\A"},

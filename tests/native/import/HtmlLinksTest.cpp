@@ -5,6 +5,7 @@
 #include <string>
 
 #include "book/Faults.h"
+#include "export/HtmlPage.h"
 
 namespace lindrel {
 
@@ -80,6 +81,22 @@ TEST(HtmlLinksTest, AddressesWithoutQuotationMarksAreNotFound) {
               Links{});
 }
 
+TEST(HtmlLinksTest, PagesOfThisProgramsOwnExportHoldNone) {
+    Book book;
+    book.SetCategoryName(3, "<a href=\"http://kategoria.hu\">K</a>");
+    book.NewEntries = {{"H\xEDrek", "http://hirek.hu/"},
+                       {"<a href=\"http://nev.hu\">N\xE9v</a>", "http://lap.hu/?a=\"b\"&c=<a href=\"x\">"}};
+    book.AddEntry(3);
+    book.SavedCheckCounts(3) = 2;
+    book.SavedCheckLists(3) = {1, 2};
+    PageStyle style;
+    style.Title = L"<a href=\"http://cim.hu\">C</a>";
+    std::string page;
+    WriteHtmlPage(book, style, [&page](std::string_view bytes) { page.append(bytes); });
+    EXPECT_NE(page.find("<A HREF=http://hirek.hu/>"), std::string::npos) << page;
+    EXPECT_EQ(All(page), Links{});
+}
+
 TEST(HtmlLinksTest, AnythingThatEndsLikeAnAnchorIsOne) {
     EXPECT_EQ(All("<area href=\"terkep\">T\xE9rk\xE9p</a>"), (Links{{"t\xE9rk\xE9p", "terkep"}}));
 }
@@ -129,6 +146,30 @@ TEST(HtmlLinksTest, AnyLineEndIsOne) {
                                  std::string(end) + "<A HREF=\"3\">H\xC1ROM</A>";
         EXPECT_EQ(All(page), (Links{{"egy KETT\xD5", "1"}, {"h\xE1rom", "3"}}));
     }
+}
+
+constexpr std::size_t kLargePage = 200'000;
+
+TEST(HtmlLinksTest, ManyLinksOfALargePageWithBareCarriageReturns) {
+    std::string page;
+    Links expected;
+    for (int i = 0; page.size() < kLargePage; ++i) {
+        const std::string number = std::to_string(i);
+        page += "<P>" + Times(40, 'x') + "\r<A HREF=\"HTTP://LAP.HU/" + number + "\">EGY\rK\xC9T" + number +
+                "</A>\r";
+        expected.push_back({"egy K\xC9T" + number, "http://lap.hu/" + number});
+    }
+    EXPECT_EQ(Online(page), expected);
+}
+
+TEST(HtmlLinksTest, AnAnchorOverManyShortLinesOfALargePage) {
+    std::string page = "<a href=\"lap.htm\">N\xC9V";
+    while (page.size() < kLargePage) page += "\rX";
+    EXPECT_THROW(Online(page), EndOfFileFault);
+    page += "</a>\r<a href=\"http://ket.hu\">Kett\xF5</a>";
+    EXPECT_EQ(Online(page), (Links{{"kett\xF5", "http://ket.hu"}}));
+    // As a link its text would be too long.
+    EXPECT_THROW(All(page), OverflowFault);
 }
 
 TEST(HtmlLinksTest, PagesWithoutLinksGiveNone) {

@@ -3,12 +3,29 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <string>
+#include <vector>
 
 #include "resources/resource.h"
 #include "tests/window/support/Program.h"
 
 namespace lindrel::testing {
+
+// The main window and all of the book, also what no window shows of it.
+struct WholeState {
+    MainState Main;
+    std::string Book;  // as its file would be
+    std::vector<NewEntry> NewEntries;
+    bool operator==(const WholeState&) const = default;
+};
+
+inline void PrintTo(const WholeState& state, std::ostream* out) {
+    PrintTo(state.Main, out);
+    *out << state.Book;
+    for (const NewEntry& entry : state.NewEntries)
+        *out << "staged " << entry.SiteName << " " << entry.URL << "\n";
+}
 
 class ImportSession : public ::testing::Test {
   protected:
@@ -51,6 +68,15 @@ class ImportSession : public ::testing::Test {
                                            {"n", "http://n.hu"});
             form.TheBook.AddEntry(12);
         });
+    }
+    WholeState Whole() const {
+        WholeState state{program.State(), program.BookBytes(), {}};
+        program.OnUi([&state](frmStart& form) { state.NewEntries = form.TheBook.NewEntries; });
+        return state;
+    }
+    // Leaves an entry in the staging area, as a command before the import may have done.
+    void StageSomething() const {
+        program.OnUi([](frmStart& form) { form.TheBook.NewEntries = {{"maradt", "http://maradt.hu"}}; });
     }
     std::wstring FilterOfMain() const {
         return program.Ask<std::wstring>([](frmStart& form) { return form.CommonDialog1.Filter; });

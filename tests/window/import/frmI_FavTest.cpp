@@ -1,6 +1,7 @@
 // The choice of a folder of shortcut files, and their import.
 
 #include <filesystem>
+#include <memory>
 
 #include "book/Files.h"
 #include "export/Favorites.h"
@@ -28,6 +29,14 @@ class frmI_FavTest : public ImportSession {
     static void Write(const std::wstring& name, const std::string& bytes) {
         WriteFileBytes(FavoritesFolder::Path() / name, bytes);
     }
+    // The system's own words, without the full stop.
+    static std::wstring WordsOf(DWORD error) {
+        wchar_t text[256] = L"";
+        const DWORD length = FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
+                                            nullptr, error, 0, text, 256, nullptr);
+        const std::wstring words(text, length);
+        return words.substr(0, words.find_last_not_of(L"\r\n .") + 1);
+    }
     void ExpectReport(const std::wstring& text) {
         const UnsavedBook book(program);
         const DialogOnScreen dialog = Open();
@@ -39,7 +48,8 @@ class frmI_FavTest : public ImportSession {
 };
 
 TEST_F(frmI_FavTest, TheChoiceStartsAtTheFavouritesAndCancellingItIsSilent) {
-    const MainState before = program.State();
+    StageSomething();
+    const WholeState before = Whole();
     const DialogOnScreen dialog = Open();
     const DialogOnScreen picker = OpenPicker(dialog);
     EXPECT_EQ(picker.Text(ID_frmI_Fav_lblChoose),
@@ -57,7 +67,7 @@ TEST_F(frmI_FavTest, TheChoiceStartsAtTheFavouritesAndCancellingItIsSilent) {
     again.Cancel();
     program.Settle();
     Leave(dialog);
-    EXPECT_EQ(program.State(), before);
+    EXPECT_EQ(Whole(), before);
 }
 
 TEST_F(frmI_FavTest, EachFileBecomesAnEntryAndTheBookIsMarked) {
@@ -116,7 +126,8 @@ TEST_F(frmI_FavTest, TheExtensionIsCutByLengthWhateverItsCase) {
 
 TEST_F(frmI_FavTest, AFolderWithoutShortcutsIsReported) {
     Write(L"lap.htm", "x");
-    const MainState before = program.State();
+    StageSomething();
+    const WholeState before = Whole();
     const DialogOnScreen dialog = Open();
     ChooseFolder(dialog);
     const BoxOnScreen box = program.Box();
@@ -127,11 +138,12 @@ TEST_F(frmI_FavTest, AFolderWithoutShortcutsIsReported) {
     box.Press(IDOK);
     program.Settle();
     Leave(dialog);
-    EXPECT_EQ(program.State(), before);
+    EXPECT_EQ(Whole(), before);
 }
 
 TEST_F(frmI_FavTest, AFolderThatHasVanishedIsSilent) {
-    const MainState before = program.State();
+    StageSomething();
+    const WholeState before = Whole();
     const DialogOnScreen dialog = Open();
     const DialogOnScreen picker = OpenPicker(dialog);
     DescendTo(program, picker.Control(ID_frmI_Fav_Dir1), L"Lindrel próba");
@@ -140,7 +152,7 @@ TEST_F(frmI_FavTest, AFolderThatHasVanishedIsSilent) {
     program.Settle();
     Leave(dialog);
     EXPECT_TRUE(program.NothingIsOpen());
-    EXPECT_EQ(program.State(), before);
+    EXPECT_EQ(Whole(), before);
 }
 
 TEST_F(frmI_FavTest, Import255FilesWorks) {
@@ -173,6 +185,18 @@ TEST_F(frmI_FavTest, AFileOfOneLineEndsInTheReportAndLosesNothing) {
 TEST_F(frmI_FavTest, AShortSecondLineEndsInTheReportAndLosesNothing) {
     Write(L"a.url", "[InternetShortcut]\r\nab\r\n");
     ExpectReport(L"Futásidejű hiba: 5\r\n\r\nÉrvénytelen eljáráshívás vagy argumentum.");
+}
+
+TEST_F(frmI_FavTest, AFileThatSomebodyKeepsToHimselfEndsInTheReportAndLosesNothing) {
+    Write(L"a.url", ShortcutFile("http://jo.hu"));
+    Write(L"b.url", ShortcutFile("http://masik.hu"));
+    const std::wstring path = (FavoritesFolder::Path() / L"b.url").wstring();
+    const std::unique_ptr<void, decltype(&CloseHandle)> held(
+        CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr), &CloseHandle);
+    ASSERT_NE(held.get(), INVALID_HANDLE_VALUE);
+    const std::wstring words = WordsOf(ERROR_SHARING_VIOLATION);
+    EXPECT_NE(words, L"");
+    ExpectReport(L"Futásidejű hiba: 75\r\n\r\n" + path + L"\r\n" + words + L".");
 }
 
 TEST_F(frmI_FavTest, AFullBookEndsInTheReportAndLosesNothing) {

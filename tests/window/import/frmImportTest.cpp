@@ -73,8 +73,8 @@ class frmImportTest : public ImportSession {
     // Imports a page that fails: the message, if any, and that nothing at all is changed.
     void ExpectFailure(const std::string& page, const std::wstring& title) const {
         program.OnUi([](frmStart& form) { form.Modified = false; });
-        const MainState before = program.State();
-        const std::string book = program.BookBytes();
+        const WholeState before = Whole();
+        EXPECT_EQ(before.NewEntries, std::vector<NewEntry>{});
         const DialogOnScreen dialog = Open();
         dialog.Pick(ID_frmImport_cmbKateg, 4);
         Pick(dialog, Page(page));
@@ -90,10 +90,8 @@ class frmImportTest : public ImportSession {
         EXPECT_TRUE(dialog.IsOpen());
         Leave(dialog);
         EXPECT_TRUE(program.NothingIsOpen());
-        EXPECT_EQ(program.State(), before);
-        EXPECT_EQ(program.BookBytes(), book);
+        EXPECT_EQ(Whole(), before);
         EXPECT_EQ(FilterOfMain(), L"Lindrel fájlok (*.lnd)|*.lnd");
-        program.OnUi([](frmStart& form) { EXPECT_EQ(form.TheBook.NewEntries, std::vector<NewEntry>{}); });
     }
 
     const std::wstring kTooMany = L"Túl sok címet tartalmaz a weblap";
@@ -101,7 +99,8 @@ class frmImportTest : public ImportSession {
 };
 
 TEST_F(frmImportTest, OpensForAPageAndTheShownCategory) {
-    const MainState before = program.State();
+    StageSomething();
+    const WholeState before = Whole();
     const DialogOnScreen dialog = Open();
     EXPECT_EQ(dialog.Text(ID_frmImport_Frame1), L" forrás ");
     EXPECT_EQ(dialog.Text(ID_frmImport_from_0), L"weblap - HTML");
@@ -112,12 +111,12 @@ TEST_F(frmImportTest, OpensForAPageAndTheShownCategory) {
     EXPECT_EQ(dialog.Text(ID_frmImport_cmdCancel), L"&Mégse");
     EXPECT_TRUE(dialog.IsChecked(ID_frmImport_from_0));
     EXPECT_FALSE(dialog.IsChecked(ID_frmImport_from_1));
-    EXPECT_EQ(dialog.ComboItems(ID_frmImport_cmbKateg), before.Tabs);
+    EXPECT_EQ(dialog.ComboItems(ID_frmImport_cmbKateg), before.Main.Tabs);
     EXPECT_EQ(dialog.Picked(ID_frmImport_cmbKateg), 1);
     EXPECT_EQ(ToolTipOf(program, dialog.Control(ID_frmImport_cmbKateg)),
               L"az új címek ebbe a kategóriába importálódnak");
     Leave(dialog);
-    EXPECT_EQ(program.State(), before);
+    EXPECT_EQ(Whole(), before);
 }
 
 TEST_F(frmImportTest, LinksGoBehindTheEntriesOfTheChosenCategory) {
@@ -239,16 +238,14 @@ TEST_F(frmImportTest, HungarianNamesComeThroughInEveryEncoding) {
 }
 
 TEST_F(frmImportTest, APageWithoutLinksGivesZeroAndDoesNotMarkTheBook) {
-    MainState expected = program.State();
-    const std::string book = program.BookBytes();
+    WholeState expected = Whole();
     const DialogOnScreen dialog = Open();
     Pick(dialog, Page("<p>Semmi</p><a href=\"helyi.htm\">Helyi</a>"));
     AnswerResult(0);
     Leave(dialog);
-    expected.SelectedRow = 0;  // the list is filled anew all the same
-    expected.txtSite = expected.txtURL = expected.Status[0] = L"";
-    EXPECT_EQ(program.State(), expected);
-    EXPECT_EQ(program.BookBytes(), book);
+    expected.Main.SelectedRow = 0;  // the list is filled anew all the same
+    expected.Main.txtSite = expected.Main.txtURL = expected.Main.Status[0] = L"";
+    EXPECT_EQ(Whole(), expected);
 }
 
 TEST_F(frmImportTest, AnAddressTooLongForItsCounterChangesNothing) {
@@ -288,7 +285,8 @@ TEST_F(frmImportTest, ANearlyFullBookTakesWhatFitsAndNothingOfWhatDoesNot) {
 }
 
 TEST_F(frmImportTest, APageThatCannotBeReadChangesNothingWithoutAWord) {
-    const MainState before = program.State();
+    StageSomething();
+    const WholeState before = Whole();
     const std::wstring path = Page("<a href=\"http://a.hu\">A</a>");
     const HANDLE held = CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
     ASSERT_NE(held, INVALID_HANDLE_VALUE);
@@ -297,11 +295,12 @@ TEST_F(frmImportTest, APageThatCannotBeReadChangesNothingWithoutAWord) {
     program.Settle();
     Leave(dialog);
     CloseHandle(held);
-    EXPECT_EQ(program.State(), before);
+    EXPECT_EQ(Whole(), before);
 }
 
 TEST_F(frmImportTest, TheCancelledFileDialogEndsTheClick) {
-    const MainState before = program.State();
+    StageSomething();
+    const WholeState before = Whole();
     const DialogOnScreen dialog = Open();
     dialog.Click(ID_frmImport_cmdOK);
     program.FileDialog().Cancel();
@@ -310,11 +309,12 @@ TEST_F(frmImportTest, TheCancelledFileDialogEndsTheClick) {
     EXPECT_EQ(FilterOfMain(), L"weblapok (*.htm)|*.htm");  // put back when the dialog closes
     Leave(dialog);
     EXPECT_EQ(FilterOfMain(), L"Lindrel fájlok (*.lnd)|*.lnd");
-    EXPECT_EQ(program.State(), before);
+    EXPECT_EQ(Whole(), before);
 }
 
 TEST_F(frmImportTest, AMissingPageIsAskedForAgain) {
-    const MainState before = program.State();
+    StageSomething();
+    const WholeState before = Whole();
     const DialogOnScreen dialog = Open();
     Pick(dialog, folder.File(L"nincs.htm"));
     const BoxOnScreen box = program.Box();
@@ -326,7 +326,7 @@ TEST_F(frmImportTest, AMissingPageIsAskedForAgain) {
     again.Cancel();
     program.Settle();
     Leave(dialog);
-    EXPECT_EQ(program.State(), before);
+    EXPECT_EQ(Whole(), before);
 }
 
 }  // namespace

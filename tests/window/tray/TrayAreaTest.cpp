@@ -226,6 +226,30 @@ TEST_F(TrayAreaTest, ANewIconOfAShownOneModifiesIt) {
     EXPECT_TRUE(control->Visible());
 }
 
+TEST_F(TrayAreaTest, AChangeIsAnnouncedWhenTheShellHasHeardOfIt) {
+    using Announced = std::vector<std::pair<std::wstring, std::vector<DWORD>>>;
+    Announced announced;
+    control->PropertyChanged = [&announced](const wchar_t* name) {
+        std::vector<DWORD> operations;
+        for (const Call& call : Taken()) operations.push_back(call.Operation);
+        announced.emplace_back(name, operations);
+    };
+    control->SetToolTip(L"x");
+    control->SetVisible(true);
+    control->SetIcon(icon);
+    control->SetVisible(false);
+    control->SetVisible(true);
+    control->SetIcon(std::nullopt);
+    EXPECT_EQ(announced, (Announced{{L"ToolTip", {NIM_MODIFY}},
+                                    {L"Visible", {NIM_ADD}},
+                                    {L"Icon", {NIM_MODIFY}},
+                                    {L"Visible", {NIM_DELETE}},
+                                    {L"Visible", {NIM_ADD}},
+                                    {L"Visible", {NIM_DELETE}},
+                                    {L"Icon", {}}}));
+    EXPECT_EQ(Taken(), std::vector<Call>{});
+}
+
 TEST_F(TrayAreaTest, NoPictureAtAllRemovesTheShownIcon) {
     control->SetIcon(icon);
     const UINT identifier = Show();
@@ -404,17 +428,24 @@ TEST_F(TrayAreaTest, TheControlKeepsTheSizeOfItsPicture) {
     }
 }
 
-TEST_F(TrayAreaTest, WhileTheWindowIsDesignedNoIconIsAdded) {
+TEST_F(TrayAreaTest, WhileTheWindowIsDesignedNoIconIsAddedButRemoved) {
     const OwnerWindow drawing_board;
-    TrayArea designed;
-    designed.PropertyChanged = [this](const wchar_t* name) { changed.emplace_back(name); };
-    designed.Place(drawing_board.Handle(), TrayArea::Environment::Design);
-    EXPECT_EQ(GetParent(designed.Handle()), drawing_board.Handle());
-    EXPECT_NE(GetWindowLongW(designed.Handle(), GWL_STYLE) & WS_VISIBLE, 0);
-    designed.SetVisible(true);
+    auto designed = std::make_unique<TrayArea>();
+    designed->PropertyChanged = [this](const wchar_t* name) { changed.emplace_back(name); };
+    designed->Place(drawing_board.Handle(), TrayArea::Environment::Design);
+    EXPECT_EQ(GetParent(designed->Handle()), drawing_board.Handle());
+    EXPECT_NE(GetWindowLongW(designed->Handle(), GWL_STYLE) & WS_VISIBLE, 0);
+    designed->SetVisible(true);
     EXPECT_EQ(Taken(), std::vector<Call>{});
     EXPECT_EQ(changed, Texts{L"Visible"});
-    EXPECT_TRUE(designed.Visible());
+    EXPECT_TRUE(designed->Visible());
+
+    const std::vector removed{Call{NIM_DELETE, kSize, designed->Handle(), 0, 0, 0, nullptr, no_tip}};
+    designed->SetVisible(false);
+    EXPECT_EQ(Taken(), removed);
+    EXPECT_EQ(changed, (Texts{L"Visible", L"Visible"}));
+    designed.reset();
+    EXPECT_EQ(Taken(), removed);
 }
 
 // Pumps the messages of this thread until the answer is true.
