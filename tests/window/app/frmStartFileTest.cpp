@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <filesystem>
+#include <future>
 #include <thread>
 
 #include "book/BookFile.h"
@@ -24,10 +26,37 @@ class frmStartFileTest : public ::testing::Test {
     void Change(int category = 1) const {
         program.OnUi([category](frmStart& form) { AddOne(form, category); });
     }
+    // What the window shows after Change(), and the file of that book.
+    static MainState ChangedState() {
+        MainState state = EmptyState();
+        state.Rows = {{L"Név", L"http://nev.hu"}};
+        state.Status[1] = L"megjelenítve (1 / 1)";
+        state.Modified = true;
+        return state;
+    }
+    static std::string ChangedBook() { return OneEntryBook("N\xE9v\r\nhttp://nev.hu\r\n"); }
+    static std::string OneEntryBook(const std::string& entry) {
+        std::string bytes = "#Project1\r\n" + entry;
+        for (int k = 2; k <= 12; ++k) bytes += "#Project" + std::to_string(k) + "\r\n";
+        return bytes;
+    }
+    void ExpectState(const MainState& expected) const {
+        program.Settle();
+        EXPECT_TRUE(program.NothingIsOpen());
+        EXPECT_EQ(program.State(), expected);
+    }
     void ExpectSaveQuestion(const std::wstring& title, int answer) const {
         const BoxOnScreen box = program.Box();
         EXPECT_EQ(box.Title(), title);
         EXPECT_EQ(box.Text(), L"Kívánja menteni a módosításokat ?");
+        EXPECT_EQ(box.Buttons(), (std::vector<int>{IDYES, IDNO, IDCANCEL}));
+        EXPECT_EQ(box.Icon(), BoxIcon::Question);
+        box.Press(answer);
+    }
+    void ExpectOverwriteQuestion(const std::wstring& path, int answer) const {
+        const BoxOnScreen box = program.Box();
+        EXPECT_EQ(box.Title(), L"Lindrel");
+        EXPECT_EQ(box.Text(), L"A " + path + L" már létezik.\r\nFelülírjam a már létező fájlt?");
         EXPECT_EQ(box.Buttons(), (std::vector<int>{IDYES, IDNO, IDCANCEL}));
         EXPECT_EQ(box.Icon(), BoxIcon::Question);
         box.Press(answer);
@@ -41,15 +70,26 @@ class frmStartFileTest : public ::testing::Test {
         box.Press(IDOK);
     }
 
+    // What the system asks each window before the session ends. The answer comes with the user's.
+    std::future<LRESULT> QueryEndSession() const {
+        return std::async(std::launch::async, [window = program.Main()] {
+            DWORD_PTR answer = 0;
+            const auto deadline =
+                static_cast<UINT>(std::chrono::duration_cast<std::chrono::milliseconds>(kDeadline).count());
+            if (SendMessageTimeoutW(window, WM_QUERYENDSESSION, 0, 0, SMTO_NORMAL, deadline, &answer) == 0)
+                throw DeadlinePassed("the answer to the end of the session");
+            return static_cast<LRESULT>(answer);
+        });
+    }
+
     TemporaryFolder folder;
     Program program;
 };
 
 TEST_F(frmStartFileTest, StartsWithTheEmptyBook) {
-    const MainState state = program.State();
-    EXPECT_EQ(state.Title, L"Lindrel ");
-    EXPECT_EQ(state.Status[1], L"megjelenítve (0 / 0)");
-    EXPECT_EQ(state.Status[2], L"bejelölve 0");
+    EXPECT_EQ(program.State(), EmptyState());
+    EXPECT_EQ(program.BookBytes(), OneEntryBook(""));
+    EXPECT_EQ(program.Ask<int>([](frmStart& form) { return form.CurrentCategory; }), 1);
     EXPECT_FALSE(program.CommandEnabled(ID_mnuToDesktop));
 }
 
@@ -62,8 +102,74 @@ TEST_F(frmStartFileTest, SavingAnUnmodifiedBookDoesNothing) {
 
 TEST_F(frmStartFileTest, SaveAsDoesNothingForEntriesInTheTwelfthCategoryOnly) {
     Change(12);
-    program.Run(ID_mnuSaveAs);
-    EXPECT_TRUE(program.NothingIsOpen());
+    const MainState before = program.State();
+    program.Choose(ID_mnuSaveAs);
+    ExpectState(before);
+}
+
+TEST_F(frmStartFileTest, SavingABookThatWasNeverSavedAsksForAFileAndSetsTheTitle) {
+    Change();
+    const std::wstring path = folder.File(L"Első könyv.lnd");
+    program.Choose(ID_mnuSave);
+    const FileDialogOnScreen dialog = program.FileDialog();
+    EXPECT_EQ(dialog.Title(), L"File mentése");
+    dialog.Accept(path);
+    ExpectSaved(path);
+    MainState expected = ChangedState();
+    expected.Title = L"Lindrel -Első könyv.lnd";
+    expected.OpenedFile = path;
+    expected.Modified = false;
+    ExpectState(expected);
+    EXPECT_EQ(TemporaryFolder::Read(path), ChangedBook());
+    EXPECT_EQ(folder.Names(), std::vector<std::wstring>{L"Első könyv.lnd"});
+}
+
+TEST_F(frmStartFileTest, ACancelledSaveOfABookThatWasNeverSavedChangesNothing) {
+    Change();
+    for (const int command : {ID_mnuSave, ID_mnuSaveAs}) {
+        program.Choose(command);
+        program.FileDialog().Cancel();
+        ExpectState(ChangedState());
+    }
+}
+
+TEST_F(frmStartFileTest, ANameWithoutAnExtensionIsSavedAsABookFile) {
+    Change();
+    program.Choose(ID_mnuSave);
+    program.FileDialog().Accept(folder.File(L"könyv"));
+    ExpectSaved(folder.File(L"könyv.lnd"));
+    MainState expected = ChangedState();
+    expected.Title = L"Lindrel -könyv.lnd";
+    expected.OpenedFile = folder.File(L"könyv.lnd");
+    expected.Modified = false;
+    ExpectState(expected);
+    EXPECT_EQ(folder.Names(), std::vector<std::wstring>{L"könyv.lnd"});
+}
+
+// Wherever the last file was chosen.
+TEST_F(frmStartFileTest, FileDialogsStartInTheProgramsFolderWithBookFiles) {
+    wchar_t own[MAX_PATH] = L"";
+    ASSERT_NE(GetModuleFileNameW(nullptr, own, MAX_PATH), 0u);
+    const std::wstring program_folder = std::filesystem::path(own).parent_path().wstring();
+    const auto expect_dialog = [&](int command, const std::wstring& title, const std::wstring& file_name) {
+        program.Choose(command);
+        const FileDialogOnScreen dialog = program.FileDialog();
+        EXPECT_EQ(dialog.Title(), title);
+        EXPECT_EQ(dialog.Folder(), program_folder);
+        EXPECT_EQ(dialog.Filters(), std::vector<std::wstring>{L"Lindrel fájlok (*.lnd)"});
+        EXPECT_EQ(dialog.FileName(), file_name);
+        EXPECT_EQ(program.Ask<std::wstring>([](frmStart& form) { return form.CommonDialog1.Filter; }),
+                  L"Lindrel fájlok (*.lnd)|*.lnd");
+        return dialog;
+    };
+    const std::wstring path = folder.File(L"könyv.lnd");
+    Change();
+    expect_dialog(ID_mnuSave, L"File mentése", L"").Accept(path);
+    ExpectSaved(path);
+    expect_dialog(ID_mnuOpen, L"File megnyitása", L"").Accept(path);
+    program.Settle();
+    expect_dialog(ID_mnuSaveAs, L"File mentése", L"könyv.lnd").Cancel();
+    expect_dialog(ID_mnuOpen, L"File megnyitása", L"").Cancel();
 }
 
 TEST_F(frmStartFileTest, SavesAndOpensAgain) {
@@ -117,18 +223,95 @@ TEST_F(frmStartFileTest, SaveAsOntoAnExistingFileAsksAndKeepsTheRefusedPath) {
     const std::wstring path = folder.Write(L"van.lnd", "régi");
     program.Choose(ID_mnuSaveAs);
     program.FileDialog().Accept(path);
-    for (const int answer : {IDNO, IDCANCEL}) {
-        const BoxOnScreen box = program.Box();
-        EXPECT_EQ(box.Title(), L"Lindrel");
-        EXPECT_EQ(box.Text(), L"A " + path + L" már létezik.\r\nFelülírjam a már létező fájlt?");
-        EXPECT_EQ(box.Icon(), BoxIcon::Question);
-        box.Press(answer);
-        if (answer == IDNO) program.FileDialog().Accept(path);
-    }
-    program.Settle();
-    EXPECT_EQ(program.State().OpenedFile, path);
-    EXPECT_EQ(program.State().Title, L"Lindrel ");
+    ExpectOverwriteQuestion(path, IDNO);
+    program.FileDialog().Accept(path);
+    ExpectOverwriteQuestion(path, IDCANCEL);
+    MainState expected = ChangedState();
+    expected.OpenedFile = path;
+    ExpectState(expected);
     EXPECT_EQ(TemporaryFolder::Read(path), "régi");
+
+    // The refused path is the book's: the next save goes there, asks nothing and leaves the title.
+    program.Choose(ID_mnuSave);
+    ExpectSaved(path);
+    expected.Modified = false;
+    ExpectState(expected);
+    EXPECT_EQ(TemporaryFolder::Read(path), ChangedBook());
+}
+
+TEST_F(frmStartFileTest, SaveAsOntoAnExistingFileOverwritesItAfterYes) {
+    Change();
+    const std::wstring path = folder.Write(L"van.lnd", std::string(5000, '#'));
+    program.Choose(ID_mnuSaveAs);
+    program.FileDialog().Accept(path);
+    ExpectOverwriteQuestion(path, IDYES);
+    ExpectSaved(path);
+    MainState expected = ChangedState();
+    expected.Title = L"Lindrel -van.lnd";
+    expected.OpenedFile = path;
+    expected.Modified = false;
+    ExpectState(expected);
+    EXPECT_EQ(TemporaryFolder::Read(path), ChangedBook());
+    EXPECT_EQ(folder.Names(), std::vector<std::wstring>{L"van.lnd"});
+}
+
+TEST_F(frmStartFileTest, SaveAsAfterNoSavesUnderAnotherNameAndLeavesTheRefusedFile) {
+    Change();
+    const std::wstring refused = folder.Write(L"van.lnd", "régi");
+    const std::wstring path = folder.File(L"más.lnd");
+    program.Choose(ID_mnuSaveAs);
+    program.FileDialog().Accept(refused);
+    ExpectOverwriteQuestion(refused, IDNO);
+    program.FileDialog().Accept(path);
+    ExpectSaved(path);
+    MainState expected = ChangedState();
+    expected.Title = L"Lindrel -más.lnd";
+    expected.OpenedFile = path;
+    expected.Modified = false;
+    ExpectState(expected);
+    EXPECT_EQ(TemporaryFolder::Read(refused), "régi");
+    EXPECT_EQ(TemporaryFolder::Read(path), ChangedBook());
+}
+
+// Entries in the first, the third and the seventh category.
+constexpr char kThreeEntries[] =
+    "#H\xEDrek\r\nA\r\nhttp://a.hu\r\n#2\r\n#3\r\nC\r\nhttp://c.hu\r\n#4\r\n#5\r\n#6\r\n#7\r\nG\r\n"
+    "http://g.hu\r\n#8\r\n#9\r\n#10\r\n#11\r\n#12\r\n";
+
+TEST_F(frmStartFileTest, OpenShowsTheCategoryOfTheSelectedTabAndForgetsAllCheckMarks) {
+    program.Add(1, {{L"Régi", L"http://regi.hu"}});
+    program.Add(7, {{L"Hetedik", L"http://het.hu"}, {L"Másik", L"http://masik.hu"}});
+    program.ClickBox(1);
+    program.ClickTab(7);
+    program.ClickRow(2);
+    program.ClickBox(1);
+    const std::wstring path = folder.Write(L"három.lnd", kThreeEntries);
+    program.Choose(ID_mnuOpen);
+    program.FileDialog().Accept(path);
+    MainState expected;
+    expected.Title = L"Lindrel -három.lnd";
+    expected.Tabs = {L"Hírek", L"2", L"3", L"4", L"5", L"6", L"7", L"8", L"9", L"10", L"11", L"12"};
+    expected.SelectedTab = 7;
+    expected.Rows = {{L"G", L"http://g.hu"}};
+    expected.Status[1] = L"megjelenítve (1 / 3)";
+    expected.Status[2] = L"bejelölve 0";
+    expected.OpenedFile = path;
+    ExpectState(expected);
+    EXPECT_EQ(program.Ask<int>([](frmStart& form) { return form.CurrentCategory; }), 7);
+    EXPECT_EQ(program.BookBytes(), kThreeEntries);
+    EXPECT_TRUE(program.CommandEnabled(ID_mnuToDesktop));
+
+    program.ClickTab(1);
+    expected.SelectedTab = 1;
+    expected.Rows = {{L"A", L"http://a.hu"}};
+    EXPECT_EQ(program.State(), expected);
+    program.ClickTab(8);
+    program.Choose(ID_mnuClose);  // leaves the tab as well
+    expected = EmptyState();
+    expected.SelectedTab = 8;
+    ExpectState(expected);
+    EXPECT_FALSE(program.CommandEnabled(ID_mnuToDesktop));
+    EXPECT_EQ(program.BookBytes(), OneEntryBook(""));
 }
 
 TEST_F(frmStartFileTest, AMalformedFileLeavesTheOpenBook) {
@@ -261,6 +444,10 @@ TEST_F(frmStartFileTest, AFailedSaveSaysWhyChangesNothingAndCallsTheCommandOff) 
     ExpectSaveQuestion(L"A fájl módosult", IDYES);
     expect_failure();
     EXPECT_TRUE(IsWindow(program.Main()));
+    std::future<LRESULT> end_of_session = QueryEndSession();
+    ExpectSaveQuestion(L"A fájl módosult", IDYES);
+    expect_failure();
+    EXPECT_EQ(end_of_session.get(), FALSE);
     ASSERT_TRUE(SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL));
 }
 
@@ -340,11 +527,72 @@ TEST_F(frmStartFileTest, ClosingAsksWithItsOwnTitleAndCancelKeepsTheWindow) {
     Change();
     program.Close();
     ExpectSaveQuestion(L"A fájl módosult", IDCANCEL);
-    program.Settle();
-    EXPECT_TRUE(program.State().Modified);
+    ExpectState(ChangedState());
+    program.Choose(ID_mnuExit);
+    ExpectSaveQuestion(L"A fájl módosult", IDCANCEL);
+    ExpectState(ChangedState());
     program.Close();
     ExpectSaveQuestion(L"A fájl módosult", IDNO);
     EXPECT_EQ(program.WaitForEnd(), 0);
+}
+
+TEST_F(frmStartFileTest, ClosingWithYesSavesUnderAChosenNameAndEndsTheProgram) {
+    Change();
+    const std::wstring path = folder.File(L"vége.lnd");
+    program.Close();
+    ExpectSaveQuestion(L"A fájl módosult", IDYES);
+    program.FileDialog().Accept(path);
+    ExpectSaved(path);
+    EXPECT_EQ(program.WaitForEnd(), 0);
+    EXPECT_EQ(TemporaryFolder::Read(path), ChangedBook());
+}
+
+TEST_F(frmStartFileTest, ClosingWithYesSavesInTheBooksOwnFileWithoutADialog) {
+    Change();
+    const std::wstring path = folder.Write(L"van.lnd", "régi");
+    program.OnUi([&](frmStart& form) { form.OpenedFile = path; });
+    program.Close();
+    ExpectSaveQuestion(L"A fájl módosult", IDYES);
+    ExpectSaved(path);
+    EXPECT_EQ(program.WaitForEnd(), 0);
+    EXPECT_EQ(TemporaryFolder::Read(path), ChangedBook());
+}
+
+TEST_F(frmStartFileTest, ClosingWithYesAndACancelledSaveDialogLosesTheChangesAndEndsTheProgram) {
+    Change();
+    program.Close();
+    ExpectSaveQuestion(L"A fájl módosult", IDYES);
+    program.FileDialog().Cancel();
+    EXPECT_EQ(program.WaitForEnd(), 0);
+    EXPECT_EQ(folder.Names(), std::vector<std::wstring>{});
+}
+
+TEST_F(frmStartFileTest, TheEndOfTheSessionWaitsForTheAnswerAndLeavesTheWindow) {
+    EXPECT_EQ(QueryEndSession().get(), TRUE);  // nothing to ask
+    ExpectState(EmptyState());
+
+    Change();
+    std::future<LRESULT> answer = QueryEndSession();
+    ExpectSaveQuestion(L"A fájl módosult", IDCANCEL);
+    EXPECT_EQ(answer.get(), FALSE);
+    ExpectState(ChangedState());
+
+    answer = QueryEndSession();
+    ExpectSaveQuestion(L"A fájl módosult", IDNO);
+    EXPECT_EQ(answer.get(), TRUE);
+    ExpectState(ChangedState());
+
+    const std::wstring path = folder.File(L"vége.lnd");
+    answer = QueryEndSession();
+    ExpectSaveQuestion(L"A fájl módosult", IDYES);
+    program.FileDialog().Accept(path);
+    ExpectSaved(path);
+    EXPECT_EQ(answer.get(), TRUE);
+    MainState saved = ChangedState();
+    saved.OpenedFile = path;
+    saved.Modified = false;
+    ExpectState(saved);  // the save step leaves the title
+    EXPECT_EQ(TemporaryFolder::Read(path), ChangedBook());
 }
 
 }  // namespace

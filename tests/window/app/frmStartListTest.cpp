@@ -44,6 +44,17 @@ TEST_F(frmStartListTest, AFillShowsTheCategoryWithoutSelectionAndWithTheCounters
     EXPECT_TRUE(program.CommandEnabled(ID_mnuToDesktop));
 }
 
+TEST_F(frmStartListTest, ColumnsAndFieldsBearTheirCaptions) {
+    EXPECT_EQ(program.List().Columns(), (std::vector<std::wstring>{L"webhely neve", L"URL cime"}));
+    EXPECT_EQ(program.Ask<std::wstring>([](frmStart& form) { return form.lblSiteName.Text(); }),
+              L"Webhely neve");
+    EXPECT_EQ(program.Ask<std::wstring>([](frmStart& form) { return form.lblURL.Text(); }), L"URL");
+    // Screen readers name a field by the label before it.
+    for (const auto& [label, field] : {std::pair{ID_frmStart_lblSiteName, ID_frmStart_txtSite},
+                                       std::pair{ID_frmStart_lblURL, ID_frmStart_txtURL}})
+        EXPECT_EQ(GetDlgCtrlID(GetWindow(GetDlgItem(program.Main(), label), GW_HWNDNEXT)), field);
+}
+
 TEST_F(frmStartListTest, AnEmptyCategoryHasNoRowsAndNoDesktopCommand) {
     program.ClickTab(2);
     MainState expected = FirstCategory();
