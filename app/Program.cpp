@@ -29,25 +29,6 @@ class ComApartment {
     bool usable_;
 };
 
-std::wstring ReportText(int number, const std::wstring& meaning) {
-    return L"Futásidejű hiba: " + std::to_wstring(number) + L"\r\n\r\n" + meaning + L".";
-}
-
-// What the exception being handled means to the user.
-std::wstring ReportOfCurrentException() {
-    try {
-        throw;
-    } catch (const FileFault& fault) {
-        return ReportText(fault.Number(), fault.Path() + L"\r\n" + fault.Meaning());
-    } catch (const Fault& fault) {
-        return ReportText(fault.Number(), fault.Meaning());
-    } catch (const std::bad_alloc&) {
-        return ReportText(7, L"Elfogyott a memória");
-    } catch (...) {
-        return ReportText(51, L"Belső hiba");
-    }
-}
-
 int RunMessageLoop(frmStart& form) {
     MSG message{};
     while (const BOOL got = GetMessageW(&message, nullptr, 0, 0)) {
@@ -76,9 +57,11 @@ int RunProgram(HINSTANCE instance, int show) {
         form.Open(show);
         return RunMessageLoop(form);
     } catch (...) {
-        const std::wstring report = ReportOfCurrentException();
+        const Fault fault = CurrentFault();
+        const std::wstring number = std::to_wstring(fault.Number());
         try {
-            MsgBox(form.Handle(), report, MB_OK | MB_ICONERROR);
+            MsgBox(form.Handle(), L"Futásidejű hiba: " + number + L"\r\n\r\n" + fault.Meaning() + L".",
+                   MB_OK | MB_ICONERROR);
             form.OfferToSave(SaveQuestion::Closing);
         } catch (...) {
             // A second fault while the first is reported has nobody left to hear it.

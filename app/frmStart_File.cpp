@@ -90,7 +90,7 @@ frmStart::SaveAnswer frmStart::OfferToSave(SaveQuestion question, bool* saved) {
 
 // Shows the open or save dialog and keeps the picked path in OpenedFile. Returns whether one was picked.
 bool frmStart::ChooseBookFile(bool open) {
-    CommonDialog1.InitDir = ProgramFolder();
+    CommonDialog1.InitDir = ProgramFolder() + L"\\";  // a drive alone would mean its current folder
     CommonDialog1.DefaultExt = L"lnd";
     CommonDialog1.FileName = open ? L"" : FileNameOf(OpenedFile);
     try {
@@ -118,8 +118,8 @@ bool frmStart::LoadBook(const std::wstring& path) {
         if (malformed.Line() != 0) text += L"\r\n(" + std::to_wstring(malformed.Line()) + L". sor)";
         MsgBox(handle_, text, MB_OK | MB_ICONERROR, kTitle);
         return false;
-    } catch (const FileFault& fault) {
-        MsgBox(handle_, fault.Path() + L"\r\n" + fault.Meaning(), MB_OK | MB_ICONERROR, kTitle);
+    } catch (...) {
+        MsgBox(handle_, CurrentFault().Meaning(), MB_OK | MB_ICONERROR, kTitle);
         return false;
     }
     SetTitle(TitleOf(path));
@@ -133,8 +133,11 @@ bool frmStart::LoadBook(const std::wstring& path) {
 bool frmStart::SaveBook(const std::wstring& path) {
     try {
         lindrel::SaveBook(TheBook, std::filesystem::path(path));
-    } catch (const FileFault& fault) {
-        MsgBox(handle_, fault.Path() + L"\r\n" + fault.Meaning(), MB_OK | MB_ICONERROR, kErrorTitle);
+    } catch (const FileFault&) {
+        MsgBox(handle_, CurrentFault().Meaning(), MB_OK | MB_ICONERROR, kErrorTitle);
+        return false;
+    } catch (...) {
+        MsgBox(handle_, path + L"\r\n" + CurrentFault().Meaning(), MB_OK | MB_ICONERROR, kErrorTitle);
         return false;
     }
     Modified = false;

@@ -41,13 +41,20 @@ class RangeFault : public Fault {
     RangeFault() : Fault(9, L"Az index a tartományon kívül esik") {}
 };
 
+// Memory that the system does not give.
+class MemoryFault : public Fault {
+  public:
+    MemoryFault() : Fault(7, L"Elfogyott a memória") {}
+};
+
 // Reading past the end of a file.
 class EndOfFileFault : public Fault {
   public:
     EndOfFileFault() : Fault(62, L"Olvasás a fájl vége után") {}
 };
 
-// A file or folder that cannot be opened, created, read or written. Meaning() is the system's own reason.
+// A file or folder that cannot be opened, created, read or written. Meaning() is the system's own reason,
+// or in short what could not be done.
 class FileFault : public Fault {
   public:
     FileFault(std::wstring path, std::wstring reason)
@@ -57,5 +64,10 @@ class FileFault : public Fault {
   private:
     std::wstring path_;
 };
+
+// What the exception being handled is to the user: of a fault its own number and meaning (with the path
+// before it, when it has one), of any other exception those of missing memory or of an error of the program
+// itself. Only to be called while an exception is handled.
+Fault CurrentFault();
 
 }  // namespace lindrel

@@ -503,6 +503,36 @@ TEST_F(frmStartFileTest, AFileWithTooFewCategoriesIsLoadedWithAMessage) {
     EXPECT_EQ(program.State(), expected);
 }
 
+TEST_F(frmStartFileTest, ABookThatCannotBeWrittenOutIsKeptAndTheCommandCalledOff) {
+    for (int i = 0; i < 5; ++i) Change(11);
+    program.OnUi([](frmStart& form) { form.Modified = false; });
+    const std::wstring path = folder.Write(L"kevés.lnd", kElevenHeaders);
+    program.Choose(ID_mnuOpen);
+    program.FileDialog().Accept(path);
+    program.Box().Press(IDOK);
+    program.Settle();
+    program.OnUi([](frmStart& form) { form.Modified = true; });
+    const MainState before = program.State();
+    // Category 11 counts five entries of the book before, which nothing stands for.
+    const auto expect_refusal = [&] {
+        const BoxOnScreen box = program.Box();
+        EXPECT_EQ(box.Title(), L"Hiba");
+        EXPECT_EQ(box.Text(), path + L"\r\nAz index a tartományon kívül esik");
+        EXPECT_EQ(box.Buttons(), std::vector<int>{IDOK});
+        EXPECT_EQ(box.Icon(), BoxIcon::Error);
+        box.Press(IDOK);
+        program.Settle();
+        EXPECT_EQ(program.State(), before);
+        EXPECT_EQ(TemporaryFolder::Read(path), kElevenHeaders);
+        EXPECT_EQ(folder.Names(), std::vector<std::wstring>{L"kevés.lnd"});
+    };
+    program.Choose(ID_mnuSave);
+    expect_refusal();
+    program.Close();
+    ExpectSaveQuestion(L"A fájl módosult", IDYES);
+    expect_refusal();
+}
+
 TEST_F(frmStartFileTest, AFaultThatNobodyCatchesIsReportedAndEndsTheProgram) {
     for (int i = 0; i < 5; ++i) Change(11);
     program.OnUi([](frmStart& form) { form.Modified = false; });

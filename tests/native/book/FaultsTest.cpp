@@ -1,0 +1,35 @@
+#include "book/Faults.h"
+
+#include <gtest/gtest.h>
+
+#include <new>
+#include <stdexcept>
+
+namespace lindrel {
+namespace {
+
+template <typename Exception>
+std::pair<int, std::wstring> Report(const Exception& exception) {
+    try {
+        throw exception;
+    } catch (...) {
+        const Fault fault = CurrentFault();
+        return {fault.Number(), fault.Meaning()};
+    }
+}
+
+TEST(FaultsTest, EveryExceptionIsAFaultToTheUser) {
+    using Expected = std::pair<int, std::wstring>;
+    EXPECT_EQ(Report(ArgumentFault()), Expected(5, L"Érvénytelen eljáráshívás vagy argumentum"));
+    EXPECT_EQ(Report(OverflowFault()), Expected(6, L"Túlcsordulás"));
+    EXPECT_EQ(Report(RangeFault()), Expected(9, L"Az index a tartományon kívül esik"));
+    EXPECT_EQ(Report(EndOfFileFault()), Expected(62, L"Olvasás a fájl vége után"));
+    EXPECT_EQ(Report(FileFault(L"C:\\a.lnd", L"A hozzáférés megtagadva")),
+              Expected(75, L"C:\\a.lnd\r\nA hozzáférés megtagadva"));
+    EXPECT_EQ(Report(std::bad_alloc()), Expected(7, L"Elfogyott a memória"));
+    EXPECT_EQ(Report(std::length_error("too long")), Expected(7, L"Elfogyott a memória"));
+    EXPECT_EQ(Report(std::logic_error("never")), Expected(51, L"Belső hiba"));
+}
+
+}  // namespace
+}  // namespace lindrel
