@@ -98,18 +98,6 @@ std::filesystem::path TemporaryBeside(const std::filesystem::path& path) {
     return temporary;
 }
 
-void PutInPlace(const std::filesystem::path& temporary, const std::filesystem::path& path) {
-    const DWORD attributes = GetFileAttributesW(path.c_str());
-    if (attributes == INVALID_FILE_ATTRIBUTES) {
-        // Nothing to replace, which ReplaceFile would call an error.
-        if (!MoveFileExW(temporary.c_str(), path.c_str(), MOVEFILE_WRITE_THROUGH)) Fail(path);
-        return;
-    }
-    if (!ReplaceFileW(path.c_str(), temporary.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr,
-                      nullptr))
-        Fail(path);
-}
-
 }  // namespace
 
 std::wstring WideText(const std::filesystem::path& path) {
@@ -144,7 +132,10 @@ void ReplaceFileBytes(const std::filesystem::path& path, std::string_view bytes)
         file.Write(bytes);
         file.Flush();
         file.Close();
-        PutInPlace(temporary, path);
+        // In one step: at any moment there is the old file or the new one. (ReplaceFile, which would keep the
+        // old file's creation time, can fail with neither under its name.)
+        if (!MoveFileExW(temporary.c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
+            Fail(path);
     } catch (const FileFault& fault) {
         // Not there when it could not be created.
         static_cast<void>(DeleteFileW(temporary.c_str()));
