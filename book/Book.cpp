@@ -1,5 +1,7 @@
 #include "book/Book.h"
 
+#include <algorithm>
+
 namespace lindrel {
 
 Book::Book() {
@@ -40,9 +42,10 @@ void Book::SetSiteURL(int index, std::string_view url) {
 void Book::AddEntry(int category) {
     const int place = starts_(category) + counts_(category);
     const bool was_empty = IsEmpty();
-    if (NewEntries.size() > static_cast<std::size_t>(kMostEntries - (was_empty ? 0 : EntryCount())))
-        throw OverflowFault();
+    const int room = std::max(0, kMostEntries - (was_empty ? 0 : EntryCount()));
+    if (NewEntries.size() > static_cast<std::size_t>(room)) throw OverflowFault();
     const int added = static_cast<int>(NewEntries.size());
+    if (counts_(category) > kMostEntries - added) throw OverflowFault();
 
     if (was_empty)
         entries_.Recreate(added);
@@ -75,8 +78,10 @@ void Book::MoveEntry(int source, int offset, int destination) {
     const int from = starts_(source) + offset;
     const AddressEntry moved = entries_.At(from);
     const int behind = starts_(destination) + counts_(destination);
-    entries_.Remove(from, 1);
     const int to = source > destination ? behind : behind - 1;
+    // A book loaded with too few headers may count entries that it does not have.
+    if (to < 1 || to > entries_.Size()) throw RangeFault();
+    entries_.Remove(from, 1);
     entries_.Insert(to, 1);
     entries_.At(to) = moved;
 

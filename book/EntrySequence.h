@@ -24,8 +24,7 @@ class TextStore {
 
   private:
     std::vector<std::vector<char>> blocks_;
-    std::size_t used_ = 0;  // bytes taken of the last block that Keep() made
-    std::size_t room_ = 0;  // bytes left there
+    std::size_t room_ = 0;  // bytes left of the last block that Keep() made
     char* next_ = nullptr;
 };
 

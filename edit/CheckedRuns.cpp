@@ -19,8 +19,12 @@ std::vector<RowRun> CheckedRuns(int rows, const std::function<bool(int)>& is_che
     return runs;
 }
 
+// Both work on a copy, so that a fault at a later run leaves the book whole.
+
 void DeleteRuns(Book& book, int category, const std::vector<RowRun>& runs) {
-    for (const RowRun& run : runs) book.DeleteEntry(category, run.Position, run.Count);
+    Book rest = book;
+    for (const RowRun& run : runs) rest.DeleteEntry(category, run.Position, run.Count);
+    book = std::move(rest);
 }
 
 void MoveRuns(Book& book, int source, const std::vector<RowRun>& runs, int destination) {
@@ -32,9 +36,11 @@ void MoveRuns(Book& book, int source, const std::vector<RowRun>& runs, int desti
             staged.push_back({std::string(book.SiteNames(index)), std::string(book.SiteURLs(index))});
         }
     }
-    DeleteRuns(book, source, runs);
-    book.NewEntries = std::move(staged);
-    book.AddEntry(destination);
+    Book changed = book;
+    DeleteRuns(changed, source, runs);
+    changed.NewEntries = std::move(staged);
+    changed.AddEntry(destination);
+    book = std::move(changed);
 }
 
 }  // namespace lindrel

@@ -20,11 +20,12 @@ struct RowRun {
 // never shifts the rows of the next.
 std::vector<RowRun> CheckedRuns(int rows, const std::function<bool(int position)>& is_checked);
 
-// Removes the runs, in their order. They must be of one CheckedRuns() of this category (RangeFault
-// otherwise).
+// Removes the runs, in their order. They must be of one CheckedRuns() of this category: RangeFault otherwise,
+// and the book is as it was.
 void DeleteRuns(Book& book, int category, const std::vector<RowRun>& runs);
 
 // Takes the runs out of a category and appends their entries, in the order of the rows, to another one.
+// Throws and keeps the book as DeleteRuns() does.
 void MoveRuns(Book& book, int source, const std::vector<RowRun>& runs, int destination);
 
 }  // namespace lindrel

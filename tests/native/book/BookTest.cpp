@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include "book/BookFile.h"
+#include "edit/CheckedRuns.h"
+
 namespace lindrel {
 namespace {
 
@@ -155,6 +158,37 @@ TEST(BookTest, BadArgumentsAreFaultsThatChangeNothing) {
     EXPECT_THROW(book.SiteNames(4), RangeFault);
     EXPECT_EQ(NamesOf(book, 1), (Texts{"a", "b"}));
     EXPECT_EQ(NamesOf(book, 2), Texts{"c"});
+}
+
+// Loaded from a file with eleven headers: category 11 counts what it had in the book before.
+Book WithTooFewHeaders(int counted) {
+    Book book;
+    book.NewEntries.assign(static_cast<std::size_t>(counted), {"old", "http://old"});
+    book.AddEntry(11);
+    std::string file;
+    for (int k = 1; k <= 11; ++k) file += "#K\r\n";
+    file += "a\r\nhttp://a\r\nb\r\nhttp://b\r\n";
+    EXPECT_FALSE(LoadBook(book, std::vector<char>(file.begin(), file.end())));
+    return book;
+}
+
+TEST(BookTest, ABookThatCountsMoreThanItHasIsLeftAloneByFaults) {
+    Book book = WithTooFewHeaders(2);
+    EXPECT_EQ(book.EntryCount(), 4);
+    EXPECT_EQ(book.UpperBound(), 2);
+    EXPECT_THROW(book.MoveEntry(11, 0, 12), RangeFault);
+    EXPECT_THROW(MoveRuns(book, 11, {{1, 1}}, 12), RangeFault);
+    EXPECT_THROW(DeleteRuns(book, 12, {{2, 1}, {1, 1}}), RangeFault);
+    EXPECT_THROW(DeleteRuns(book, 11, {{1, 1}, {3, 1}}), RangeFault);
+    EXPECT_EQ(book.UpperBound(), 2);
+    EXPECT_EQ(NamesOf(book, 11), (Texts{"a", "b"}));
+    EXPECT_EQ(StartsOf(book), StartsOf(WithTooFewHeaders(2)));
+
+    Book full = WithTooFewHeaders(kMostEntries);
+    EXPECT_EQ(full.EntryCount(), kMostEntries + 2);
+    full.NewEntries = {{"m", "http://m"}};
+    EXPECT_THROW(full.AddEntry(1), OverflowFault);
+    EXPECT_EQ(full.UpperBound(), 2);
 }
 
 TEST(BookTest, RowsStayReadableAfterTheBookIsGone) {
