@@ -74,7 +74,9 @@ void frmStart::mnuDel_Click() {
         TheBook.DeleteEntry(SelectedCategory(), ListURLs.Selected(), 1);
         TheBook.CheckedCount = 0;
     }
+    const int place = ListURLs.Focused();
     FillAddressList(SelectedCategory());
+    ListURLs.Focus(place);
     Modified = true;
 }
 

@@ -53,8 +53,8 @@ void frmStart::SaveCheckMarks(int category) {
 void frmStart::RestoreCheckMarks(int category) {
     const std::int16_t count = TheBook.SavedCheckCounts(category);
     const std::vector<std::int16_t>& positions = TheBook.SavedCheckLists(category);
-    for (std::int16_t j = 0; j < count; ++j)
-        ListURLs.SetChecked(positions.at(static_cast<std::size_t>(j)), true);
+    if (positions.size() < static_cast<std::size_t>(count)) throw RangeFault();
+    ListURLs.CheckRows({positions.data(), static_cast<std::size_t>(count)});
 }
 
 void frmStart::SetAllChecks(bool value) {

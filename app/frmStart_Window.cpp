@@ -8,11 +8,6 @@
 
 namespace lindrel {
 
-namespace {
-constexpr int kColumnOfNames = 0;
-constexpr int kColumnOfAddresses = 1;
-}  // namespace
-
 HWND frmStart::CreateControl(const wchar_t* window_class, const wchar_t* text, DWORD style, int id,
                              DWORD extended_style) {
     const HWND control =
@@ -31,8 +26,8 @@ void frmStart::CreateControls() {
 
     ListURLs.Attach(CreateControl(WC_LISTVIEWW, L"Címek", WS_TABSTOP | CheckListView::kStyles,
                                   ID_frmStart_ListURLs, WS_EX_CLIENTEDGE));
-    ListURLs.AddColumn(L"webhely neve", 0);
-    ListURLs.AddColumn(L"URL cime", 0);
+    ListURLs.AddColumn(L"webhely neve", PixelsOf(3000, dpi_));
+    ListURLs.AddColumn(L"URL cime", PixelsOf(4250, dpi_));
     ListURLs.ItemClick = [this] { ListURLs_ItemClick(); };
     ListURLs.ItemCheck = [this](int position) { ListURLs_ItemCheck(position); };
     ListURLs.ColumnClick = [this] { ListURLs_ColumnClick(); };
@@ -50,6 +45,8 @@ void frmStart::CreateControls() {
         CreateControl(WC_BUTTONW, L"&keresés", BS_GROUPBOX, ID_frmStart_FrameSearch, WS_EX_TRANSPARENT));
     cmbFinders = ComboBox(
         CreateControl(WC_COMBOBOXW, L"", WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST, ID_frmStart_cmbFinders));
+    // Names the next field to screen readers only: who sees the frame and the picture needs no more words.
+    Control(CreateControl(WC_STATICW, L"keresett szöveg", SS_LEFT, ID_frmStart_lblFind)).Show(false);
     txtFind = TextBox(CreateControl(WC_EDITW, L"", kField, ID_frmStart_txtFind, WS_EX_CLIENTEDGE));
     Image1.Attach(
         CreateControl(WC_BUTTONW, L"Keresés", WS_TABSTOP | PictureButton::kStyle, ID_frmStart_Image1));
@@ -65,7 +62,7 @@ void frmStart::CreateControls() {
 
 // Fonts and what is measured in pixels, when the window is made and whenever screen or settings change.
 void frmStart::ApplyResolution() {
-    dpi_ = DpiOf(handle_);
+    const UINT before = std::exchange(dpi_, DpiOf(handle_));
     Font font(MessageFont(dpi_));
     for (HWND child = GetWindow(handle_, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
         SendMessageW(child, WM_SETFONT, reinterpret_cast<WPARAM>(font.Handle()), TRUE);
@@ -74,8 +71,7 @@ void frmStart::ApplyResolution() {
     font_ = std::move(font);
     ShowPictures();
     ListURLs.RemakeCheckBoxes();
-    ListURLs.SetColumnWidth(kColumnOfNames, PixelsOf(3000, dpi_));
-    ListURLs.SetColumnWidth(kColumnOfAddresses, PixelsOf(4250, dpi_));
+    ListURLs.ScaleColumns(before, dpi_);
 }
 
 void frmStart::OnMinMaxInfo(MINMAXINFO& info) const {

@@ -47,6 +47,13 @@ void CheckListView::SetColumnWidth(int column, int width_in_pixels) {
     static_cast<void>(ListView_SetColumnWidth(Handle(), column, width_in_pixels));
 }
 
+void CheckListView::ScaleColumns(UINT from_dpi, UINT to_dpi) {
+    const int columns = Header_GetItemCount(ListView_GetHeader(Handle()));
+    for (int column = 0; column < columns; ++column)
+        SetColumnWidth(column, MulDiv(ListView_GetColumnWidth(Handle(), column), static_cast<int>(to_dpi),
+                                      static_cast<int>(from_dpi)));
+}
+
 void CheckListView::RemakeCheckBoxes() {
     ListView_SetExtendedListViewStyleEx(Handle(), LVS_EX_CHECKBOXES, 0);
     ListView_SetExtendedListViewStyleEx(Handle(), LVS_EX_CHECKBOXES, LVS_EX_CHECKBOXES);
@@ -71,6 +78,17 @@ void CheckListView::SetChecked(int position, bool checked) {
 void CheckListView::SetAllChecked(bool checked) {
     checked_.assign(checked_.size(), checked);
     static_cast<void>(ListView_RedrawItems(Handle(), 0, Count() - 1));
+    TellScreenReaders(CHILDID_SELF);
+}
+
+void CheckListView::CheckRows(std::span<const std::int16_t> positions) {
+    for (const std::int16_t position : positions) checked_.at(static_cast<std::size_t>(position - 1)) = true;
+    static_cast<void>(ListView_RedrawItems(Handle(), 0, Count() - 1));
+}
+
+// The control does not know of the check marks, so it cannot tell of their changes.
+void CheckListView::TellScreenReaders(LONG row) const {
+    NotifyWinEvent(EVENT_OBJECT_STATECHANGE, Handle(), OBJID_CLIENT, row);
 }
 
 int CheckListView::Selected() const {
@@ -88,6 +106,17 @@ void CheckListView::Select(int position) {
 
 void CheckListView::EnsureVisible(int position) {
     static_cast<void>(ListView_EnsureVisible(Handle(), position - 1, FALSE));
+}
+
+int CheckListView::Focused() const {
+    return ListView_GetNextItem(Handle(), -1, LVNI_FOCUSED) + 1;
+}
+
+void CheckListView::Focus(int position) {
+    const int place = std::min(position, Count());
+    if (place < 1) return;
+    ListView_SetItemState(Handle(), place - 1, LVIS_FOCUSED, LVIS_FOCUSED);
+    EnsureVisible(place);
 }
 
 void CheckListView::ShowGridLines(bool shown) {
@@ -157,6 +186,7 @@ LRESULT CheckListView::FindRow(const NMLVFINDITEMW& search) const {
 
 void CheckListView::Toggle(int position) {
     SetChecked(position, !IsChecked(position));
+    TellScreenReaders(position);
     if (ItemCheck) ItemCheck(position);
 }
 
@@ -181,7 +211,7 @@ LRESULT CALLBACK CheckListView::Subclass(HWND list, UINT message, WPARAM first, 
             break;
         case WM_KEYDOWN:
             if (first == VK_SPACE && GetKeyState(VK_CONTROL) >= 0) {
-                const int focused = ListView_GetNextItem(list, -1, LVNI_FOCUSED) + 1;
+                const int focused = self->Focused();
                 Guarded<bool>(true, [&] {
                     if (focused >= 1 && focused <= self->Count()) self->Toggle(focused);
                     return true;

@@ -3,7 +3,9 @@
 // positions are 1-based.
 #pragma once
 
+#include <cstdint>
 #include <functional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -28,6 +30,8 @@ class CheckListView : public Control {
 
     void AddColumn(const std::wstring& caption, int width_in_pixels);
     void SetColumnWidth(int column, int width_in_pixels);
+    // Keeps each column as wide as it was, in inches, when the resolution changes.
+    void ScaleColumns(UINT from_dpi, UINT to_dpi);
     // Draws the check boxes anew, at the resolution that the window has now.
     void RemakeCheckBoxes();
 
@@ -40,12 +44,19 @@ class CheckListView : public Control {
     // By the program: raises no ItemCheck.
     void SetChecked(int position, bool checked);
     void SetAllChecked(bool checked);
+    // Checks the rows at these positions as well. Throws std::out_of_range for one that is not there.
+    void CheckRows(std::span<const std::int16_t> positions);
 
     // 0 when no row is selected.
     int Selected() const;
     // By the program: raises no ItemClick. The row has the focus rectangle too.
     void Select(int position);
     void EnsureVisible(int position);
+    // The row from which the arrow keys go on, selected or not; 0 for none.
+    int Focused() const;
+    // Gives the arrow keys their place without selecting a row. A position behind the last row means that
+    // one.
+    void Focus(int position);
 
     void ShowGridLines(bool shown);
     bool HasGridLines() const;
@@ -64,6 +75,7 @@ class CheckListView : public Control {
                                      DWORD_PTR data);
     bool ToggledByMouse(LPARAM point);
     void Toggle(int position);
+    void TellScreenReaders(LONG row) const;  // 1-based; CHILDID_SELF for all
     void FillCell(NMLVDISPINFOW& cell) const;
     LRESULT FindRow(const NMLVFINDITEMW& search) const;
 

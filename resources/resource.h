@@ -49,6 +49,7 @@
 #define ID_frmStart_Image1 1011
 #define ID_frmStart_StatusBar1 1012
 #define ID_frmStart_Toolbar 1013
+#define ID_frmStart_lblFind 1014
 #define ID_frmStart_Toolbar_1 1021
 #define ID_frmStart_Toolbar_2 1022
 #define ID_frmStart_Toolbar_3 1023
