@@ -215,6 +215,7 @@ void frmStart::Form_Load() {
         SetWindowPos(handle_, nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE));
     ResetBook();
     CurrentCategory = 1;
+    loaded_ = true;
 }
 
 void frmStart::ResetBook() {
@@ -251,7 +252,9 @@ bool frmStart::Form_QueryUnload() {
 }
 
 void frmStart::Form_Unload() {
-    PostQuitMessage(0);
+    // A window that could not be made has no loop to end: the quit would take the report of the failure with
+    // it.
+    if (loaded_) PostQuitMessage(0);
 }
 
 }  // namespace lindrel

@@ -176,6 +176,7 @@ class frmStart {
 
     // Tray mode.
     void TrayArea_MouseDown(std::int16_t& Button);
+    void LeaveTray();
 
     // Editing.
     void DeleteCheckedEntries();
@@ -200,6 +201,7 @@ class frmStart {
     HINSTANCE instance_;
     HWND handle_ = nullptr;
     HACCEL shortcuts_ = nullptr;
+    bool loaded_ = false;  // Form_Load did all its work
     HWND remembered_focus_ = nullptr;
     ReturnedFocus returned_focus_;
     UINT dpi_ = USER_DEFAULT_SCREEN_DPI;

@@ -22,10 +22,16 @@ void frmStart::mnuTray_Click() {
     static_cast<void>(ShowWindow(handle_, SW_HIDE));  // whether it was visible before
     TrayArea.SetToolTip(kApplicationTitle);
     TrayArea.SetVisible(true);
+    // Without an icon there would be no way back.
+    if (!TrayArea.IsTaken()) LeaveTray();
 }
 
 // Either button brings the window back.
 void frmStart::TrayArea_MouseDown(std::int16_t&) {
+    LeaveTray();
+}
+
+void frmStart::LeaveTray() {
     static_cast<void>(ShowWindow(handle_, SW_SHOW));
     // Refused while another program keeps the front; the window is there all the same.
     static_cast<void>(SetForegroundWindow(handle_));

@@ -84,8 +84,12 @@ void TrayArea::Place(HWND owner, Environment environment) {
 LRESULT CALLBACK TrayArea::OwnerSubclass(HWND window, UINT message, WPARAM first, LPARAM second, UINT_PTR,
                                          DWORD_PTR control) {
     // Under its old identifier: some taskbars that are called new still have the icon, and then refuse it.
-    if (message == TaskbarCreated() && reinterpret_cast<TrayArea*>(control)->added_)
-        reinterpret_cast<TrayArea*>(control)->AddIcon();
+    auto* const area = reinterpret_cast<TrayArea*>(control);
+    if (message == TaskbarCreated() && area->added_)
+        Guarded<int>(0, [area] {
+            area->AddIcon();
+            return 0;
+        });
     return DefSubclassProc(window, message, first, second);
 }
 
@@ -177,7 +181,7 @@ void TrayArea::SetIcon(Picture New_Icon) {
     } else if (properties_.Visible) {
         record_.uFlags = NIF_ICON;
         record_.hIcon = *New_Icon;
-        Tell(NIM_MODIFY);
+        static_cast<void>(Tell(NIM_MODIFY));
     }
     Announce(L"Icon");
 }
@@ -187,7 +191,7 @@ void TrayArea::SetToolTip(std::wstring_view New_ToolTip) {
     record_.uFlags = NIF_TIP;
     PutToolTip();
     // Shown or not (intended): when it is not, the call has no effect.
-    Tell(NIM_MODIFY);
+    static_cast<void>(Tell(NIM_MODIFY));
     Announce(L"ToolTip");
 }
 
@@ -214,18 +218,18 @@ void TrayArea::AddIcon() {
         record_.uFlags |= NIF_TIP;
         PutToolTip();
     }
-    Tell(NIM_ADD);
+    taken_ = Tell(NIM_ADD);
     added_ = true;
 }
 
 void TrayArea::RemoveIcon() {
-    Tell(NIM_DELETE);
-    added_ = false;
+    static_cast<void>(Tell(NIM_DELETE));
+    added_ = taken_ = false;
 }
 
-void TrayArea::Tell(DWORD operation) {
-    // Refused when the shell is not there or knows no such icon; the user then sees none.
-    static_cast<void>(NotifyShell(operation, &record_));
+// False when the shell is not there or knows no such icon; the user then sees none.
+bool TrayArea::Tell(DWORD operation) {
+    return NotifyShell(operation, &record_) != FALSE;
 }
 
 void TrayArea::PutToolTip() {

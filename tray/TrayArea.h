@@ -52,6 +52,8 @@ class TrayArea {
     const Picture& Icon() const { return properties_.Icon; }
     const std::wstring& ToolTip() const { return properties_.ToolTip; }
     bool Visible() const { return properties_.Visible; }
+    // Whether the shell has taken the icon. Not so while Visible is true: the user sees no icon.
+    bool IsTaken() const { return taken_; }
 
     // What the shell makes of a change is not looked at: an icon that it cannot add does not appear.
     void SetIcon(Picture New_Icon);  // no picture at all removes the icon from the notification area
@@ -84,7 +86,7 @@ class TrayArea {
 
     void AddIcon();
     void RemoveIcon();
-    void Tell(DWORD operation);
+    bool Tell(DWORD operation);
     void PutToolTip();
     void Announce(const wchar_t* name) const;
 
@@ -95,6 +97,7 @@ class TrayArea {
     HWND owner_ = nullptr;
     HWND handle_ = nullptr;
     bool added_ = false;     // the shell was told to show the icon
+    bool taken_ = false;     // and did
     bool resizing_ = false;  // by the control itself
 };
 

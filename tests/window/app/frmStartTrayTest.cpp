@@ -15,10 +15,11 @@ struct Call {
     NOTIFYICONDATAA Record{};
 };
 std::vector<Call> calls;
+bool refusing = false;
 
 BOOL WINAPI Record(DWORD operation, NOTIFYICONDATAA* record) {
     calls.push_back({operation, *record});
-    return TRUE;
+    return refusing ? FALSE : TRUE;
 }
 
 // A shell that only writes down, from before the program's start until after its end.
@@ -26,6 +27,7 @@ class RecordingShell {
   public:
     RecordingShell() {
         calls.clear();
+        refusing = false;
         TrayArea::NotifyShell = &Record;
     }
     ~RecordingShell() { TrayArea::NotifyShell = &Shell_NotifyIconA; }
@@ -104,6 +106,21 @@ TEST_F(frmStartTrayTest, TheWindowStartsShownWithoutAnIcon) {
     ExpectBack();
     EXPECT_NE(Icon(), nullptr);
     EXPECT_TRUE(Taken().empty());
+}
+
+TEST_F(frmStartTrayTest, WithoutAnIconTheWindowStays) {
+    const MainState before = program.State();
+    program.OnUi([](frmStart&) { refusing = true; });
+    program.Run(ID_mnuTray);
+    ExpectBack();
+    EXPECT_EQ(program.State(), before);
+    program.OnUi([](frmStart&) { refusing = false; });
+    static_cast<void>(Taken());
+    program.Run(ID_mnuTray);
+    ExpectInTray();
+    static_cast<void>(ExpectIconAdded());
+    Mouse(WM_LBUTTONDOWN);
+    ExpectBack();
 }
 
 TEST_F(frmStartTrayTest, EitherButtonBringsTheWindowBackAsItWas) {
