@@ -11,6 +11,8 @@ namespace lindrel {
 
 namespace {
 
+constexpr UINT kApplyResolution = WM_APP;
+
 // A DIALOGEX template begins with a fixed part, then menu, window class and title, each a text or a number
 // marked by 0xFFFF, then the font's size, weight, style and face.
 #pragma pack(push, 2)
@@ -184,8 +186,16 @@ INT_PTR Dialog::Handle(UINT message, WPARAM first, LPARAM second) {
         case WM_INITDIALOG: {
             const HWND before = GetFocus();
             Form_Load();
+            ApplyResolution(DpiOf(handle_));
             return GetFocus() == before ? TRUE : FALSE;
         }
+        case WM_DPICHANGED:
+            // Behind the dialog manager's own work. Where the message cannot be kept, its font stays.
+            static_cast<void>(PostMessageW(handle_, kApplyResolution, LOWORD(first), 0));
+            return FALSE;
+        case kApplyResolution:
+            ApplyResolution(static_cast<UINT>(first));
+            return TRUE;
         case WM_ACTIVATE:
             returned_focus_.OnActivate(first);
             return FALSE;

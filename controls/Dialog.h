@@ -41,6 +41,9 @@ class Dialog {
     // Before the dialog is first shown. Returning leaves the focus on the first control in the tab order
     // unless the handler has set it.
     virtual void Form_Load() {}
+    // Dresses what has a font or a picture of its own for a resolution: after Form_Load, and when the dialog
+    // has come to a screen of another one, where the dialog manager gives its font to every control.
+    virtual void ApplyResolution(UINT) {}
     // The dialog is about to close; its controls are still there.
     virtual void Form_Unload() {}
     // A control or menu item was used. `event` is the notification code (BN_CLICKED, EN_CHANGE, ...);

@@ -40,7 +40,6 @@ void frmFind::Form_Load() {
                                  {ID_frmFind_Command2, Growth::Stays, Growth::Moves},
                                  {ID_frmFind_Command3, Growth::Stays, Growth::Moves},
                                  {ID_frmFind_cmdDel, Growth::Moves, Growth::Moves}});
-    ApplyResolution(DpiOf(Handle()));
     // Half as high again as the smallest, so that there is room for hits.
     RECT window{};
     static_cast<void>(GetWindowRect(Handle(), &window));
@@ -95,7 +94,6 @@ bool frmFind::OnMessage(UINT message, WPARAM first, LPARAM second, LRESULT&) {
             // The dialog manager scales window and controls after this; the resize that it causes then places
             // the controls anew.
             anchors_.ChangeResolution(LOWORD(first));
-            ApplyResolution(LOWORD(first));
             return false;
         default:
             return false;
@@ -145,6 +143,10 @@ bool frmFind::ListView_KeyDown(WPARAM key) {
         case VK_DELETE:
             DeleteSelectedHit();
             return true;
+        case VK_RETURN:
+            // Not the default button's: a new search would take the check marks away.
+            ListView_DblClick();
+            return true;
         default:
             return false;
     }
@@ -163,7 +165,7 @@ void frmFind::cmdFind_Click() {
     });
     Get<Control>(ID_frmFind_lblSum_1).SetText(std::to_wstring(ListView.Count()));
     // The hit whose address stood there is no longer selected, and perhaps deleted.
-    Get<Control>(ID_frmFind_lblURL).SetText(L"");
+    ShowAddress(L"");
     CheckedHits = 0;
 }
 
@@ -172,9 +174,13 @@ const Hit* frmFind::SelectedHit() const {
     return row == 0 ? nullptr : &hits_.Items.at(static_cast<std::size_t>(row - 1));
 }
 
-void frmFind::ListView_Click() const {
-    if (const Hit* const hit = SelectedHit())
-        Get<Control>(ID_frmFind_lblURL).SetText(FromBookText(hit->Entry.URL));
+void frmFind::ShowAddress(const std::wstring& address) {
+    Get<Control>(ID_frmFind_lblURL).SetText(address);
+    SetToolTip(ID_frmFind_lblURL, address);
+}
+
+void frmFind::ListView_Click() {
+    if (const Hit* const hit = SelectedHit()) ShowAddress(FromBookText(hit->Entry.URL));
 }
 
 void frmFind::ListView_DblClick() const {
@@ -218,7 +224,9 @@ void frmFind::DeleteFromBook(const std::vector<int>& indices) {
     DeleteEntries(main_.TheBook, indices);
     main_.Modified = true;
     EntryDeleted = true;
+    const int place = ListView.Focused();
     cmdFind_Click();
+    ListView.Focus(place);
 }
 
 std::vector<int> frmFind::CheckedIndices() const {

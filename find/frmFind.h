@@ -19,6 +19,7 @@ class frmFind : public Dialog {
 
   private:
     void Form_Load() override;
+    void ApplyResolution(UINT dpi) override;
     void Form_Unload() override;
     void OnCommand(int id, int event) override;
     LRESULT OnNotify(const NMHDR& header) override;
@@ -31,15 +32,16 @@ class frmFind : public Dialog {
     void Command2_Click();
     void Command3_Click();
     void cmdDel_Click();
-    void ListView_Click() const;
+    void ListView_Click();
     void ListView_DblClick() const;
     void ListView_ItemCheck(int row);
     // True when the key is one of the list's own.
     bool ListView_KeyDown(WPARAM key);
 
     void LoadList();
-    void ApplyResolution(UINT dpi);
     void SizeColumns();
+    // The address below the list, in full as its tip, since a long one is cut.
+    void ShowAddress(const std::wstring& address);
     void SetAllChecks(bool value);
     void DeleteSelectedHit();
     // Removes the entries at these ascending indices and searches again, which numbers the hits anew.

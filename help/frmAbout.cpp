@@ -32,22 +32,24 @@ std::wstring VersionLine(int major, int minor, int revision) {
 frmAbout::frmAbout() : Dialog(IDD_frmAbout) {}
 
 void frmAbout::Form_Load() {
-    const UINT dpi = DpiOf(Handle());
     const std::wstring title = kApplicationTitle;
     static_cast<void>(SetWindowTextW(Handle(), (title + L" névjegye").c_str()));
     Get<Control>(ID_frmAbout_lblTitle).SetText(title);
     Get<Control>(ID_frmAbout_lblVersion)
         .SetText(VersionLine(LINDREL_VERSION_MAJOR, LINDREL_VERSION_MINOR, LINDREL_VERSION_REVISION));
     Get<Control>(ID_frmAbout_Label1).SetText(L"<a>" + std::wstring(kHomePage) + L"</a>");
-
-    icon_ = Picture(GetModuleHandleW(nullptr), IDI_frmStart,
-                    MulDiv(kIconSide, static_cast<int>(dpi), USER_DEFAULT_SCREEN_DPI));
-    SendMessageW(Item(ID_frmAbout_picIcon), STM_SETICON, reinterpret_cast<WPARAM>(icon_.Handle()), 0);
-    title_font_ = Font(TitleFont(dpi));
-    SendMessageW(Item(ID_frmAbout_lblTitle), WM_SETFONT, reinterpret_cast<WPARAM>(title_font_.Handle()),
-                 FALSE);
     // Not on the link, which comes first: Enter closes the box.
     FocusOn(ID_frmAbout_cmdOK);
+}
+
+void frmAbout::ApplyResolution(UINT dpi) {
+    Picture icon(GetModuleHandleW(nullptr), IDI_frmStart,
+                 MulDiv(kIconSide, static_cast<int>(dpi), USER_DEFAULT_SCREEN_DPI));
+    SendMessageW(Item(ID_frmAbout_picIcon), STM_SETICON, reinterpret_cast<WPARAM>(icon.Handle()), 0);
+    icon_ = std::move(icon);
+    Font title_font(TitleFont(dpi));
+    SendMessageW(Item(ID_frmAbout_lblTitle), WM_SETFONT, reinterpret_cast<WPARAM>(title_font.Handle()), TRUE);
+    title_font_ = std::move(title_font);
 }
 
 void frmAbout::OnCommand(int id, int) {

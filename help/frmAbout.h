@@ -18,6 +18,7 @@ class frmAbout : public Dialog {
 
   private:
     void Form_Load() override;
+    void ApplyResolution(UINT dpi) override;
     void OnCommand(int id, int event) override;
     LRESULT OnNotify(const NMHDR& header) override;
     void cmdOK_Click() { Unload(); }

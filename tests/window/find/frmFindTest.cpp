@@ -7,8 +7,10 @@
 #include <map>
 
 #include "resources/resource.h"
+#include "tests/window/support/Expectations.h"
 #include "tests/window/support/Program.h"
 #include "tests/window/support/RecordedShell.h"
+#include "tests/window/support/ToolTipOf.h"
 
 namespace lindrel::testing {
 namespace {
@@ -292,6 +294,60 @@ TEST_F(frmFindTest, AClickShowsTheAddressAndADoubleClickOpensIt) {
     dialog.List().DoubleClickRow(1);
     EXPECT_EQ(shell.NextAddress(), L"http://pelda.hu/két szó/ŰRHAJÓ?a=1&b=2");
     program.Settle();
+    dialog.Close();
+}
+
+TEST_F(frmFindTest, EnterInTheListOpensTheHitAndKeepsTheCheckMarks) {
+    const RecordedShell shell;
+    AddSixEntries();
+    const FindDialog dialog = Open();
+    dialog.Search(L"x");
+    dialog.List().ClickBox(1);
+    program.PressKey(dialog.List().Handle(), VK_RETURN);  // no hit is selected
+    dialog.ClickHit(4);
+    program.PressKey(dialog.List().Handle(), VK_RETURN);
+    EXPECT_EQ(shell.NextAddress(), L"http://4.hu");
+    EXPECT_EQ(shell.Addresses(), std::vector<std::wstring>{L"http://4.hu"});
+    EXPECT_EQ(dialog.List().Checked(), std::vector<int>{1});
+    EXPECT_EQ(dialog.List().Selected(), 4);
+    dialog.Close();
+}
+
+TEST_F(frmFindTest, TheWholeAddressIsTheTipOfTheLineThatMayCutIt) {
+    const std::wstring address = L"http://pelda.hu/" + std::wstring(60, L'a') + L"?a=1&b=2";
+    program.Add(1, {{L"hosszú", address}});
+    const FindDialog dialog = Open();
+    dialog.Search(L"");
+    const HWND line = dialog.Control(ID_frmFind_lblURL);
+    EXPECT_EQ(ToolTipOf(program, line), L"");
+    dialog.ClickHit(1);
+    EXPECT_EQ(ToolTipOf(program, line), address);
+    dialog.Search(L"");
+    EXPECT_EQ(ToolTipOf(program, line), L"");
+    dialog.Close();
+}
+
+TEST_F(frmFindTest, AnotherResolutionLeavesTheAddressInItsFixedPitch) {
+    AddSixEntries();
+    const FindDialog dialog = Open();
+    const LONG height = dialog.Font(ID_frmFind_lblURL).lfHeight;
+    ChangeResolution(program, dialog, 192);
+    EXPECT_EQ(std::wstring(dialog.Font(ID_frmFind_lblURL).lfFaceName), L"Courier New");
+    EXPECT_EQ(dialog.Font(ID_frmFind_lblURL).lfHeight, 2 * height);
+    dialog.Close();
+}
+
+TEST_F(frmFindTest, AfterADeletionTheArrowKeysGoOnFromTheSamePlace) {
+    AddSixEntries();
+    const FindDialog dialog = Open();
+    dialog.Search(L"x");
+    dialog.ClickHit(3);
+    PostMessageW(dialog.List().Handle(), WM_KEYDOWN, VK_DELETE, 1);
+    program.Box().Press(IDOK);
+    program.Settle();
+    EXPECT_EQ(dialog.List().Count(), 5);
+    EXPECT_EQ(dialog.List().Selected(), 0);
+    EXPECT_EQ(ListView_GetNextItem(dialog.List().Handle(), -1, LVNI_FOCUSED) + 1, 3);
     dialog.Close();
 }
 

@@ -9,6 +9,7 @@
 
 #include "Version.h"
 #include "resources/resource.h"
+#include "tests/window/support/Expectations.h"
 #include "tests/window/support/OpenedAddresses.h"
 #include "tests/window/support/Program.h"
 
@@ -46,6 +47,16 @@ class frmAboutTest : public ::testing::Test {
 
     Program program;
 };
+
+TEST_F(frmAboutTest, AnotherResolutionLeavesTheTitleBoldAndLarge) {
+    const DialogOnScreen dialog = Open();
+    const LONG height = dialog.Font(ID_frmAbout_lblTitle).lfHeight;
+    ChangeResolution(program, dialog, 192);
+    EXPECT_EQ(dialog.Font(ID_frmAbout_lblTitle).lfWeight, FW_BOLD);
+    EXPECT_EQ(dialog.Font(ID_frmAbout_lblTitle).lfHeight, 2 * height);
+    dialog.Cancel();
+    program.Settle();
+}
 
 TEST_F(frmAboutTest, ShowsEveryTextToTheLetter) {
     const DialogOnScreen dialog = Open();

@@ -2,6 +2,7 @@
 
 #include <commdlg.h>
 #include <dlgs.h>
+#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <stdexcept>
@@ -217,6 +218,14 @@ int DialogOnScreen::Focus() const {
     if (!GetGUIThreadInfo(GetWindowThreadProcessId(dialog_, nullptr), &info) || info.hwndFocus == nullptr)
         return 0;
     return GetDlgCtrlID(info.hwndFocus);
+}
+
+LOGFONTW DialogOnScreen::Font(int id) const {
+    LOGFONTW description{};
+    EXPECT_NE(GetObjectW(reinterpret_cast<HFONT>(SendMessageW(Control(id), WM_GETFONT, 0, 0)),
+                         sizeof description, &description),
+              0);
+    return description;
 }
 
 void DialogOnScreen::Cancel() const {

@@ -55,6 +55,8 @@ class DialogOnScreen {
     std::pair<int, int> Selection(int id) const;
     // Id of the control that has the focus in the dialog's thread, 0 for none.
     int Focus() const;
+    // The description of a control's font.
+    LOGFONTW Font(int id) const;
     // Esc: what the title bar's button does too.
     void Cancel() const;
     void WaitForClose() const;

@@ -23,6 +23,19 @@ void ExpectCancelChangesNothing(const Program& program, const std::function<Dial
     });
 }
 
+void ChangeResolution(const Program& program, const DialogOnScreen& dialog, int dpi) {
+    program.OnUi([&](frmStart&) {
+        RECT place{};
+        EXPECT_TRUE(GetWindowRect(dialog.Handle(), &place));
+        SendMessageW(dialog.Handle(), WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&place));
+        const auto font = static_cast<WPARAM>(SendMessageW(dialog.Handle(), WM_GETFONT, 0, 0));
+        for (HWND control = GetWindow(dialog.Handle(), GW_CHILD); control != nullptr;
+             control = GetWindow(control, GW_HWNDNEXT))
+            SendMessageW(control, WM_SETFONT, font, FALSE);
+    });
+    program.Settle();
+}
+
 UnsavedBook::UnsavedBook(Program& program)
     : program_(program), file_(folder_.File(L"könyv.lnd")), before_(program.BookBytes()) {
     program_.OnUi([this](frmStart& form) {

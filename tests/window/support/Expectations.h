@@ -13,6 +13,10 @@ namespace lindrel::testing {
 void ExpectCancelChangesNothing(const Program& program, const std::function<DialogOnScreen()>& open,
                                 const std::function<void(const DialogOnScreen&)>& change, int cancel_button);
 
+// Tells a dialog that it has come to a screen of another resolution and does what the dialog manager does
+// then: every control gets the dialog's font.
+void ChangeResolution(const Program& program, const DialogOnScreen& dialog, int dpi);
+
 // A changed book, with a file to be saved in, that a fault must not lose.
 class UnsavedBook {
   public:
