@@ -75,7 +75,8 @@ void CheckBox::SetChecked(bool checked) const {
 }
 
 void ComboBox::Add(std::wstring_view text) const {
-    Send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(std::wstring(text).c_str()));
+    const std::wstring terminated(text);
+    if (Send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(terminated.c_str())) < 0) throw std::bad_alloc();
 }
 
 void ComboBox::Clear() const {

@@ -6,11 +6,14 @@ namespace lindrel {
 
 namespace {
 
+// A blank for each line end: CR LF, CR or LF.
 std::wstring OneLine(std::wstring_view text) {
     std::wstring line;
+    wchar_t before = 0;
     for (const wchar_t character : text) {
-        if (character == L'\r') continue;
-        line.push_back(character == L'\n' ? L' ' : character);
+        const bool ends_line = character == L'\r' || character == L'\n';
+        if (before != L'\r' || character != L'\n') line.push_back(ends_line ? L' ' : character);
+        before = character;
     }
     return line;
 }

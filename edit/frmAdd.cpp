@@ -16,6 +16,7 @@ frmAdd::frmAdd(frmStart& main)
 
 void frmAdd::Form_Load() {
     FillCategories();
+    SetToolTip(ID_frmAdd_cmdEmail, L"váltás a http:// és a mailto: kezdet között");
     const std::optional<std::wstring> address = AddressFromClipboard(ClipboardText(Handle()));
     clipboard_used_ = address.has_value();
     txtURL().SetText(address.value_or(kBareWebAddress));

@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "book/BookText.h"
-
 #include "book/Files.h"
 #include "export/ExportedEntries.h"
 #include "export/Shortcut.h"
@@ -45,7 +44,8 @@ std::vector<ShortcutToWrite> PlanShortcuts(const Book& book, const std::filesyst
 void CreateFolder(const std::filesystem::path& folder) {
     std::error_code error;
     std::filesystem::create_directory(folder, error);
-    if (error && !std::filesystem::is_directory(folder))
+    std::error_code unknown;
+    if (error && !std::filesystem::is_directory(folder, unknown))
         throw FileFault(WideText(folder), L"A mappa nem hozható létre");
 }
 
@@ -53,8 +53,10 @@ void CreateFolder(const std::filesystem::path& folder) {
 
 void saveTo_fav(Book& book, const std::filesystem::path& folder, bool folder_for_each_category) {
     const std::vector<ShortcutToWrite> plan = PlanShortcuts(book, folder, folder_for_each_category);
+    std::filesystem::path created;
     for (const ShortcutToWrite& shortcut : plan) {
-        if (folder_for_each_category) CreateFolder(shortcut.Folder);
+        if (folder_for_each_category && shortcut.Folder != created) CreateFolder(shortcut.Folder);
+        created = shortcut.Folder;
         WriteFileBytes(shortcut.Folder / PathOf(shortcut.SafeName + ".url"),
                        ShortcutFile(book.SiteURLs(shortcut.Entry)));
     }

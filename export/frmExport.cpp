@@ -45,7 +45,7 @@ void frmExport::Form_Load() {
 }
 
 void frmExport::FillThemes() const {
-    const std::filesystem::path styles = std::filesystem::path(ProgramFolder()) / L"styles";
+    const std::filesystem::path styles = ProgramFolder() + L"\\styles";
     std::error_code error;
     // Without the folder, or the right to make it, there are just no themes.
     if (std::filesystem::create_directory(styles, error)) return;

@@ -29,14 +29,17 @@ struct ShortcutFile {
 
 std::vector<ShortcutFile> FilesOf(const std::filesystem::path& folder) {
     std::vector<ShortcutFile> files;
+    // A folder that may not be looked into has no files. One that breaks off has no knowing how many.
     std::error_code error;
-    for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
-         entry.increment(error)) {
+    std::filesystem::directory_iterator entry(folder, error);
+    while (!error && entry != std::filesystem::directory_iterator()) {
         const std::wstring name = NameOfFile(entry->path());
         // What cannot be asked is taken for a file: reading it then tells what is wrong.
         std::error_code unknown;
         if (IsShortcutName(name) && !entry->is_directory(unknown))
             files.push_back({ToBookText(name), entry->path()});
+        entry.increment(error);
+        if (error) throw FileFault(WideText(folder), L"A mappa nem olvasható végig");
     }
     std::sort(files.begin(), files.end(), [](const ShortcutFile& a, const ShortcutFile& b) {
         return std::pair(LowerCase(a.Name), a.Path) < std::pair(LowerCase(b.Name), b.Path);

@@ -9,8 +9,9 @@ namespace lindrel {
 
 // Place of the end of the line that a place (0..size) is on: its CR or LF, or the text's size.
 inline std::size_t EndOfLine(std::string_view text, std::size_t from) {
-    const std::size_t feed = std::min(text.find('\n', from), text.size());
-    return from + std::min(text.substr(from, feed - from).find('\r'), feed - from);
+    const auto ends_line = [](char character) { return character == '\n' || character == '\r'; };
+    const auto begin = text.begin() + static_cast<std::ptrdiff_t>(from);
+    return static_cast<std::size_t>(std::find_if(begin, text.end(), ends_line) - text.begin());
 }
 
 // Place behind the line end that stands at a place; the text's size at its end.

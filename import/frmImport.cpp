@@ -1,5 +1,6 @@
 #include "import/frmImport.h"
 
+#include <exception>
 #include <filesystem>
 #include <utility>
 
@@ -96,9 +97,9 @@ void frmImport::cmdOK_Click() {
         MsgBox(Handle(), kFailed, MB_OK, L"Túl sok címet tartalmaz a weblap");
     } catch (const EndOfFileFault&) {
         MsgBox(Handle(), kFailed, MB_OK, L"Hibás a weblap");
-    } catch (const Fault&) {
-        // The cancelled file dialog, a page that cannot be read, an address without quotation mark: no
-        // message (intended).
+    } catch (const std::exception&) {
+        // The cancelled file dialog, a page that cannot be read or is too large for the memory, an address
+        // without quotation mark: no message (intended).
         return;
     }
 }

@@ -42,6 +42,7 @@ TEST(ClipboardAddressTest, PlainWordsAndNothingAreNoAddress) {
 
 TEST(ClipboardAddressTest, LineBreaksCountAsBlanks) {
     EXPECT_EQ(AddressFromClipboard(L"\r\n http://a.hu\r\n"), L"http://a.hu");
+    EXPECT_EQ(AddressFromClipboard(L"a\r\nwww.b.hu\rc\nd\n\re"), L"http://a www.b.hu c d  e");
     EXPECT_EQ(AddressFromClipboard(L"cím:\nhttp://a.hu"), L"cím: http://a.hu");
 }
 
