@@ -2,13 +2,52 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
+#include <ostream>
 
 #include "resources/resource.h"
 #include "tests/window/support/Program.h"
 
 namespace lindrel::testing {
 namespace {
+
+struct Extent {
+    int Width = 0;
+    int Height = 0;
+    bool operator==(const Extent&) const = default;
+};
+void PrintTo(const Extent& extent, std::ostream* out) {
+    *out << extent.Width << " x " << extent.Height;
+}
+
+// The sizes that the window takes, noted at each WM_SIZE. The form alone keeps it from becoming too small:
+// the least size that it names to the system is dropped.
+std::vector<Extent> sizes_taken;
+LRESULT CALLBACK NoteSizes(HWND window, UINT message, WPARAM first, LPARAM second, UINT_PTR id, DWORD_PTR) {
+    if (message == WM_NCDESTROY) RemoveWindowSubclass(window, &NoteSizes, id);
+    if (message == WM_SIZE) {
+        RECT outer{};
+        EXPECT_TRUE(GetWindowRect(window, &outer));
+        sizes_taken.push_back(
+            {static_cast<int>(outer.right - outer.left), static_cast<int>(outer.bottom - outer.top)});
+    }
+    const LRESULT result = DefSubclassProc(window, message, first, second);
+    if (message == WM_GETMINMAXINFO) reinterpret_cast<MINMAXINFO*>(second)->ptMinTrackSize = {0, 0};
+    return result;
+}
+
+// Left, top, right and bottom in the client area, in pixels.
+struct Edges {
+    int Left = 0;
+    int Top = 0;
+    int Right = 0;
+    int Bottom = 0;
+    bool operator==(const Edges&) const = default;
+};
+void PrintTo(const Edges& edges, std::ostream* out) {
+    *out << "(" << edges.Left << ", " << edges.Top << ")-(" << edges.Right << ", " << edges.Bottom << ")";
+}
 
 class frmStartLayoutTest : public ::testing::Test {
   protected:
@@ -42,6 +81,70 @@ class frmStartLayoutTest : public ::testing::Test {
         return places;
     }
 
+    static Edges EdgesOf(const RECT& place) {
+        return {static_cast<int>(place.left), static_cast<int>(place.top), static_cast<int>(place.right),
+                static_cast<int>(place.bottom)};
+    }
+    // Where the layout puts every control in a window of the present size; of the drop-down list, whose
+    // height is the system's, the other edges.
+    std::map<int, Edges> LaidOutPlaces() const {
+        const UINT dpi = Dpi();
+        RECT client{};
+        EXPECT_TRUE(GetClientRect(program.Main(), &client));
+        const RECT status = Places().at(ID_frmStart_StatusBar1);
+        const int width = TwipsOf(Size().cx, dpi);
+        const int height = TwipsOf(Size().cy, dpi);
+        const int client_width = TwipsOf(client.right, dpi);
+        const int client_height = TwipsOf(client.bottom, dpi);
+        const int status_height = TwipsOf(status.bottom - status.top, dpi);
+
+        std::map<int, Edges> places;
+        const auto put = [&](int id, int left, int top, int wide, int high) {
+            places[id] = {PixelsOf(left, dpi), PixelsOf(top, dpi), PixelsOf(left + wide, dpi),
+                          PixelsOf(top + high, dpi)};
+        };
+        put(ID_frmStart_TabStrip1, 0, 570, std::min(width - 120, client_width), 345);
+        const int list_top = 930;
+        const int list_height =
+            std::min(height - (list_top + status_height) - 720, client_height - status_height - list_top);
+        put(ID_frmStart_ListURLs, 120, list_top, width - 3800, list_height);
+        const int column = width - 3450;
+        put(ID_frmStart_lblSiteName, column, 930, 3210, 225);
+        put(ID_frmStart_txtSite, column, 1170, 3210, 330);
+        put(ID_frmStart_lblURL, column, 1590, 3210, 225);
+        put(ID_frmStart_txtURL, column, 1830, 3210, 330);
+        put(ID_frmStart_picGo, column + 2130, 2220, 1080, 375);
+        const int frame_top = list_top + list_height - 1200;
+        put(ID_frmStart_FrameSearch, column, frame_top, 3210, 1200);
+        put(ID_frmStart_cmbFinders, column + 150, frame_top + 270, 2910, 345);
+        put(ID_frmStart_txtFind, column + 150, frame_top + 705, 2415, 330);
+        put(ID_frmStart_Image1, column + 2625, frame_top + 690, 435, 360);
+        places[ID_frmStart_cmbFinders].Bottom = 0;
+        places[ID_frmStart_StatusBar1] = {0, static_cast<int>(client.bottom - (status.bottom - status.top)),
+                                          static_cast<int>(client.right), static_cast<int>(client.bottom)};
+        return places;
+    }
+    void ExpectLaidOut() const {
+        std::map<int, Edges> places;
+        for (const auto& [id, place] : Places()) places[id] = EdgesOf(place);
+        places[ID_frmStart_cmbFinders].Bottom = 0;
+        EXPECT_EQ(places, LaidOutPlaces());
+    }
+
+    // Sets a size that the system does not correct, and tells the sizes that the window then takes in turn.
+    // The window is hidden, so that no window manager has a say in its size.
+    std::vector<Extent> SizesAfterForcing(int width, int height) const {
+        program.OnUi([=](frmStart& form) {
+            ShowWindow(form.Handle(), SW_HIDE);
+            ASSERT_TRUE(SetWindowSubclass(form.Handle(), &NoteSizes, 0, 0));
+            sizes_taken.clear();
+            ASSERT_TRUE(SetWindowPos(form.Handle(), nullptr, 0, 0, width, height,
+                                     SWP_NOMOVE | SWP_NOZORDER | SWP_NOSENDCHANGING));
+        });
+        program.Settle();
+        return sizes_taken;
+    }
+
     Program program;
 };
 
@@ -69,6 +172,77 @@ TEST_F(frmStartLayoutTest, AtTheLeastWidthListAndRightColumnStandToTheTwip) {
         EXPECT_EQ(places.at(id).left, PixelsOf(outer_width - 3450, dpi)) << id;
     EXPECT_EQ(places.at(ID_frmStart_picGo).left, PixelsOf(outer_width - 3450 + 2130, dpi));
     EXPECT_EQ(places.at(ID_frmStart_FrameSearch).bottom, list.bottom);
+}
+
+TEST_F(frmStartLayoutTest, EveryControlStandsByTheWindowsSize) {
+    const UINT dpi = Dpi();
+    const Extent tried[] = {{PixelsAtLeast(7700, dpi), PixelsAtLeast(5200, dpi)}, {801, 599}, {1150, 873}};
+    for (const Extent& size : tried) {
+        Resize(size.Width, size.Height);
+        EXPECT_EQ((Extent{static_cast<int>(Size().cx), static_cast<int>(Size().cy)}), size);
+        SCOPED_TRACE(::testing::PrintToString(size));
+        ExpectLaidOut();
+    }
+}
+
+TEST_F(frmStartLayoutTest, BehindAThickFrameStripAndListEndWithTheClientArea) {
+    program.OnUi([](frmStart& form) {
+        const LONG_PTR style = GetWindowLongPtrW(form.Handle(), GWL_EXSTYLE);
+        ASSERT_NE(SetWindowLongPtrW(form.Handle(), GWL_EXSTYLE, style | WS_EX_CLIENTEDGE), 0);
+        ASSERT_TRUE(SetWindowPos(form.Handle(), nullptr, 0, 0, 0, 0,
+                                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_FRAMECHANGED));
+    });
+    const UINT dpi = Dpi();
+    const Extent tried[] = {{PixelsAtLeast(7700, dpi), PixelsAtLeast(5200, dpi)}, {1001, 697}};
+    for (const Extent& size : tried) {
+        Resize(size.Width, size.Height);
+        SCOPED_TRACE(::testing::PrintToString(size));
+        ExpectLaidOut();
+        const auto places = Places();
+        RECT client{};
+        ASSERT_TRUE(GetClientRect(program.Main(), &client));
+        EXPECT_EQ(places.at(ID_frmStart_TabStrip1).right, client.right);
+        EXPECT_EQ(places.at(ID_frmStart_ListURLs).bottom, places.at(ID_frmStart_StatusBar1).top);
+    }
+}
+
+TEST_F(frmStartLayoutTest, AWindowForcedBelowTheLeastSizeGrowsBackByItself) {
+    const UINT dpi = Dpi();
+    const Extent least{PixelsAtLeast(7700, dpi), PixelsAtLeast(5200, dpi)};
+    EXPECT_EQ(SizesAfterForcing(900, 100), (std::vector<Extent>{{900, 100}, {900, least.Height}}));
+    ExpectLaidOut();
+    EXPECT_EQ(SizesAfterForcing(200, 700), (std::vector<Extent>{{200, 700}, {least.Width, 700}}));
+    ExpectLaidOut();
+    // First the height, then, in the resize that this raises, the width.
+    EXPECT_EQ(SizesAfterForcing(200, 100), (std::vector<Extent>{{200, 100}, {200, least.Height}, least}));
+    ExpectLaidOut();
+    EXPECT_EQ(
+        SizesAfterForcing(least.Width - 1, least.Height - 1),
+        (std::vector<Extent>{{least.Width - 1, least.Height - 1}, {least.Width - 1, least.Height}, least}));
+    ExpectLaidOut();
+    EXPECT_EQ(SizesAfterForcing(least.Width + 1, least.Height + 1),
+              (std::vector<Extent>{{least.Width + 1, least.Height + 1}}));
+    ExpectLaidOut();
+}
+
+TEST_F(frmStartLayoutTest, AWindowAsLowAsAMinimisedOneIsLeftAsItIs) {
+    const UINT dpi = Dpi();
+    Resize(1000, 700);
+    const auto sizes = [this] {
+        std::map<int, Extent> result;
+        for (const auto& [id, place] : Places())
+            result[id] = {static_cast<int>(place.right - place.left),
+                          static_cast<int>(place.bottom - place.top)};
+        return result;
+    };
+    const auto before = sizes();
+    const int low = PixelsAtLeast(500, dpi) - 1;
+    EXPECT_EQ(SizesAfterForcing(1000, low), (std::vector<Extent>{{1000, low}}));
+    EXPECT_EQ(sizes(), before);
+    Resize(1000, 700);
+    EXPECT_EQ(SizesAfterForcing(1000, low + 1),
+              (std::vector<Extent>{{1000, low + 1}, {1000, PixelsAtLeast(5200, dpi)}}));
+    ExpectLaidOut();
 }
 
 TEST_F(frmStartLayoutTest, MinimisingChangesNoControl) {
