@@ -21,8 +21,8 @@ std::string_view ShortcutAddress(std::string_view file);
 // The shortcut files of a folder, ordered by name with letter case aside, as entries: the file's name without
 // its last four characters, in book text (Windows-1250) with "?" for each character that a book cannot hold,
 // and its address. Empty when there are none, and for a folder that cannot be listed. Throws what
-// ShortcutAddress throws, FileFault for a file that cannot be read, and OverflowFault for more than 255
-// files.
+// ShortcutAddress throws, FileFault for a file that cannot be read and for a folder whose listing breaks off,
+// and OverflowFault for more than 255 files.
 std::vector<NewEntry> ShortcutsOfFolder(const std::filesystem::path& folder);
 
 }  // namespace lindrel
