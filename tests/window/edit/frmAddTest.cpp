@@ -7,6 +7,7 @@
 #include "tests/window/support/Expectations.h"
 #include "tests/window/support/Program.h"
 #include "tests/window/support/RealClipboard.h"
+#include "tests/window/support/ToolTipOf.h"
 
 namespace lindrel::testing {
 namespace {
@@ -60,6 +61,8 @@ TEST_F(frmAddTest, OpensWithTheShownCategoryAndTheBareAddress) {
     EXPECT_EQ(dialog.Text(ID_frmAdd_lblHint), L"ebbe a kategóriában lesz létrehozva");
     EXPECT_EQ(dialog.Text(ID_frmAdd_lblURL), L"&URL címe");
     EXPECT_EQ(dialog.Text(ID_frmAdd_cmdEmail), L"@");
+    EXPECT_EQ(ToolTipOf(program, dialog.Control(ID_frmAdd_cmdEmail)),
+              L"váltás a http:// és a mailto: kezdet között");
     EXPECT_EQ(dialog.Text(ID_frmAdd_cmdOK), L"OK");
     EXPECT_EQ(dialog.Text(ID_frmAdd_cmdCancel), L"&Mégse");
     EXPECT_EQ(dialog.ComboItems(ID_frmAdd_cmbKateg), EmptyState().Tabs);
