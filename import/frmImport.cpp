@@ -112,7 +112,7 @@ void frmImport::ImportHtmlLinks(const std::wstring& fileName) {
         links = LinksOfPage({page.data(), page.size()}, choice_);
     }
     const std::size_t count = links.size();
-    if (count != 0) AddToChosenCategory(std::move(links));
+    AddToChosenCategory(std::move(links));
     ShowResult(count);
     imported_ = true;
 }
@@ -144,6 +144,7 @@ void frmImport::AddToChosenCategory(std::vector<NewEntry> entries) {
         Book& book;
     };
     const Staging staging(main_.TheBook);
+    if (entries.empty()) return;
     main_.TheBook.NewEntries = std::move(entries);
     main_.TheBook.AddEntry(Get<ComboBox>(ID_frmImport_cmbKateg).Selected() + 1);
     main_.Modified = true;
