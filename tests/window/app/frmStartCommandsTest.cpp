@@ -5,8 +5,8 @@
 #include <ostream>
 
 #include "resources/resource.h"
-#include "tests/window/support/OpenedAddresses.h"
 #include "tests/window/support/Program.h"
+#include "tests/window/support/RecordedShell.h"
 
 namespace lindrel::testing {
 namespace {
@@ -225,20 +225,21 @@ TEST_F(frmStartCommandsTest, StripesFollowTheMarkOfTheirItem) {
 }
 
 TEST_F(frmStartCommandsTest, GotoOpensTheShownAddressAndNothingWhenThereIsNone) {
-    const OpenedAddresses opened;
+    const RecordedShell shell;
     program.Run(ID_mnuGoto);
     TwoEntries();
     program.ClickRow(2);
     const MainState before = program.State();
     program.Run(ID_mnuGoto);
-    EXPECT_EQ(opened.WaitFor(1), std::vector<std::string>{"http://ketto.hu/"});
+    EXPECT_EQ(shell.NextAddress(), L"http://ketto.hu");
+    EXPECT_EQ(shell.Addresses(), std::vector<std::wstring>{L"http://ketto.hu"});
     EXPECT_EQ(program.State(), before);
 }
 
 TEST_F(frmStartCommandsTest, GoHomeOpensTheHomePage) {
-    const OpenedAddresses opened;
+    const RecordedShell shell;
     program.Run(ID_mnuGoHome);
-    EXPECT_EQ(opened.WaitFor(1), std::vector<std::string>{"https://lindrel.example/"});
+    EXPECT_EQ(shell.NextAddress(), L"https://lindrel.example/");
 }
 
 }  // namespace

@@ -10,8 +10,8 @@
 #include "Version.h"
 #include "resources/resource.h"
 #include "tests/window/support/Expectations.h"
-#include "tests/window/support/OpenedAddresses.h"
 #include "tests/window/support/Program.h"
+#include "tests/window/support/RecordedShell.h"
 
 namespace lindrel::testing {
 namespace {
@@ -113,18 +113,19 @@ TEST_F(frmAboutTest, IsModalAndEscClosesItToo) {
 }
 
 TEST_F(frmAboutTest, TheHomePageLinkOpensItAndTheBoxStays) {
-    const OpenedAddresses opened;
+    const RecordedShell shell;
     const DialogOnScreen dialog = Open();
     program.PressKey(dialog.Control(ID_frmAbout_cmdOK), VK_TAB);
     ASSERT_EQ(dialog.Focus(), ID_frmAbout_Label1);
     program.PressKey(dialog.Control(ID_frmAbout_Label1), VK_RETURN);
-    EXPECT_EQ(opened.WaitFor(1), std::vector<std::string>{"https://lindrel.example/"});
+    EXPECT_EQ(shell.NextAddress(), L"https://lindrel.example/");
 
     const HWND link = dialog.Control(ID_frmAbout_Label1);
     const LPARAM place = MAKELPARAM(5, 5);
     PostMessageW(link, WM_LBUTTONDOWN, MK_LBUTTON, place);
     PostMessageW(link, WM_LBUTTONUP, 0, place);
-    EXPECT_EQ(opened.WaitFor(2), std::vector<std::string>(2, "https://lindrel.example/"));
+    EXPECT_EQ(shell.NextAddress(), L"https://lindrel.example/");
+    EXPECT_EQ(shell.Addresses().size(), 2u);
     EXPECT_TRUE(dialog.IsOpen());
     dialog.ClickAndWaitForClose(ID_frmAbout_cmdOK);
     ExpectUntouched();
