@@ -314,17 +314,29 @@ TEST_F(frmStartFileTest, OpenShowsTheCategoryOfTheSelectedTabAndForgetsAllCheckM
     EXPECT_EQ(program.BookBytes(), OneEntryBook(""));
 }
 
-TEST_F(frmStartFileTest, AMalformedFileLeavesTheOpenBook) {
-    const MainState before = program.State();
-    const std::wstring path = folder.Write(L"rossz.lnd", "#a\r\n");
-    program.Choose(ID_mnuOpen);
-    program.FileDialog().Accept(path);
-    const BoxOnScreen box = program.Box();
-    EXPECT_EQ(box.Title(), L"Hiba a beolvasásnál");
-    EXPECT_EQ(box.Icon(), BoxIcon::Error);
-    box.Press(IDOK);
-    program.Settle();
-    EXPECT_EQ(program.State(), before);
+TEST_F(frmStartFileTest, AMalformedFileIsReportedWithItsLineAndLeavesTheOpenBook) {
+    Change();
+    program.OnUi([](frmStart& form) { form.Modified = false; });
+    MainState expected = ChangedState();
+    expected.Modified = false;
+    // Too short a file, and one with five lines of entries: half of them is taken for two entries.
+    const std::string too_many = ChangedBook() + "B\r\nhttp://b.hu\r\nC\r\n";
+    const std::pair<std::string, std::wstring> malformed[] = {
+        {"#a\r\n", L"A fájl túl rövid: tizenkét kategória sem fér bele."},
+        {too_many, L"A fájlban több cím van, mint amennyi a sorok számából következik.\r\n(17. sor)"},
+    };
+    for (const auto& [bytes, text] : malformed) {
+        program.Choose(ID_mnuOpen);
+        program.FileDialog().Accept(folder.Write(L"rossz.lnd", bytes));
+        const BoxOnScreen box = program.Box();
+        EXPECT_EQ(box.Title(), L"Hiba a beolvasásnál");
+        EXPECT_EQ(box.Text(), text);
+        EXPECT_EQ(box.Buttons(), std::vector<int>{IDOK});
+        EXPECT_EQ(box.Icon(), BoxIcon::Error);
+        box.Press(IDOK);
+        ExpectState(expected);
+        EXPECT_EQ(program.BookBytes(), ChangedBook());
+    }
 }
 
 TEST_F(frmStartFileTest, AMissingFileIsReportedAndTheOpenDialogComesBack) {
