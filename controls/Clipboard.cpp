@@ -31,7 +31,7 @@ std::wstring ClipboardText(HWND owner) {
     const auto* const text = static_cast<const wchar_t*>(GlobalLock(data));
     if (text == nullptr) return {};
     // The memory is another program's: its end need not be where the text says.
-    const std::wstring copy(text, wcsnlen(text, GlobalSize(data) / sizeof(wchar_t)));
+    std::wstring copy(text, wcsnlen(text, GlobalSize(data) / sizeof(wchar_t)));
     static_cast<void>(GlobalUnlock(data));  // 0 means that nobody locks it any more
     return copy;
 }

@@ -111,7 +111,7 @@ void ComboBox::WidenList() const {
     static_cast<void>(SelectObject(screen, before));
     static_cast<void>(ReleaseDC(Handle(), screen));
     const int edges = GetSystemMetrics(SM_CXVSCROLL) + 4 * GetSystemMetrics(SM_CXEDGE);
-    Send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(widest + edges));
+    Send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(widest) + static_cast<WPARAM>(edges));
 }
 
 int TabStrip::Count() const {

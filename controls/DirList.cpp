@@ -154,15 +154,15 @@ void DirList::FillFolder(HTREEITEM folder) const {
     static_cast<void>(TreeView_SetItem(Handle(), &item));  // a plus sign too many does no harm
 }
 
-std::wstring DirList::NameOf(HTREEITEM folder) const {
+std::wstring DirList::NameOf(HTREEITEM item) const {
     std::wstring name(MAX_PATH, L'\0');
-    TVITEMW item{};
-    item.mask = TVIF_TEXT;
-    item.hItem = folder;
-    item.pszText = name.data();
-    item.cchTextMax = static_cast<int>(name.size());
-    if (!TreeView_GetItem(Handle(), &item)) return {};
-    return item.pszText;
+    TVITEMW query{};
+    query.mask = TVIF_TEXT;
+    query.hItem = item;
+    query.pszText = name.data();
+    query.cchTextMax = static_cast<int>(name.size());
+    if (!TreeView_GetItem(Handle(), &query)) return {};
+    return query.pszText;
 }
 
 std::wstring DirList::PathOf(HTREEITEM item) const {

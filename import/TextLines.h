@@ -10,8 +10,8 @@ namespace lindrel {
 // Place of the end of the line that a place (0..size) is on: its CR or LF, or the text's size.
 inline std::size_t EndOfLine(std::string_view text, std::size_t from) {
     const auto ends_line = [](char character) { return character == '\n' || character == '\r'; };
-    const auto begin = text.begin() + static_cast<std::ptrdiff_t>(from);
-    return static_cast<std::size_t>(std::find_if(begin, text.end(), ends_line) - text.begin());
+    const std::string_view rest = text.substr(from);
+    return from + static_cast<std::size_t>(std::find_if(rest.begin(), rest.end(), ends_line) - rest.begin());
 }
 
 // Place behind the line end that stands at a place; the text's size at its end.
