@@ -18,7 +18,7 @@ void frmAdd::Form_Load() {
     FillCategories();
     SetToolTip(ID_frmAdd_cmdEmail, L"váltás a http:// és a mailto: kezdet között");
     const std::optional<std::wstring> address = AddressFromClipboard(ClipboardText(Handle()));
-    clipboard_used_ = address.has_value();
+    ClipboardUsed = address.has_value();
     txtURL().SetText(address.value_or(kBareWebAddress));
 }
 
@@ -42,7 +42,7 @@ void frmAdd::OnCommand(int id, int event) {
 void frmAdd::txtURL_GotFocus() const {
     // Behind any address that has not been typed yet; the text box clamps it to the end.
     constexpr int kBehindTheText = 121;
-    if (clipboard_used_)
+    if (ClipboardUsed)
         txtURL().SelectAll();
     else
         txtURL().Select(kBehindTheText, 0);

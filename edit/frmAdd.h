@@ -17,7 +17,7 @@ class frmAdd : public EntryDialog {
     void cmdOK_Click();
     void cmdCancel_Click() { Unload(); }
 
-    bool clipboard_used_ = false;  // the address came from the clipboard
+    bool ClipboardUsed = false;  // the address came from the clipboard
 };
 
 }  // namespace lindrel

@@ -69,7 +69,8 @@ void frmExport::OnCommand(int id, int event) {
             const auto cmbTheme = Get<ComboBox>(id);
             if (event == CBN_SELCHANGE && cmbTheme.Selected() >= 0)
                 cmbTheme_Change(cmbTheme.Item(cmbTheme.Selected()));
-            if (event == CBN_EDITCHANGE || event == CBN_KILLFOCUS) cmbTheme_Change(cmbTheme.Text());
+            if (event == CBN_EDITCHANGE) cmbTheme_Change(cmbTheme.Text());
+            if (event == CBN_KILLFOCUS) cmbTheme_LostFocus();
             return;
         }
         case ID_frmExport_cmdBrowse:
@@ -95,6 +96,7 @@ void frmExport::cmbType_Click() {
     for (const int id : kFavoritesFrame) Get<Control>(id).Show(kind == Favorites);
 }
 
+// The colours too, whatever theme is named (intended): until its text or the focus changes, it has no say.
 void frmExport::SetPageOptionsEnabled(bool disable) const {
     for (const int id : kPageFrame) Get<Control>(id).Enable(!disable);
 }
@@ -104,6 +106,11 @@ void frmExport::cmbTheme_Change(const std::wstring& theme) const {
     constexpr std::size_t kShortestTheme = 5;
     for (const int id : {ID_frmExport_optColor_0, ID_frmExport_optColor_1})
         Get<Control>(id).Enable(theme.size() < kShortestTheme);
+}
+
+// For a text that came without a change being told.
+void frmExport::cmbTheme_LostFocus() const {
+    cmbTheme_Change(Text(ID_frmExport_cmbTheme));
 }
 
 void frmExport::cmdBrowse_Click() {

@@ -29,6 +29,7 @@ class frmExport : public Dialog {
     void cmdCancel_Click() { Unload(); }
     void cmdBrowse_Click();
     void cmbTheme_Change(const std::wstring& theme) const;
+    void cmbTheme_LostFocus() const;
 
     Kind ChosenKind() const;
     void FillThemes() const;

@@ -176,6 +176,27 @@ TEST_F(frmExportTest, LeavingTheThemeDecidesTheColoursToo) {
     dialog.WaitForClose();
 }
 
+TEST_F(frmExportTest, BackAtTheWebPageTheColoursCanBeChosenUntilTheThemeIsLookedAtAgain) {
+    const DialogOnScreen dialog = Open();
+    const auto look_at_the_theme = [&] {
+        program.OnUi([&](frmStart&) {
+            SetFocus(dialog.Control(ID_frmExport_cmbTheme));
+            SetFocus(dialog.Control(ID_frmExport_txtTitle));
+        });
+    };
+    PutTheme(dialog, L"abcde");
+    look_at_the_theme();
+    ExpectColours(dialog, false);
+    dialog.Pick(ID_frmExport_cmbType, 1);
+    ExpectColours(dialog, false);
+    dialog.Pick(ID_frmExport_cmbType, 0);
+    ExpectColours(dialog, true);
+    look_at_the_theme();
+    ExpectColours(dialog, false);
+    dialog.Cancel();
+    dialog.WaitForClose();
+}
+
 TEST_F(frmExportTest, WithoutAChosenCategoryTheListIsAskedFor) {
     const DialogOnScreen dialog = Open();
     dialog.Click(ID_frmExport_cmdOK);
