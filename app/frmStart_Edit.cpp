@@ -2,8 +2,8 @@
 
 #include "app/frmStart.h"
 #include "book/frmEditKats.h"
-#include "controls/MsgBox.h"
 #include "edit/CheckedRuns.h"
+#include "edit/DeleteQuestions.h"
 #include "edit/frmAdd.h"
 #include "edit/frmEditRec.h"
 #include "edit/frmMove.h"
@@ -55,22 +55,16 @@ void frmStart::mnuMove_Click() {
 }
 
 void frmStart::mnuDel_Click() {
-    constexpr wchar_t kTitle[] = L"Törlés engedélyezése";
     // There the Del key is for the text.
     if (txtFind.HasFocus()) return;
     const bool checked = TheBook.CheckedCount != 0;
     if (!checked && (txtURL.IsEmpty() || ListURLs.Selected() == 0)) return;
 
-    // The two questions differ in their buttons (intended).
     if (checked) {
-        const std::wstring question =
-            L"Töröljem a (" + std::to_wstring(TheBook.CheckedCount) + L") bejelölt címet?";
-        if (MsgBox(handle_, question, MB_YESNO | MB_ICONQUESTION, kTitle) != IDYES) return;
+        if (!MayDeleteChecked(handle_, TheBook.CheckedCount)) return;
         DeleteCheckedEntries();
     } else {
-        if (MsgBox(handle_, L"Tényleg ki akarja törölni ezt a web címet ?", MB_OKCANCEL | MB_ICONQUESTION,
-                   kTitle) != IDOK)
-            return;
+        if (!MayDeleteSelected(handle_)) return;
         TheBook.DeleteEntry(SelectedCategory(), ListURLs.Selected(), 1);
         TheBook.CheckedCount = 0;
     }

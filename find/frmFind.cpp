@@ -2,8 +2,8 @@
 
 #include <cwchar>
 
-#include "controls/MsgBox.h"
 #include "controls/Shell.h"
+#include "edit/DeleteQuestions.h"
 #include "find/CheckedHits.h"
 #include "resources/resource.h"
 
@@ -11,7 +11,6 @@ namespace lindrel {
 
 namespace {
 
-constexpr wchar_t kDeleteTitle[] = L"Törlés engedélyezése";
 constexpr wchar_t kEndingHint[] = L"pl.: com, hu, gov";
 constexpr int kColumnOfNames = 0;
 constexpr int kColumnOfCategories = 1;
@@ -207,17 +206,11 @@ void frmFind::SetAllChecks(bool value) {
 
 void frmFind::DeleteSelectedHit() {
     const Hit* const hit = SelectedHit();
-    if (hit == nullptr) return;
-    if (MsgBox(Handle(), L"Tényleg ki akarja törölni ezt a web címet ?", MB_OKCANCEL | MB_ICONQUESTION,
-               kDeleteTitle) == IDOK)
-        DeleteFromBook({hit->Index});
+    if (hit != nullptr && MayDeleteSelected(Handle())) DeleteFromBook({hit->Index});
 }
 
 void frmFind::cmdDel_Click() {
-    if (CheckedHits == 0) return;
-    const std::wstring question = L"Töröljem a (" + std::to_wstring(CheckedHits) + L") bejelölt címet?";
-    if (MsgBox(Handle(), question, MB_YESNO | MB_ICONQUESTION, kDeleteTitle) == IDYES)
-        DeleteFromBook(CheckedIndices());
+    if (CheckedHits != 0 && MayDeleteChecked(Handle(), CheckedHits)) DeleteFromBook(CheckedIndices());
 }
 
 void frmFind::DeleteFromBook(const std::vector<int>& indices) {

@@ -225,23 +225,22 @@ std::wstring ShippedProgram::Cell(int row, int column) const {
     return memory.Get<TextBuffer>(kTextAt).Text;
 }
 
-POINT ShippedProgram::TextOf(int row) const {
+RECT ShippedProgram::LabelOf(int row) const {
     const RemoteMemory memory(process_.hProcess, sizeof(RECT));
     memory.Put(RECT{LVIR_LABEL, 0, 0, 0});
     Demand(SendMessageW(Control(ID_frmStart_ListURLs), LVM_GETITEMRECT, static_cast<WPARAM>(row - 1),
                         memory.At()) != 0,
            "a row of the list");
-    const RECT label = memory.Get<RECT>();
+    return memory.Get<RECT>();
+}
+
+POINT ShippedProgram::TextOf(int row) const {
+    const RECT label = LabelOf(row);
     return {label.left + 20, (label.top + label.bottom) / 2};
 }
 
 POINT ShippedProgram::CheckBoxOf(int row) const {
-    const RemoteMemory memory(process_.hProcess, sizeof(RECT));
-    memory.Put(RECT{LVIR_LABEL, 0, 0, 0});
-    Demand(SendMessageW(Control(ID_frmStart_ListURLs), LVM_GETITEMRECT, static_cast<WPARAM>(row - 1),
-                        memory.At()) != 0,
-           "a row of the list");
-    const RECT label = memory.Get<RECT>();
+    const RECT label = LabelOf(row);
     return {label.left / 2, (label.top + label.bottom) / 2};
 }
 

@@ -66,6 +66,7 @@ class ShippedProgram {
 
   private:
     void WaitUntilInFront() const;
+    RECT LabelOf(int row) const;  // client coordinates
 
     PROCESS_INFORMATION process_{};
     DWORD thread_id_ = 0;
