@@ -41,30 +41,19 @@ void Find(benchmark::State& state, const wchar_t* what, const wchar_t* ending) {
     state.SetLabel("FloorByteInEveryName");
 }
 
-void FindOneName(benchmark::State& state) {
-    Find(state, L"\u0170SOR 16384", L"");
-}
-BENCHMARK(FindOneName)->Unit(benchmark::kMicrosecond);
-
-void FindACommonWord(benchmark::State& state) {
-    Find(state, L"M\u0170SOR", L"");
-}
-BENCHMARK(FindACommonWord)->Unit(benchmark::kMicrosecond);
-
-void FindACommonWordWithAnEnding(benchmark::State& state) {
-    Find(state, L"M\u0170SOR", L"HU");
-}
-BENCHMARK(FindACommonWordWithAnEnding)->Unit(benchmark::kMicrosecond);
-
-void FindEverything(benchmark::State& state) {
-    Find(state, L"", L"");
-}
-BENCHMARK(FindEverything)->Unit(benchmark::kMicrosecond);
-
-void FindEverythingWithAnEnding(benchmark::State& state) {
-    Find(state, L"", L"hu");
-}
-BENCHMARK(FindEverythingWithAnEnding)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Find, FindOneName, L"\u0170SOR 16384", L"")
+    ->Name("FindOneName")
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Find, FindACommonWord, L"M\u0170SOR", L"")
+    ->Name("FindACommonWord")
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Find, FindACommonWordWithAnEnding, L"M\u0170SOR", L"HU")
+    ->Name("FindACommonWordWithAnEnding")
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Find, FindEverything, L"", L"")->Name("FindEverything")->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Find, FindEverythingWithAnEnding, L"", L"hu")
+    ->Name("FindEverythingWithAnEnding")
+    ->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 }  // namespace lindrel::bench

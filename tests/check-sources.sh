@@ -11,7 +11,8 @@ complain() { # what is wrong, where
 }
 
 complain 'A fixed wait in a test (poll with a deadline instead):' \
-  "$(grep -rnE '\b(Sleep|sleep_for|sleep_until|usleep)\(|^\s*sleep [0-9]' --include='*.cpp' --include='*.h' --include='*.sh' tests | grep -v '^tests/check-sources.sh')"
+  "$(grep -rnE '\b([Ss]leep(_for|_until|Ex)?|(u|nano)sleep)[[:blank:]]*\(|^[[:blank:]]*sleep[[:blank:]]+[0-9.]' \
+       --include='*.cpp' --include='*.h' --include='*.sh' tests)"
 complain 'A test that is switched off:' "$(grep -rnE '\bDISABLED_|GTEST_SKIP' --include='*.cpp' tests)"
 complain 'A source file that no target knows:' \
   "$(for file in $(git ls-files '*.cpp' 2>/dev/null | grep -vE '^(tests|bench|fuzz)/'); do

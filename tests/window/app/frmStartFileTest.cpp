@@ -70,6 +70,18 @@ class frmStartFileTest : public ::testing::Test {
         box.Press(IDOK);
     }
 
+    // The changed book is saved under a name in the folder, and the window bears that name.
+    void ExpectSavedAs(const std::wstring& name) const {
+        const std::wstring path = folder.File(name);
+        ExpectSaved(path);
+        MainState expected = ChangedState();
+        expected.Title = L"Lindrel -" + name;
+        expected.OpenedFile = path;
+        expected.Modified = false;
+        ExpectState(expected);
+        EXPECT_EQ(TemporaryFolder::Read(path), ChangedBook());
+    }
+
     // What the system asks each window before the session ends. The answer comes with the user's.
     std::future<LRESULT> QueryEndSession() const {
         return std::async(std::launch::async, [window = program.Main()] {
@@ -114,13 +126,7 @@ TEST_F(frmStartFileTest, SavingABookThatWasNeverSavedAsksForAFileAndSetsTheTitle
     const FileDialogOnScreen dialog = program.FileDialog();
     EXPECT_EQ(dialog.Title(), L"File mentése");
     dialog.Accept(path);
-    ExpectSaved(path);
-    MainState expected = ChangedState();
-    expected.Title = L"Lindrel -Első könyv.lnd";
-    expected.OpenedFile = path;
-    expected.Modified = false;
-    ExpectState(expected);
-    EXPECT_EQ(TemporaryFolder::Read(path), ChangedBook());
+    ExpectSavedAs(L"Első könyv.lnd");
     EXPECT_EQ(folder.Names(), std::vector<std::wstring>{L"Első könyv.lnd"});
 }
 
@@ -137,12 +143,7 @@ TEST_F(frmStartFileTest, ANameWithoutAnExtensionIsSavedAsABookFile) {
     Change();
     program.Choose(ID_mnuSave);
     program.FileDialog().Accept(folder.File(L"könyv"));
-    ExpectSaved(folder.File(L"könyv.lnd"));
-    MainState expected = ChangedState();
-    expected.Title = L"Lindrel -könyv.lnd";
-    expected.OpenedFile = folder.File(L"könyv.lnd");
-    expected.Modified = false;
-    ExpectState(expected);
+    ExpectSavedAs(L"könyv.lnd");
     EXPECT_EQ(folder.Names(), std::vector<std::wstring>{L"könyv.lnd"});
 }
 
@@ -245,13 +246,7 @@ TEST_F(frmStartFileTest, SaveAsOntoAnExistingFileOverwritesItAfterYes) {
     program.Choose(ID_mnuSaveAs);
     program.FileDialog().Accept(path);
     ExpectOverwriteQuestion(path, IDYES);
-    ExpectSaved(path);
-    MainState expected = ChangedState();
-    expected.Title = L"Lindrel -van.lnd";
-    expected.OpenedFile = path;
-    expected.Modified = false;
-    ExpectState(expected);
-    EXPECT_EQ(TemporaryFolder::Read(path), ChangedBook());
+    ExpectSavedAs(L"van.lnd");
     EXPECT_EQ(folder.Names(), std::vector<std::wstring>{L"van.lnd"});
 }
 
@@ -263,14 +258,8 @@ TEST_F(frmStartFileTest, SaveAsAfterNoSavesUnderAnotherNameAndLeavesTheRefusedFi
     program.FileDialog().Accept(refused);
     ExpectOverwriteQuestion(refused, IDNO);
     program.FileDialog().Accept(path);
-    ExpectSaved(path);
-    MainState expected = ChangedState();
-    expected.Title = L"Lindrel -más.lnd";
-    expected.OpenedFile = path;
-    expected.Modified = false;
-    ExpectState(expected);
+    ExpectSavedAs(L"más.lnd");
     EXPECT_EQ(TemporaryFolder::Read(refused), "régi");
-    EXPECT_EQ(TemporaryFolder::Read(path), ChangedBook());
 }
 
 // Entries in the first, the third and the seventh category.

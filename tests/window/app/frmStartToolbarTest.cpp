@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "resources/resource.h"
+#include "tests/window/support/Drawn.h"
 #include "tests/window/support/Program.h"
 
 namespace lindrel::testing {
@@ -31,6 +32,12 @@ class frmStartToolbarTest : public ::testing::Test {
         PostMessageW(toolbar, WM_MOUSEMOVE, 0, point);
         PostMessageW(toolbar, WM_LBUTTONDOWN, MK_LBUTTON, point);
         PostMessageW(toolbar, WM_LBUTTONUP, 0, point);
+    }
+    // A button opens a dialog while there are entries.
+    void ExpectDialog(int position, const std::wstring& caption) const {
+        TwoEntries();
+        Press(position);
+        program.Dialog(caption).Cancel();
     }
     bool ButtonEnabled(int position) const {
         return program.Ask<bool>([position](frmStart& form) {
@@ -154,21 +161,15 @@ TEST_F(frmStartToolbarTest, TheFifthButtonExports) {
 }
 
 TEST_F(frmStartToolbarTest, TheSixthButtonModifies) {
-    TwoEntries();
-    Press(6);
-    program.Dialog(L"Cím módosítása").Cancel();
+    ExpectDialog(6, L"Cím módosítása");
 }
 
 TEST_F(frmStartToolbarTest, TheSeventhButtonFinds) {
-    TwoEntries();
-    Press(7);
-    program.Dialog(L"Keresés").Cancel();
+    ExpectDialog(7, L"Keresés");
 }
 
 TEST_F(frmStartToolbarTest, TheEighthButtonMoves) {
-    TwoEntries();
-    Press(8);
-    program.Dialog(L"A kiválasztott címek áthelyezése").Cancel();
+    ExpectDialog(8, L"A kiválasztott címek áthelyezése");
 }
 
 TEST_F(frmStartToolbarTest, TheNinthButtonDeletes) {
@@ -264,21 +265,12 @@ TEST_F(frmStartToolbarTest, StandsWholeBetweenMenuAndTabs) {
 TEST_F(frmStartToolbarTest, TheTwoPictureButtonsShowDifferentPicturesAndKeepTheirNames) {
     const auto painted = [](const PictureButton& button) {
         constexpr int kSide = 24;
-        const HDC screen = GetDC(nullptr);
-        const HDC canvas = CreateCompatibleDC(screen);
-        const HBITMAP bitmap = CreateCompatibleBitmap(screen, kSide, kSide);
-        const HGDIOBJ before = SelectObject(canvas, bitmap);
-        DRAWITEMSTRUCT item{};
-        item.hDC = canvas;
-        item.rcItem = {0, 0, kSide, kSide};
-        button.Draw(item);
-        std::vector<COLORREF> pixels;
-        for (int at = 0; at < kSide * kSide; ++at) pixels.push_back(GetPixel(canvas, at % kSide, at / kSide));
-        SelectObject(canvas, before);
-        DeleteObject(bitmap);
-        DeleteDC(canvas);
-        ReleaseDC(nullptr, screen);
-        return pixels;
+        return Drawn(kSide, [&](HDC canvas) {
+            DRAWITEMSTRUCT item{};
+            item.hDC = canvas;
+            item.rcItem = {0, 0, kSide, kSide};
+            button.Draw(item);
+        });
     };
     program.OnUi([&](frmStart& form) {
         EXPECT_EQ(form.picGo.Text(), L"Ugorj a web oldalra");

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "resources/resource.h"
+#include "tests/window/support/Drawn.h"
 
 namespace lindrel::testing {
 namespace {
@@ -48,19 +49,10 @@ std::vector<int> SizesIn(int id) {
 
 // What an icon looks like on a white ground.
 std::vector<COLORREF> Painted(HICON icon, int size) {
-    const HDC screen = GetDC(nullptr);
-    const HDC canvas = CreateCompatibleDC(screen);
-    const HBITMAP bitmap = CreateCompatibleBitmap(screen, size, size);
-    const HGDIOBJ before = SelectObject(canvas, bitmap);
-    EXPECT_TRUE(DrawIconEx(canvas, 0, 0, icon, size, size, 0,
-                           static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)), DI_NORMAL));
-    std::vector<COLORREF> pixels;
-    for (int at = 0; at < size * size; ++at) pixels.push_back(GetPixel(canvas, at % size, at / size));
-    SelectObject(canvas, before);
-    DeleteObject(bitmap);
-    DeleteDC(canvas);
-    ReleaseDC(nullptr, screen);
-    return pixels;
+    return Drawn(size, [&](HDC canvas) {
+        EXPECT_TRUE(DrawIconEx(canvas, 0, 0, icon, size, size, 0,
+                               static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)), DI_NORMAL));
+    });
 }
 
 TEST(PictureTest, EveryPictureIsThereInAllSizes) {

@@ -44,6 +44,17 @@ class ImportSession : public ::testing::Test {
         program.ClickRow(2);
     }
 
+    // What the window shows when the rows have come to the shown category and the dialog is closed; one entry
+    // is in another category.
+    static MainState WithImported(MainState state, const std::vector<Row>& rows) {
+        state.Rows.insert(state.Rows.end(), rows.begin(), rows.end());
+        state.SelectedRow = 0;
+        state.txtSite = state.txtURL = state.Status[0] = L"";
+        state.Status[1] = L"megjelenítve (" + std::to_wstring(state.Rows.size()) + L" / " +
+                          std::to_wstring(state.Rows.size() + 1) + L")";
+        state.Modified = true;
+        return state;
+    }
     DialogOnScreen Open() const {
         program.Choose(ID_mnuImport);
         return program.Dialog(L"Importálás");

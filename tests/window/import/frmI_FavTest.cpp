@@ -44,6 +44,16 @@ class frmI_FavTest : public ImportSession {
         book.ExpectReportAndSave(text);
     }
 
+    // Imports the folder's files, `count` of them, into a category and shows that.
+    void ImportInto(int category, int count) const {
+        const DialogOnScreen dialog = Open();
+        dialog.Pick(ID_frmImport_cmbKateg, category - 1);
+        ChooseFolder(dialog);
+        AnswerResult(count);
+        Leave(dialog);
+        program.ClickTab(category);
+    }
+
     FavoritesFolder favorites;
 };
 
@@ -74,19 +84,14 @@ TEST_F(frmI_FavTest, EachFileBecomesAnEntryAndTheBookIsMarked) {
     Write(L"Posta.url", ShortcutFile("http://posta.hu"));
     Write(L"Hírek.url", ShortcutFile("http://hirek.hu"));
     Write(L"Alsó\\belso.url", ShortcutFile("http://belso.hu"));
-    MainState expected = program.State();
+    const MainState before = program.State();
     const DialogOnScreen dialog = Open();
     ChooseFolder(dialog);
     AnswerResult(2);
     EXPECT_TRUE(dialog.IsOpen());
     Leave(dialog);
-    expected.Rows.emplace_back(L"Hírek", L"http://hirek.hu");
-    expected.Rows.emplace_back(L"Posta", L"http://posta.hu");
-    expected.SelectedRow = 0;
-    expected.txtSite = expected.txtURL = expected.Status[0] = L"";
-    expected.Status[1] = L"megjelenítve (5 / 6)";
-    expected.Modified = true;
-    EXPECT_EQ(program.State(), expected);
+    EXPECT_EQ(program.State(),
+              WithImported(before, {{L"Hírek", L"http://hirek.hu"}, {L"Posta", L"http://posta.hu"}}));
 }
 
 TEST_F(frmI_FavTest, ExportedEntriesComeBackAsTheyWere) {
@@ -100,12 +105,7 @@ TEST_F(frmI_FavTest, ExportedEntriesComeBackAsTheyWere) {
     book.SavedCheckLists(3) = {1, 2, 3};
     saveTo_fav(book, FavoritesFolder::Path(), false);
 
-    const DialogOnScreen dialog = Open();
-    dialog.Pick(ID_frmImport_cmbKateg, 2);
-    ChooseFolder(dialog);
-    AnswerResult(3);
-    Leave(dialog);
-    program.ClickTab(3);
+    ImportInto(3, 3);
     EXPECT_EQ(program.State().Rows, (std::vector<Row>{{L"Posta & társa", L"mailto:ki@posta.hu"},
                                                       {L"Árvíz", L"http://arviz.hu/?a=URL=b"},
                                                       {L"Út", L"http://ut.hu/#hely"}}));
@@ -114,12 +114,7 @@ TEST_F(frmI_FavTest, ExportedEntriesComeBackAsTheyWere) {
 TEST_F(frmI_FavTest, TheExtensionIsCutByLengthWhateverItsCase) {
     Write(L"NAGY.URL", "[DEFAULT]\r\nBASEURL=http://alap.hu\r\n[InternetShortcut]\r\nURL=http://nagy.hu\r\n");
     Write(L"Görög Ω.Url", "[InternetShortcut]\nurl=http://gorog.hu\nIconIndex=1\n");
-    const DialogOnScreen dialog = Open();
-    dialog.Pick(ID_frmImport_cmbKateg, 2);
-    ChooseFolder(dialog);
-    AnswerResult(2);
-    Leave(dialog);
-    program.ClickTab(3);
+    ImportInto(3, 2);
     EXPECT_EQ(program.State().Rows,
               (std::vector<Row>{{L"Görög ?", L"http://gorog.hu"}, {L"NAGY", L"http://alap.hu"}}));
 }
@@ -162,12 +157,7 @@ TEST_F(frmI_FavTest, Import255FilesWorks) {
         Write(std::to_wstring(i) + L".url", ShortcutFile("http://" + number + ".hu"));
         rows.emplace_back(std::to_wstring(i), L"http://" + std::to_wstring(i) + L".hu");
     }
-    const DialogOnScreen dialog = Open();
-    dialog.Pick(ID_frmImport_cmbKateg, 11);
-    ChooseFolder(dialog);
-    AnswerResult(255);
-    Leave(dialog);
-    program.ClickTab(12);
+    ImportInto(12, 255);
     EXPECT_EQ(program.State().Rows, rows);
 }
 

@@ -120,21 +120,16 @@ TEST_F(frmImportTest, OpensForAPageAndTheShownCategory) {
 }
 
 TEST_F(frmImportTest, LinksGoBehindTheEntriesOfTheChosenCategory) {
-    MainState expected = program.State();
+    const MainState before = program.State();
     const DialogOnScreen dialog = Open();
     Pick(dialog, Page("<A HREF=\"HTTP://Lap.hu/\">H\xCDrek</A>\r\n<a href=\"helyi.htm\">Helyi</a>\r\n"
                       "<a href=\"http://ket.hu\"><b>K\xE9t</b></a>\r\n"));
     AnswerResult(2);
     EXPECT_TRUE(dialog.IsOpen());
-    EXPECT_EQ(program.State().Rows, expected.Rows);  // shown when the dialog closes
+    EXPECT_EQ(program.State().Rows, before.Rows);  // shown when the dialog closes
     Leave(dialog);
-    expected.Rows.emplace_back(L"hírek", L"http://lap.hu/");
-    expected.Rows.emplace_back(L"két", L"http://ket.hu");
-    expected.SelectedRow = 0;
-    expected.txtSite = expected.txtURL = expected.Status[0] = L"";
-    expected.Status[1] = L"megjelenítve (5 / 6)";
-    expected.Modified = true;
-    EXPECT_EQ(program.State(), expected);
+    EXPECT_EQ(program.State(),
+              WithImported(before, {{L"hírek", L"http://lap.hu/"}, {L"két", L"http://ket.hu"}}));
     EXPECT_EQ(FilterOfMain(), L"Lindrel fájlok (*.lnd)|*.lnd");
 }
 
