@@ -16,5 +16,4 @@ make_template_prefix
 # One CTest run over the tests of all builds, so that one summary ends it.
 mkdir -p build/all
 printf 'subdirs("%s" "%s" "%s" "%s" "%s")\n' ../native ../sanitize ../x64 ../x86 ../fuzz >build/all/CTestTestfile.cmake
-# Most tests wait for windows more than they compute, so that twice as many as there are processors run side by side.
-exec ctest --test-dir build/all -j "$((2 * $(nproc)))" --output-on-failure
+exec ctest --test-dir build/all -j "$(nproc)" --output-on-failure

@@ -96,7 +96,7 @@ TEST_F(SampleBookTest, SavesUnderAnotherNameToTheByteAndCloses) {
     Open();
     program.Press({'S', {VK_CONTROL}});  // nothing to save: nothing happens
     const std::wstring copy = folder.File(L"másolat.lnd");
-    program.Press({'F', {VK_MENU}});
+    program.OpenMenu('F');
     for (int item = 0; item < 4; ++item) program.Press({VK_DOWN});
     program.Press({VK_RETURN});
     program.AnswerFileDialog(copy);

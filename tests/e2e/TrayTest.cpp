@@ -38,7 +38,7 @@ TEST(TrayTest, EitherButtonOnTheIconBringsTheWindowBack) {
     ASSERT_TRUE(GetWindowRect(program.Main(), &place));
 
     for (const bool right : {false, true}) {
-        program.Press({'N', {VK_MENU}});  // "&Nézet"
+        program.OpenMenu('N');  // "&Nézet"
         program.Press({VK_DOWN});
         program.Press({VK_RETURN});
         WaitUntil("the hidden window", [&] { return !IsWindowVisible(program.Main()); });

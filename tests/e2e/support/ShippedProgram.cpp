@@ -136,6 +136,20 @@ void ShippedProgram::Press(const Stroke& stroke) const {
     Send(std::move(inputs));
 }
 
+void ShippedProgram::OpenMenu(WORD key) const {
+    // Alt can be lost on a window that has just come back to the front; then a user would press it again.
+    WaitUntil("the open menu", [&] {
+        Press({key, {VK_MENU}});
+        return Eventually(
+            [this] {
+                GUITHREADINFO info{};
+                info.cbSize = sizeof info;
+                return GetGUIThreadInfo(thread_id_, &info) && (info.flags & GUI_INMENUMODE) != 0;
+            },
+            std::chrono::seconds(5));
+    });
+}
+
 void ShippedProgram::Type(const std::wstring& text) const {
     WaitUntilInFront();
     std::vector<INPUT> inputs;

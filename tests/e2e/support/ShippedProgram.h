@@ -34,6 +34,8 @@ class ShippedProgram {
 
     // Real input to whatever is in front; `Press` and `Type` first wait until that is the program's.
     void Press(const Stroke& stroke) const;
+    // Opens a menu of the menu bar by its access key, and waits until it is open.
+    void OpenMenu(WORD key) const;
     void Type(const std::wstring& text) const;
     // At a place of a window's client area.
     void Click(HWND window, POINT place, bool right = false) const;
