@@ -1,150 +1,22 @@
-// The file commands, with real boxes and file dialogs.
-
-#include <gtest/gtest.h>
+// Opening a book, a new one and closing it, with real boxes and file dialogs.
 
 #include <atomic>
 #include <filesystem>
-#include <future>
 #include <thread>
 
-#include "book/BookFile.h"
 #include "controls/Shell.h"
-#include "resources/resource.h"
-#include "tests/window/support/Program.h"
+#include "tests/window/app/FileSession.h"
 
 namespace lindrel::testing {
 namespace {
 
-class frmStartFileTest : public ::testing::Test {
-  protected:
-    static void AddOne(frmStart& form, int category) {
-        form.TheBook.NewEntries = {{"N\xE9v", "http://nev.hu"}};
-        form.TheBook.AddEntry(category);
-        form.Modified = true;
-        form.FillAddressList(1);
-    }
-    void Change(int category = 1) const {
-        program.OnUi([category](frmStart& form) { AddOne(form, category); });
-    }
-    // What the window shows after Change(), and the file of that book.
-    static MainState ChangedState() {
-        MainState state = EmptyState();
-        state.Rows = {{L"Név", L"http://nev.hu"}};
-        state.Status[1] = L"megjelenítve (1 / 1)";
-        state.Modified = true;
-        return state;
-    }
-    static std::string ChangedBook() { return OneEntryBook("N\xE9v\r\nhttp://nev.hu\r\n"); }
-    static std::string OneEntryBook(const std::string& entry) {
-        std::string bytes = "#Project1\r\n" + entry;
-        for (int k = 2; k <= 12; ++k) bytes += "#Project" + std::to_string(k) + "\r\n";
-        return bytes;
-    }
-    void ExpectState(const MainState& expected) const {
-        program.Settle();
-        EXPECT_TRUE(program.NothingIsOpen());
-        EXPECT_EQ(program.State(), expected);
-    }
-    void ExpectSaveQuestion(const std::wstring& title, int answer) const {
-        const BoxOnScreen box = program.Box();
-        EXPECT_EQ(box.Title(), title);
-        EXPECT_EQ(box.Text(), L"Kívánja menteni a módosításokat ?");
-        EXPECT_EQ(box.Buttons(), (std::vector<int>{IDYES, IDNO, IDCANCEL}));
-        EXPECT_EQ(box.Icon(), BoxIcon::Question);
-        box.Press(answer);
-    }
-    void ExpectOverwriteQuestion(const std::wstring& path, int answer) const {
-        const BoxOnScreen box = program.Box();
-        EXPECT_EQ(box.Title(), L"Lindrel");
-        EXPECT_EQ(box.Text(), L"A " + path + L" már létezik.\r\nFelülírjam a már létező fájlt?");
-        EXPECT_EQ(box.Buttons(), (std::vector<int>{IDYES, IDNO, IDCANCEL}));
-        EXPECT_EQ(box.Icon(), BoxIcon::Question);
-        box.Press(answer);
-    }
-    void ExpectSaved(const std::wstring& path) const {
-        const BoxOnScreen box = program.Box();
-        EXPECT_EQ(box.Title(), L"Lindrel");
-        EXPECT_EQ(box.Text(), L"Elmentve : " + path);
-        EXPECT_EQ(box.Buttons(), std::vector<int>{IDOK});
-        EXPECT_EQ(box.Icon(), BoxIcon::None);
-        box.Press(IDOK);
-    }
-
-    // The changed book is saved under a name in the folder, and the window bears that name.
-    void ExpectSavedAs(const std::wstring& name) const {
-        const std::wstring path = folder.File(name);
-        ExpectSaved(path);
-        MainState expected = ChangedState();
-        expected.Title = L"Lindrel -" + name;
-        expected.OpenedFile = path;
-        expected.Modified = false;
-        ExpectState(expected);
-        EXPECT_EQ(TemporaryFolder::Read(path), ChangedBook());
-    }
-
-    // What the system asks each window before the session ends. The answer comes with the user's.
-    std::future<LRESULT> QueryEndSession() const {
-        return std::async(std::launch::async, [window = program.Main()] {
-            DWORD_PTR answer = 0;
-            const auto deadline =
-                static_cast<UINT>(std::chrono::duration_cast<std::chrono::milliseconds>(kDeadline).count());
-            if (SendMessageTimeoutW(window, WM_QUERYENDSESSION, 0, 0, SMTO_NORMAL, deadline, &answer) == 0)
-                throw DeadlinePassed("the answer to the end of the session");
-            return static_cast<LRESULT>(answer);
-        });
-    }
-
-    TemporaryFolder folder;
-    Program program;
-};
+class frmStartFileTest : public FileSession {};
 
 TEST_F(frmStartFileTest, StartsWithTheEmptyBook) {
     EXPECT_EQ(program.State(), EmptyState());
     EXPECT_EQ(program.BookBytes(), OneEntryBook(""));
     EXPECT_EQ(program.Ask<int>([](frmStart& form) { return form.CurrentCategory; }), 1);
     EXPECT_FALSE(program.CommandEnabled(ID_mnuToDesktop));
-}
-
-TEST_F(frmStartFileTest, SavingAnUnmodifiedBookDoesNothing) {
-    const MainState before = program.State();
-    program.Run(ID_mnuSave);
-    EXPECT_TRUE(program.NothingIsOpen());
-    EXPECT_EQ(program.State(), before);
-}
-
-TEST_F(frmStartFileTest, SaveAsDoesNothingForEntriesInTheTwelfthCategoryOnly) {
-    Change(12);
-    const MainState before = program.State();
-    program.Choose(ID_mnuSaveAs);
-    ExpectState(before);
-}
-
-TEST_F(frmStartFileTest, SavingABookThatWasNeverSavedAsksForAFileAndSetsTheTitle) {
-    Change();
-    const std::wstring path = folder.File(L"Első könyv.lnd");
-    program.Choose(ID_mnuSave);
-    const FileDialogOnScreen dialog = program.FileDialog();
-    EXPECT_EQ(dialog.Title(), L"File mentése");
-    dialog.Accept(path);
-    ExpectSavedAs(L"Első könyv.lnd");
-    EXPECT_EQ(folder.Names(), std::vector<std::wstring>{L"Első könyv.lnd"});
-}
-
-TEST_F(frmStartFileTest, ACancelledSaveOfABookThatWasNeverSavedChangesNothing) {
-    Change();
-    for (const int command : {ID_mnuSave, ID_mnuSaveAs}) {
-        program.Choose(command);
-        program.FileDialog().Cancel();
-        ExpectState(ChangedState());
-    }
-}
-
-TEST_F(frmStartFileTest, ANameWithoutAnExtensionIsSavedAsABookFile) {
-    Change();
-    program.Choose(ID_mnuSave);
-    program.FileDialog().Accept(folder.File(L"könyv"));
-    ExpectSavedAs(L"könyv.lnd");
-    EXPECT_EQ(folder.Names(), std::vector<std::wstring>{L"könyv.lnd"});
 }
 
 // Wherever the last file was chosen.
@@ -217,49 +89,6 @@ TEST_F(frmStartFileTest, NewWithYesAndACancelledSaveDialogLosesTheChanges) {
     program.FileDialog().Cancel();
     program.Settle();
     EXPECT_EQ(program.State(), empty);
-}
-
-TEST_F(frmStartFileTest, SaveAsOntoAnExistingFileAsksAndKeepsTheRefusedPath) {
-    Change();
-    const std::wstring path = folder.Write(L"van.lnd", "régi");
-    program.Choose(ID_mnuSaveAs);
-    program.FileDialog().Accept(path);
-    ExpectOverwriteQuestion(path, IDNO);
-    program.FileDialog().Accept(path);
-    ExpectOverwriteQuestion(path, IDCANCEL);
-    MainState expected = ChangedState();
-    expected.OpenedFile = path;
-    ExpectState(expected);
-    EXPECT_EQ(TemporaryFolder::Read(path), "régi");
-
-    // The refused path is the book's: the next save goes there, asks nothing and leaves the title.
-    program.Choose(ID_mnuSave);
-    ExpectSaved(path);
-    expected.Modified = false;
-    ExpectState(expected);
-    EXPECT_EQ(TemporaryFolder::Read(path), ChangedBook());
-}
-
-TEST_F(frmStartFileTest, SaveAsOntoAnExistingFileOverwritesItAfterYes) {
-    Change();
-    const std::wstring path = folder.Write(L"van.lnd", std::string(5000, '#'));
-    program.Choose(ID_mnuSaveAs);
-    program.FileDialog().Accept(path);
-    ExpectOverwriteQuestion(path, IDYES);
-    ExpectSavedAs(L"van.lnd");
-    EXPECT_EQ(folder.Names(), std::vector<std::wstring>{L"van.lnd"});
-}
-
-TEST_F(frmStartFileTest, SaveAsAfterNoSavesUnderAnotherNameAndLeavesTheRefusedFile) {
-    Change();
-    const std::wstring refused = folder.Write(L"van.lnd", "régi");
-    const std::wstring path = folder.File(L"más.lnd");
-    program.Choose(ID_mnuSaveAs);
-    program.FileDialog().Accept(refused);
-    ExpectOverwriteQuestion(refused, IDNO);
-    program.FileDialog().Accept(path);
-    ExpectSavedAs(L"más.lnd");
-    EXPECT_EQ(TemporaryFolder::Read(refused), "régi");
 }
 
 // Entries in the first, the third and the seventh category.
@@ -364,24 +193,6 @@ TEST_F(frmStartFileTest, FileExistsOfAnEmptyPathSaysSoAndOfAPatternGoesByWhatMat
         [this](frmStart& form) { return FileExists(form.Handle(), folder.File(L"v?n.*")); }));
 }
 
-TEST_F(frmStartFileTest, PlainSaveOfALoadedBookLeavesTheTitle) {
-    const std::wstring path =
-        folder.Write(L"a.lnd", "#1\r\n#2\r\n#3\r\n#4\r\n#5\r\n#6\r\n#7\r\n#8\r\n#9\r\n#10\r\n#11\r\n#12\r\n");
-    program.Choose(ID_mnuOpen);
-    program.FileDialog().Accept(path);
-    program.Settle();
-    program.OnUi([](frmStart& form) { form.SetTitle(L"egyéb"); });
-    Change();
-    program.Choose(ID_mnuSave);
-    ExpectSaved(path);
-    program.Settle();
-    EXPECT_EQ(program.State().Title, L"egyéb");
-    EXPECT_FALSE(program.State().Modified);
-    EXPECT_EQ(TemporaryFolder::Read(path),
-              "#1\r\nN\xE9v\r\nhttp://"
-              "nev.hu\r\n#2\r\n#3\r\n#4\r\n#5\r\n#6\r\n#7\r\n#8\r\n#9\r\n#10\r\n#11\r\n#12\r\n");
-}
-
 TEST_F(frmStartFileTest, NewAndCloseForgetTheBookOnNoAndKeepItOnCancel) {
     const MainState empty = program.State();
     for (const int command : {ID_mnuNew, ID_mnuClose}) {
@@ -414,71 +225,6 @@ TEST_F(frmStartFileTest, OpenWithChangesGoesOnAfterNoAndStopsAfterCancel) {
     EXPECT_EQ(program.State(), changed);
 }
 
-TEST_F(frmStartFileTest, AFailedSaveSaysWhyChangesNothingAndCallsTheCommandOff) {
-    const std::string old = "régi";
-    const std::wstring path = folder.Write(L"zárt.lnd", old);
-    ASSERT_TRUE(SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_READONLY));
-    Change();
-    program.OnUi([&](frmStart& form) { form.OpenedFile = path; });
-    const MainState before = program.State();
-    const auto expect_failure = [&] {
-        const BoxOnScreen box = program.Box();
-        EXPECT_EQ(box.Title(), L"Hiba");
-        EXPECT_EQ(box.Text().substr(0, path.size() + 2), path + L"\r\n");
-        EXPECT_GT(box.Text().size(), path.size() + 2);  // the system's reason
-        EXPECT_EQ(box.Icon(), BoxIcon::Error);
-        box.Press(IDOK);
-        program.Settle();
-        EXPECT_TRUE(program.NothingIsOpen());
-        EXPECT_EQ(program.State(), before);
-        EXPECT_EQ(TemporaryFolder::Read(path), old);
-        EXPECT_EQ(folder.Names(), std::vector<std::wstring>{L"zárt.lnd"});
-    };
-    program.Choose(ID_mnuSave);
-    expect_failure();
-    for (const int command : {ID_mnuNew, ID_mnuOpen, ID_mnuClose}) {
-        program.Choose(command);
-        ExpectSaveQuestion(L"A file módosult", IDYES);
-        expect_failure();
-    }
-    program.Close();
-    ExpectSaveQuestion(L"A fájl módosult", IDYES);
-    expect_failure();
-    EXPECT_TRUE(IsWindow(program.Main()));
-    std::future<LRESULT> end_of_session = QueryEndSession();
-    ExpectSaveQuestion(L"A fájl módosult", IDYES);
-    expect_failure();
-    EXPECT_EQ(end_of_session.get(), FALSE);
-    ASSERT_TRUE(SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL));
-}
-
-TEST_F(frmStartFileTest, EntriesThatWillComeBackAsHeadersAreWarnedOf) {
-    program.OnUi([&](frmStart& form) {
-        form.TheBook.NewEntries = {{"#els\xF5", "http://a.hu"}, {"B", "#m\xE1sodik"}};
-        form.TheBook.AddEntry(2);
-        form.OpenedFile = folder.File(L"a.lnd");
-        form.Modified = true;
-    });
-    program.Choose(ID_mnuSave);
-    ExpectSaved(folder.File(L"a.lnd"));
-    const BoxOnScreen box = program.Box();
-    EXPECT_EQ(box.Title(), L"Figyelem");
-    EXPECT_EQ(
-        box.Text(),
-        L"A könyvben 2 olyan név vagy cím van, amely „#” jellel kezdődik. A következő megnyitáskor ezek "
-        L"kategórianévként jönnek vissza. Az első:\r\n\r\n#első");
-    EXPECT_EQ(box.Icon(), BoxIcon::Exclamation);
-    box.Press(IDOK);
-    program.Settle();
-    EXPECT_FALSE(program.State().Modified);
-}
-
-// Eleven headers and two entries: the twelfth category keeps its name, the eleventh its count of the book
-// before.
-constexpr char kElevenHeaders[] =
-    "#1\r\nA\r\nhttp://a.hu\r\nB\r\nhttp://"
-    "b.hu\r\n#2\r\n#3\r\n#4\r\n#5\r\n#6\r\n#7\r\n#8\r\n#9\r\n#10\r\n#11\r\n";
-
 TEST_F(frmStartFileTest, AFileWithTooFewCategoriesIsLoadedWithAMessage) {
     Change();
     program.Choose(ID_mnuOpen);
@@ -502,128 +248,6 @@ TEST_F(frmStartFileTest, AFileWithTooFewCategoriesIsLoadedWithAMessage) {
     expected.Status[2] = L"bejelölve 0";
     expected.OpenedFile = path;
     EXPECT_EQ(program.State(), expected);
-}
-
-TEST_F(frmStartFileTest, ABookThatCannotBeWrittenOutIsKeptAndTheCommandCalledOff) {
-    for (int i = 0; i < 5; ++i) Change(11);
-    program.OnUi([](frmStart& form) { form.Modified = false; });
-    const std::wstring path = folder.Write(L"kevés.lnd", kElevenHeaders);
-    program.Choose(ID_mnuOpen);
-    program.FileDialog().Accept(path);
-    program.Box().Press(IDOK);
-    program.Settle();
-    program.OnUi([](frmStart& form) { form.Modified = true; });
-    const MainState before = program.State();
-    // Category 11 counts five entries of the book before, which nothing stands for.
-    const auto expect_refusal = [&] {
-        const BoxOnScreen box = program.Box();
-        EXPECT_EQ(box.Title(), L"Hiba");
-        EXPECT_EQ(box.Text(), path + L"\r\nAz index a tartományon kívül esik");
-        EXPECT_EQ(box.Buttons(), std::vector<int>{IDOK});
-        EXPECT_EQ(box.Icon(), BoxIcon::Error);
-        box.Press(IDOK);
-        program.Settle();
-        EXPECT_EQ(program.State(), before);
-        EXPECT_EQ(TemporaryFolder::Read(path), kElevenHeaders);
-        EXPECT_EQ(folder.Names(), std::vector<std::wstring>{L"kevés.lnd"});
-    };
-    program.Choose(ID_mnuSave);
-    expect_refusal();
-    program.Close();
-    ExpectSaveQuestion(L"A fájl módosult", IDYES);
-    expect_refusal();
-}
-
-TEST_F(frmStartFileTest, AFaultThatNobodyCatchesIsReportedAndEndsTheProgram) {
-    for (int i = 0; i < 5; ++i) Change(11);
-    program.OnUi([](frmStart& form) { form.Modified = false; });
-    program.Choose(ID_mnuOpen);
-    program.FileDialog().Accept(folder.Write(L"kevés.lnd", kElevenHeaders));
-    program.Box().Press(IDOK);
-    program.Settle();
-    program.OnUi([](frmStart& form) { form.Modified = true; });
-    // Five entries that no file line stands for.
-    const HWND tabs = program.Ask<HWND>([](frmStart& form) { return form.TabStrip1.Handle(); });
-    SendMessageW(tabs, TCM_SETCURFOCUS, 10, 0);
-    const BoxOnScreen report = program.Box();
-    EXPECT_EQ(report.Title(), L"Lindrel");
-    EXPECT_EQ(report.Text(), L"Futásidejű hiba: 9\r\n\r\nAz index a tartományon kívül esik.");
-    EXPECT_EQ(report.Icon(), BoxIcon::Error);
-    report.Press(IDOK);
-    ExpectSaveQuestion(L"A fájl módosult", IDNO);
-    EXPECT_EQ(program.WaitForEnd(), 1);
-}
-
-TEST_F(frmStartFileTest, ClosingAsksWithItsOwnTitleAndCancelKeepsTheWindow) {
-    Change();
-    program.Close();
-    ExpectSaveQuestion(L"A fájl módosult", IDCANCEL);
-    ExpectState(ChangedState());
-    program.Choose(ID_mnuExit);
-    ExpectSaveQuestion(L"A fájl módosult", IDCANCEL);
-    ExpectState(ChangedState());
-    program.Close();
-    ExpectSaveQuestion(L"A fájl módosult", IDNO);
-    EXPECT_EQ(program.WaitForEnd(), 0);
-}
-
-TEST_F(frmStartFileTest, ClosingWithYesSavesUnderAChosenNameAndEndsTheProgram) {
-    Change();
-    const std::wstring path = folder.File(L"vége.lnd");
-    program.Close();
-    ExpectSaveQuestion(L"A fájl módosult", IDYES);
-    program.FileDialog().Accept(path);
-    ExpectSaved(path);
-    EXPECT_EQ(program.WaitForEnd(), 0);
-    EXPECT_EQ(TemporaryFolder::Read(path), ChangedBook());
-}
-
-TEST_F(frmStartFileTest, ClosingWithYesSavesInTheBooksOwnFileWithoutADialog) {
-    Change();
-    const std::wstring path = folder.Write(L"van.lnd", "régi");
-    program.OnUi([&](frmStart& form) { form.OpenedFile = path; });
-    program.Close();
-    ExpectSaveQuestion(L"A fájl módosult", IDYES);
-    ExpectSaved(path);
-    EXPECT_EQ(program.WaitForEnd(), 0);
-    EXPECT_EQ(TemporaryFolder::Read(path), ChangedBook());
-}
-
-TEST_F(frmStartFileTest, ClosingWithYesAndACancelledSaveDialogLosesTheChangesAndEndsTheProgram) {
-    Change();
-    program.Close();
-    ExpectSaveQuestion(L"A fájl módosult", IDYES);
-    program.FileDialog().Cancel();
-    EXPECT_EQ(program.WaitForEnd(), 0);
-    EXPECT_EQ(folder.Names(), std::vector<std::wstring>{});
-}
-
-TEST_F(frmStartFileTest, TheEndOfTheSessionWaitsForTheAnswerAndLeavesTheWindow) {
-    EXPECT_EQ(QueryEndSession().get(), TRUE);  // nothing to ask
-    ExpectState(EmptyState());
-
-    Change();
-    std::future<LRESULT> answer = QueryEndSession();
-    ExpectSaveQuestion(L"A fájl módosult", IDCANCEL);
-    EXPECT_EQ(answer.get(), FALSE);
-    ExpectState(ChangedState());
-
-    answer = QueryEndSession();
-    ExpectSaveQuestion(L"A fájl módosult", IDNO);
-    EXPECT_EQ(answer.get(), TRUE);
-    ExpectState(ChangedState());
-
-    const std::wstring path = folder.File(L"vége.lnd");
-    answer = QueryEndSession();
-    ExpectSaveQuestion(L"A fájl módosult", IDYES);
-    program.FileDialog().Accept(path);
-    ExpectSaved(path);
-    EXPECT_EQ(answer.get(), TRUE);
-    MainState saved = ChangedState();
-    saved.OpenedFile = path;
-    saved.Modified = false;
-    ExpectState(saved);  // the save step leaves the title
-    EXPECT_EQ(TemporaryFolder::Read(path), ChangedBook());
 }
 
 }  // namespace
