@@ -1,7 +1,6 @@
 #include "controls/Display.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace lindrel {
 
@@ -22,18 +21,6 @@ LOGFONTW MessageFont(UINT dpi) {
 }
 
 Font::Font(const LOGFONTW& description) : handle_(CreateFontIndirectW(&description)) {}
-
-Font::~Font() {
-    // Fails only for a font that is not ours; then there is nothing to give back.
-    if (handle_ != nullptr) static_cast<void>(DeleteObject(handle_));
-}
-
-Font::Font(Font&& other) noexcept : handle_(std::exchange(other.handle_, nullptr)) {}
-
-Font& Font::operator=(Font&& other) noexcept {
-    std::swap(handle_, other.handle_);
-    return *this;
-}
 
 void CentreOnOwner(HWND window, HWND owner) {
     RECT own{};

@@ -1,6 +1,7 @@
 // Measures of the screen: resolution, lengths in twips (1/1440 inch) and the user's message font.
 #pragma once
 
+#include "controls/Owned.h"
 #include "controls/Windows.h"
 
 namespace lindrel {
@@ -28,13 +29,10 @@ class Font {
   public:
     Font() = default;
     explicit Font(const LOGFONTW& description);
-    ~Font();
-    Font(Font&& other) noexcept;
-    Font& operator=(Font&& other) noexcept;
-    HFONT Handle() const { return handle_; }
+    HFONT Handle() const { return handle_.get(); }
 
   private:
-    HFONT handle_ = nullptr;
+    Owned<HFONT> handle_;
 };
 
 // Moves a window to the middle of its owner, and on to the screen's work area where it would stick out.

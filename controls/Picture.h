@@ -3,6 +3,7 @@
 
 #include <span>
 
+#include "controls/Owned.h"
 #include "controls/Windows.h"
 
 namespace lindrel {
@@ -17,13 +18,10 @@ class Picture {
     // The icon of the resources, `size` pixels wide and high; where the resources have no such size, the
     // nearest one scaled. Throws std::bad_alloc when there is none.
     Picture(HINSTANCE instance, int id, int size);
-    ~Picture();
-    Picture(Picture&& other) noexcept;
-    Picture& operator=(Picture&& other) noexcept;
-    HICON Handle() const { return handle_; }
+    HICON Handle() const { return handle_.get(); }
 
   private:
-    HICON handle_ = nullptr;
+    Owned<HICON> handle_;
 };
 
 // Pictures of one size, for controls that show several. Destroyed with its owner.
@@ -32,13 +30,10 @@ class PictureList {
     PictureList() = default;
     // The icons of the resources in the given order. Throws std::bad_alloc when one is missing.
     PictureList(HINSTANCE instance, std::span<const int> ids, int size);
-    ~PictureList();
-    PictureList(PictureList&& other) noexcept;
-    PictureList& operator=(PictureList&& other) noexcept;
-    HIMAGELIST Handle() const { return handle_; }
+    HIMAGELIST Handle() const { return handle_.get(); }
 
   private:
-    HIMAGELIST handle_ = nullptr;
+    Owned<HIMAGELIST> handle_;
 };
 
 }  // namespace lindrel
