@@ -3,8 +3,11 @@
 #include <shellapi.h>
 
 #include <algorithm>
+#include <functional>
 #include <new>
 #include <vector>
+
+#include "controls/FileSearch.h"
 
 namespace lindrel {
 
@@ -17,6 +20,10 @@ constexpr LPARAM kFilled = 1;
 bool SameName(const std::wstring& one, const std::wstring& other) {
     return CompareStringOrdinal(one.c_str(), static_cast<int>(one.size()), other.c_str(),
                                 static_cast<int>(other.size()), TRUE) == CSTR_EQUAL;
+}
+
+std::wstring Joined(const std::wstring& folder, const std::wstring& name) {
+    return folder + (folder.ends_with(L'\\') ? L"" : L"\\") + name;
 }
 
 // An empty drive must not raise the system's box that asks for a disk.
@@ -34,35 +41,24 @@ class WithoutDiskBoxes {
     bool changed_;
 };
 
-// Hands the names of the folders in a folder to a visitor until that returns false. A folder that may not be
-// read has none; hidden ones are left out.
-template <typename Visitor>
-void VisitFolders(const std::wstring& path, Visitor&& visitor) {
+// Hands the names of the folders in a folder to a visitor until that returns false. Hidden ones are left out.
+void VisitFolders(const std::wstring& path, const std::function<bool(const std::wstring&)>& visitor) {
     const WithoutDiskBoxes quiet;
-    const std::wstring pattern = path + (path.ends_with(L'\\') ? L"*" : L"\\*");
-    WIN32_FIND_DATAW found{};
-    const HANDLE search = FindFirstFileW(pattern.c_str(), &found);
-    if (search == INVALID_HANDLE_VALUE) return;
-    bool wanted = true;
-    do {
+    VisitMatches(Joined(path, L"*"), [&](const WIN32_FIND_DATAW& found) {
         const std::wstring name = found.cFileName;
-        const bool folder = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
         const bool hidden = (found.dwFileAttributes & FILE_ATTRIBUTE_HIDDEN) != 0;
-        if (folder && !hidden && name != L"." && name != L"..") wanted = visitor(name);
-    } while (wanted && FindNextFileW(search, &found));
-    static_cast<void>(FindClose(search));  // fails only for a handle that is none
+        const bool wanted = IsFolder(found) && !hidden && name != L"." && name != L"..";
+        return !wanted || visitor(name);
+    });
 }
 
-// As the user sorts names.
 std::vector<std::wstring> FoldersIn(const std::wstring& path) {
     std::vector<std::wstring> names;
     VisitFolders(path, [&](const std::wstring& name) {
         names.push_back(name);
         return true;
     });
-    std::sort(names.begin(), names.end(), [](const std::wstring& a, const std::wstring& b) {
-        return lstrcmpiW(a.c_str(), b.c_str()) < 0;
-    });
+    SortNames(names);
     return names;
 }
 
@@ -103,10 +99,6 @@ std::size_t RootLength(const std::wstring& path) {
     if (!path.starts_with(L"\\\\")) return std::min(path.find(L'\\'), path.size());
     const std::size_t server_end = std::min(path.find(L'\\', 2), path.size());
     return std::min(path.find(L'\\', server_end + 1), path.size());
-}
-
-std::wstring Joined(const std::wstring& folder, const std::wstring& name) {
-    return folder + (folder.ends_with(L'\\') ? L"" : L"\\") + name;
 }
 
 }  // namespace

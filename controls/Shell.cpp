@@ -3,9 +3,9 @@
 #include <shellapi.h>
 #include <shlobj.h>
 
-#include <algorithm>
 #include <vector>
 
+#include "controls/FileSearch.h"
 #include "controls/MsgBox.h"
 
 namespace lindrel {
@@ -23,16 +23,11 @@ std::wstring ProgramFolder() {
 
 std::vector<std::wstring> FilesMatching(const std::wstring& pattern) {
     std::vector<std::wstring> names;
-    WIN32_FIND_DATAW found{};
-    const HANDLE search = FindFirstFileW(pattern.c_str(), &found);
-    if (search == INVALID_HANDLE_VALUE) return names;
-    do {
-        if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) names.emplace_back(found.cFileName);
-    } while (FindNextFileW(search, &found));
-    static_cast<void>(FindClose(search));  // fails only for a handle that is none
-    std::sort(names.begin(), names.end(), [](const std::wstring& a, const std::wstring& b) {
-        return lstrcmpiW(a.c_str(), b.c_str()) < 0;
+    VisitMatches(pattern, [&](const WIN32_FIND_DATAW& found) {
+        if (!IsFolder(found)) names.emplace_back(found.cFileName);
+        return true;
     });
+    SortNames(names);
     return names;
 }
 
