@@ -212,9 +212,8 @@ LRESULT CALLBACK CheckListView::Subclass(HWND list, UINT message, WPARAM first, 
         case WM_KEYDOWN:
             if (first == VK_SPACE && GetKeyState(VK_CONTROL) >= 0) {
                 const int focused = self->Focused();
-                Guarded<bool>(true, [&] {
+                Guarded([&] {
                     if (focused >= 1 && focused <= self->Count()) self->Toggle(focused);
-                    return true;
                 });
                 return 0;
             }

@@ -14,7 +14,7 @@ void KeepPendingFault() noexcept;
 // Throws the kept exception, if there is one. Called after each message that a loop dispatches.
 void ThrowPendingFault();
 
-// Runs a handler inside a window procedure.
+// Runs a handler inside a window procedure. When it throws, the fault is kept and the result is `otherwise`.
 template <typename Result, typename Handler>
 Result Guarded(Result otherwise, Handler&& handler) noexcept {
     try {
@@ -22,6 +22,14 @@ Result Guarded(Result otherwise, Handler&& handler) noexcept {
     } catch (...) {
         KeepPendingFault();
         return otherwise;
+    }
+}
+template <typename Handler>
+void Guarded(Handler&& handler) noexcept {
+    try {
+        std::forward<Handler>(handler)();
+    } catch (...) {
+        KeepPendingFault();
     }
 }
 

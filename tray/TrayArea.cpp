@@ -85,11 +85,7 @@ LRESULT CALLBACK TrayArea::OwnerSubclass(HWND window, UINT message, WPARAM first
                                          DWORD_PTR control) {
     // Under its old identifier: some taskbars that are called new still have the icon, and then refuse it.
     auto* const area = reinterpret_cast<TrayArea*>(control);
-    if (message == TaskbarCreated() && area->added_)
-        Guarded<int>(0, [area] {
-            area->AddIcon();
-            return 0;
-        });
+    if (message == TaskbarCreated() && area->added_) Guarded([area] { area->AddIcon(); });
     return DefSubclassProc(window, message, first, second);
 }
 
