@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "book/BookText.h"
-#include "controls/PendingFault.h"
 
 namespace lindrel {
 
@@ -20,14 +19,11 @@ bool BeginsWith(const std::wstring& text, const std::wstring& letters) {
 
 }  // namespace
 
-CheckListView::~CheckListView() {
-    if (Handle() != nullptr) static_cast<void>(RemoveWindowSubclass(Handle(), &CheckListView::Subclass, 0));
-}
-
 void CheckListView::Attach(HWND list) {
-    static_cast<Control&>(*this) = Control(list);
-    if (!SetWindowSubclass(list, &CheckListView::Subclass, 0, reinterpret_cast<DWORD_PTR>(this)))
-        throw std::bad_alloc();
+    Wrap(list);
+    subclass_.Attach(list, [this](UINT message, WPARAM wparam, LPARAM lparam) {
+        return OnMessage(message, wparam, lparam);
+    });
     ListView_SetExtendedListViewStyle(list, kExtendedStyles | LVS_EX_CHECKBOXES);
     // The check marks are ours: the control asks for each row's.
     static_cast<void>(ListView_SetCallbackMask(list, LVIS_STATEIMAGEMASK));
@@ -190,6 +186,11 @@ void CheckListView::Toggle(int position) {
     if (ItemCheck) ItemCheck(position);
 }
 
+void CheckListView::ToggleFocused() {
+    const int focused = Focused();
+    if (focused >= 1 && focused <= Count()) Toggle(focused);
+}
+
 bool CheckListView::ToggledByMouse(LPARAM point) {
     LVHITTESTINFO hit{};
     hit.pt = {GET_X_LPARAM(point), GET_Y_LPARAM(point)};
@@ -200,35 +201,26 @@ bool CheckListView::ToggledByMouse(LPARAM point) {
     return true;
 }
 
-LRESULT CALLBACK CheckListView::Subclass(HWND list, UINT message, WPARAM first, LPARAM second, UINT_PTR id,
-                                         DWORD_PTR data) {
-    auto* const self = reinterpret_cast<CheckListView*>(data);
+std::optional<LRESULT> CheckListView::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
     switch (message) {
         case WM_LBUTTONDOWN:
         case WM_LBUTTONDBLCLK:
             // Taken before the control sees it: a click on the box does not select the row.
-            if (Guarded<bool>(true, [&] { return self->ToggledByMouse(second); })) return 0;
-            break;
+            if (ToggledByMouse(lparam)) return 0;
+            return std::nullopt;
         case WM_KEYDOWN:
-            if (first == VK_SPACE && GetKeyState(VK_CONTROL) >= 0) {
-                const int focused = self->Focused();
-                Guarded([&] {
-                    if (focused >= 1 && focused <= self->Count()) self->Toggle(focused);
-                });
-                return 0;
-            }
-            break;
+            if (wparam != VK_SPACE || GetKeyState(VK_CONTROL) < 0) return std::nullopt;
+            ToggleFocused();
+            return 0;
         case WM_CHAR:
-            if (first == L' ') return 0;  // not a letter to search for
-            break;
+            if (wparam == L' ') return 0;  // not a letter to search for
+            return std::nullopt;
         case WM_NCDESTROY:
-            static_cast<void>(RemoveWindowSubclass(list, &CheckListView::Subclass, id));
-            static_cast<Control&>(*self) = Control();
-            break;
+            Wrap(nullptr);
+            return std::nullopt;
         default:
-            break;
+            return std::nullopt;
     }
-    return DefSubclassProc(list, message, first, second);
 }
 
 }  // namespace lindrel

@@ -5,11 +5,13 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
 
 #include "controls/Control.h"
+#include "controls/Subclass.h"
 
 namespace lindrel {
 
@@ -17,11 +19,6 @@ class CheckListView : public Control {
   public:
     // Text of a cell; column 0 or 1. Asked when a row is painted or searched by its first letters.
     using CellText = std::function<std::wstring(int position, int column)>;
-
-    CheckListView() = default;
-    ~CheckListView();
-    CheckListView(const CheckListView&) = delete;
-    CheckListView& operator=(const CheckListView&) = delete;
 
     // Takes over a list view control that was made with the styles kStyles. Its parent passes the WM_NOTIFY
     // messages of the control to Notify().
@@ -71,14 +68,15 @@ class CheckListView : public Control {
     LRESULT Notify(const NMHDR& header);
 
   private:
-    static LRESULT CALLBACK Subclass(HWND list, UINT message, WPARAM first, LPARAM second, UINT_PTR id,
-                                     DWORD_PTR data);
+    std::optional<LRESULT> OnMessage(UINT message, WPARAM wparam, LPARAM lparam);
     bool ToggledByMouse(LPARAM point);
+    void ToggleFocused();
     void Toggle(int position);
     void TellScreenReaders(LONG row) const;  // 1-based; CHILDID_SELF for all
     void FillCell(NMLVDISPINFOW& cell) const;
     LRESULT FindRow(const NMLVFINDITEMW& search) const;
 
+    Subclass subclass_;
     std::vector<bool> checked_;
     CellText text_;
     bool selecting_ = false;  // a change of the selection that the program makes

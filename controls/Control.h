@@ -31,6 +31,8 @@ class Control {
     bool HasFocus() const { return GetFocus() == handle_; }
 
   protected:
+    // For wrappers that begin and end with their window.
+    void Wrap(HWND handle) { handle_ = handle; }
     LRESULT Send(UINT message, WPARAM first = 0, LPARAM second = 0) const {
         return SendMessageW(handle_, message, first, second);
     }

@@ -104,7 +104,7 @@ std::size_t RootLength(const std::wstring& path) {
 }  // namespace
 
 void DirList::Attach(HWND tree) {
-    static_cast<Control&>(*this) = Control(tree);
+    Wrap(tree);
     closed_picture_ = FolderPicture(false);
     open_picture_ = FolderPicture(true);
     // The system's own list, which the control never frees.

@@ -1,17 +1,10 @@
 #include "controls/PictureButton.h"
 
-#include <new>
-
 namespace lindrel {
 
-PictureButton::~PictureButton() {
-    if (Handle() != nullptr) static_cast<void>(RemoveWindowSubclass(Handle(), &PictureButton::Subclass, 0));
-}
-
 void PictureButton::Attach(HWND button) {
-    static_cast<Control&>(*this) = Control(button);
-    if (!SetWindowSubclass(button, &PictureButton::Subclass, 0, reinterpret_cast<DWORD_PTR>(this)))
-        throw std::bad_alloc();
+    Wrap(button);
+    subclass_.Attach(button, [this](UINT message, WPARAM, LPARAM) { return OnMessage(message); });
 }
 
 void PictureButton::SetPicture(int icon_id, int size) {
@@ -43,29 +36,25 @@ void PictureButton::ShowBorder(bool shown) const {
     static_cast<void>(InvalidateRect(Handle(), nullptr, TRUE));
 }
 
-LRESULT CALLBACK PictureButton::Subclass(HWND button, UINT message, WPARAM first, LPARAM second, UINT_PTR id,
-                                         DWORD_PTR data) {
-    auto* const self = reinterpret_cast<PictureButton*>(data);
+std::optional<LRESULT> PictureButton::OnMessage(UINT message) {
     switch (message) {
         case WM_LBUTTONDOWN:
         case WM_LBUTTONDBLCLK:
-            self->MouseDown();
-            break;
+            MouseDown();
+            return std::nullopt;
         case WM_LBUTTONUP:
         case WM_CAPTURECHANGED:  // the button never comes up when something else takes the mouse
-            self->MouseUp();
-            break;
+            MouseUp();
+            return std::nullopt;
         case WM_GETDLGCODE:
             // Enter presses the button that has the focus.
-            return DLGC_BUTTON | (GetFocus() == button ? DLGC_DEFPUSHBUTTON : DLGC_UNDEFPUSHBUTTON);
+            return DLGC_BUTTON | (HasFocus() ? DLGC_DEFPUSHBUTTON : DLGC_UNDEFPUSHBUTTON);
         case WM_NCDESTROY:
-            static_cast<void>(RemoveWindowSubclass(button, &PictureButton::Subclass, id));
-            static_cast<Control&>(*self) = Control();
-            break;
+            Wrap(nullptr);
+            return std::nullopt;
         default:
-            break;
+            return std::nullopt;
     }
-    return DefSubclassProc(button, message, first, second);
 }
 
 }  // namespace lindrel

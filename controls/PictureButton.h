@@ -1,18 +1,16 @@
 // A button that shows a picture in the place of its text. The text stays its name for screen readers.
 #pragma once
 
+#include <optional>
+
 #include "controls/Control.h"
 #include "controls/Picture.h"
+#include "controls/Subclass.h"
 
 namespace lindrel {
 
 class PictureButton : public Control {
   public:
-    PictureButton() = default;
-    ~PictureButton();
-    PictureButton(const PictureButton&) = delete;
-    PictureButton& operator=(const PictureButton&) = delete;
-
     // Takes over a button that was made with kStyle. Its parent passes WM_DRAWITEM for it to Draw(). Throws
     // std::bad_alloc when the system cannot.
     void Attach(HWND button);
@@ -23,13 +21,13 @@ class PictureButton : public Control {
     void Draw(const DRAWITEMSTRUCT& item) const;
 
   private:
-    static LRESULT CALLBACK Subclass(HWND button, UINT message, WPARAM first, LPARAM second, UINT_PTR id,
-                                     DWORD_PTR data);
+    std::optional<LRESULT> OnMessage(UINT message);
     // A single-line border while the mouse holds it is all that pressing the button shows (intended).
     void MouseDown() const { ShowBorder(true); }
     void MouseUp() const { ShowBorder(false); }
     void ShowBorder(bool shown) const;
 
+    Subclass subclass_;
     Picture picture_;
     int size_ = 0;
 };

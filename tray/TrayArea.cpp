@@ -13,8 +13,6 @@ namespace lindrel {
 namespace {
 
 constexpr wchar_t kWindowClass[] = L"TrayArea";
-// Of the control at its owner; a window holds one.
-constexpr UINT_PTR kSubclass = 512;
 
 // The shell sends the mouse messages of the icon under the number of an ordinary mouse move. The control's
 // window is never visible where a pointer could move over it.
@@ -65,28 +63,23 @@ void TrayArea::Place(HWND owner, Environment environment) {
     static_cast<void>(RegisterClassExW(&description));
 
     environment_ = environment;
-    owner_ = owner;
     const DWORD style = WS_CHILD | (environment == Environment::Design ? WS_VISIBLE : 0u);
     const HWND window =
         CreateWindowExW(0, kWindowClass, L"", style, 0, 0, 0, 0, owner, nullptr, description.hInstance, this);
     ThrowPendingFault();
+    if (window == nullptr) throw std::bad_alloc();
     // The shell's broadcasts reach no child windows: the control hears them at its owner.
-    if (window == nullptr ||
-        !SetWindowSubclass(owner, &TrayArea::OwnerSubclass, kSubclass, reinterpret_cast<DWORD_PTR>(this)))
-        throw std::bad_alloc();
+    owner_.Attach(owner, [this](UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
+        // Under its old identifier: some taskbars that are called new still have the icon, and then refuse
+        // it.
+        if (message == TaskbarCreated() && added_) AddIcon();
+        return std::nullopt;
+    });
     record_.cbSize = kRecordSize;
     record_.hWnd = window;
     // The shell may run with fewer rights than the program. Where that needs no leave, none is given.
     static_cast<void>(ChangeWindowMessageFilterEx(owner, TaskbarCreated(), MSGFLT_ALLOW, nullptr));
     Resize();
-}
-
-LRESULT CALLBACK TrayArea::OwnerSubclass(HWND window, UINT message, WPARAM first, LPARAM second, UINT_PTR,
-                                         DWORD_PTR control) {
-    // Under its old identifier: some taskbars that are called new still have the icon, and then refuse it.
-    auto* const area = reinterpret_cast<TrayArea*>(control);
-    if (message == TaskbarCreated() && area->added_) Guarded([area] { area->AddIcon(); });
-    return DefSubclassProc(window, message, first, second);
 }
 
 LRESULT CALLBACK TrayArea::Procedure(HWND window, UINT message, WPARAM first, LPARAM second) {
@@ -118,8 +111,6 @@ LRESULT TrayArea::Handle(UINT message, WPARAM first, LPARAM second) {
             PaintPicture();
             return 0;
         case WM_DESTROY:
-            // Fails when the control could not be placed; then it hears nothing.
-            static_cast<void>(RemoveWindowSubclass(owner_, &TrayArea::OwnerSubclass, kSubclass));
             RemoveIcon();
             return 0;
         default:

@@ -10,6 +10,7 @@
 #include <string>
 #include <string_view>
 
+#include "controls/Subclass.h"
 #include "controls/Windows.h"
 // After the others: it needs them.
 #include <shellapi.h>
@@ -76,8 +77,6 @@ class TrayArea {
 
   private:
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM first, LPARAM second);
-    static LRESULT CALLBACK OwnerSubclass(HWND window, UINT message, WPARAM first, LPARAM second, UINT_PTR id,
-                                          DWORD_PTR control);
     LRESULT Handle(UINT message, WPARAM first, LPARAM second);
     void Decode(LPARAM mouse_message);
     void Resize();
@@ -94,11 +93,11 @@ class TrayArea {
     NOTIFYICONDATAA record_{};
     std::mt19937 random_{std::random_device{}()};
     Environment environment_ = Environment::Running;
-    HWND owner_ = nullptr;
     HWND handle_ = nullptr;
     bool added_ = false;     // the shell was told to show the icon
     bool taken_ = false;     // and did
     bool resizing_ = false;  // by the control itself
+    Subclass owner_;
 };
 
 }  // namespace lindrel

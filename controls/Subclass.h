@@ -1,0 +1,40 @@
+// Looks in on the messages of a window whose procedure is the system's or another class's.
+#pragma once
+
+#include <functional>
+#include <optional>
+
+#include "controls/Windows.h"
+
+namespace lindrel {
+
+class Subclass {
+  public:
+    // Gets every message before the window does. With an answer the message is done with; without one it goes
+    // on to the window. When the handler throws, the answer is 0 and the message loop throws the fault on
+    // (controls/PendingFault.h).
+    using Handler = std::function<std::optional<LRESULT>(UINT message, WPARAM wparam, LPARAM lparam)>;
+
+    Subclass() = default;
+    ~Subclass();
+    Subclass(const Subclass&) = delete;
+    Subclass& operator=(const Subclass&) = delete;
+
+    // From now on, until this object or the window is gone. Once, and in the window's thread. Throws
+    // std::bad_alloc when the system cannot.
+    void Attach(HWND window, Handler handler);
+
+    // Lets the window deal with a message and returns what it answers: for a handler that comes after the
+    // window or changes its answer.
+    LRESULT Default(UINT message, WPARAM wparam, LPARAM lparam) const;
+
+  private:
+    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR id,
+                                      DWORD_PTR data);
+    void Detach();
+
+    HWND window_ = nullptr;
+    Handler handler_;
+};
+
+}  // namespace lindrel
