@@ -4,7 +4,8 @@ namespace lindrel {
 
 void PictureButton::Attach(HWND button) {
     Wrap(button);
-    subclass_.Attach(button, [this](UINT message, WPARAM, LPARAM) { return OnMessage(message); });
+    subclass_.Attach(button,
+                     [this](UINT message, WPARAM, LPARAM lparam) { return OnMessage(message, lparam); });
 }
 
 void PictureButton::SetPicture(int icon_id, int size) {
@@ -36,8 +37,11 @@ void PictureButton::ShowBorder(bool shown) const {
     static_cast<void>(InvalidateRect(Handle(), nullptr, TRUE));
 }
 
-std::optional<LRESULT> PictureButton::OnMessage(UINT message) {
+std::optional<LRESULT> PictureButton::OnMessage(UINT message, LPARAM lparam) {
     switch (message) {
+        case WM_DRAWITEM:
+            Draw(*reinterpret_cast<const DRAWITEMSTRUCT*>(lparam));
+            return TRUE;
         case WM_LBUTTONDOWN:
         case WM_LBUTTONDBLCLK:
             MouseDown();

@@ -11,8 +11,8 @@ namespace lindrel {
 
 class PictureButton : public Control {
   public:
-    // Takes over a button that was made with kStyle. Its parent passes WM_DRAWITEM for it to Draw(). Throws
-    // std::bad_alloc when the system cannot.
+    // Takes over a button that was made with kStyle. Its parent sends WM_DRAWITEM back to the control that it
+    // is for (hwndItem), which draws itself. Throws std::bad_alloc when the system cannot.
     void Attach(HWND button);
     static constexpr DWORD kStyle = BS_OWNERDRAW;
 
@@ -21,7 +21,7 @@ class PictureButton : public Control {
     void Draw(const DRAWITEMSTRUCT& item) const;
 
   private:
-    std::optional<LRESULT> OnMessage(UINT message);
+    std::optional<LRESULT> OnMessage(UINT message, LPARAM lparam);
     // A single-line border while the mouse holds it is all that pressing the button shows (intended).
     void MouseDown() const { ShowBorder(true); }
     void MouseUp() const { ShowBorder(false); }
