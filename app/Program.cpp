@@ -54,7 +54,7 @@ int RunProgram(HINSTANCE instance, int show) {
 
     frmStart form(instance);
     try {
-        form.Open(show);
+        form.Show(show);
         return RunMessageLoop(form);
     } catch (...) {
         const Fault fault = CurrentFault();

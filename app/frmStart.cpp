@@ -1,9 +1,10 @@
 #include "app/frmStart.h"
 
+#include <algorithm>
+#include <iterator>
 #include <new>
 
-#include "book/StatusTexts.h"
-#include "controls/MsgBox.h"
+#include "app/PlaceControls.h"
 #include "controls/PendingFault.h"
 #include "resources/resource.h"
 
@@ -12,66 +13,72 @@ namespace lindrel {
 namespace {
 
 constexpr wchar_t kWindowClass[] = L"frmStart";
-// The empty book's title ends in a blank (intended).
-constexpr wchar_t kTitleOfEmptyBook[] = L"Lindrel ";
 constexpr int kDesignedWidth = 11400;
 constexpr int kDesignedHeight = 7500;
 
-}  // namespace
-
-frmStart::frmStart(HINSTANCE instance) : instance_(instance) {}
-
-frmStart::~frmStart() {
-    // Still open only when a fault ends the program.
-    if (handle_ != nullptr) static_cast<void>(DestroyWindow(handle_));
-}
-
-void frmStart::Open(int show) {
+void RegisterWindowClass(HINSTANCE instance, WNDPROC procedure) {
     WNDCLASSEXW description{};
     description.cbSize = sizeof description;
-    description.lpfnWndProc = &frmStart::Procedure;
-    description.hInstance = instance_;
+    description.lpfnWndProc = procedure;
+    description.hInstance = instance;
     description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     description.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
     description.lpszMenuName = MAKEINTRESOURCEW(IDR_frmStart);
     description.lpszClassName = kWindowClass;
     // Fails when the class is there already; then it is this one.
     static_cast<void>(RegisterClassExW(&description));
+}
 
+void MoveTo(HWND window, const RECT& place) {
+    SetWindowPos(window, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+}  // namespace
+
+frmStart::frmStart(HINSTANCE instance) : instance_(instance) {}
+
+frmStart::~frmStart() {
+    // Still there only when a fault ends the program.
+    if (handle_ != nullptr) DestroyWindow(handle_);
+}
+
+void frmStart::Show(int show) {
+    RegisterWindowClass(instance_, &frmStart::Procedure);
     shortcuts_ = LoadAcceleratorsW(instance_, MAKEINTRESOURCEW(IDR_frmStart));
-    const HWND window = CreateWindowExW(WS_EX_CONTROLPARENT, kWindowClass, kTitleOfEmptyBook,
+    const HWND window = CreateWindowExW(WS_EX_CONTROLPARENT, kWindowClass, nullptr,
                                         WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, CW_USEDEFAULT, CW_USEDEFAULT,
                                         CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr, instance_, this);
     ThrowPendingFault();
     if (window == nullptr || shortcuts_ == nullptr) throw std::bad_alloc();
     ShowWindow(window, show);
-    static_cast<void>(UpdateWindow(window));
+    UpdateWindow(window);
 }
 
 frmStart* frmStart::FromWindow(HWND window) {
     return reinterpret_cast<frmStart*>(GetWindowLongPtrW(window, GWLP_USERDATA));
 }
 
-LRESULT CALLBACK frmStart::Procedure(HWND window, UINT message, WPARAM first, LPARAM second) {
+LRESULT CALLBACK frmStart::Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
     if (message == WM_NCCREATE) {
         auto* const form =
-            static_cast<frmStart*>(reinterpret_cast<const CREATESTRUCTW*>(second)->lpCreateParams);
+            static_cast<frmStart*>(reinterpret_cast<const CREATESTRUCTW*>(lparam)->lpCreateParams);
         form->handle_ = window;
         SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(form));
     }
     frmStart* const form = FromWindow(window);
-    if (form == nullptr) return DefWindowProcW(window, message, first, second);
+    if (form == nullptr) return DefWindowProcW(window, message, wparam, lparam);
     if (message == WM_NCDESTROY) {
         SetWindowLongPtrW(window, GWLP_USERDATA, 0);
         form->handle_ = nullptr;
-        return DefWindowProcW(window, message, first, second);
+        return DefWindowProcW(window, message, wparam, lparam);
     }
     // A window whose making failed must not come to be.
     const LRESULT otherwise = message == WM_CREATE ? -1 : 0;
-    return Guarded<LRESULT>(otherwise, [&] { return form->Handle(message, first, second); });
+    return Guarded<LRESULT>(otherwise, [&] { return form->OnMessage(message, wparam, lparam); });
 }
 
-LRESULT frmStart::Handle(UINT message, WPARAM first, LPARAM second) {
+LRESULT frmStart::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
     switch (message) {
         case WM_CREATE:
             Form_Load();
@@ -80,178 +87,108 @@ LRESULT frmStart::Handle(UINT message, WPARAM first, LPARAM second) {
             Form_Resize();
             return 0;
         case WM_GETMINMAXINFO:
-            OnMinMaxInfo(*reinterpret_cast<MINMAXINFO*>(second));
+            LimitSize(*reinterpret_cast<MINMAXINFO*>(lparam), DpiOf(handle_));
             return 0;
-        case WM_DPICHANGED: {
-            const RECT& proposed = *reinterpret_cast<const RECT*>(second);
+        case WM_DPICHANGED:
             ApplyResolution();
-            static_cast<void>(SetWindowPos(handle_, nullptr, proposed.left, proposed.top,
-                                           proposed.right - proposed.left, proposed.bottom - proposed.top,
-                                           SWP_NOZORDER | SWP_NOACTIVATE));
+            MoveTo(handle_, *reinterpret_cast<const RECT*>(lparam));
             Form_Resize();
             return 0;
-        }
         case WM_SETTINGCHANGE:
         case WM_SYSCOLORCHANGE:
         case WM_THEMECHANGED:
             ApplyResolution();
             Form_Resize();
-            return DefWindowProcW(handle_, message, first, second);
-        case WM_ACTIVATE:
-            returned_focus_.OnActivate(first);
-            if (LOWORD(first) == WA_INACTIVE)
-                RememberFocus();
-            else
-                RestoreFocus();
-            return 0;
-        case WM_SETFOCUS:
-            RestoreFocus();
-            return 0;
-        case WM_COMMAND:
-            if (HIWORD(first) == EN_SETFOCUS && returned_focus_.Is(reinterpret_cast<HWND>(second))) return 0;
-            OnCommand(LOWORD(first), HIWORD(first));
-            return 0;
-        case WM_DRAWITEM:
-            OnDrawItem(*reinterpret_cast<const DRAWITEMSTRUCT*>(second));
-            return TRUE;
-        case WM_NOTIFY:
-            return OnNotify(*reinterpret_cast<const NMHDR*>(second));
+            return DefWindowProcW(handle_, message, wparam, lparam);
         case WM_QUERYENDSESSION:
-            return Form_QueryUnload() ? TRUE : FALSE;
+            return OfferToSave(SaveQuestion::Closing) != SaveAnswer::CalledOff ? TRUE : FALSE;
         case WM_CLOSE:
-            if (Form_QueryUnload()) static_cast<void>(DestroyWindow(handle_));
+            if (OfferToSave(SaveQuestion::Closing) != SaveAnswer::CalledOff) DestroyWindow(handle_);
             return 0;
         case WM_DESTROY:
             Form_Unload();
             return 0;
         default:
-            return DefWindowProcW(handle_, message, first, second);
+            return OnControlMessage(message, wparam, lparam);
+    }
+}
+
+LRESULT frmStart::OnControlMessage(UINT message, WPARAM wparam, LPARAM lparam) {
+    switch (message) {
+        case WM_ACTIVATE:
+            OnActivate(wparam);
+            return 0;
+        case WM_SETFOCUS:
+            RestoreFocus();
+            return 0;
+        case WM_COMMAND:
+            if (HIWORD(wparam) == EN_SETFOCUS && returned_focus_.Is(reinterpret_cast<HWND>(lparam))) return 0;
+            OnCommand(LOWORD(wparam), HIWORD(wparam));
+            return 0;
+        case WM_DRAWITEM:
+            // The picture buttons draw themselves.
+            return SendMessageW(reinterpret_cast<const DRAWITEMSTRUCT*>(lparam)->hwndItem, message, wparam,
+                                lparam);
+        case WM_NOTIFY:
+            return OnNotify(*reinterpret_cast<const NMHDR*>(lparam));
+        default:
+            return DefWindowProcW(handle_, message, wparam, lparam);
     }
 }
 
 void frmStart::OnCommand(int id, int event) {
-    if (id >= ID_frmStart_Toolbar_1 && id <= ID_frmStart_Toolbar_10)
-        return Toolbar_ButtonClick(id - ID_frmStart_Toolbar_1 + 1);
-    switch (id) {
-        case ID_mnuNew:
-            return mnuNew_Click();
-        case ID_mnuOpen:
-            return mnuOpen_Click();
-        case ID_mnuClose:
-            return mnuClose_Click();
-        case ID_mnuSave:
-            return mnuSave_Click();
-        case ID_mnuSaveAs:
-            return mnuSaveAs_Click();
-        case ID_mnuExit:
-            return mnuExit_Click();
-        case ID_mnuSelectAll:
-            return mnuSelectAll_Click();
-        case ID_mnuKat:
-            return mnuKat_Click();
-        case ID_mnuAdd:
-            return mnuAdd_Click();
-        case ID_mnuEdit:
-            return mnuEdit_Click();
-        case ID_mnuMove:
-            return mnuMove_Click();
-        case ID_mnuDel:
-            return mnuDel_Click();
-        case ID_mnuImport:
-            return mnuImport_Click();
-        case ID_mnuExport:
-            return mnuExport_Click();
-        case ID_mnuToDesktop:
-            return mnuToDesktop_Click();
-        case ID_mnuHelp:
-            return mnuHelp_Click();
-        case ID_mnuGoHome:
-            return mnuGoHome_Click();
-        case ID_mnuAbout:
-            return mnuAbout_Click();
-        case ID_mnuFind:
-            return mnuFind_Click();
-        case ID_frmStart_picGo:
-            return picGo_Click();
-        case ID_frmStart_Image1:
-            return Image1_Click();
-        case ID_frmStart_txtFind:
-            if (event == EN_CHANGE) txtFind_Change();
-            if (event == EN_SETFOCUS) txtFind_GotFocus();
-            return;
-        case ID_mnuGridLines:
-            return mnuGridLines_Click();
-        case ID_mnuTray:
-            return mnuTray_Click();
-        case ID_mnuGoto:
-            return mnuGoto_Click();
-        case ID_NextTab:
-            return SelectTab(SelectedCategory() % kCategories + 1);
-        case ID_PreviousTab:
-            return SelectTab((SelectedCategory() + kCategories - 2) % kCategories + 1);
-        default:
-            return;
-    }
-}
-
-void frmStart::OnDrawItem(const DRAWITEMSTRUCT& item) const {
-    for (const PictureButton* const button : {&picGo, &Image1})
-        if (item.hwndItem == button->Handle()) button->Draw(item);
+    struct Command {
+        int Id;
+        void (frmStart::*Handler)();
+    };
+    static constexpr Command kCommands[] = {
+        {ID_mnuKat, &frmStart::mnuKat_Click},
+        {ID_mnuAdd, &frmStart::mnuAdd_Click},
+        {ID_mnuEdit, &frmStart::mnuEdit_Click},
+        {ID_mnuFind, &frmStart::mnuFind_Click},
+        {ID_mnuMove, &frmStart::mnuMove_Click},
+        {ID_mnuDel, &frmStart::mnuDel_Click},
+        {ID_mnuSelectAll, &frmStart::mnuSelectAll_Click},
+        {ID_mnuToDesktop, &frmStart::mnuToDesktop_Click},
+        {ID_mnuGridLines, &frmStart::mnuGridLines_Click},
+        {ID_mnuTray, &frmStart::mnuTray_Click},
+        {ID_mnuImport, &frmStart::mnuImport_Click},
+        {ID_mnuExport, &frmStart::mnuExport_Click},
+        {ID_mnuGoto, &frmStart::mnuGoto_Click},
+        {ID_mnuHelp, &frmStart::mnuHelp_Click},
+        {ID_mnuGoHome, &frmStart::mnuGoHome_Click},
+        {ID_mnuAbout, &frmStart::mnuAbout_Click},
+    };
+    if (toolbar_.OnCommand(id) || file_menu_.OnCommand(id) || fields_.OnCommand(id) ||
+        search_box_.OnCommand(id, event) || view_.OnCommand(id))
+        return;
+    const auto* const command = std::find_if(std::begin(kCommands), std::end(kCommands),
+                                             [id](const Command& known) { return known.Id == id; });
+    if (command != std::end(kCommands)) (this->*command->Handler)();
 }
 
 LRESULT frmStart::OnNotify(const NMHDR& header) {
-    if (header.hwndFrom == ListURLs.Handle()) return ListURLs.Notify(header);
-    if (header.hwndFrom == TabStrip1.Handle() && header.code == TCN_SELCHANGE) TabStrip1_Click();
-    if (header.hwndFrom == Toolbar.Handle()) Toolbar_Notify(header);
-    return 0;
+    toolbar_.Notify(header);
+    return view_.Notify(header);
 }
 
 void frmStart::Form_Load() {
     CreateControls();
     ApplyResolution();
-    const int width = PixelsOf(kDesignedWidth, dpi_);
-    const int height = PixelsOf(kDesignedHeight, dpi_);
-    static_cast<void>(
-        SetWindowPos(handle_, nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE));
-    ResetBook();
-    CurrentCategory = 1;
+    SetWindowPos(handle_, nullptr, 0, 0, PixelsOf(kDesignedWidth, dpi_), PixelsOf(kDesignedHeight, dpi_),
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    file_menu_.ResetBook();
+    open_.CurrentCategory = 1;
     loaded_ = true;
 }
 
-void frmStart::ResetBook() {
-    TheBook.Reset();
-    UpdateTabCaptions();
-    txtURL.SetText(L"");
-    txtSite.SetText(L"");
-    ListURLs.SetRows(0, {});
-    Modified = false;
-    StatusBar1.SetPanel(2, ShownText(0, 0));
-    ShowCheckedCount();
-    OpenedFile.clear();
-    SetTitle(kTitleOfEmptyBook);
-    EnableCommand(ID_mnuToDesktop, false);
-}
-
-void frmStart::UpdateTabCaptions() {
-    for (int k = 1; k <= kCategories; ++k) TabStrip1.SetCaption(k, FromBookText(TheBook.CategoryNames(k)));
-}
-
-void frmStart::SetTitle(const std::wstring& title) {
-    static_cast<void>(SetWindowTextW(handle_, title.c_str()));
-}
-
-void frmStart::EnableCommand(int id, bool enabled) {
+void frmStart::EnableCommand(int id, bool enabled) const {
     const UINT state = enabled ? MF_ENABLED : MF_GRAYED;
-    // -1 for an item that is not there: every id of the resources is.
-    static_cast<void>(EnableMenuItem(GetMenu(handle_), static_cast<UINT>(id), MF_BYCOMMAND | state));
-    UpdateToolbar();
+    EnableMenuItem(GetMenu(handle_), static_cast<UINT>(id), MF_BYCOMMAND | state);
+    toolbar_.Update();
 }
 
-bool frmStart::Form_QueryUnload() {
-    return OfferToSave(SaveQuestion::Closing) == SaveAnswer::Go;
-}
-
-void frmStart::Form_Unload() {
+void frmStart::Form_Unload() const {
     // A window that could not be made has no loop to end: the quit would take the report of the failure with
     // it.
     if (loaded_) PostQuitMessage(0);

@@ -1,87 +1,131 @@
-// Adding, editing, moving and deleting entries, renaming categories.
+// Categories and entries: rename, add, edit, find, move, delete, check, put on the desktop.
+
+#include <shlobj.h>
 
 #include "app/frmStart.h"
-#include "book/frmEditKats.h"
+#include "book/BookText.h"
+#include "book/Files.h"
+#include "controls/MsgBox.h"
+#include "controls/Shell.h"
 #include "edit/CheckedRuns.h"
 #include "edit/DeleteQuestions.h"
 #include "edit/frmAdd.h"
+#include "edit/frmEditKats.h"
 #include "edit/frmEditRec.h"
 #include "edit/frmMove.h"
+#include "export/Shortcut.h"
+#include "find/frmFind.h"
 
 namespace lindrel {
 
 void frmStart::mnuKat_Click() {
-    frmEditKats(*this).ShowModal(handle_);
+    frmEditKats dialog(open_);
+    dialog.ShowModal(handle_);
+    if (dialog.Renamed()) view_.UpdateTabCaptions();
 }
 
 void frmStart::mnuAdd_Click() {
-    SaveCheckMarks(SelectedCategory());
-    frmAdd(*this).ShowModal(handle_);
-    if (ResultTag.empty()) return;
-    // The row at the same place is selected again, not the new one (intended).
-    const int position = ListURLs.Selected();
-    ResultTag.clear();
-    FillAddressList(SelectedCategory());
-    RestoreCheckMarks(SelectedCategory());
-    SelectRow(position);
+    view_.SaveCheckMarks(open_.CurrentCategory);
+    frmAdd(open_).ShowModal(handle_);
+    if (open_.ResultTag.empty()) return;
+    // The row at the same place is selected again, not the new one: the user goes on where he was.
+    const int position = view_.SelectedRow();
+    open_.ResultTag.clear();
+    view_.FillAddressList(open_.CurrentCategory);
+    view_.RestoreCheckMarks(open_.CurrentCategory);
+    view_.SelectRow(position);
 }
 
 void frmStart::mnuEdit_Click() {
-    if (ListURLs.Selected() == 0) return;
-    SaveCheckMarks(SelectedCategory());
-    frmEditRec(*this).ShowModal(handle_);
-    if (ResultTag.empty()) return;
-    int position = ListURLs.Selected();
-    FillAddressList(SelectedCategory());
-    if (ResultTag == L"m")
-        SetAllChecks(false);
+    if (view_.SelectedRow() == 0) return;
+    view_.SaveCheckMarks(open_.CurrentCategory);
+    frmEditRec(open_, [this] { return view_.SelectedRow(); }).ShowModal(handle_);
+    if (open_.ResultTag.empty()) return;
+    int position = view_.SelectedRow();
+    view_.FillAddressList(open_.CurrentCategory);
+    if (open_.ResultTag == L"m")
+        view_.SetAllChecks(false);
     else
-        RestoreCheckMarks(SelectedCategory());
-    ResultTag.clear();
+        view_.RestoreCheckMarks(open_.CurrentCategory);
+    open_.ResultTag.clear();
     // The last row may have been moved away.
-    if (ListURLs.Count() < position) --position;
-    SelectRow(position);
+    if (view_.RowCount() < position) --position;
+    view_.SelectRow(position);
 }
 
-void frmStart::SelectRow(int position) {
-    if (position < 1 || position > ListURLs.Count()) return;
-    ListURLs.EnsureVisible(position);
-    ListURLs.Select(position);
+void frmStart::mnuFind_Click() {
+    // Category 12 is not looked at: users know the command to refuse a book whose entries are all there.
+    if (open_.TheBook.CategoryStarts(kCategories) == 1) {
+        MsgBox(handle_, L"Az adatbázisban még nincsenek címek");
+        return;
+    }
+    view_.SaveCheckMarks(open_.CurrentCategory);
+    frmFind(open_).ShowModal(handle_);
+    view_.FillAddressList(open_.CurrentCategory);
+    view_.RestoreCheckMarks(open_.CurrentCategory);
 }
 
 void frmStart::mnuMove_Click() {
-    const bool something_chosen = TheBook.CheckedCount != 0 || !txtURL.IsEmpty();
-    if (something_chosen && ListURLs.Count() != 0) frmMove(*this).ShowModal(handle_);
+    const bool something_chosen = open_.TheBook.Marks.CheckedCount() != 0 || fields_.HasAddress();
+    if (!something_chosen || view_.RowCount() == 0) return;
+    frmMove dialog(open_, view_.SelectedRow(), view_.CheckedRows());
+    dialog.ShowModal(handle_);
+    if (dialog.Moved()) view_.FillAddressList(open_.CurrentCategory);
 }
 
 void frmStart::mnuDel_Click() {
     // There the Del key is for the text.
-    if (txtFind.HasFocus()) return;
-    const bool checked = TheBook.CheckedCount != 0;
-    if (!checked && (txtURL.IsEmpty() || ListURLs.Selected() == 0)) return;
+    if (search_box_.HasFocus()) return;
+    const int checked = open_.TheBook.Marks.CheckedCount();
+    if (checked == 0 && (!fields_.HasAddress() || view_.SelectedRow() == 0)) return;
 
-    if (checked) {
-        if (!MayDeleteChecked(handle_, TheBook.CheckedCount)) return;
-        DeleteCheckedEntries();
+    if (checked != 0) {
+        if (!MayDeleteChecked(handle_, checked)) return;
+        DeleteRuns(open_.TheBook, open_.CurrentCategory, view_.CheckedRows());
     } else {
         if (!MayDeleteSelected(handle_)) return;
-        TheBook.DeleteEntry(SelectedCategory(), ListURLs.Selected(), 1);
-        TheBook.CheckedCount = 0;
+        open_.TheBook.DeleteEntry(open_.CurrentCategory, view_.SelectedRow(), 1);
     }
-    const int place = ListURLs.Focused();
-    FillAddressList(SelectedCategory());
-    ListURLs.Focus(place);
-    Modified = true;
+    open_.TheBook.Marks.SetCheckedCount(0);
+    const int place = view_.FocusedRow();
+    view_.FillAddressList(open_.CurrentCategory);
+    view_.FocusRow(place);
+    open_.Modified = true;
 }
 
-void frmStart::DeleteCheckedEntries() {
-    DeleteRuns(TheBook, SelectedCategory(), CheckedRunsOf(SelectedCategory()));
-    TheBook.CheckedCount = 0;
+void frmStart::mnuSelectAll_Click() {
+    // Category 12 is not looked at: users know the command to do nothing for a book whose entries are all
+    // there.
+    if (open_.TheBook.CategoryStarts(kCategories) == 1) return;
+    view_.SetAllChecks(open_.TheBook.Marks.CheckedCount() == 0);
 }
 
-std::vector<RowRun> frmStart::CheckedRunsOf(int category) const {
-    return CheckedRuns(TheBook.CategoryCounts(category),
-                       [this](int position) { return ListURLs.IsChecked(position); });
+void frmStart::mnuToDesktop_Click() {
+    constexpr wchar_t kNotCreated[] = L"Nem jött létre a parancsikon";
+    Book& book = open_.TheBook;
+    const int position = view_.SelectedRow();
+    if (position == 0) return;
+    const int entry = book.IndexOf(open_.CurrentCategory, position);
+    const std::wstring question =
+        L"Létrehozzam a < " + FromBookText(book.SiteNames(entry)) + L" > cím parancsikonját az Asztalon ?";
+    if (MsgBox(handle_, question, MB_OKCANCEL | MB_ICONQUESTION) != IDOK) return;
+
+    const std::optional<std::wstring> desktop = ShellFolder(CSIDL_DESKTOPDIRECTORY);
+    if (!desktop) {
+        MsgBox(handle_, kNotCreated, MB_OK | MB_ICONEXCLAMATION, kErrorTitle);
+        return;
+    }
+    // The name changes in the book too, but not in the list, and the book is not marked: the file bears it
+    // so.
+    std::string name(book.SiteNames(entry));
+    MakeShortcutFileName(name);
+    book.SetSiteName(entry, name);
+    try {
+        WriteFileBytes(DesktopPath(*desktop) + L"\\" + FromBookText(name) + L".url",
+                       ShortcutFile(book.SiteURLs(entry)));
+    } catch (const FileFault&) {
+        MsgBox(handle_, kNotCreated, MB_OK | MB_ICONEXCLAMATION, kErrorTitle);
+    }
 }
 
 }  // namespace lindrel

@@ -19,8 +19,7 @@ void frmStart::mnuHelp_Click() {
 }
 
 void frmStart::mnuGoHome_Click() {
-    // An address that nothing opens is the shell's to report.
-    static_cast<void>(OpenAddress(kHomePage));
+    OpenAddress(kHomePage);
 }
 
 void frmStart::mnuAbout_Click() {

@@ -11,6 +11,7 @@
 
 #include "bench/SampleBook.h"
 #include "book/BookFile.h"
+#include "book/BookText.h"
 #include "book/Files.h"
 
 namespace lindrel::bench {
@@ -98,8 +99,7 @@ void AddEntryAtTheFront(benchmark::State& state) {
     Book book = MakeLargestBook();
     book.DeleteEntry(1, 1, 1);
     const auto add_and_remove = [&book](int category) {
-        book.NewEntries = {{"N\xE9v", "http://www.elso.hu"}};
-        book.AddEntry(category);
+        book.AddEntry(category, {{"N\xE9v", "http://www.elso.hu"}});
         book.DeleteEntry(category, book.CategoryCounts(category), 1);
     };
     for (auto _ : state) {

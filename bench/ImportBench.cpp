@@ -89,8 +89,7 @@ void Import(benchmark::State& state, const std::filesystem::path& path) {
     for (auto _ : state) {
         const std::vector<char> page = BookTextOfPage(ReadFileBytes(path));
         Book book;
-        book.NewEntries = LinksOfPage({page.data(), page.size()}, LinkChoice::Online);
-        book.AddEntry(1);
+        book.AddEntry(1, LinksOfPage({page.data(), page.size()}, LinkChoice::Online));
         if (book.EntryCount() != kLinks) throw std::runtime_error("links are missing");
     }
     state.SetLabel("FloorGrep");

@@ -80,11 +80,10 @@ Book MakeLargestBook() {
     int number = 0;
     for (int category = 1; category <= kCategories; ++category) {
         const int count = kMostEntries / kCategories + (category <= kMostEntries % kCategories ? 1 : 0);
-        book.NewEntries.clear();
-        for (int i = 0; i < count; ++i) book.NewEntries.push_back(MakeEntry(dice, ++number));
-        book.AddEntry(category);
+        std::vector<NewEntry> entries;
+        for (int i = 0; i < count; ++i) entries.push_back(MakeEntry(dice, ++number));
+        book.AddEntry(category, entries);
     }
-    book.NewEntries.clear();
     return book;
 }
 

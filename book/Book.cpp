@@ -13,9 +13,8 @@ void Book::Reset() {
         starts_(k) = 1;
         counts_(k) = 0;
         names_(k) = "Project" + std::to_string(k);
-        SavedCheckCounts(k) = 0;
     }
-    CheckedCount = 0;
+    Marks.Clear();
 }
 
 int Book::CategoryOf(int index) const {
@@ -39,12 +38,12 @@ void Book::SetSiteURL(int index, std::string_view url) {
     entry.URL = entries_.Texts().Keep(url);
 }
 
-void Book::AddEntry(int category) {
+void Book::AddEntry(int category, const std::vector<NewEntry>& entries) {
     const int place = starts_(category) + counts_(category);
     const bool was_empty = IsEmpty();
     const int room = std::max(0, kMostEntries - (was_empty ? 0 : EntryCount()));
-    if (NewEntries.size() > static_cast<std::size_t>(room)) throw OverflowFault();
-    const int added = static_cast<int>(NewEntries.size());
+    if (entries.size() > static_cast<std::size_t>(room)) throw OverflowFault();
+    const int added = static_cast<int>(entries.size());
     if (counts_(category) > kMostEntries - added) throw OverflowFault();
 
     if (was_empty)
@@ -52,13 +51,11 @@ void Book::AddEntry(int category) {
     else
         entries_.Insert(place, added);
     for (int j = 0; j < added; ++j) {
-        const NewEntry& staged = NewEntries[static_cast<std::size_t>(j)];
-        entries_.At(place + j) = {entries_.Texts().Keep(staged.SiteName), entries_.Texts().Keep(staged.URL)};
+        const NewEntry& entry = entries[static_cast<std::size_t>(j)];
+        entries_.At(place + j) = {entries_.Texts().Keep(entry.SiteName), entries_.Texts().Keep(entry.URL)};
     }
     counts_(category) = static_cast<std::int16_t>(counts_(category) + added);
     for (int k = category + 1; k <= kCategories; ++k) starts_(k) += added;
-    // A book that was empty leaves the staging area as it is (intended).
-    if (!was_empty) NewEntries.clear();
 }
 
 void Book::DeleteEntry(int category, int position, int count) {
@@ -91,7 +88,7 @@ void Book::MoveEntry(int source, int offset, int destination) {
         for (int k = destination + 1; k <= source; ++k) starts_(k) += 1;
     else
         for (int k = source + 1; k <= destination; ++k) starts_(k) -= 1;
-    CheckedCount = 0;
+    Marks.SetCheckedCount(0);
 }
 
 void Book::RecomputeStarts() {

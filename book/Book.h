@@ -6,40 +6,21 @@
 // Every routine that changes the book either does its whole work or throws and leaves the book as it was.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <memory>
-#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "book/BookText.h"
+#include "book/CheckMarks.h"
 #include "book/EntrySequence.h"
-#include "book/Faults.h"
+#include "book/PerCategory.h"
 
 namespace lindrel {
 
-inline constexpr int kCategories = 12;
 inline constexpr int kMostEntries = 32767;
 
-// Values of the twelve categories, indexed 1..12. Throws RangeFault for any other index.
-template <typename T>
-class PerCategory {
-  public:
-    T& operator()(int category) { return cells_[Cell(category)]; }
-    const T& operator()(int category) const { return cells_[Cell(category)]; }
-    bool operator==(const PerCategory&) const = default;
-
-  private:
-    static std::size_t Cell(int category) {
-        if (category < 1 || category > kCategories) throw RangeFault();
-        return static_cast<std::size_t>(category - 1);
-    }
-    std::array<T, kCategories> cells_{};
-};
-
-// An entry waiting to be added.
+// An entry to be added to a book.
 struct NewEntry {
     std::string SiteName;  // book text
     std::string URL;       // book text
@@ -90,30 +71,20 @@ class Book {
     void SetSiteURL(int index, std::string_view url);
 
     // The next three throw RangeFault for a category outside 1..12 or one that counts entries which the book
-    // does not have (loaded with too few headers). Whatever fault they throw, book and NewEntries are as they
-    // were.
+    // does not have (loaded with too few headers). Whatever fault they throw, the book is as it was.
 
-    // Appends NewEntries at the end of a category, in their order, then empties NewEntries; only when the
-    // book was empty they are left as they are (intended: the next caller stages afresh). Throws
-    // OverflowFault when the book or the category would hold more than 32,767 entries.
-    void AddEntry(int category);
+    // Appends entries at the end of a category, in their order. Throws OverflowFault when the book or the
+    // category would hold more than 32,767.
+    void AddEntry(int category, const std::vector<NewEntry>& entries);
     // Removes `count` entries of a category from the 1-based position on. Throws RangeFault when they do not
     // all lie in the category.
     void DeleteEntry(int category, int position, int count);
     // Takes the entry at a 0-based (intended, unlike DeleteEntry) offset of a category and appends it to
-    // another one. Sets CheckedCount to 0. Throws RangeFault for an offset that the source does not have,
-    // ArgumentFault when source and destination are the same.
+    // another one. Sets the marks' CheckedCount to 0. Throws RangeFault for an offset that the source does
+    // not have, ArgumentFault when source and destination are the same.
     void MoveEntry(int source, int offset, int destination);
 
-    // Staging area of AddEntry.
-    std::vector<NewEntry> NewEntries;
-
-    // Check marks: rows checked in the list now shown; for each category how many were checked when its tab
-    // was left, and at which 1-based positions, ascending. A list whose count is 0 is stale and means
-    // nothing.
-    std::int16_t CheckedCount = 0;
-    PerCategory<std::int16_t> SavedCheckCounts;
-    PerCategory<std::vector<std::int16_t>> SavedCheckLists;
+    CheckMarks Marks;
 
   private:
     friend class BookReader;

@@ -141,9 +141,7 @@ long long CountLines(const std::filesystem::path& path) {
 bool LoadBook(Book& book, std::vector<char> bytes) {
     BookReader reader(book, std::move(bytes));
     const bool all_categories = reader.Read();
-    std::vector<NewEntry> staged = std::move(book.NewEntries);
     book = reader.Take();
-    book.NewEntries = std::move(staged);
     return all_categories;
 }
 

@@ -1,5 +1,5 @@
 // The common dialog for files. The main window owns the one that the whole program uses; whoever uses it sets
-// filter, title and file name, and sets the filter back to kBookFilter when done.
+// filter, title and file name; a BookFilterAfterwards then brings the filter of books back.
 #pragma once
 
 #include <string>
@@ -29,6 +29,19 @@ class CommonDialog {
 
   private:
     void Show(HWND owner, bool save);
+};
+
+// Sets the filter back to that of books when it goes, also when a fault ends what it belongs to: the offer to
+// save the book may follow.
+class BookFilterAfterwards {
+  public:
+    explicit BookFilterAfterwards(CommonDialog& dialog) : dialog_(dialog) {}
+    ~BookFilterAfterwards() { dialog_.Filter = kBookFilter; }
+    BookFilterAfterwards(const BookFilterAfterwards&) = delete;
+    BookFilterAfterwards& operator=(const BookFilterAfterwards&) = delete;
+
+  private:
+    CommonDialog& dialog_;
 };
 
 }  // namespace lindrel

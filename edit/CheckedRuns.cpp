@@ -28,18 +28,17 @@ void DeleteRuns(Book& book, int category, const std::vector<RowRun>& runs) {
 }
 
 void MoveRuns(Book& book, int source, const std::vector<RowRun>& runs, int destination) {
-    std::vector<NewEntry> staged;
+    std::vector<NewEntry> moved;
     for (std::size_t i = runs.size(); i-- > 0;) {
         const RowRun& run = runs[i];
         for (int position = run.Position; position < run.Position + run.Count; ++position) {
             const int index = book.IndexOf(source, position);
-            staged.push_back({std::string(book.SiteNames(index)), std::string(book.SiteURLs(index))});
+            moved.push_back({std::string(book.SiteNames(index)), std::string(book.SiteURLs(index))});
         }
     }
     Book changed = book;
     DeleteRuns(changed, source, runs);
-    changed.NewEntries = std::move(staged);
-    changed.AddEntry(destination);
+    changed.AddEntry(destination, moved);
     book = std::move(changed);
 }
 

@@ -7,11 +7,11 @@
 namespace lindrel {
 
 void EntryDialog::FillCategories() const {
-    FillWithCategories(Get<ComboBox>(fields_.cmbKateg), main_.TheBook, main_.SelectedCategory());
+    FillWithCategories(Get<ComboBox>(fields_.cmbKateg), open_.TheBook, open_.CurrentCategory);
 }
 
 bool EntryDialog::FieldsAreGood() const {
-    // The bare "http://" is long enough (intended: an entry may be stored before its address is known).
+    // The bare "http://" is long enough: an entry may be stored before its address is known.
     constexpr std::size_t kShortestAddress = 3;
     if (Trim(txtDesc().Text()).empty() || Trim(txtURL().Text()).size() < kShortestAddress) {
         MsgBox(Handle(), L"Kérem előbb töltse ki a szükséges mezőket!", MB_OK,

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "app/frmStart.h"
+#include "book/OpenBook.h"
 #include "controls/Dialog.h"
 
 namespace lindrel {
@@ -17,16 +17,16 @@ class EntryDialog : public Dialog {
         int cmbKateg;
         int txtURL;
     };
-    EntryDialog(int template_id, const Fields& fields, frmStart& main)
-        : Dialog(template_id), fields_(fields), main_(main) {}
+    EntryDialog(int template_id, const Fields& fields, OpenBook& open)
+        : Dialog(template_id), fields_(fields), open_(open) {}
 
-    frmStart& Main() const { return main_; }
+    OpenBook& OpenedBook() const { return open_; }
     TextBox txtDesc() const { return Get<TextBox>(fields_.txtDesc); }
     TextBox txtURL() const { return Get<TextBox>(fields_.txtURL); }
     // The chosen category, 1..12.
     int ChosenCategory() const { return Get<ComboBox>(fields_.cmbKateg).Selected() + 1; }
 
-    // The twelve names, with the category that the main window shows chosen.
+    // The twelve names, with the shown category chosen.
     void FillCategories() const;
     // Whether name and address can be stored. If not, tells why and puts the focus where the user goes on.
     bool FieldsAreGood() const;
@@ -35,7 +35,7 @@ class EntryDialog : public Dialog {
 
   private:
     Fields fields_;
-    frmStart& main_;
+    OpenBook& open_;
 };
 
 }  // namespace lindrel

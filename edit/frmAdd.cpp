@@ -11,8 +11,8 @@ constexpr wchar_t kBareWebAddress[] = L"http://";
 constexpr wchar_t kBareMailAddress[] = L"mailto:";
 }  // namespace
 
-frmAdd::frmAdd(frmStart& main)
-    : EntryDialog(IDD_frmAdd, {ID_frmAdd_txtDesc, ID_frmAdd_cmbKateg, ID_frmAdd_txtURL}, main) {}
+frmAdd::frmAdd(OpenBook& open)
+    : EntryDialog(IDD_frmAdd, {ID_frmAdd_txtDesc, ID_frmAdd_cmbKateg, ID_frmAdd_txtURL}, open) {}
 
 void frmAdd::Form_Load() {
     FillCategories();
@@ -59,10 +59,9 @@ void frmAdd::cmdEmail_Click() const {
 
 void frmAdd::cmdOK_Click() {
     if (!FieldsAreGood()) return;
-    Main().TheBook.NewEntries = {TypedEntry()};
-    Main().TheBook.AddEntry(ChosenCategory());
-    Main().Modified = true;
-    Main().ResultTag = kStored;
+    OpenedBook().TheBook.AddEntry(ChosenCategory(), {TypedEntry()});
+    OpenedBook().Modified = true;
+    OpenedBook().ResultTag = kStored;
     Unload();
 }
 

@@ -7,7 +7,7 @@ namespace lindrel {
 
 class frmAdd : public EntryDialog {
   public:
-    explicit frmAdd(frmStart& main);
+    explicit frmAdd(OpenBook& open);
 
   private:
     void Form_Load() override;

@@ -1,19 +1,22 @@
 #include "edit/frmEditRec.h"
 
+#include <utility>
+
 #include "book/BookText.h"
 #include "resources/resource.h"
 
 namespace lindrel {
 
-frmEditRec::frmEditRec(frmStart& main)
+frmEditRec::frmEditRec(OpenBook& open, SelectedRow selected_row)
     : EntryDialog(IDD_frmEditRec, {ID_frmEditRec_txtDesc, ID_frmEditRec_cmbKateg, ID_frmEditRec_txtURL},
-                  main) {}
+                  open),
+      selected_row_(std::move(selected_row)) {}
 
 void frmEditRec::Form_Load() {
-    OriginalCategory = static_cast<std::uint8_t>(Main().SelectedCategory());
+    OriginalCategory = OpenedBook().CurrentCategory;
     FillCategories();
-    txtDesc().SetText(FromBookText(Main().TheBook.SiteNames(Index())));
-    txtURL().SetText(FromBookText(Main().TheBook.SiteURLs(Index())));
+    txtDesc().SetText(FromBookText(OpenedBook().TheBook.SiteNames(Index())));
+    txtURL().SetText(FromBookText(OpenedBook().TheBook.SiteURLs(Index())));
 }
 
 void frmEditRec::OnCommand(int id, int) {
@@ -30,7 +33,7 @@ void frmEditRec::OnCommand(int id, int) {
 
 void frmEditRec::cmdOk_Click() {
     if (!FieldsAreGood()) return;
-    Book& book = Main().TheBook;
+    Book& book = OpenedBook().TheBook;
     const NewEntry typed = TypedEntry();
     book.SetSiteName(Index(), typed.SiteName);
     book.SetSiteURL(Index(), typed.URL);
@@ -38,10 +41,10 @@ void frmEditRec::cmdOk_Click() {
     if (chosen != OriginalCategory) {
         book.MoveEntry(OriginalCategory, Position() - 1, chosen);
         // The remembered positions would be those of other entries now.
-        book.SavedCheckCounts(OriginalCategory) = 0;
+        book.Marks.Forget(OriginalCategory);
     }
-    Main().Modified = true;
-    Main().ResultTag = kStored;
+    OpenedBook().Modified = true;
+    OpenedBook().ResultTag = kStored;
     Unload();
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 
 #include "edit/EntryDialog.h"
 
@@ -9,7 +10,9 @@ namespace lindrel {
 
 class frmEditRec : public EntryDialog {
   public:
-    explicit frmEditRec(frmStart& main);
+    // Tells the 1-based position of the list's selected row; asked at each use.
+    using SelectedRow = std::function<int()>;
+    frmEditRec(OpenBook& open, SelectedRow selected_row);
 
   private:
     void Form_Load() override;
@@ -18,9 +21,10 @@ class frmEditRec : public EntryDialog {
     void Command1_Click() { Unload(); }
 
     // 1-based position of the edited entry in its category, and its index in the book.
-    int Position() const { return Main().ListURLs.Selected(); }
-    int Index() const { return Main().TheBook.IndexOf(OriginalCategory, Position()); }
+    int Position() const { return selected_row_(); }
+    int Index() const { return OpenedBook().TheBook.IndexOf(OriginalCategory, Position()); }
 
+    SelectedRow selected_row_;
     std::uint8_t OriginalCategory = 1;
 };
 

@@ -1,15 +1,17 @@
 #include "edit/frmMove.h"
 
+#include <utility>
+
 #include "controls/BookField.h"
-#include "edit/CheckedRuns.h"
 #include "resources/resource.h"
 
 namespace lindrel {
 
-frmMove::frmMove(frmStart& main) : Dialog(IDD_frmMove), main_(main) {}
+frmMove::frmMove(OpenBook& open, int selected_row, std::vector<RowRun> checked_runs)
+    : Dialog(IDD_frmMove), open_(open), selected_row_(selected_row), checked_runs_(std::move(checked_runs)) {}
 
 void frmMove::Form_Load() {
-    FillWithCategories(Get<ComboBox>(ID_frmMove_cmbKateg), main_.TheBook, main_.SelectedCategory());
+    FillWithCategories(Get<ComboBox>(ID_frmMove_cmbKateg), open_.TheBook, open_.CurrentCategory);
 }
 
 void frmMove::OnCommand(int id, int) {
@@ -25,28 +27,21 @@ void frmMove::OnCommand(int id, int) {
 }
 
 void frmMove::cmdOk_Click() {
-    const int source = main_.SelectedCategory();
+    const int source = open_.CurrentCategory;
     const int destination = Get<ComboBox>(ID_frmMove_cmbKateg).Selected() + 1;
-    const bool nothing_chosen = main_.TheBook.CheckedCount == 0 && main_.ListURLs.Selected() == 0;
     Unload();
-    if (destination == source || nothing_chosen) return;
+    if (destination == source) return;
 
-    if (main_.TheBook.CheckedCount == 0)
-        MoveSelected(source, destination);
-    else
-        MoveChecked(source, destination);
-    main_.Modified = true;
-    main_.FillAddressList(source);
-}
-
-void frmMove::MoveSelected(int source, int destination) {
-    main_.TheBook.MoveEntry(source, main_.ListURLs.Selected() - 1, destination);
-}
-
-void frmMove::MoveChecked(int source, int destination) {
-    Book& book = main_.TheBook;
-    MoveRuns(book, source, main_.CheckedRunsOf(source), destination);
-    book.CheckedCount = 0;
+    if (!checked_runs_.empty()) {
+        MoveRuns(open_.TheBook, source, checked_runs_, destination);
+        open_.TheBook.Marks.SetCheckedCount(0);
+    } else if (selected_row_ != 0) {
+        open_.TheBook.MoveEntry(source, selected_row_ - 1, destination);
+    } else {
+        return;
+    }
+    open_.Modified = true;
+    moved_ = true;
 }
 
 }  // namespace lindrel

@@ -2,14 +2,22 @@
 // category.
 #pragma once
 
-#include "app/frmStart.h"
+#include <vector>
+
+#include "book/OpenBook.h"
 #include "controls/Dialog.h"
+#include "edit/CheckedRuns.h"
 
 namespace lindrel {
 
 class frmMove : public Dialog {
   public:
-    explicit frmMove(frmStart& main);
+    // The 1-based position of the selected row, 0 for none, and the runs of the checked rows of the shown
+    // category.
+    frmMove(OpenBook& open, int selected_row, std::vector<RowRun> checked_runs);
+
+    // Whether entries have left the shown category.
+    bool Moved() const { return moved_; }
 
   private:
     void Form_Load() override;
@@ -17,10 +25,10 @@ class frmMove : public Dialog {
     void cmdOk_Click();
     void cmdCancel_Click() { Unload(); }
 
-    void MoveSelected(int source, int destination);
-    void MoveChecked(int source, int destination);
-
-    frmStart& main_;
+    OpenBook& open_;
+    int selected_row_;
+    std::vector<RowRun> checked_runs_;
+    bool moved_ = false;
 };
 
 }  // namespace lindrel

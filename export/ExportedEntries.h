@@ -10,13 +10,13 @@ namespace lindrel {
 
 // Whether a category has entries to export.
 inline bool IsExported(const Book& book, int category) {
-    return book.SavedCheckCounts(category) > 0;
+    return book.Marks.SavedCheckCounts(category) > 0;
 }
 
 // Indices, in the book, of a category's entries to export. Only for a category that IsExported().
 inline std::vector<int> ExportedEntries(const Book& book, int category) {
     std::vector<int> indices;
-    for (const std::int16_t position : book.SavedCheckLists(category))
+    for (const std::int16_t position : book.Marks.SavedCheckLists(category))
         indices.push_back(book.IndexOf(category, position));
     return indices;
 }

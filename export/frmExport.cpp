@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <initializer_list>
 
+#include "book/BookText.h"
 #include "book/Files.h"
 #include "controls/MsgBox.h"
 #include "controls/Shell.h"
@@ -16,6 +17,9 @@ namespace lindrel {
 
 namespace {
 
+// By Kind.
+constexpr const wchar_t* kExportKinds[] = {L"weblap - HTML", L"szövegfájl - txt", L"IE kedvencek - url"};
+
 constexpr std::initializer_list<int> kPageFrame = {
     ID_frmExport_Frame3,   ID_frmExport_lblTitle,   ID_frmExport_txtTitle,
     ID_frmExport_lblColor, ID_frmExport_optColor_0, ID_frmExport_optColor_1,
@@ -25,18 +29,18 @@ constexpr std::initializer_list<int> kFavoritesFrame = {ID_frmExport_Frame2, ID_
 
 }  // namespace
 
-frmExport::frmExport(frmStart& main) : Dialog(IDD_frmExport), main_(main) {}
+frmExport::frmExport(OpenBook& open, CommonDialog& file_dialog)
+    : Dialog(IDD_frmExport), open_(open), file_dialog_(file_dialog), book_filter_(file_dialog) {}
 
 void frmExport::Form_Load() {
-    ExportKinds = {L"weblap - HTML", L"szövegfájl - txt", L"IE kedvencek - url"};
     const auto cmbType = Get<ComboBox>(ID_frmExport_cmbType);
-    for (const std::wstring& kind : ExportKinds) cmbType.Add(kind);
+    for (const wchar_t* const kind : kExportKinds) cmbType.Add(kind);
     cmbType.Select(WebPage);
     const auto lstSource = Get<ListBox>(ID_frmExport_lstSource);
     for (int c = 1; c <= kCategories; ++c)
-        if (IsExported(main_.TheBook, c))
-            lstSource.Add(FromBookText(main_.TheBook.CategoryNames(c)) + L" (" +
-                          std::to_wstring(main_.TheBook.SavedCheckCounts(c)) + L")");
+        if (IsExported(open_.TheBook, c))
+            lstSource.Add(FromBookText(open_.TheBook.CategoryNames(c)) + L" (" +
+                          std::to_wstring(open_.TheBook.Marks.SavedCheckCounts(c)) + L")");
     Get<CheckBox>(ID_frmExport_optColor_0).SetChecked(true);
     Get<CheckBox>(ID_frmExport_optColor_2).SetChecked(true);
     FillThemes();
@@ -55,24 +59,13 @@ void frmExport::FillThemes() const {
     cmbTheme.WidenList();
 }
 
-// Also when a fault ends the dialog: the book's save dialog may follow it.
-frmExport::~frmExport() {
-    main_.CommonDialog1.Filter = kBookFilter;
-}
-
 void frmExport::OnCommand(int id, int event) {
     switch (id) {
         case ID_frmExport_cmbType:
             if (event == CBN_SELCHANGE) cmbType_Click();
             return;
-        case ID_frmExport_cmbTheme: {
-            const auto cmbTheme = Get<ComboBox>(id);
-            if (event == CBN_SELCHANGE && cmbTheme.Selected() >= 0)
-                cmbTheme_Change(cmbTheme.Item(cmbTheme.Selected()));
-            if (event == CBN_EDITCHANGE) cmbTheme_Change(cmbTheme.Text());
-            if (event == CBN_KILLFOCUS) cmbTheme_LostFocus();
-            return;
-        }
+        case ID_frmExport_cmbTheme:
+            return OnTheme(event);
         case ID_frmExport_cmdBrowse:
             return cmdBrowse_Click();
         case ID_frmExport_cmdOK:
@@ -96,9 +89,17 @@ void frmExport::cmbType_Click() {
     for (const int id : kFavoritesFrame) Get<Control>(id).Show(kind == Favorites);
 }
 
-// The colours too, whatever theme is named (intended): until its text or the focus changes, it has no say.
+// The colours too, whatever theme is named: until its text or the focus changes, it has no say.
 void frmExport::SetPageOptionsEnabled(bool disable) const {
     for (const int id : kPageFrame) Get<Control>(id).Enable(!disable);
+}
+
+void frmExport::OnTheme(int event) const {
+    const auto cmbTheme = Get<ComboBox>(ID_frmExport_cmbTheme);
+    if (event == CBN_SELCHANGE && cmbTheme.Selected() >= 0)
+        cmbTheme_Change(cmbTheme.Item(cmbTheme.Selected()));
+    if (event == CBN_EDITCHANGE) cmbTheme_Change(cmbTheme.Text());
+    if (event == CBN_KILLFOCUS) cmbTheme_LostFocus();
 }
 
 // A theme, once named, decides the colours.
@@ -114,17 +115,16 @@ void frmExport::cmbTheme_LostFocus() const {
 }
 
 void frmExport::cmdBrowse_Click() {
-    CommonDialog& dialog = main_.CommonDialog1;
-    dialog.Filter = L"arculatfájlok (*.aut)|*.aut";
-    dialog.FileName.clear();
-    dialog.DialogTitle = L"Arculatfájl kiválasztása";
+    file_dialog_.Filter = L"arculatfájlok (*.aut)|*.aut";
+    file_dialog_.FileName.clear();
+    file_dialog_.DialogTitle = L"Arculatfájl kiválasztása";
     try {
-        dialog.ShowOpen(Handle());
+        file_dialog_.ShowOpen(Handle());
     } catch (const Fault&) {
         return;  // cancelled: the theme stays as it was
     }
-    Get<Control>(ID_frmExport_cmbTheme).SetText(dialog.FileName);
-    cmbTheme_Change(dialog.FileName);
+    Get<Control>(ID_frmExport_cmbTheme).SetText(file_dialog_.FileName);
+    cmbTheme_Change(file_dialog_.FileName);
 }
 
 void frmExport::cmdOK_Click() {
@@ -134,27 +134,25 @@ void frmExport::cmdOK_Click() {
         return;
     }
     const Kind kind = ChosenKind();
-    main_.CommonDialog1.Filter = kind == TextFile ? L"szövegfájlok (*.txt)|*.txt" : L"weblapok (*.htm)|*.htm";
-    main_.CommonDialog1.DefaultExt = kind == TextFile ? L"txt" : L"htm";
-    bool completed = false;
-    if (kind == Favorites) {
-        // Its failures are not caught here (intended): they end in the run-time error report.
-        completed = ExportToFavorites();
-    } else {
-        try {
-            completed = ExportToFile(kind);
-        } catch (const Fault& fault) {
-            // A failure while writing closes the dialog without a message (intended).
-            if (fault.Number() != kDialogCancelled) Unload();
-            return;
-        }
-    }
-    if (!completed) return;
-    for (int c = 1; c <= kCategories; ++c) main_.TheBook.SavedCheckCounts(c) = 0;
+    file_dialog_.Filter = kind == TextFile ? L"szövegfájlok (*.txt)|*.txt" : L"weblapok (*.htm)|*.htm";
+    file_dialog_.DefaultExt = kind == TextFile ? L"txt" : L"htm";
+    if (!Export(kind)) return;
+    open_.TheBook.Marks.ForgetAll();
     Unload();
 }
 
-// False when the user does not want the existing file overwritten. Throws what choosing or writing throws.
+bool frmExport::Export(Kind kind) {
+    // The faults of this one are not caught: they end in the run-time error report.
+    if (kind == Favorites) return ExportToFavorites();
+    try {
+        return ExportToFile(kind);
+    } catch (const Fault& fault) {
+        // A failure while writing closes the dialog without a message.
+        if (fault.Number() != kDialogCancelled) Unload();
+        return false;
+    }
+}
+
 bool frmExport::ExportToFile(Kind kind) {
     std::wstring path;
     if (!ChooseFile(path)) return false;
@@ -167,11 +165,10 @@ bool frmExport::ExportToFile(Kind kind) {
 }
 
 bool frmExport::ChooseFile(std::wstring& path) {
-    CommonDialog& dialog = main_.CommonDialog1;
-    dialog.FileName.clear();
-    dialog.DialogTitle = L"Exportálás";
-    dialog.ShowSave(Handle());
-    path = dialog.FileName;
+    file_dialog_.FileName.clear();
+    file_dialog_.DialogTitle = L"Exportálás";
+    file_dialog_.ShowSave(Handle());
+    path = file_dialog_.FileName;
     return !FileIsThere(path) ||
            MsgBox(Handle(), L"Felülírjam a már létező állományt ?", MB_OKCANCEL | MB_ICONEXCLAMATION,
                   L"Figyelem: már van ilyen fájl!") == IDOK;
@@ -182,53 +179,43 @@ void frmExport::DropCategoriesNotChosen() {
     const auto lstSource = Get<ListBox>(ID_frmExport_lstSource);
     int line = 0;
     for (int c = 1; c <= kCategories; ++c)
-        if (IsExported(main_.TheBook, c) && !lstSource.IsSelected(line++))
-            main_.TheBook.SavedCheckCounts(c) = 0;
+        if (IsExported(open_.TheBook, c) && !lstSource.IsSelected(line++)) open_.TheBook.Marks.Forget(c);
 }
 
-// False when the choice of the folder was cancelled; the categories not chosen are dropped then all the same
-// (intended).
+// The categories not chosen stay dropped when the choice of the folder is cancelled.
 bool frmExport::ExportToFavorites() {
     DropCategoriesNotChosen();
-    frmSelectFavoritDir picker(*this);
-    picker.startDir(FavoritesPath());
+    frmSelectFavoritDir picker(FavoritesPath());
     picker.ShowModal(Handle());
-    if (favorPath.empty()) return false;
-    saveTo_fav();
+    if (picker.ChosenFolder().empty()) return false;
+    const bool folder_for_each_category = Get<CheckBox>(ID_frmExport_optColor_3).IsChecked();
+    saveTo_fav(open_.TheBook, picker.ChosenFolder(), folder_for_each_category);
     return true;
 }
 
-void frmExport::saveTo_fav() {
-    lindrel::saveTo_fav(main_.TheBook, favorPath, Get<CheckBox>(ID_frmExport_optColor_3).IsChecked());
-}
-
-void frmExport::WriteTextList(const std::wstring& fileName) {
+void frmExport::WriteTextList(const std::wstring& fileName) const {
     OutputFile file{std::filesystem::path(fileName)};
-    lindrel::WriteTextList(main_.TheBook, [&file](std::string_view bytes) { file.Write(bytes); });
+    lindrel::WriteTextList(open_.TheBook, [&file](std::string_view bytes) { file.Write(bytes); });
     file.Close();
 }
 
-void frmExport::WriteHtmlPage(const std::wstring& fileName) {
-    PageStyle style;
-    ReadTheme(style.Title, style.Background, style.Text);
-    style.ThemeParts = ThemeParts;
-    style.ThemeApplied = ThemeApplied;
+void frmExport::WriteHtmlPage(const std::wstring& fileName) const {
+    const PageStyle style = ReadTheme();
     OutputFile file{std::filesystem::path(fileName)};
-    lindrel::WriteHtmlPage(main_.TheBook, style, [&file](std::string_view bytes) { file.Write(bytes); });
+    lindrel::WriteHtmlPage(open_.TheBook, style, [&file](std::string_view bytes) { file.Write(bytes); });
     file.Close();
 }
 
-void frmExport::ReadTheme(std::wstring& title, std::string& background, std::string& text) {
+PageStyle frmExport::ReadTheme() const {
     constexpr std::size_t kTooShortForATheme = 3;
-    ThemeParts = DefaultThemeParts();
-    ThemeApplied = false;
+    PageStyle style;
     const std::wstring theme = Text(ID_frmExport_cmbTheme);
     if (theme.size() > kTooShortForATheme) {
         std::error_code error;  // a name that no file can have is not there either
         if (std::filesystem::is_regular_file(theme, error)) {
             const std::vector<char> bytes = ReadFileBytes(theme);
-            ThemeParts = ApplyTheme(ThemeParts, {bytes.data(), bytes.size()});
-            ThemeApplied = true;
+            style.ThemeParts = ApplyTheme(DefaultThemeParts(), {bytes.data(), bytes.size()});
+            style.ThemeApplied = true;
         } else {
             MsgBox(Handle(),
                    L"Salynálom, de a " + theme +
@@ -236,10 +223,11 @@ void frmExport::ReadTheme(std::wstring& title, std::string& background, std::str
                    MB_OK | MB_ICONINFORMATION, kErrorTitle);
         }
     }
-    title = Text(ID_frmExport_txtTitle);
+    style.Title = Text(ID_frmExport_txtTitle);
     const bool white = Get<CheckBox>(ID_frmExport_optColor_0).IsChecked();
-    background = white ? "white" : "Black";
-    text = white ? "black" : "white";
+    style.Background = white ? "white" : "Black";
+    style.Text = white ? "black" : "white";
+    return style;
 }
 
 }  // namespace lindrel

@@ -2,9 +2,9 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
-#include "app/frmStart.h"
+#include "book/OpenBook.h"
+#include "controls/CommonDialog.h"
 #include "controls/Dialog.h"
 #include "export/HtmlPage.h"
 
@@ -12,11 +12,7 @@ namespace lindrel {
 
 class frmExport : public Dialog {
   public:
-    explicit frmExport(frmStart& main);
-    ~frmExport() override;
-
-    // The folder for shortcut files; empty when its choice was cancelled.
-    void FavorithPath(const std::wstring& vData) { favorPath = vData; }
+    frmExport(OpenBook& open, CommonDialog& file_dialog);
 
   private:
     // In the order of cmbType.
@@ -28,6 +24,7 @@ class frmExport : public Dialog {
     void cmdOK_Click();
     void cmdCancel_Click() { Unload(); }
     void cmdBrowse_Click();
+    void OnTheme(int event) const;
     void cmbTheme_Change(const std::wstring& theme) const;
     void cmbTheme_LostFocus() const;
 
@@ -35,21 +32,21 @@ class frmExport : public Dialog {
     void FillThemes() const;
     void SetPageOptionsEnabled(bool disable) const;
 
-    // The steps of the export button.
+    // The steps of the export button. Those that return a bool return false when the user has called the
+    // export off, and throw what choosing or writing throws.
+    bool Export(Kind kind);
     bool ExportToFile(Kind kind);
     bool ExportToFavorites();
     bool ChooseFile(std::wstring& path);
     void DropCategoriesNotChosen();
-    void WriteHtmlPage(const std::wstring& fileName);
-    void WriteTextList(const std::wstring& fileName);
-    void saveTo_fav();
-    void ReadTheme(std::wstring& title, std::string& background, std::string& text);
+    void WriteHtmlPage(const std::wstring& fileName) const;
+    void WriteTextList(const std::wstring& fileName) const;
+    // Title, colours and fragments of the page. Tells the user when the theme named is not there.
+    PageStyle ReadTheme() const;
 
-    frmStart& main_;
-    std::wstring favorPath;
-    std::vector<std::wstring> ExportKinds;
-    Fragments ThemeParts;
-    bool ThemeApplied = false;
+    OpenBook& open_;
+    CommonDialog& file_dialog_;
+    BookFilterAfterwards book_filter_;
 };
 
 }  // namespace lindrel

@@ -5,18 +5,9 @@
 
 namespace lindrel {
 
-class frmExport;
-
 class frmSelectFavoritDir : public FolderDialog {
   public:
-    explicit frmSelectFavoritDir(frmExport& exporting);
-
-  private:
-    void OnCommand(int id, int event) override;
-    void cmdOk_Click();
-    void cmdCancel_Click();
-
-    frmExport& export_;
+    explicit frmSelectFavoritDir(std::wstring startDir);
 };
 
 }  // namespace lindrel

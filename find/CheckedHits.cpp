@@ -10,17 +10,12 @@ void DeleteEntries(Book& book, const std::vector<int>& indices) {
 }
 
 void CheckOnly(Book& book, const std::vector<int>& indices, int shown_category) {
-    for (int k = 1; k <= kCategories; ++k) book.SavedCheckCounts(k) = 0;
+    book.Marks.ForgetAll();
     for (const int index : indices) {
         const int category = book.CategoryOf(index);
-        std::int16_t& count = book.SavedCheckCounts(category);
-        std::vector<std::int16_t>& positions = book.SavedCheckLists(category);
-        // Cuts off what an earlier count had left there.
-        positions.resize(static_cast<std::size_t>(count));
-        positions.push_back(static_cast<std::int16_t>(index - book.CategoryStarts(category) + 1));
-        ++count;
+        book.Marks.SaveOneMore(category, index - book.CategoryStarts(category) + 1);
     }
-    book.CheckedCount = book.SavedCheckCounts(shown_category);
+    book.Marks.SetCheckedCount(book.Marks.SavedCheckCounts(shown_category));
 }
 
 }  // namespace lindrel

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "book/Book.h"
+#include "book/BookText.h"
 
 namespace lindrel {
 

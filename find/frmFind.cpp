@@ -1,7 +1,9 @@
 #include "find/frmFind.h"
 
 #include <cwchar>
+#include <utility>
 
+#include "book/BookText.h"
 #include "controls/Shell.h"
 #include "edit/DeleteQuestions.h"
 #include "find/CheckedHits.h"
@@ -24,11 +26,9 @@ LOGFONTW FixedPitchFont(UINT dpi) {
 
 }  // namespace
 
-frmFind::frmFind(frmStart& main) : Dialog(IDD_frmFind), main_(main) {}
+frmFind::frmFind(OpenBook& open) : Dialog(IDD_frmFind), open_(open) {}
 
 void frmFind::Form_Load() {
-    // A frame that can be resized shows an icon: the program's.
-    SendMessageW(Handle(), WM_SETICON, ICON_SMALL, SendMessageW(main_.Handle(), WM_GETICON, ICON_SMALL, 0));
     LoadList();
     Get<TextBox>(ID_frmFind_txtTag).SetHint(kEndingHint);
     SetToolTip(ID_frmFind_txtTag, kEndingHint);
@@ -58,6 +58,10 @@ void frmFind::LoadList() {
 }
 
 void frmFind::ApplyResolution(UINT dpi) {
+    // A frame that can be resized shows an icon: the program's.
+    Picture icon(GetModuleHandleW(nullptr), IDI_frmStart, GetSystemMetricsForDpi(SM_CXSMICON, dpi));
+    SendMessageW(Handle(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon.Handle()));
+    icon_ = std::move(icon);
     Font font(FixedPitchFont(dpi));
     SendMessageW(Item(ID_frmFind_lblURL), WM_SETFONT, reinterpret_cast<WPARAM>(font.Handle()), TRUE);
     url_font_ = std::move(font);
@@ -81,18 +85,18 @@ void frmFind::Form_Resize() {
     if (ListView.Handle() != nullptr) SizeColumns();
 }
 
-bool frmFind::OnMessage(UINT message, WPARAM first, LPARAM second, LRESULT&) {
+bool frmFind::OnMessage(UINT message, WPARAM wparam, LPARAM lparam, LRESULT&) {
     switch (message) {
         case WM_SIZE:
             Form_Resize();
             return false;
         case WM_GETMINMAXINFO:
-            anchors_.LimitSize(*reinterpret_cast<MINMAXINFO*>(second));
+            anchors_.LimitSize(*reinterpret_cast<MINMAXINFO*>(lparam));
             return true;
         case WM_DPICHANGED:
             // The dialog manager scales window and controls after this; the resize that it causes then places
             // the controls anew.
-            anchors_.ChangeResolution(LOWORD(first));
+            anchors_.ChangeResolution(LOWORD(wparam));
             return false;
         default:
             return false;
@@ -156,11 +160,11 @@ void frmFind::txtWhat_GotFocus() const {
 }
 
 void frmFind::cmdFind_Click() {
-    hits_ = FindEntries(main_.TheBook, Text(ID_frmFind_txtWhat), Text(ID_frmFind_txtTag));
+    hits_ = FindEntries(open_.TheBook, Text(ID_frmFind_txtWhat), Text(ID_frmFind_txtTag));
     ListView.SetRows(static_cast<int>(hits_.Items.size()), [this](int row, int column) {
         const Hit& hit = hits_.Items.at(static_cast<std::size_t>(row - 1));
         return FromBookText(column == kColumnOfNames ? hit.Entry.SiteName
-                                                     : main_.TheBook.CategoryNames(hit.Category));
+                                                     : open_.TheBook.CategoryNames(hit.Category));
     });
     Get<Control>(ID_frmFind_lblSum_1).SetText(std::to_wstring(ListView.Count()));
     // The hit whose address stood there is no longer selected, and perhaps deleted.
@@ -214,8 +218,8 @@ void frmFind::cmdDel_Click() {
 }
 
 void frmFind::DeleteFromBook(const std::vector<int>& indices) {
-    DeleteEntries(main_.TheBook, indices);
-    main_.Modified = true;
+    DeleteEntries(open_.TheBook, indices);
+    open_.Modified = true;
     EntryDeleted = true;
     const int place = ListView.Focused();
     cmdFind_Click();
@@ -230,10 +234,9 @@ std::vector<int> frmFind::CheckedIndices() const {
     return indices;
 }
 
-// With nothing checked and nothing deleted the check marks of the main window stay as they were.
+// With nothing checked and nothing deleted the check marks of the list stay as they were.
 void frmFind::Form_Unload() {
-    if (EntryDeleted || CheckedHits >= 1)
-        CheckOnly(main_.TheBook, CheckedIndices(), main_.SelectedCategory());
+    if (EntryDeleted || CheckedHits >= 1) CheckOnly(open_.TheBook, CheckedIndices(), open_.CurrentCategory);
 }
 
 }  // namespace lindrel

@@ -1,21 +1,22 @@
 // Finds entries of all categories by their site names, narrowed to an ending of their addresses. The hits can
-// be opened, deleted and checked; on closing, the checked hits become the check marks of the main window.
+// be opened, deleted and checked; on closing, the checked hits become the check marks of the list.
 #pragma once
 
 #include <vector>
 
-#include "app/frmStart.h"
+#include "book/OpenBook.h"
 #include "controls/Anchors.h"
 #include "controls/CheckListView.h"
 #include "controls/Dialog.h"
 #include "controls/Display.h"
+#include "controls/Picture.h"
 #include "find/EntrySearch.h"
 
 namespace lindrel {
 
 class frmFind : public Dialog {
   public:
-    explicit frmFind(frmStart& main);
+    explicit frmFind(OpenBook& open);
 
   private:
     void Form_Load() override;
@@ -23,7 +24,7 @@ class frmFind : public Dialog {
     void Form_Unload() override;
     void OnCommand(int id, int event) override;
     LRESULT OnNotify(const NMHDR& header) override;
-    bool OnMessage(UINT message, WPARAM first, LPARAM second, LRESULT& result) override;
+    bool OnMessage(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& result) override;
     bool PreTranslate(const MSG& message) override;
 
     void Form_Resize();
@@ -50,10 +51,11 @@ class frmFind : public Dialog {
     std::vector<int> CheckedIndices() const;
     const Hit* SelectedHit() const;
 
-    frmStart& main_;
+    OpenBook& open_;
     CheckListView ListView;
     Anchors anchors_;
     Font url_font_;
+    Picture icon_;
     Hits hits_;  // row r shows Items[r - 1]
     int CheckedHits = 0;
     bool EntryDeleted = false;

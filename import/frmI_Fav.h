@@ -5,18 +5,9 @@
 
 namespace lindrel {
 
-class frmImport;
-
 class frmI_Fav : public FolderDialog {
   public:
-    explicit frmI_Fav(frmImport& importing);
-
-  private:
-    void OnCommand(int id, int event) override;
-    void cmdImport_Click();
-    void cmdCancel_Click();
-
-    frmImport& import_;
+    explicit frmI_Fav(std::wstring startDir);
 };
 
 }  // namespace lindrel

@@ -7,6 +7,7 @@
 #include "book/Files.h"
 #include "controls/BookField.h"
 #include "controls/MsgBox.h"
+#include "controls/PopupMenu.h"
 #include "controls/Shell.h"
 #include "controls/WaitCursor.h"
 #include "import/PageText.h"
@@ -16,17 +17,13 @@
 
 namespace lindrel {
 
-frmImport::frmImport(frmStart& main) : Dialog(IDD_frmImport), main_(main) {}
+frmImport::frmImport(OpenBook& open, CommonDialog& file_dialog)
+    : Dialog(IDD_frmImport), open_(open), file_dialog_(file_dialog), book_filter_(file_dialog) {}
 
 void frmImport::Form_Load() {
     Get<CheckBox>(ID_frmImport_from_0).SetChecked(true);
-    FillWithCategories(Get<ComboBox>(ID_frmImport_cmbKateg), main_.TheBook, main_.SelectedCategory());
+    FillWithCategories(Get<ComboBox>(ID_frmImport_cmbKateg), open_.TheBook, open_.CurrentCategory);
     SetToolTip(ID_frmImport_cmbKateg, L"az új címek ebbe a kategóriába importálódnak");
-}
-
-void frmImport::Form_Unload() {
-    if (imported_) main_.FillAddressList(main_.SelectedCategory());
-    main_.CommonDialog1.Filter = kBookFilter;
 }
 
 void frmImport::OnCommand(int id, int) {
@@ -65,41 +62,33 @@ void frmImport::from_Click() const {
 
 void frmImport::Label2_MouseDown() {
     if (!Get<CheckBox>(ID_frmImport_from_0).IsChecked()) return;
-    const HMENU bar = LoadMenuW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDR_frmImport));
-    const HMENU menu = GetSubMenu(bar, 0);
-    // Without the menu the choice stays as it is.
-    if (menu == nullptr) return;
-    const UINT chosen = choice_ == LinkChoice::Online ? ID_mnuOnline : ID_mnuAll;
-    static_cast<void>(CheckMenuRadioItem(menu, ID_mnuOnline, ID_mnuAll, chosen, MF_BYCOMMAND));
+    const PopupMenu menu(GetModuleHandleW(nullptr), IDR_frmImport);
+    menu.CheckRadio(ID_mnuOnline, ID_mnuAll, choice_ == LinkChoice::Online ? ID_mnuOnline : ID_mnuAll);
     RECT button{};
-    static_cast<void>(GetWindowRect(Item(ID_frmImport_Label2), &button));
-    // The item chosen arrives as a command.
-    static_cast<void>(
-        TrackPopupMenu(menu, TPM_LEFTALIGN | TPM_TOPALIGN, button.left, button.bottom, 0, Handle(), nullptr));
-    static_cast<void>(DestroyMenu(bar));
+    GetWindowRect(Item(ID_frmImport_Label2), &button);
+    menu.OpenBelow(button, Handle());
 }
 
 void frmImport::cmdOK_Click() {
     constexpr wchar_t kFailed[] = L"Az importálás nem sikerült.";
-    // Failures of the folder import are not caught here (intended): they end in the run-time error report.
+    // The faults of the folder import are not caught: they end in the run-time error report.
     if (!Get<CheckBox>(ID_frmImport_from_0).IsChecked()) return ImportFavoritesFolder();
 
-    CommonDialog& dialog = main_.CommonDialog1;
-    dialog.Filter = L"weblapok (*.htm)|*.htm";
-    dialog.DialogTitle = L"Válasszon ki egy weblapot";
-    dialog.FileName.clear();
+    file_dialog_.Filter = L"weblapok (*.htm)|*.htm";
+    file_dialog_.DialogTitle = L"Válasszon ki egy weblapot";
+    file_dialog_.FileName.clear();
     try {
-        do dialog.ShowOpen(Handle());
-        while (!FileExists(Handle(), dialog.FileName));
-        ImportHtmlLinks(dialog.FileName);
-        dialog.Filter = kBookFilter;
+        do file_dialog_.ShowOpen(Handle());
+        while (!FileExists(Handle(), file_dialog_.FileName));
+        ImportHtmlLinks(file_dialog_.FileName);
+        file_dialog_.Filter = kBookFilter;
     } catch (const OverflowFault&) {
         MsgBox(Handle(), kFailed, MB_OK, L"Túl sok címet tartalmaz a weblap");
     } catch (const EndOfFileFault&) {
         MsgBox(Handle(), kFailed, MB_OK, L"Hibás a weblap");
     } catch (const std::exception&) {
         // The cancelled file dialog, a page that cannot be read or is too large for the memory, an address
-        // without quotation mark: no message (intended).
+        // without quotation mark: no message.
         return;
     }
 }
@@ -111,43 +100,32 @@ void frmImport::ImportHtmlLinks(const std::wstring& fileName) {
         const std::vector<char> page = BookTextOfPage(ReadFileBytes(fileName));
         links = LinksOfPage({page.data(), page.size()}, choice_);
     }
-    const std::size_t count = links.size();
-    AddToChosenCategory(std::move(links));
-    ShowResult(count);
+    AddToChosenCategory(links);
+    ShowResult(links.size());
     imported_ = true;
 }
 
 void frmImport::ImportFavoritesFolder() {
-    frmI_Fav picker(*this);
-    picker.startDir(FavoritesPath());
+    frmI_Fav picker(FavoritesPath());
     picker.ShowModal(Handle());
     // The empty path of a cancelled choice is none either.
     std::error_code unknown;
-    if (!std::filesystem::is_directory(chosen_folder_, unknown)) return;
+    if (!std::filesystem::is_directory(picker.ChosenFolder(), unknown)) return;
 
-    std::vector<NewEntry> entries = ShortcutsOfFolder(chosen_folder_);
+    const std::vector<NewEntry> entries = ShortcutsOfFolder(picker.ChosenFolder());
     if (entries.empty()) {
         MsgBox(Handle(), L"Salynálom, de a megadott könyvtárban nem találtam kedvenc weblapokat");
         return;
     }
     ShowResult(entries.size());
-    AddToChosenCategory(std::move(entries));
+    AddToChosenCategory(entries);
     imported_ = true;
 }
 
-void frmImport::AddToChosenCategory(std::vector<NewEntry> entries) {
-    struct Staging {
-        explicit Staging(Book& target) : book(target) {}
-        ~Staging() { book.NewEntries.clear(); }
-        Staging(const Staging&) = delete;
-        Staging& operator=(const Staging&) = delete;
-        Book& book;
-    };
-    const Staging staging(main_.TheBook);
+void frmImport::AddToChosenCategory(const std::vector<NewEntry>& entries) {
     if (entries.empty()) return;
-    main_.TheBook.NewEntries = std::move(entries);
-    main_.TheBook.AddEntry(Get<ComboBox>(ID_frmImport_cmbKateg).Selected() + 1);
-    main_.Modified = true;
+    open_.TheBook.AddEntry(Get<ComboBox>(ID_frmImport_cmbKateg).Selected() + 1, entries);
+    open_.Modified = true;
 }
 
 void frmImport::ShowResult(std::size_t count) const {

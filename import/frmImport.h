@@ -5,7 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "app/frmStart.h"
+#include "book/OpenBook.h"
+#include "controls/CommonDialog.h"
 #include "controls/Dialog.h"
 #include "import/HtmlLinks.h"
 
@@ -13,14 +14,13 @@ namespace lindrel {
 
 class frmImport : public Dialog {
   public:
-    explicit frmImport(frmStart& main);
+    frmImport(OpenBook& open, CommonDialog& file_dialog);
 
-    // The folder of shortcut files; empty when its choice was cancelled.
-    void chosenFolder(const std::wstring& path) { chosen_folder_ = path; }
+    // Whether a list that shows the book may be out of date.
+    bool Imported() const { return imported_; }
 
   private:
     void Form_Load() override;
-    void Form_Unload() override;
     void OnCommand(int id, int event) override;
     bool PreTranslate(const MSG& message) override;
     void from_Click() const;
@@ -33,13 +33,14 @@ class frmImport : public Dialog {
     // Throw what reading throws; nothing is added then.
     void ImportHtmlLinks(const std::wstring& fileName);
     void ImportFavoritesFolder();
-    void AddToChosenCategory(std::vector<NewEntry> entries);
+    void AddToChosenCategory(const std::vector<NewEntry>& entries);
     void ShowResult(std::size_t count) const;
 
-    frmStart& main_;
+    OpenBook& open_;
+    CommonDialog& file_dialog_;
+    BookFilterAfterwards book_filter_;
     LinkChoice choice_ = LinkChoice::Online;
-    std::wstring chosen_folder_;
-    bool imported_ = false;  // the main window's list may be out of date
+    bool imported_ = false;
 };
 
 }  // namespace lindrel

@@ -87,8 +87,7 @@ TEST(BookFileTest, LineFeedsAloneAndAMissingLastBreakAreRead) {
 
 TEST(BookFileTest, ANameThatBeginsWithTheMarkComesBackAsAHeader) {
     Book book;
-    book.NewEntries = {{"#nev", "http://a.hu"}, {"b", "#cim"}};
-    book.AddEntry(12);
+    book.AddEntry(12, {{"#nev", "http://a.hu"}, {"b", "#cim"}});
     EXPECT_EQ(FindHeaderLookalikes(book).Count, 2);
     EXPECT_EQ(FindHeaderLookalikes(book).First, "#nev");
     const std::string file = SaveBook(book);
@@ -147,17 +146,15 @@ TEST(BookFileTest, LinesBeforeTheFirstHeaderBelongToNoCategory) {
 
 TEST(BookFileTest, LoadingClearsTheCheckMarks) {
     Book book = BookOf("#1\r\nn\r\nu\r\n" + Headers(2, 12));
-    book.CheckedCount = 1;
-    book.SavedCheckCounts(4) = 2;
+    book.Marks.SetCheckedCount(1);
+    book.Marks.Save(4, {1, 2});
     EXPECT_TRUE(LoadBook(book, Bytes(Headers(1, 12))));
-    EXPECT_EQ(book.CheckedCount, 0);
-    EXPECT_EQ(book.SavedCheckCounts(4), 0);
+    EXPECT_EQ(book.Marks, CheckMarks());
 }
 
 TEST(BookFileTest, TheLargestBookIsSavedAndOpenedAgain) {
     Book book;
-    book.NewEntries.assign(kMostEntries, {"n", "u"});
-    book.AddEntry(1);
+    book.AddEntry(1, std::vector<NewEntry>(kMostEntries, {"n", "u"}));
     const std::string file = SaveBook(book);
     EXPECT_EQ(CountLines(std::string_view(file)), 12 + 2 * kMostEntries);
     EXPECT_EQ(SaveBook(BookOf(file)), file);

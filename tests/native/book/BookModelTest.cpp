@@ -51,14 +51,12 @@ class BookModelTest : public ::testing::Test {
     void Add() {
         const int category = RollCategory();
         const int count = Roll(3) + 1;
-        book.NewEntries.clear();
+        std::vector<NewEntry> added;
         for (int i = 0; i < count; ++i) {
-            book.NewEntries.push_back(Fresh());
-            EntriesOf(category).push_back(book.NewEntries.back());
+            added.push_back(Fresh());
+            EntriesOf(category).push_back(added.back());
         }
-        const bool was_empty = book.IsEmpty();
-        book.AddEntry(category);
-        EXPECT_EQ(book.NewEntries.empty(), !was_empty);
+        book.AddEntry(category, added);
     }
     void Delete() {
         const int category = RollCategory();
@@ -75,9 +73,9 @@ class BookModelTest : public ::testing::Test {
         auto& entries = EntriesOf(source);
         if (source == destination || entries.empty()) return;
         const int offset = Roll(static_cast<int>(entries.size()));
-        book.CheckedCount = 3;
+        book.Marks.SetCheckedCount(3);
         book.MoveEntry(source, offset, destination);
-        EXPECT_EQ(book.CheckedCount, 0);
+        EXPECT_EQ(book.Marks.CheckedCount(), 0);
         EntriesOf(destination).push_back(entries[static_cast<std::size_t>(offset)]);
         entries.erase(entries.begin() + offset);
     }

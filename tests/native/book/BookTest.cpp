@@ -11,9 +11,9 @@ namespace {
 using Texts = std::vector<std::string>;
 
 void Add(Book& book, int category, const Texts& names) {
-    book.NewEntries.clear();
-    for (const std::string& name : names) book.NewEntries.push_back({name, "http://" + name});
-    book.AddEntry(category);
+    std::vector<NewEntry> entries;
+    for (const std::string& name : names) entries.push_back({name, "http://" + name});
+    book.AddEntry(category, entries);
 }
 
 Texts NamesOf(const Book& book, int category) {
@@ -39,10 +39,10 @@ TEST(BookTest, ANewBookIsEmpty) {
         EXPECT_EQ(book.CategoryNames(k), "Project" + std::to_string(k));
         EXPECT_EQ(book.CategoryCounts(k), 0);
         EXPECT_EQ(book.CategoryStarts(k), 1);
-        EXPECT_EQ(book.SavedCheckCounts(k), 0);
+        EXPECT_EQ(book.Marks.SavedCheckCounts(k), 0);
     }
     EXPECT_EQ(book.EntryCount(), 0);
-    EXPECT_EQ(book.CheckedCount, 0);
+    EXPECT_EQ(book.Marks.CheckedCount(), 0);
 }
 
 TEST(BookTest, AddingToTheLastCategoryGoesToTheEnd) {
@@ -55,13 +55,11 @@ TEST(BookTest, AddingToTheLastCategoryGoesToTheEnd) {
     EXPECT_EQ(book.EntryCount(), 5);
 }
 
-TEST(BookTest, OnlyTheEmptyBookLeavesTheStagingAreaFilled) {
+TEST(BookTest, ABookWithEntriesInTheLastCategoryAloneIsNotEmpty) {
     Book book;
     Add(book, 12, {"x"});
-    EXPECT_EQ(book.NewEntries, (std::vector<NewEntry>{{"x", "http://x"}}));
-    // Entries in category 12 alone make the book not empty.
+    EXPECT_FALSE(book.IsEmpty());
     Add(book, 3, {"c"});
-    EXPECT_TRUE(book.NewEntries.empty());
     EXPECT_EQ(NamesOf(book, 3), Texts{"c"});
     EXPECT_EQ(NamesOf(book, 12), Texts{"x"});
 }
@@ -75,7 +73,6 @@ TEST(BookTest, DeletingTheLastEntryLeavesOneBlankElementAndThenTheEmptyPath) {
     EXPECT_EQ(book.SiteNames(1), "");
     EXPECT_EQ(book.SiteURLs(1), "");
     Add(book, 7, {"c"});
-    EXPECT_EQ(book.NewEntries.size(), 1U);  // the empty book's path
     EXPECT_EQ(book.UpperBound(), 1);
     EXPECT_EQ(NamesOf(book, 7), Texts{"c"});
 }
@@ -96,13 +93,13 @@ TEST(BookTest, MovingTowardsTheFrontAppendsAndShiftsTheStartsBetween) {
     Add(book, 2, {"a", "b"});
     Add(book, 3, {"c"});
     Add(book, 5, {"d", "e", "f"});
-    book.CheckedCount = 3;
+    book.Marks.SetCheckedCount(3);
     book.MoveEntry(5, 1, 2);
     EXPECT_EQ(NamesOf(book, 2), (Texts{"a", "b", "e"}));
     EXPECT_EQ(NamesOf(book, 3), Texts{"c"});
     EXPECT_EQ(NamesOf(book, 5), (Texts{"d", "f"}));
     EXPECT_EQ(StartsOf(book), (std::vector<int>{1, 1, 4, 5, 5, 7, 7, 7, 7, 7, 7, 7}));
-    EXPECT_EQ(book.CheckedCount, 0);
+    EXPECT_EQ(book.Marks.CheckedCount(), 0);
 }
 
 TEST(BookTest, MovingTowardsTheEndAppendsAndShiftsTheStartsBetween) {
@@ -129,15 +126,12 @@ TEST(BookTest, MovingInABookOfOneChangesCountsAndStartsOnly) {
 
 TEST(BookTest, AFullBookRefusesOneMoreAndStaysAsItWas) {
     Book book;
-    book.NewEntries.assign(kMostEntries, {"n", "http://n"});
-    book.AddEntry(3);
+    book.AddEntry(3, std::vector<NewEntry>(kMostEntries, {"n", "http://n"}));
     EXPECT_EQ(book.EntryCount(), kMostEntries);
     EXPECT_EQ(book.CategoryStarts(12), kMostEntries + 1);  // no fault
-    book.NewEntries = {{"m", "http://m"}};
-    EXPECT_THROW(book.AddEntry(1), OverflowFault);
+    EXPECT_THROW(book.AddEntry(1, {{"m", "http://m"}}), OverflowFault);
     EXPECT_EQ(book.EntryCount(), kMostEntries);
     EXPECT_EQ(book.CategoryCounts(1), 0);
-    EXPECT_EQ(book.NewEntries.size(), 1U);
 }
 
 TEST(BookTest, BadArgumentsAreFaultsThatChangeNothing) {
@@ -152,8 +146,7 @@ TEST(BookTest, BadArgumentsAreFaultsThatChangeNothing) {
     EXPECT_THROW(book.MoveEntry(1, 2, 2), RangeFault);
     EXPECT_THROW(book.MoveEntry(1, 0, 13), RangeFault);
     EXPECT_THROW(book.MoveEntry(1, 0, 1), ArgumentFault);
-    book.NewEntries = {{"x", "y"}};
-    EXPECT_THROW(book.AddEntry(13), RangeFault);
+    EXPECT_THROW(book.AddEntry(13, {{"x", "y"}}), RangeFault);
     EXPECT_THROW(book.SiteNames(0), RangeFault);
     EXPECT_THROW(book.SiteNames(4), RangeFault);
     EXPECT_EQ(NamesOf(book, 1), (Texts{"a", "b"}));
@@ -163,8 +156,7 @@ TEST(BookTest, BadArgumentsAreFaultsThatChangeNothing) {
 // Loaded from a file with eleven headers: category 11 counts what it had in the book before.
 Book WithTooFewHeaders(int counted) {
     Book book;
-    book.NewEntries.assign(static_cast<std::size_t>(counted), {"old", "http://old"});
-    book.AddEntry(11);
+    book.AddEntry(11, std::vector<NewEntry>(static_cast<std::size_t>(counted), {"old", "http://old"}));
     std::string file;
     for (int k = 1; k <= 11; ++k) file += "#K\r\n";
     file += "a\r\nhttp://a\r\nb\r\nhttp://b\r\n";
@@ -186,8 +178,7 @@ TEST(BookTest, ABookThatCountsMoreThanItHasIsLeftAloneByFaults) {
 
     Book full = WithTooFewHeaders(kMostEntries);
     EXPECT_EQ(full.EntryCount(), kMostEntries + 2);
-    full.NewEntries = {{"m", "http://m"}};
-    EXPECT_THROW(full.AddEntry(1), OverflowFault);
+    EXPECT_THROW(full.AddEntry(1, {{"m", "http://m"}}), OverflowFault);
     EXPECT_EQ(full.UpperBound(), 2);
 }
 

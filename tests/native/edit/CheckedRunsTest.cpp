@@ -18,9 +18,10 @@ std::vector<RowRun> RunsOf(int rows, const std::set<int>& checked) {
 
 Book BookOf(int category, int count) {
     Book book;
+    std::vector<NewEntry> entries;
     for (int i = 1; i <= count; ++i)
-        book.NewEntries.push_back({"n" + std::to_string(i), "http://" + std::to_string(i) + ".hu"});
-    book.AddEntry(category);
+        entries.push_back({"n" + std::to_string(i), "http://" + std::to_string(i) + ".hu"});
+    book.AddEntry(category, entries);
     return book;
 }
 
@@ -51,8 +52,7 @@ TEST(CheckedRunsTest, AllRowsAreOneRunAndNoRowNone) {
 
 TEST(CheckedRunsTest, MovedEntriesKeepTheirOrderAndGoToTheEnd) {
     Book book = BookOf(1, 6);
-    book.NewEntries = {{"n7", "http://7.hu"}};
-    book.AddEntry(4);
+    book.AddEntry(4, {{"n7", "http://7.hu"}});
     MoveRuns(book, 1, RunsOf(6, {2, 3, 5}), 4);
     EXPECT_EQ(NamesOf(book, 1), (std::vector<std::string>{"n1", "n4", "n6"}));
     EXPECT_EQ(NamesOf(book, 4), (std::vector<std::string>{"n7", "n2", "n3", "n5"}));

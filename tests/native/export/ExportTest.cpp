@@ -19,16 +19,13 @@ class ExportTest : public ::testing::Test {
   protected:
     ExportTest() {
         book.SetCategoryName(2, "H\xEDrek");
-        book.NewEntries = {{"M\xFBsor", "http://musor.hu/"},
-                           {"nem", "http://nem.hu"},
-                           {"\xC1llat", "http://allat.hu/a.htm"}};
-        book.AddEntry(2);
-        book.NewEntries = {{"X", "x"}};
-        book.AddEntry(5);
+        book.AddEntry(2, {{"M\xFBsor", "http://musor.hu/"},
+                          {"nem", "http://nem.hu"},
+                          {"\xC1llat", "http://allat.hu/a.htm"}});
+        book.AddEntry(5, {{"X", "x"}});
     }
     void Check(int category, std::vector<std::int16_t> positions) {
-        book.SavedCheckCounts(category) = static_cast<std::int16_t>(positions.size());
-        book.SavedCheckLists(category) = std::move(positions);
+        book.Marks.Save(category, std::move(positions));
     }
     std::string TextList() const {
         std::string bytes;
@@ -66,9 +63,9 @@ TEST_F(ExportTest, ATextListTakesTheCategoriesInTheirOrderWithHeadersOfOneLength
                               std::string(112, '-') + "\r\n\xB0 X\r\n  x\r\n");
 }
 
-TEST_F(ExportTest, ATextListLeavesOutStaleMarks) {
+TEST_F(ExportTest, ATextListLeavesOutForgottenMarks) {
     Check(2, {1, 2});
-    book.SavedCheckCounts(2) = 0;
+    book.Marks.Forget(2);
     EXPECT_EQ(TextList(), "");
 }
 

@@ -70,14 +70,11 @@ inline std::string PageOf(const std::string& category, const std::vector<NewEntr
                           const std::wstring& title) {
     Book book;
     book.SetCategoryName(3, category);
-    book.NewEntries = entries;
-    book.AddEntry(3);
+    book.AddEntry(3, entries);
     // An entry that is not checked must not be on the page.
-    book.NewEntries = {{"nincs kijel\xF6lve", "http://nem.hu"}};
-    book.AddEntry(3);
-    book.SavedCheckCounts(3) = static_cast<std::int16_t>(entries.size());
-    for (std::int16_t position = 1; position <= book.SavedCheckCounts(3); ++position)
-        book.SavedCheckLists(3).push_back(position);
+    book.AddEntry(3, {{"nincs kijel\xF6lve", "http://nem.hu"}});
+    for (int position = 1; position <= static_cast<int>(entries.size()); ++position)
+        book.Marks.SaveOneMore(3, position);
     style.Title = title;
     std::string page;
     WriteHtmlPage(book, style, [&](std::string_view bytes) { page.append(bytes); });

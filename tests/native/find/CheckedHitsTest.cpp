@@ -11,10 +11,10 @@ namespace {
 Book NineEntries() {
     Book book;
     for (const int category : {2, 5, 12}) {
-        book.NewEntries.clear();
+        std::vector<NewEntry> entries;
         for (int i = 1; i <= 3; ++i)
-            book.NewEntries.push_back({"n" + std::to_string(category) + "." + std::to_string(i), "u"});
-        book.AddEntry(category);
+            entries.push_back({"n" + std::to_string(category) + "." + std::to_string(i), "u"});
+        book.AddEntry(category, entries);
     }
     return book;
 }
@@ -52,38 +52,33 @@ TEST(CheckedHitsTest, DeletingNothingChangesNothing) {
 
 TEST(CheckedHitsTest, ChecksExactlyTheEntriesInTheirCategories) {
     Book book = NineEntries();
-    book.SavedCheckCounts(1) = 2;
-    book.SavedCheckLists(1) = {4, 5};
-    book.SavedCheckCounts(5) = 3;
-    book.SavedCheckLists(5) = {1, 2, 3};
-    book.CheckedCount = 3;
+    book.Marks.Save(1, {4, 5});
+    book.Marks.Save(5, {1, 2, 3});
+    book.Marks.SetCheckedCount(3);
     CheckOnly(book, {1, 3, 5}, 2);
 
-    PerCategory<std::int16_t> counts;
-    counts(2) = 2;
-    counts(5) = 1;
-    EXPECT_EQ(book.SavedCheckCounts, counts);
-    EXPECT_EQ(book.SavedCheckLists(2), (std::vector<std::int16_t>{1, 3}));
-    EXPECT_EQ(book.SavedCheckLists(5), std::vector<std::int16_t>{2});
-    EXPECT_EQ(book.CheckedCount, 2);
+    CheckMarks expected;
+    expected.Save(2, {1, 3});
+    expected.Save(5, {2});
+    expected.SetCheckedCount(2);
+    EXPECT_EQ(book.Marks, expected);
 }
 
 TEST(CheckedHitsTest, TheShownCategoryMayHaveNoneOfThem) {
     Book book = NineEntries();
-    book.CheckedCount = 1;
+    book.Marks.SetCheckedCount(1);
     CheckOnly(book, {9}, 5);
-    EXPECT_EQ(book.CheckedCount, 0);
-    EXPECT_EQ(book.SavedCheckLists(12), std::vector<std::int16_t>{3});
+    CheckMarks expected;
+    expected.Save(12, {3});
+    EXPECT_EQ(book.Marks, expected);
 }
 
 TEST(CheckedHitsTest, NoneClearsEveryCheckMark) {
     Book book = NineEntries();
-    book.SavedCheckCounts(2) = 1;
-    book.SavedCheckLists(2) = {2};
-    book.CheckedCount = 1;
+    book.Marks.Save(2, {2});
+    book.Marks.SetCheckedCount(1);
     CheckOnly(book, {}, 2);
-    EXPECT_EQ(book.SavedCheckCounts, PerCategory<std::int16_t>());
-    EXPECT_EQ(book.CheckedCount, 0);
+    EXPECT_EQ(book.Marks, CheckMarks());
 }
 
 }  // namespace

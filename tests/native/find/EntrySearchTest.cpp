@@ -1,3 +1,4 @@
+#include "book/BookText.h"
 #include "find/EntrySearch.h"
 
 #include <gtest/gtest.h>
@@ -11,9 +12,9 @@ namespace {
 using Row = std::pair<std::wstring, std::wstring>;
 
 void Add(Book& book, int category, const std::vector<Row>& rows) {
-    book.NewEntries.clear();
-    for (const auto& [name, url] : rows) book.NewEntries.push_back({ToBookText(name), ToBookText(url)});
-    book.AddEntry(category);
+    std::vector<NewEntry> entries;
+    for (const auto& [name, url] : rows) entries.push_back({ToBookText(name), ToBookText(url)});
+    book.AddEntry(category, entries);
 }
 
 Book HungarianBook() {
@@ -206,9 +207,9 @@ TEST(EntrySearchTest, AStepGoesOnFromWhereAnotherCategoryWasLeft) {
 
 TEST(EntrySearchTest, TheLastEntryOfTheLargestBookIsFound) {
     Book book;
-    book.NewEntries.assign(kMostEntries - 1, {"x", "http://x.hu"});
-    book.NewEntries.push_back({ToBookText(L"utolsó ŰR"), "http://utolso.hu"});
-    book.AddEntry(1);
+    std::vector<NewEntry> entries(kMostEntries - 1, {"x", "http://x.hu"});
+    entries.push_back({ToBookText(L"utolsó ŰR"), "http://utolso.hu"});
+    book.AddEntry(1, entries);
     EXPECT_EQ(IndicesOf(FindEntries(book, L"űr", L"hu")), std::vector<int>{kMostEntries});
     EXPECT_EQ(Steps(book, L"űr", 1, 2), (std::vector<int>{kMostEntries, 0}));
 }

@@ -84,11 +84,10 @@ TEST(HtmlLinksTest, AddressesWithoutQuotationMarksAreNotFound) {
 TEST(HtmlLinksTest, PagesOfThisProgramsOwnExportHoldNone) {
     Book book;
     book.SetCategoryName(3, "<a href=\"http://kategoria.hu\">K</a>");
-    book.NewEntries = {{"H\xEDrek", "http://hirek.hu/"},
-                       {"<a href=\"http://nev.hu\">N\xE9v</a>", "http://lap.hu/?a=\"b\"&c=<a href=\"x\">"}};
-    book.AddEntry(3);
-    book.SavedCheckCounts(3) = 2;
-    book.SavedCheckLists(3) = {1, 2};
+    book.AddEntry(
+        3, {{"H\xEDrek", "http://hirek.hu/"},
+            {"<a href=\"http://nev.hu\">N\xE9v</a>", "http://lap.hu/?a=\"b\"&c=<a href=\"x\">"}});
+    book.Marks.Save(3, {1, 2});
     PageStyle style;
     style.Title = L"<a href=\"http://cim.hu\">C</a>";
     std::string page;

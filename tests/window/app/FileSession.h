@@ -20,10 +20,9 @@ class FileSession : public ::testing::Test {
         "b.hu\r\n#2\r\n#3\r\n#4\r\n#5\r\n#6\r\n#7\r\n#8\r\n#9\r\n#10\r\n#11\r\n";
 
     static void AddOne(frmStart& form, int category) {
-        form.TheBook.NewEntries = {{"N\xE9v", "http://nev.hu"}};
-        form.TheBook.AddEntry(category);
-        form.Modified = true;
-        form.FillAddressList(1);
+        form.OpenedBook().TheBook.AddEntry(category, {{"N\xE9v", "http://nev.hu"}});
+        form.OpenedBook().Modified = true;
+        form.View().FillAddressList(1);
     }
     void Change(int category = 1) const {
         program.OnUi([category](frmStart& form) { AddOne(form, category); });

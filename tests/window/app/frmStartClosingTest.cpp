@@ -9,14 +9,14 @@ class frmStartClosingTest : public FileSession {};
 
 TEST_F(frmStartClosingTest, AFaultThatNobodyCatchesIsReportedAndEndsTheProgram) {
     for (int i = 0; i < 5; ++i) Change(11);
-    program.OnUi([](frmStart& form) { form.Modified = false; });
+    program.OnUi([](frmStart& form) { form.OpenedBook().Modified = false; });
     program.Choose(ID_mnuOpen);
     program.FileDialog().Accept(folder.Write(L"kevés.lnd", kElevenHeaders));
     program.Box().Press(IDOK);
     program.Settle();
-    program.OnUi([](frmStart& form) { form.Modified = true; });
+    program.OnUi([](frmStart& form) { form.OpenedBook().Modified = true; });
     // Five entries that no file line stands for.
-    const HWND tabs = program.Ask<HWND>([](frmStart& form) { return form.TabStrip1.Handle(); });
+    const HWND tabs = program.Control(ID_frmStart_TabStrip1);
     SendMessageW(tabs, TCM_SETCURFOCUS, 10, 0);
     const BoxOnScreen report = program.Box();
     EXPECT_EQ(report.Title(), L"Lindrel");
@@ -54,7 +54,7 @@ TEST_F(frmStartClosingTest, ClosingWithYesSavesUnderAChosenNameAndEndsTheProgram
 TEST_F(frmStartClosingTest, ClosingWithYesSavesInTheBooksOwnFileWithoutADialog) {
     Change();
     const std::wstring path = folder.Write(L"van.lnd", "régi");
-    program.OnUi([&](frmStart& form) { form.OpenedFile = path; });
+    program.OnUi([&](frmStart& form) { form.OpenedBook().OpenedFile = path; });
     program.Close();
     ExpectSaveQuestion(L"A fájl módosult", IDYES);
     ExpectSaved(path);

@@ -70,7 +70,7 @@ class frmStartCommandsTest : public ::testing::Test {
         return (GetMenuState(GetMenu(program.Main()), static_cast<UINT>(id), MF_BYCOMMAND) & MF_CHECKED) != 0;
     }
     bool HasGridLines() const {
-        return program.Ask<bool>([](frmStart& form) { return form.ListURLs.HasGridLines(); });
+        return (ListView_GetExtendedListViewStyle(program.List().Handle()) & LVS_EX_GRIDLINES) != 0;
     }
     void PressShortcut(const Shortcut& shortcut) const {
         const auto hold = [&](bool down) {
@@ -82,8 +82,7 @@ class frmStartCommandsTest : public ::testing::Test {
             });
         };
         hold(true);
-        program.PressKey(program.Ask<HWND>([](frmStart& form) { return form.ListURLs.Handle(); }),
-                         shortcut.Key);
+        program.PressKey(program.Control(ID_frmStart_ListURLs), shortcut.Key);
         hold(false);
     }
 
@@ -158,7 +157,7 @@ TEST_F(frmStartCommandsTest, OpenSaveAndSaveAsAskForAFile) {
         {ID_mnuOpen, L"File megnyitása"}, {ID_mnuSaveAs, L"File mentése"}, {ID_mnuSave, L"File mentése"}};
     for (const auto& [command, title] : dialogs) {
         // Only a changed book is saved; a changed one is asked about before another is opened.
-        program.OnUi([id = command](frmStart& form) { form.Modified = id == ID_mnuSave; });
+        program.OnUi([id = command](frmStart& form) { form.OpenedBook().Modified = id == ID_mnuSave; });
         program.Choose(command);
         const FileDialogOnScreen dialog = program.FileDialog();
         EXPECT_EQ(dialog.Title(), title);

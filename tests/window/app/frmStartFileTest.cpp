@@ -15,7 +15,7 @@ class frmStartFileTest : public FileSession {};
 TEST_F(frmStartFileTest, StartsWithTheEmptyBook) {
     EXPECT_EQ(program.State(), EmptyState());
     EXPECT_EQ(program.BookBytes(), OneEntryBook(""));
-    EXPECT_EQ(program.Ask<int>([](frmStart& form) { return form.CurrentCategory; }), 1);
+    EXPECT_EQ(program.Ask<int>([](frmStart& form) { return form.OpenedBook().CurrentCategory; }), 1);
     EXPECT_FALSE(program.CommandEnabled(ID_mnuToDesktop));
 }
 
@@ -31,7 +31,7 @@ TEST_F(frmStartFileTest, FileDialogsStartInTheProgramsFolderWithBookFiles) {
         EXPECT_EQ(dialog.Folder(), program_folder);
         EXPECT_EQ(dialog.Filters(), std::vector<std::wstring>{L"Lindrel fájlok (*.lnd)"});
         EXPECT_EQ(dialog.FileName(), file_name);
-        EXPECT_EQ(program.Ask<std::wstring>([](frmStart& form) { return form.CommonDialog1.Filter; }),
+        EXPECT_EQ(program.Ask<std::wstring>([](frmStart& form) { return form.FileDialog().Filter; }),
                   L"Lindrel fájlok (*.lnd)|*.lnd");
         return dialog;
     };
@@ -115,7 +115,7 @@ TEST_F(frmStartFileTest, OpenShowsTheCategoryOfTheSelectedTabAndForgetsAllCheckM
     expected.Status[2] = L"bejelölve 0";
     expected.OpenedFile = path;
     ExpectState(expected);
-    EXPECT_EQ(program.Ask<int>([](frmStart& form) { return form.CurrentCategory; }), 7);
+    EXPECT_EQ(program.Ask<int>([](frmStart& form) { return form.OpenedBook().CurrentCategory; }), 7);
     EXPECT_EQ(program.BookBytes(), kThreeEntries);
     EXPECT_TRUE(program.CommandEnabled(ID_mnuToDesktop));
 
@@ -134,7 +134,7 @@ TEST_F(frmStartFileTest, OpenShowsTheCategoryOfTheSelectedTabAndForgetsAllCheckM
 
 TEST_F(frmStartFileTest, AMalformedFileIsReportedWithItsLineAndLeavesTheOpenBook) {
     Change();
-    program.OnUi([](frmStart& form) { form.Modified = false; });
+    program.OnUi([](frmStart& form) { form.OpenedBook().Modified = false; });
     MainState expected = ChangedState();
     expected.Modified = false;
     // Too short a file, and one with five lines of entries: half of them is taken for two entries.

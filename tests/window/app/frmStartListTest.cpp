@@ -14,13 +14,12 @@ class frmStartListTest : public ::testing::Test {
     // Three entries in category 1, four in category 3.
     frmStartListTest() {
         program.OnUi([](frmStart& form) {
-            form.TheBook.NewEntries = {
-                {"Egy", "http://egy.hu"}, {"Kett\xF5", "http://ketto.hu"}, {"H\xE1rom", "http://harom.hu"}};
-            form.TheBook.AddEntry(1);
-            form.TheBook.NewEntries = {
-                {"A", "http://a.hu"}, {"B", "http://b.hu"}, {"C", "http://c.hu"}, {"", ""}};
-            form.TheBook.AddEntry(3);
-            form.FillAddressList(1);
+            form.OpenedBook().TheBook.AddEntry(
+                1,
+                {{"Egy", "http://egy.hu"}, {"Kett\xF5", "http://ketto.hu"}, {"H\xE1rom", "http://harom.hu"}});
+            form.OpenedBook().TheBook.AddEntry(
+                3, {{"A", "http://a.hu"}, {"B", "http://b.hu"}, {"C", "http://c.hu"}, {"", ""}});
+            form.View().FillAddressList(1);
         });
     }
 
@@ -46,9 +45,8 @@ TEST_F(frmStartListTest, AFillShowsTheCategoryWithoutSelectionAndWithTheCounters
 
 TEST_F(frmStartListTest, ColumnsAndFieldsBearTheirCaptions) {
     EXPECT_EQ(program.List().Columns(), (std::vector<std::wstring>{L"webhely neve", L"URL cime"}));
-    EXPECT_EQ(program.Ask<std::wstring>([](frmStart& form) { return form.lblSiteName.Text(); }),
-              L"Webhely neve");
-    EXPECT_EQ(program.Ask<std::wstring>([](frmStart& form) { return form.lblURL.Text(); }), L"URL");
+    EXPECT_EQ(TextOf(program.Control(ID_frmStart_lblSiteName)), L"Webhely neve");
+    EXPECT_EQ(TextOf(program.Control(ID_frmStart_lblURL)), L"URL");
     // Screen readers name a field by the label before it.
     for (const auto& [label, field] : {std::pair{ID_frmStart_lblSiteName, ID_frmStart_txtSite},
                                        std::pair{ID_frmStart_lblURL, ID_frmStart_txtURL}})
@@ -68,8 +66,8 @@ TEST_F(frmStartListTest, AnEmptyCategoryHasNoRowsAndNoDesktopCommand) {
 TEST_F(frmStartListTest, FillingTwiceGivesTheSameRowsWithoutCheckMarks) {
     program.ClickBox(2);
     program.OnUi([](frmStart& form) {
-        form.TheBook.CheckedCount = 0;
-        form.FillAddressList(1);
+        form.OpenedBook().TheBook.Marks.SetCheckedCount(0);
+        form.View().FillAddressList(1);
     });
     EXPECT_EQ(program.State(), FirstCategory());
 }
@@ -102,8 +100,7 @@ TEST_F(frmStartListTest, CheckingAnotherRowChangesOnlyTheCounter) {
 
 TEST_F(frmStartListTest, TheSpaceBarChecksAndWalksDownAndStaysOnTheLastRow) {
     program.ClickRow(2);
-    HWND list = nullptr;
-    program.OnUi([&](frmStart& form) { list = form.ListURLs.Handle(); });
+    const HWND list = program.Control(ID_frmStart_ListURLs);
     program.PressKey(list, VK_SPACE);
     MainState expected = FirstCategory();
     expected.SelectedRow = 3;
@@ -130,16 +127,13 @@ TEST_F(frmStartListTest, ATabRemembersItsCheckMarks) {
     EXPECT_EQ(program.State(), expected);
 }
 
-TEST_F(frmStartListTest, WithNothingCheckedTheSavedListStaysAndMeansNothing) {
+TEST_F(frmStartListTest, WithNothingCheckedNothingIsRemembered) {
     program.ClickBox(2);
     program.ClickTab(3);
     program.ClickTab(1);
     program.ClickBox(2);
     program.ClickTab(3);
-    program.OnUi([](frmStart& form) {
-        EXPECT_EQ(form.TheBook.SavedCheckCounts(1), 0);
-        EXPECT_EQ(form.TheBook.SavedCheckLists(1), std::vector<std::int16_t>{2});
-    });
+    program.OnUi([](frmStart& form) { EXPECT_EQ(form.OpenedBook().TheBook.Marks, CheckMarks()); });
     program.ClickTab(1);
     EXPECT_EQ(program.State(), FirstCategory());
 }
@@ -157,10 +151,7 @@ TEST_F(frmStartListTest, OneCheckMarkIsEnoughForCheckAllToClearThem) {
 
 TEST_F(frmStartListTest, AColumnClickShowsTheFirstEntryOnlyWhileTheFieldIsEmpty) {
     const auto click_header = [this] {
-        HWND header = nullptr;
-        program.OnUi([&](frmStart& form) { header = ListView_GetHeader(form.ListURLs.Handle()); });
-        PostMessageW(header, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(20, 8));
-        PostMessageW(header, WM_LBUTTONUP, 0, MAKELPARAM(20, 8));
+        program.List().ClickHeader();
         program.Settle();
     };
     click_header();
@@ -203,11 +194,8 @@ TEST_F(frmStartListTest, CheckingTheSelectedRowByMouseGoesOnToTheNext) {
 }
 
 TEST_F(frmStartListTest, CheckAllIsInertWhileTheFirstElevenCategoriesAreEmpty) {
-    program.OnUi([](frmStart& form) {
-        form.ResetBook();
-        form.TheBook.NewEntries = {{"A", "http://a.hu"}};
-        form.TheBook.AddEntry(12);
-    });
+    program.Run(ID_mnuNew);
+    program.OnUi([](frmStart& form) { form.OpenedBook().TheBook.AddEntry(12, {{"A", "http://a.hu"}}); });
     program.ClickTab(12);
     const MainState before = program.State();
     EXPECT_EQ(before.Rows.size(), 1u);
@@ -216,7 +204,7 @@ TEST_F(frmStartListTest, CheckAllIsInertWhileTheFirstElevenCategoriesAreEmpty) {
 }
 
 TEST_F(frmStartListTest, ADoubleClickOnTheAddressCopiesItAndAnEmptyOneLeavesTheClipboard) {
-    const HWND field = program.Ask<HWND>([](frmStart& form) { return form.txtURL.Handle(); });
+    const HWND field = program.Control(ID_frmStart_txtURL);
     const auto double_click = [&] {
         PostMessageW(field, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(5, 5));
         PostMessageW(field, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
@@ -232,10 +220,8 @@ TEST_F(frmStartListTest, ADoubleClickOnTheAddressCopiesItAndAnEmptyOneLeavesTheC
 
 TEST_F(frmStartListTest, ControlCInTheAddressCopiesTheSelectionAlsoAnEmptyOne) {
     program.ClickRow(2);
-    const HWND field = program.Ask<HWND>([](frmStart& form) {
-        SendMessageW(form.txtURL.Handle(), EM_SETSEL, 7, 12);
-        return form.txtURL.Handle();
-    });
+    const HWND field = program.Control(ID_frmStart_txtURL);
+    SendMessageW(field, EM_SETSEL, 7, 12);
     const auto control_c = [&] {
         PostMessageW(field, WM_CHAR, 3, 1);
         program.Settle();
@@ -252,7 +238,7 @@ TEST_F(frmStartListTest, CopyingLeavesOtherFormsOnTheClipboard) {
     const UINT form = RegisterClipboardFormatW(L"Lindrel test form");
     PutClipboardBytes(form, "kép");
     program.ClickRow(2);
-    const HWND field = program.Ask<HWND>([](frmStart& main) { return main.txtURL.Handle(); });
+    const HWND field = program.Control(ID_frmStart_txtURL);
     PostMessageW(field, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(5, 5));
     program.Settle();
     EXPECT_EQ(TextOnClipboard(), L"http://ketto.hu");

@@ -120,7 +120,7 @@ TEST_F(frmStartSaveTest, PlainSaveOfALoadedBookLeavesTheTitle) {
     program.Choose(ID_mnuOpen);
     program.FileDialog().Accept(path);
     program.Settle();
-    program.OnUi([](frmStart& form) { form.SetTitle(L"egyéb"); });
+    program.OnUi([](frmStart& form) { SetWindowTextW(form.Handle(), L"egyéb"); });
     Change();
     program.Choose(ID_mnuSave);
     ExpectSaved(path);
@@ -137,7 +137,7 @@ TEST_F(frmStartSaveTest, AFailedSaveSaysWhyChangesNothingAndCallsTheCommandOff) 
     const std::wstring path = folder.Write(L"zárt.lnd", old);
     ASSERT_TRUE(SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_READONLY));
     Change();
-    program.OnUi([&](frmStart& form) { form.OpenedFile = path; });
+    program.OnUi([&](frmStart& form) { form.OpenedBook().OpenedFile = path; });
     const MainState before = program.State();
     const auto expect_failure = [&] {
         const BoxOnScreen box = program.Box();
@@ -172,10 +172,9 @@ TEST_F(frmStartSaveTest, AFailedSaveSaysWhyChangesNothingAndCallsTheCommandOff) 
 
 TEST_F(frmStartSaveTest, EntriesThatWillComeBackAsHeadersAreWarnedOf) {
     program.OnUi([&](frmStart& form) {
-        form.TheBook.NewEntries = {{"#els\xF5", "http://a.hu"}, {"B", "#m\xE1sodik"}};
-        form.TheBook.AddEntry(2);
-        form.OpenedFile = folder.File(L"a.lnd");
-        form.Modified = true;
+        form.OpenedBook().TheBook.AddEntry(2, {{"#els\xF5", "http://a.hu"}, {"B", "#m\xE1sodik"}});
+        form.OpenedBook().OpenedFile = folder.File(L"a.lnd");
+        form.OpenedBook().Modified = true;
     });
     program.Choose(ID_mnuSave);
     ExpectSaved(folder.File(L"a.lnd"));
@@ -193,13 +192,13 @@ TEST_F(frmStartSaveTest, EntriesThatWillComeBackAsHeadersAreWarnedOf) {
 
 TEST_F(frmStartSaveTest, ABookThatCannotBeWrittenOutIsKeptAndTheCommandCalledOff) {
     for (int i = 0; i < 5; ++i) Change(11);
-    program.OnUi([](frmStart& form) { form.Modified = false; });
+    program.OnUi([](frmStart& form) { form.OpenedBook().Modified = false; });
     const std::wstring path = folder.Write(L"kevés.lnd", kElevenHeaders);
     program.Choose(ID_mnuOpen);
     program.FileDialog().Accept(path);
     program.Box().Press(IDOK);
     program.Settle();
-    program.OnUi([](frmStart& form) { form.Modified = true; });
+    program.OnUi([](frmStart& form) { form.OpenedBook().Modified = true; });
     const MainState before = program.State();
     // Category 11 counts five entries of the book before, which nothing stands for.
     const auto expect_refusal = [&] {

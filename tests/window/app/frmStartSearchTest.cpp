@@ -249,8 +249,8 @@ TEST_F(frmStartSearchTest, EnterPressesThePictureButtonThatHasTheFocus) {
 TEST_F(frmStartSearchTest, TheTextIsSelectedWheneverItsBoxGainsTheFocus) {
     Type(L"műsor");
     const TextBox box(Control(ID_frmStart_txtFind));
-    program.OnUi([&](frmStart& form) {
-        form.ListURLs.SetFocus();
+    program.OnUi([&](frmStart&) {
+        SetFocus(Control(ID_frmStart_ListURLs));
         box.SetFocus();
     });
     EXPECT_EQ(box.SelectedText(), L"műsor");

@@ -13,13 +13,11 @@ namespace {
 
 class frmStartToolbarTest : public ::testing::Test {
   protected:
-    HWND Toolbar() const {
-        return program.Ask<HWND>([](frmStart& form) { return form.Toolbar.Handle(); });
-    }
+    HWND Toolbar() const { return program.Control(ID_frmStart_Toolbar); }
     RECT PlaceOf(int position) const {
-        return program.Ask<RECT>([position](frmStart& form) {
+        return program.Ask<RECT>([this, position](frmStart&) {
             RECT place{};
-            EXPECT_TRUE(SendMessageW(form.Toolbar.Handle(), TB_GETITEMRECT, static_cast<WPARAM>(position - 1),
+            EXPECT_TRUE(SendMessageW(Toolbar(), TB_GETITEMRECT, static_cast<WPARAM>(position - 1),
                                      reinterpret_cast<LPARAM>(&place)));
             return place;
         });
@@ -40,10 +38,8 @@ class frmStartToolbarTest : public ::testing::Test {
         program.Dialog(caption).Cancel();
     }
     bool ButtonEnabled(int position) const {
-        return program.Ask<bool>([position](frmStart& form) {
-            return SendMessageW(form.Toolbar.Handle(), TB_ISBUTTONENABLED,
-                                static_cast<WPARAM>(ID_frmStart_Toolbar_1 + position - 1), 0) != 0;
-        });
+        return SendMessageW(Toolbar(), TB_ISBUTTONENABLED,
+                            static_cast<WPARAM>(ID_frmStart_Toolbar_1 + position - 1), 0) != 0;
     }
     HWND OpenMenu() const {
         HWND menu = nullptr;
@@ -68,8 +64,8 @@ class frmStartToolbarTest : public ::testing::Test {
 };
 
 TEST_F(frmStartToolbarTest, HasTenButtonsWithNamesAndPictures) {
-    program.OnUi([](frmStart& form) {
-        const HWND toolbar = form.Toolbar.Handle();
+    program.OnUi([this](frmStart& form) {
+        const HWND toolbar = Toolbar();
         const std::vector<std::wstring> names{L"Új fájl", L"Megnyit", L"Mentés",   L"Hozzáad", L"Export",
                                               L"Módosít", L"Keresés", L"Áthelyez", L"Töröl",   L"ki/bejelöl"};
         ASSERT_EQ(SendMessageW(toolbar, TB_BUTTONCOUNT, 0, 0), 10);
@@ -102,8 +98,8 @@ TEST_F(frmStartToolbarTest, HasTenButtonsWithNamesAndPictures) {
 }
 
 TEST_F(frmStartToolbarTest, AllButTheFirstButtonHaveToolTips) {
-    const std::vector<std::wstring> tips = program.Ask<std::vector<std::wstring>>([](frmStart& form) {
-        const HWND toolbar = form.Toolbar.Handle();
+    const std::vector<std::wstring> tips = program.Ask<std::vector<std::wstring>>([this](frmStart&) {
+        const HWND toolbar = Toolbar();
         const auto window = reinterpret_cast<HWND>(SendMessageW(toolbar, TB_GETTOOLTIPS, 0, 0));
         std::vector<std::wstring> texts;
         for (int i = 0; i < 10; ++i) {
@@ -141,7 +137,7 @@ TEST_F(frmStartToolbarTest, TheSecondButtonOpens) {
 }
 
 TEST_F(frmStartToolbarTest, TheThirdButtonSaves) {
-    program.OnUi([](frmStart& form) { form.Modified = true; });
+    program.OnUi([](frmStart& form) { form.OpenedBook().Modified = true; });
     Press(3);
     const FileDialogOnScreen dialog = program.FileDialog();
     EXPECT_EQ(dialog.Title(), L"File mentése");
@@ -252,7 +248,7 @@ TEST_F(frmStartToolbarTest, StandsWholeBetweenMenuAndTabs) {
     RECT toolbar{};
     RECT tabs{};
     GetWindowRect(Toolbar(), &toolbar);
-    program.OnUi([&](frmStart& form) { GetWindowRect(form.TabStrip1.Handle(), &tabs); });
+    GetWindowRect(program.Control(ID_frmStart_TabStrip1), &tabs);
     POINT origin{0, 0};
     ClientToScreen(program.Main(), &origin);
     EXPECT_GE(toolbar.top, origin.y);
@@ -263,20 +259,20 @@ TEST_F(frmStartToolbarTest, StandsWholeBetweenMenuAndTabs) {
 }
 
 TEST_F(frmStartToolbarTest, TheTwoPictureButtonsShowDifferentPicturesAndKeepTheirNames) {
-    const auto painted = [](const PictureButton& button) {
+    const auto painted = [](HWND button) {
         constexpr int kSide = 24;
         return Drawn(kSide, [&](HDC canvas) {
             DRAWITEMSTRUCT item{};
             item.hDC = canvas;
             item.rcItem = {0, 0, kSide, kSide};
-            button.Draw(item);
+            SendMessageW(button, WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&item));
         });
     };
-    program.OnUi([&](frmStart& form) {
-        EXPECT_EQ(form.picGo.Text(), L"Ugorj a web oldalra");
-        EXPECT_EQ(form.Image1.Text(), L"Keresés");
-        const std::vector<COLORREF> go = painted(form.picGo);
-        const std::vector<COLORREF> search = painted(form.Image1);
+    program.OnUi([&](frmStart&) {
+        EXPECT_EQ(TextOf(program.Control(ID_frmStart_picGo)), L"Ugorj a web oldalra");
+        EXPECT_EQ(TextOf(program.Control(ID_frmStart_Image1)), L"Keresés");
+        const std::vector<COLORREF> go = painted(program.Control(ID_frmStart_picGo));
+        const std::vector<COLORREF> search = painted(program.Control(ID_frmStart_Image1));
         const std::vector<COLORREF> empty(go.size(), GetSysColor(COLOR_BTNFACE));
         EXPECT_NE(go, search);
         EXPECT_NE(go, empty);

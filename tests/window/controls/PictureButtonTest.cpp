@@ -65,8 +65,8 @@ TEST_F(PictureButtonTest, DrawsThePictureThatItWasGivenLast) {
 
 TEST_F(PictureButtonTest, HasABorderWhileTheMouseHoldsIt) {
     EXPECT_FALSE(HasBorder());
-    for (const UINT press : {WM_LBUTTONDOWN, WM_LBUTTONDBLCLK}) {
-        SendMessageW(window, press, MK_LBUTTON, MAKELPARAM(5, 5));
+    for (const int press : {WM_LBUTTONDOWN, WM_LBUTTONDBLCLK}) {
+        SendMessageW(window, static_cast<UINT>(press), MK_LBUTTON, MAKELPARAM(5, 5));
         EXPECT_TRUE(HasBorder());
         SendMessageW(window, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
         EXPECT_FALSE(HasBorder());

@@ -41,11 +41,9 @@ class DeleteTest : public ::testing::Test {
         state.Modified = true;
         return state;
     }
-    HWND Field(TextBox frmStart::*field) const {
-        return program.Ask<HWND>([field](frmStart& form) {
-            (form.*field).SetFocus();
-            return (form.*field).Handle();
-        });
+    HWND Focused(int id) const {
+        program.OnUi([&](frmStart&) { SetFocus(program.Control(id)); });
+        return program.Control(id);
     }
 
     Program program;
@@ -94,7 +92,8 @@ TEST_F(DeleteTest, NothingCheckedAndNothingSelectedAsksNothing) {
 }
 
 TEST_F(DeleteTest, AnAddressInTheFieldWithoutASelectedRowAsksNothing) {
-    program.OnUi([](frmStart& form) { form.ListURLs.ColumnClick(); });
+    program.List().ClickHeader();
+    program.Settle();
     const MainState before = program.State();
     EXPECT_EQ(before.txtURL, L"http://1.hu");
     program.Run(ID_mnuDel);
@@ -106,13 +105,11 @@ TEST_F(DeleteTest, InTheSearchBoxTheCommandDoesNothingAndTheKeyEditsTheText) {
     program.ClickBox(1);
     program.ClickRow(3);
     const MainState before = program.State();
-    const HWND search = Field(&frmStart::txtFind);
+    const HWND search = Focused(ID_frmStart_txtFind);
     program.Run(ID_mnuDel);
     EXPECT_TRUE(program.NothingIsOpen());
-    program.OnUi([](frmStart& form) {
-        form.txtFind.SetText(L"szó");
-        form.txtFind.Select(1, 1);
-    });
+    SetWindowTextW(search, L"szó");
+    SendMessageW(search, EM_SETSEL, 1, 2);
     program.PressKey(search, VK_DELETE);
     EXPECT_TRUE(program.NothingIsOpen());
     EXPECT_EQ(TextOf(search), L"só");
@@ -121,12 +118,11 @@ TEST_F(DeleteTest, InTheSearchBoxTheCommandDoesNothingAndTheKeyEditsTheText) {
 
 TEST_F(DeleteTest, InTheOtherFieldsTheKeyIsTheCommand) {
     program.ClickRow(3);
-    for (TextBox frmStart::*field : {&frmStart::txtSite, &frmStart::txtURL}) {
-        const HWND control = Field(field);
-        PostMessageW(control, WM_KEYDOWN, VK_DELETE, 1);
+    for (const int field : {ID_frmStart_txtSite, ID_frmStart_txtURL}) {
+        PostMessageW(Focused(field), WM_KEYDOWN, VK_DELETE, 1);
         AnswerSelected(IDCANCEL);
     }
-    const HWND list = program.Ask<HWND>([](frmStart& form) { return form.ListURLs.Handle(); });
+    const HWND list = program.Control(ID_frmStart_ListURLs);
     PostMessageW(list, WM_KEYDOWN, VK_DELETE, 1);
     AnswerSelected(IDOK);
     EXPECT_EQ(program.State(), Left({L"1", L"2", L"4", L"5"}));

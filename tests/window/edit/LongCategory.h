@@ -23,8 +23,8 @@ class LongCategory {
         program_.Add(category, rows);
         program_.ClickTab(category);
         program_.ClickRow(selected);
-        program_.OnUi([this](frmStart& form) {
-            form.ListURLs.EnsureVisible(1);
+        program_.OnUi([this](frmStart&) {
+            ListView_EnsureVisible(list_, 0, FALSE);
             EXPECT_TRUE(SetWindowSubclass(list_, &WatchSelection, 0, reinterpret_cast<DWORD_PTR>(this)));
         });
         EXPECT_EQ(program_.State().SelectedRow, selected);

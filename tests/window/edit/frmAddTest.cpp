@@ -203,7 +203,7 @@ TEST_F(frmAddTest, TheListKeepsItsMarksAndThePlaceOfItsSelection) {
     expected.Status[2] = L"bejelölve 2";
     expected.Modified = true;
     EXPECT_EQ(program.State(), expected);
-    EXPECT_EQ(program.Ask<std::wstring>([](frmStart& form) { return form.ResultTag; }), L"");
+    EXPECT_EQ(program.Ask<std::wstring>([](frmStart& form) { return form.OpenedBook().ResultTag; }), L"");
 }
 
 TEST_F(frmAddTest, InALongListTheRowThatWasSelectedIsScrolledBackIntoView) {
@@ -265,9 +265,8 @@ TEST_F(frmAddTest, ACharacterThatABookCannotHoldIsRefusedAndTheTextStays) {
 
 TEST_F(frmAddTest, AFullBookEndsInTheReportOffersToSaveAndLosesNothing) {
     program.OnUi([](frmStart& form) {
-        form.TheBook.NewEntries.assign(32767, {"n", "http://n.hu"});
-        form.TheBook.AddEntry(6);
-        form.FillAddressList(1);
+        form.OpenedBook().TheBook.AddEntry(6, std::vector<NewEntry>(32767, {"n", "http://n.hu"}));
+        form.View().FillAddressList(1);
     });
     const UnsavedBook book(program);
     const DialogOnScreen dialog = Open();

@@ -80,7 +80,7 @@ TEST_F(frmEditRecTest, ChangesTheEntryInPlaceExactlyAsTyped) {
     expected.Status[2] = L"bejelölve 1";
     expected.Modified = true;
     EXPECT_EQ(program.State(), expected);
-    EXPECT_EQ(program.Ask<std::wstring>([](frmStart& form) { return form.ResultTag; }), L"");
+    EXPECT_EQ(program.Ask<std::wstring>([](frmStart& form) { return form.OpenedBook().ResultTag; }), L"");
 }
 
 TEST_F(frmEditRecTest, OkWithoutAChangeMarksTheBook) {

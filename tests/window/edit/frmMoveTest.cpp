@@ -124,7 +124,8 @@ TEST_F(frmMoveTest, CancelChangesNothing) {
 
 TEST_F(frmMoveTest, AnAddressInTheFieldWithoutASelectedRowMovesNothing) {
     // A click on the column header shows the first entry and selects nothing.
-    program.OnUi([](frmStart& form) { form.ListURLs.ColumnClick(); });
+    program.List().ClickHeader();
+    program.Settle();
     const MainState before = program.State();
     EXPECT_EQ(before.txtURL, L"http://1.hu");
     EXPECT_EQ(before.SelectedRow, 0);

@@ -105,7 +105,7 @@ TEST_F(DesktopShortcutTest, WritesTheFileAndChangesTheNameInTheBookOnly) {
     EXPECT_EQ(program.State(), before);  // list, fields and Modified show the old name
     EXPECT_EQ(program.BookBytes(), BookWith("a_b_c_"));
 
-    program.OnUi([](frmStart& form) { form.TheBook.SetSiteURL(2, "http://uj.hu"); });
+    program.OnUi([](frmStart& form) { form.OpenedBook().TheBook.SetSiteURL(2, "http://uj.hu"); });
     AskFor(L"a_b_c_", IDOK);  // the second run overwrites
     EXPECT_TRUE(program.NothingIsOpen());
     EXPECT_EQ(FilesIn(kDesktop), (Files{{L"a_b_c_.url", "[InternetShortcut]\r\nURL=http://uj.hu"}}));
@@ -197,7 +197,7 @@ TEST_F(DesktopShortcutTest, AFileThatIsInUseIsReportedAndKeepsItsBytes) {
     const MainState before = program.State();
     const std::wstring path = std::wstring(kDesktop) + L"\\a_b_c_.url";
     AskFor(L"a:b/c?", IDOK);
-    program.OnUi([](frmStart& form) { form.TheBook.SetSiteURL(2, "http://uj.hu"); });
+    program.OnUi([](frmStart& form) { form.OpenedBook().TheBook.SetSiteURL(2, "http://uj.hu"); });
     const HANDLE other =
         CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
     ASSERT_NE(other, INVALID_HANDLE_VALUE);

@@ -15,7 +15,7 @@ class ExportSession : public ::testing::Test {
   protected:
     // Entries in the categories 2 and 5, all but one checked.
     ExportSession() {
-        program.OnUi([](frmStart& form) { form.TheBook.SetCategoryName(2, "H\xEDrek"); });
+        program.OnUi([](frmStart& form) { form.OpenedBook().TheBook.SetCategoryName(2, "H\xEDrek"); });
         program.Add(2,
                     {{L"Első", L"http://elso.hu"}, {L"Második", L"http://masodik.hu"}, {L"Harmadik", L"x"}});
         program.Add(5, {{L"a:b", L"http://ab.hu"}});
@@ -46,7 +46,8 @@ class ExportSession : public ::testing::Test {
     std::vector<int> Counts() const {
         std::vector<int> counts;
         program.OnUi([&](frmStart& form) {
-            for (int c = 1; c <= 12; ++c) counts.push_back(form.TheBook.SavedCheckCounts(c));
+            for (int c = 1; c <= 12; ++c)
+                counts.push_back(form.OpenedBook().TheBook.Marks.SavedCheckCounts(c));
         });
         return counts;
     }
@@ -65,7 +66,7 @@ class ExportSession : public ::testing::Test {
         file.Accept(path);
     }
     std::wstring FilterOfMain() const {
-        return program.Ask<std::wstring>([](frmStart& form) { return form.CommonDialog1.Filter; });
+        return program.Ask<std::wstring>([](frmStart& form) { return form.FileDialog().Filter; });
     }
     static std::string Header(const std::string& name) {
         return "\xF7\xF7\xF7\xF7\xF7< " + name + std::string(120 - name.size(), '-') + "\r\n";

@@ -175,7 +175,7 @@ TEST_F(frmExportTest, ACancelledSaveDialogLeavesTheDialogAndTheCounts) {
 }
 
 TEST_F(frmExportTest, AFailureWhileWritingClosesTheDialogWithoutAMessage) {
-    program.OnUi([](frmStart& form) { form.TheBook.SetCategoryName(5, std::string(121, 'n')); });
+    program.OnUi([](frmStart& form) { form.OpenedBook().TheBook.SetCategoryName(5, std::string(121, 'n')); });
     const DialogOnScreen dialog = Open();
     SelectLine(dialog, 1);
     dialog.Pick(ID_frmExport_cmbType, 1);

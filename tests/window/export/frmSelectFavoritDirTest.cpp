@@ -4,6 +4,7 @@
 #include <map>
 #include <stdexcept>
 
+#include "book/BookText.h"
 #include "book/Faults.h"
 #include "book/Files.h"
 #include "tests/window/export/ExportSession.h"
@@ -155,7 +156,8 @@ TEST_F(frmSelectFavoritDirTest, EachCategoryHasAFolderOfItsOwn) {
 
 TEST_F(frmSelectFavoritDirTest, AColonBehindThe255thCharacterEndsInTheReportAndLosesNothing) {
     program.OnUi([&](frmStart& form) {
-        form.TheBook.SetSiteName(form.TheBook.IndexOf(5, 1), std::string(255, 'n') + ":");
+        form.OpenedBook().TheBook.SetSiteName(form.OpenedBook().TheBook.IndexOf(5, 1),
+                                              std::string(255, 'n') + ":");
     });
     ExpectReport(L"Futásidejű hiba: 6\r\n\r\nTúlcsordulás.");
 }
@@ -169,8 +171,8 @@ TEST_F(frmSelectFavoritDirTest, AFileThatCannotBeWrittenEndsInTheReportAndLosesN
 
 TEST_F(frmSelectFavoritDirTest, ANewBookIsOfferedToBeSavedAsABook) {
     program.OnUi([&](frmStart& form) {
-        form.TheBook.SetSiteName(form.TheBook.IndexOf(5, 1), "csillag*");
-        form.Modified = true;
+        form.OpenedBook().TheBook.SetSiteName(form.OpenedBook().TheBook.IndexOf(5, 1), "csillag*");
+        form.OpenedBook().Modified = true;
     });
     const std::string before = program.BookBytes();
     const DialogOnScreen dialog = Open();
@@ -190,8 +192,9 @@ TEST_F(frmSelectFavoritDirTest, ANewBookIsOfferedToBeSavedAsABook) {
 
 TEST_F(frmSelectFavoritDirTest, ASecondExportOverwritesWithoutAQuestion) {
     for (const wchar_t* const url : {L"http://regi.hu/hosszu/cim", L"http://uj.hu"}) {
-        program.OnUi(
-            [&](frmStart& form) { form.TheBook.SetSiteURL(form.TheBook.IndexOf(2, 1), ToBookText(url)); });
+        program.OnUi([&](frmStart& form) {
+            form.OpenedBook().TheBook.SetSiteURL(form.OpenedBook().TheBook.IndexOf(2, 1), ToBookText(url));
+        });
         const DialogOnScreen dialog = Open();
         SelectLine(dialog, 0);
         const DialogOnScreen picker = OpenPicker(dialog);

@@ -1,5 +1,6 @@
 // Deleting the selected hit and the checked ones.
 
+#include "book/BookText.h"
 #include "tests/window/find/FindSession.h"
 
 namespace lindrel::testing {
@@ -13,8 +14,8 @@ class frmFindDeleteTest : public FindSession {
     std::vector<std::wstring> BookNames() const {
         return program.Ask<std::vector<std::wstring>>([](frmStart& form) {
             std::vector<std::wstring> names;
-            for (int i = 1; i <= form.TheBook.EntryCount(); ++i)
-                names.push_back(FromBookText(form.TheBook.SiteNames(i)));
+            for (int i = 1; i <= form.OpenedBook().TheBook.EntryCount(); ++i)
+                names.push_back(FromBookText(form.OpenedBook().TheBook.SiteNames(i)));
             return names;
         });
     }

@@ -253,11 +253,11 @@ TEST_F(frmFindTest, TheMainWindowShowsTheCategoryAnew) {
 
 TEST_F(frmFindTest, TheLargestBookIsSearchedAndListed) {
     program.OnUi([](frmStart& form) {
-        form.TheBook.NewEntries.clear();
+        std::vector<NewEntry> entries;
         for (int i = 1; i <= kMostEntries; ++i)
-            form.TheBook.NewEntries.push_back({"Magyar m\xFBsorok \xE9s h\xEDrek " + std::to_string(i),
-                                               "http://www.pelda.hu/" + std::to_string(i)});
-        form.TheBook.AddEntry(4);
+            entries.push_back({"Magyar m\xFBsorok \xE9s h\xEDrek " + std::to_string(i),
+                               "http://www.pelda.hu/" + std::to_string(i)});
+        form.OpenedBook().TheBook.AddEntry(4, entries);
     });
     const FindDialog dialog = Open();
     dialog.SetText(ID_frmFind_txtWhat, L"MŰSOR");

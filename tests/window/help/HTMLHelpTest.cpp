@@ -101,7 +101,7 @@ TEST_F(HTMLHelpTest, ShowHelpAsksForTheContentsInTheNamedWindow) {
 
 TEST_F(HTMLHelpTest, WithoutTheFileF1ShowsTheMessage) {
     const Program program;
-    program.PressKey(program.Ask<HWND>([](frmStart& form) { return form.ListURLs.Handle(); }), VK_F1);
+    program.PressKey(program.Control(ID_frmStart_ListURLs), VK_F1);
     ExpectMissingFileMessage(program);
 }
 
@@ -121,7 +121,7 @@ TEST_F(HTMLHelpTest, AFolderOfThatNameIsNoHelpFile) {
 TEST_F(HTMLHelpTest, F1AndTheMenuItemOpenTheContentsInTheMainWindowType) {
     PutHelpFile();
     const Program program;
-    program.PressKey(program.Ask<HWND>([](frmStart& form) { return form.txtSite.Handle(); }), VK_F1);
+    program.PressKey(program.Control(ID_frmStart_txtSite), VK_F1);
     program.Settle();
     EXPECT_EQ(calls, std::vector{ContentsOf(InProgramFolder() + L">main")});
     program.Run(ID_mnuHelp);

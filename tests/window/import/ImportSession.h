@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "book/BookText.h"
 #include "resources/resource.h"
 #include "tests/window/support/Program.h"
 
@@ -16,15 +17,12 @@ namespace lindrel::testing {
 struct WholeState {
     MainState Main;
     std::string Book;  // as its file would be
-    std::vector<NewEntry> NewEntries;
     bool operator==(const WholeState&) const = default;
 };
 
 inline void PrintTo(const WholeState& state, std::ostream* out) {
     PrintTo(state.Main, out);
     *out << state.Book;
-    for (const NewEntry& entry : state.NewEntries)
-        *out << "staged " << entry.SiteName << " " << entry.URL << "\n";
 }
 
 class ImportSession : public ::testing::Test {
@@ -32,8 +30,8 @@ class ImportSession : public ::testing::Test {
     // Entries in the categories 2 and 5; category 2 is shown with two rows checked and one selected.
     ImportSession() {
         program.OnUi([](frmStart& form) {
-            form.TheBook.SetCategoryName(2, ToBookText(L"Hírek"));
-            form.UpdateTabCaptions();
+            form.OpenedBook().TheBook.SetCategoryName(2, ToBookText(L"Hírek"));
+            form.View().UpdateTabCaptions();
         });
         program.Add(2,
                     {{L"Első", L"http://elso.hu"}, {L"Második", L"http://masodik.hu"}, {L"Harmadik", L"x"}});
@@ -75,22 +73,14 @@ class ImportSession : public ::testing::Test {
     // Fills the book to a number of entries, all behind those it has.
     void FillBookTo(int entries) const {
         program.OnUi([&](frmStart& form) {
-            form.TheBook.NewEntries.assign(static_cast<std::size_t>(entries - form.TheBook.EntryCount()),
-                                           {"n", "http://n.hu"});
-            form.TheBook.AddEntry(12);
+            Book& book = form.OpenedBook().TheBook;
+            const auto missing = static_cast<std::size_t>(entries - book.EntryCount());
+            book.AddEntry(12, std::vector<NewEntry>(missing, {"n", "http://n.hu"}));
         });
     }
-    WholeState Whole() const {
-        WholeState state{program.State(), program.BookBytes(), {}};
-        program.OnUi([&state](frmStart& form) { state.NewEntries = form.TheBook.NewEntries; });
-        return state;
-    }
-    // Leaves an entry in the staging area, as a command before the import may have done.
-    void StageSomething() const {
-        program.OnUi([](frmStart& form) { form.TheBook.NewEntries = {{"maradt", "http://maradt.hu"}}; });
-    }
+    WholeState Whole() const { return {program.State(), program.BookBytes()}; }
     std::wstring FilterOfMain() const {
-        return program.Ask<std::wstring>([](frmStart& form) { return form.CommonDialog1.Filter; });
+        return program.Ask<std::wstring>([](frmStart& form) { return form.FileDialog().Filter; });
     }
 
     TemporaryFolder folder;

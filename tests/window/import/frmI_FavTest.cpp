@@ -58,7 +58,6 @@ class frmI_FavTest : public ImportSession {
 };
 
 TEST_F(frmI_FavTest, TheChoiceStartsAtTheFavouritesAndCancellingItIsSilent) {
-    StageSomething();
     const WholeState before = Whole();
     const DialogOnScreen dialog = Open();
     const DialogOnScreen picker = OpenPicker(dialog);
@@ -99,10 +98,8 @@ TEST_F(frmI_FavTest, ExportedEntriesComeBackAsTheyWere) {
                                            {"Posta & t\xE1rsa", "mailto:ki@posta.hu"},
                                            {"\xDAt", "http://ut.hu/#hely"}};
     Book book;
-    book.NewEntries = entries;
-    book.AddEntry(3);
-    book.SavedCheckCounts(3) = 3;
-    book.SavedCheckLists(3) = {1, 2, 3};
+    book.AddEntry(3, entries);
+    book.Marks.Save(3, {1, 2, 3});
     saveTo_fav(book, FavoritesFolder::Path(), false);
 
     ImportInto(3, 3);
@@ -121,7 +118,6 @@ TEST_F(frmI_FavTest, TheExtensionIsCutByLengthWhateverItsCase) {
 
 TEST_F(frmI_FavTest, AFolderWithoutShortcutsIsReported) {
     Write(L"lap.htm", "x");
-    StageSomething();
     const WholeState before = Whole();
     const DialogOnScreen dialog = Open();
     ChooseFolder(dialog);
@@ -137,7 +133,6 @@ TEST_F(frmI_FavTest, AFolderWithoutShortcutsIsReported) {
 }
 
 TEST_F(frmI_FavTest, AFolderThatHasVanishedIsSilent) {
-    StageSomething();
     const WholeState before = Whole();
     const DialogOnScreen dialog = Open();
     const DialogOnScreen picker = OpenPicker(dialog);

@@ -39,8 +39,8 @@ void ChangeResolution(const Program& program, const DialogOnScreen& dialog, int 
 UnsavedBook::UnsavedBook(Program& program)
     : program_(program), file_(folder_.File(L"könyv.lnd")), before_(program.BookBytes()) {
     program_.OnUi([this](frmStart& form) {
-        form.OpenedFile = file_;
-        form.Modified = true;
+        form.OpenedBook().OpenedFile = file_;
+        form.OpenedBook().Modified = true;
     });
 }
 

@@ -80,4 +80,10 @@ void ListOnScreen::ClickBox(int row) const {
     PostMessageW(list_, WM_LBUTTONUP, 0, point);
 }
 
+void ListOnScreen::ClickHeader() const {
+    const HWND header = ListView_GetHeader(list_);
+    PostMessageW(header, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(20, 8));
+    PostMessageW(header, WM_LBUTTONUP, 0, MAKELPARAM(20, 8));
+}
+
 }  // namespace lindrel::testing

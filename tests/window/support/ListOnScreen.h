@@ -28,6 +28,8 @@ class ListOnScreen {
     void ClickRow(int row) const;
     void DoubleClickRow(int row) const;
     void ClickBox(int row) const;
+    // On the header of the first column.
+    void ClickHeader() const;
 
   private:
     LPARAM PointOnText(int row) const;

@@ -10,7 +10,9 @@
 
 #include "app/Program.h"
 #include "book/BookFile.h"
+#include "book/BookText.h"
 #include "book/Files.h"
+#include "resources/resource.h"
 #include "tests/window/support/Text.h"
 
 namespace lindrel::testing {
@@ -78,7 +80,7 @@ Program::~Program() {
     if (!ended_) {
         LeaveWhateverIsOpen();
         if (IsWindow(main_)) {
-            OnUi([](frmStart& form) { form.Modified = false; });
+            OnUi([](frmStart& form) { form.OpenedBook().Modified = false; });
             Close();
         }
         WaitForEnd();
@@ -133,16 +135,15 @@ void Program::Run(int menu_id) const {
 
 void Program::Add(int category, const std::vector<Row>& rows) const {
     OnUi([&](frmStart& form) {
-        form.TheBook.NewEntries.clear();
-        for (const Row& row : rows)
-            form.TheBook.NewEntries.push_back({ToBookText(row.first), ToBookText(row.second)});
-        form.TheBook.AddEntry(category);
-        form.FillAddressList(form.SelectedCategory());
+        std::vector<NewEntry> entries;
+        for (const Row& row : rows) entries.push_back({ToBookText(row.first), ToBookText(row.second)});
+        form.OpenedBook().TheBook.AddEntry(category, entries);
+        form.View().FillAddressList(form.OpenedBook().CurrentCategory);
     });
 }
 
 std::string Program::BookBytes() const {
-    return Ask<std::string>([](frmStart& form) { return SaveBook(form.TheBook); });
+    return Ask<std::string>([](frmStart& form) { return SaveBook(form.OpenedBook().TheBook); });
 }
 
 MainState EmptyState() {
@@ -159,17 +160,19 @@ MainState Program::State() const {
     MainState state;
     OnUi([&](frmStart& form) {
         state.Title = TextOf(form.Handle());
-        for (int k = 1; k <= form.TabStrip1.Count(); ++k) state.Tabs.push_back(form.TabStrip1.Caption(k));
-        state.SelectedTab = form.TabStrip1.Selected();
-        const ListOnScreen list(form.ListURLs.Handle());
+        const TabStrip tabs(Control(ID_frmStart_TabStrip1));
+        for (int k = 1; k <= tabs.Count(); ++k) state.Tabs.push_back(tabs.Caption(k));
+        state.SelectedTab = tabs.Selected();
+        const ListOnScreen list = List();
         state.Rows = list.Rows();
         state.Checked = list.Checked();
         state.SelectedRow = list.Selected();
-        for (int panel = 1; panel <= 3; ++panel) state.Status[panel - 1] = form.StatusBar1.Panel(panel);
-        state.txtSite = form.txtSite.Text();
-        state.txtURL = form.txtURL.Text();
-        state.OpenedFile = form.OpenedFile;
-        state.Modified = form.Modified;
+        const StatusBar status(Control(ID_frmStart_StatusBar1));
+        for (int panel = 1; panel <= 3; ++panel) state.Status[panel - 1] = status.Panel(panel);
+        state.txtSite = TextOf(Control(ID_frmStart_txtSite));
+        state.txtURL = TextOf(Control(ID_frmStart_txtURL));
+        state.OpenedFile = form.OpenedBook().OpenedFile;
+        state.Modified = form.OpenedBook().Modified;
     });
     return state;
 }
@@ -182,11 +185,8 @@ bool Program::CommandEnabled(int menu_id) const {
 
 void Program::ClickTab(int tab) const {
     RECT place{};
-    HWND strip = nullptr;
-    OnUi([&](frmStart& form) {
-        strip = form.TabStrip1.Handle();
-        static_cast<void>(TabCtrl_GetItemRect(strip, tab - 1, &place));
-    });
+    const HWND strip = Control(ID_frmStart_TabStrip1);
+    OnUi([&](frmStart&) { static_cast<void>(TabCtrl_GetItemRect(strip, tab - 1, &place)); });
     const LPARAM point = MAKELPARAM((place.left + place.right) / 2, (place.top + place.bottom) / 2);
     PostMessageW(strip, WM_LBUTTONDOWN, MK_LBUTTON, point);
     PostMessageW(strip, WM_LBUTTONUP, 0, point);
@@ -194,7 +194,7 @@ void Program::ClickTab(int tab) const {
 }
 
 ListOnScreen Program::List() const {
-    return ListOnScreen(Ask<HWND>([](frmStart& form) { return form.ListURLs.Handle(); }));
+    return ListOnScreen(Control(ID_frmStart_ListURLs));
 }
 
 void Program::ClickRow(int row) const {

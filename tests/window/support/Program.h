@@ -47,6 +47,8 @@ class Program {
     Program& operator=(const Program&) = delete;
 
     HWND Main() const { return main_; }
+    // A control of the main window.
+    HWND Control(int id) const { return GetDlgItem(main_, id); }
     DWORD Thread() const { return thread_id_; }
 
     // Runs a piece of code on the program's thread, also while a box is open, and waits for it. What it

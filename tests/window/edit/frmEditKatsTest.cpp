@@ -25,7 +25,7 @@ class frmEditKatsTest : public ::testing::Test {
 };
 
 TEST_F(frmEditKatsTest, ShowsTheTwelveNamesWithTheirNumbers) {
-    program.OnUi([](frmStart& form) { form.TheBook.SetCategoryName(7, "H&\xEDrek"); });
+    program.OnUi([](frmStart& form) { form.OpenedBook().TheBook.SetCategoryName(7, "H&\xEDrek"); });
     const DialogOnScreen dialog = Open();
     for (int k = 1; k <= 12; ++k) {
         EXPECT_EQ(dialog.Text(ID_frmEditKats_lblKatName_0 + k - 1), std::to_wstring(k));

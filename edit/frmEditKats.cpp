@@ -1,4 +1,4 @@
-#include "book/frmEditKats.h"
+#include "edit/frmEditKats.h"
 
 #include "book/BookText.h"
 #include "controls/BookField.h"
@@ -15,11 +15,11 @@ int txtKateg(int category) {
 
 }  // namespace
 
-frmEditKats::frmEditKats(frmStart& main) : Dialog(IDD_frmEditKats), main_(main) {}
+frmEditKats::frmEditKats(OpenBook& open) : Dialog(IDD_frmEditKats), open_(open) {}
 
 void frmEditKats::Form_Load() {
     for (int k = 1; k <= kCategories; ++k)
-        Get<TextBox>(txtKateg(k)).SetText(FromBookText(main_.TheBook.CategoryNames(k)));
+        Get<TextBox>(txtKateg(k)).SetText(FromBookText(open_.TheBook.CategoryNames(k)));
 }
 
 void frmEditKats::OnCommand(int id, int) {
@@ -37,10 +37,10 @@ void frmEditKats::OnCommand(int id, int) {
 void frmEditKats::cmdOK_Click() {
     for (int k = 1; k <= kCategories; ++k)
         if (!FitsBook(*this, txtKateg(k))) return;
-    // Names may be empty or equal (intended: they are the user's own).
-    for (int k = 1; k <= kCategories; ++k) main_.TheBook.SetCategoryName(k, ToBookText(Text(txtKateg(k))));
-    main_.UpdateTabCaptions();
-    main_.Modified = true;
+    // Names are the user's own: they may be empty or equal.
+    for (int k = 1; k <= kCategories; ++k) open_.TheBook.SetCategoryName(k, ToBookText(Text(txtKateg(k))));
+    open_.Modified = true;
+    renamed_ = true;
     Unload();
 }
 

@@ -1,14 +1,17 @@
 // Renames the twelve categories.
 #pragma once
 
-#include "app/frmStart.h"
+#include "book/OpenBook.h"
 #include "controls/Dialog.h"
 
 namespace lindrel {
 
 class frmEditKats : public Dialog {
   public:
-    explicit frmEditKats(frmStart& main);
+    explicit frmEditKats(OpenBook& open);
+
+    // Whether the names were stored, changed or not.
+    bool Renamed() const { return renamed_; }
 
   private:
     void Form_Load() override;
@@ -16,7 +19,8 @@ class frmEditKats : public Dialog {
     void cmdOK_Click();
     void cmdCancel_Click() { Unload(); }
 
-    frmStart& main_;
+    OpenBook& open_;
+    bool renamed_ = false;
 };
 
 }  // namespace lindrel

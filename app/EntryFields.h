@@ -1,0 +1,42 @@
+// Name and address of the entry that the user picked last, and the button that opens the address.
+#pragma once
+
+#include <string>
+
+#include "controls/Control.h"
+#include "controls/PictureButton.h"
+#include "controls/Subclass.h"
+#include "controls/ToolTips.h"
+
+namespace lindrel {
+
+class EntryFields {
+  public:
+    // Makes the controls on a window, in their tab order. Throws std::bad_alloc when the system cannot.
+    void Create(HWND window);
+    // Shows the button's picture at a resolution. Throws std::bad_alloc when it cannot be loaded.
+    void ApplyResolution(UINT dpi);
+
+    void Show(const std::wstring& name, const std::wstring& address) const;
+    void Clear() const { Show({}, {}); }
+    bool HasName() const { return !txtSite.IsEmpty(); }
+    bool HasAddress() const { return !txtURL.IsEmpty(); }
+
+    // WM_COMMAND of the window. True when the id is that of one of these controls.
+    bool OnCommand(int id) const;
+    // Opens the address, if there is one.
+    void picGo_Click() const;
+
+  private:
+    void txtURL_DblClick() const;
+    void txtURL_KeyPress(wchar_t KeyAscii) const;
+    std::optional<LRESULT> OnUrlMessage(UINT message, WPARAM wparam, LPARAM lparam) const;
+
+    HWND window_ = nullptr;
+    TextBox txtSite, txtURL;
+    PictureButton picGo;
+    ToolTips tool_tips_;
+    Subclass url_messages_;
+};
+
+}  // namespace lindrel

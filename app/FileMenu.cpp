@@ -1,0 +1,196 @@
+#include "app/FileMenu.h"
+
+#include "book/BookFile.h"
+#include "book/BookText.h"
+#include "book/Files.h"
+#include "controls/MsgBox.h"
+#include "controls/Shell.h"
+#include "resources/resource.h"
+
+namespace lindrel {
+
+namespace {
+
+constexpr wchar_t kLoadErrorTitle[] = L"Hiba a beolvasásnál";
+
+// No blank after the dash: so the title has always been.
+std::wstring TitleOf(const std::wstring& path) {
+    return L"Lindrel -" + FileNameOf(path);
+}
+
+std::wstring TextOf(const MalformedBook& malformed) {
+    if (malformed.Line() == 0) return malformed.Message();
+    return malformed.Message() + L"\r\n(" + std::to_wstring(malformed.Line()) + L". sor)";
+}
+
+}  // namespace
+
+bool FileMenu::OnCommand(int id) {
+    switch (id) {
+        case ID_mnuNew:
+            mnuNew_Click();
+            return true;
+        case ID_mnuOpen:
+            mnuOpen_Click();
+            return true;
+        case ID_mnuClose:
+            mnuClose_Click();
+            return true;
+        case ID_mnuSave:
+            mnuSave_Click();
+            return true;
+        case ID_mnuSaveAs:
+            mnuSaveAs_Click();
+            return true;
+        case ID_mnuExit:
+            mnuExit_Click();
+            return true;
+        default:
+            return false;
+    }
+}
+
+void FileMenu::ResetBook() {
+    open_.TheBook.Reset();
+    open_.Modified = false;
+    open_.OpenedFile.clear();
+    view_.ShowEmptyBook();
+    SetTitle(L"Lindrel ");  // with its blank: so the title has always been
+}
+
+void FileMenu::ResetAfterOffer() {
+    if (OfferToSave(SaveQuestion::Command) != SaveAnswer::CalledOff) ResetBook();
+}
+
+void FileMenu::mnuOpen_Click() {
+    // After Yes the command stops; the user chooses Open again.
+    if (OfferToSave(SaveQuestion::Command) == SaveAnswer::NotSaved) OpenChosenBook();
+}
+
+void FileMenu::OpenChosenBook() {
+    const std::wstring before = open_.OpenedFile;
+    if (!ChooseBookFile(true)) return;
+    if (!LoadBook(open_.OpenedFile)) {
+        open_.OpenedFile = before;
+        return;
+    }
+    view_.UpdateTabCaptions();
+    view_.FillAddressList(open_.CurrentCategory);
+}
+
+void FileMenu::mnuSave_Click() {
+    if (!open_.Modified) return;
+    if (!open_.OpenedFile.empty())
+        SaveBook(open_.OpenedFile);
+    else if (ChooseBookFile(false))
+        SaveUnderNewName();
+}
+
+void FileMenu::mnuSaveAs_Click() {
+    // Category 12 is not looked at: users know the command to do nothing for a book whose entries are all
+    // there.
+    if (open_.TheBook.CategoryStarts(kCategories) == 1) return;
+    int answer = IDYES;
+    do {
+        // The chosen path is the book's at once, even when overwriting is then refused: later saves go there.
+        if (!ChooseBookFile(false)) return;
+        answer = IDYES;
+        if (FileIsThere(open_.OpenedFile))
+            answer =
+                MsgBox(window_, L"A " + open_.OpenedFile + L" már létezik.\r\nFelülírjam a már létező fájlt?",
+                       MB_YESNOCANCEL | MB_ICONQUESTION);
+    } while (answer == IDNO);
+    if (answer == IDYES) SaveUnderNewName();
+}
+
+void FileMenu::mnuExit_Click() {
+    SendMessageW(window_, WM_CLOSE, 0, 0);
+}
+
+SaveAnswer FileMenu::OfferToSave(SaveQuestion question) {
+    if (!open_.Modified) return SaveAnswer::NotSaved;
+    const wchar_t* const title = question == SaveQuestion::Command ? L"A file módosult" : L"A fájl módosult";
+    const int answer =
+        MsgBox(window_, L"Kívánja menteni a módosításokat ?", MB_YESNOCANCEL | MB_ICONQUESTION, title);
+    if (answer == IDCANCEL) return SaveAnswer::CalledOff;
+    if (answer != IDYES) return SaveAnswer::NotSaved;
+    if (open_.OpenedFile.empty() && !ChooseBookFile(false)) return SaveAnswer::Saved;
+    return SaveBook(open_.OpenedFile) ? SaveAnswer::Saved : SaveAnswer::CalledOff;
+}
+
+bool FileMenu::ChooseBookFile(bool open) {
+    CommonDialog1.InitDir = ProgramFolder() + L"\\";  // a drive alone would mean its current folder
+    CommonDialog1.DefaultExt = L"lnd";
+    CommonDialog1.FileName = open ? L"" : FileNameOf(open_.OpenedFile);
+    try {
+        do {
+            CommonDialog1.DialogTitle = open ? L"File megnyitása" : L"File mentése";
+            if (open)
+                CommonDialog1.ShowOpen(window_);
+            else
+                CommonDialog1.ShowSave(window_);
+        } while (open && !FileExists(window_, CommonDialog1.FileName));
+    } catch (const Fault&) {
+        return false;  // cancelled, or not to be shown at all
+    }
+    open_.OpenedFile = CommonDialog1.FileName;
+    return true;
+}
+
+bool FileMenu::LoadBook(const std::wstring& path) {
+    bool all_categories = true;
+    try {
+        all_categories = lindrel::LoadBook(open_.TheBook, std::filesystem::path(path));
+    } catch (const MalformedBook& malformed) {
+        MsgBox(window_, TextOf(malformed), MB_OK | MB_ICONERROR, kLoadErrorTitle);
+        return false;
+    } catch (...) {
+        MsgBox(window_, CurrentFault().Meaning(), MB_OK | MB_ICONERROR, kLoadErrorTitle);
+        return false;
+    }
+    SetTitle(TitleOf(path));
+    if (!all_categories)
+        MsgBox(window_, L"Nem sikerült beolvasni az összes kategóriát", MB_OK | MB_ICONERROR,
+               kLoadErrorTitle);
+    view_.ShowCheckedCount();
+    open_.Modified = false;
+    return true;
+}
+
+bool FileMenu::SaveBook(const std::wstring& path) {
+    try {
+        lindrel::SaveBook(open_.TheBook, std::filesystem::path(path));
+    } catch (const FileFault&) {
+        MsgBox(window_, CurrentFault().Meaning(), MB_OK | MB_ICONERROR, kErrorTitle);
+        return false;
+    } catch (...) {
+        MsgBox(window_, path + L"\r\n" + CurrentFault().Meaning(), MB_OK | MB_ICONERROR, kErrorTitle);
+        return false;
+    }
+    open_.Modified = false;
+    MsgBox(window_, L"Elmentve : " + open_.OpenedFile);
+    WarnOfHeaderLookalikes();
+    return true;
+}
+
+void FileMenu::SaveUnderNewName() {
+    if (SaveBook(open_.OpenedFile)) SetTitle(TitleOf(open_.OpenedFile));
+}
+
+// A name or address that begins with "#" was written as it stands and will come back as a category's name.
+void FileMenu::WarnOfHeaderLookalikes() const {
+    const HeaderLookalikes found = FindHeaderLookalikes(open_.TheBook);
+    if (found.Count == 0) return;
+    MsgBox(window_,
+           L"A könyvben " + std::to_wstring(found.Count) +
+               L" olyan név vagy cím van, amely „#” jellel kezdődik. A következő megnyitáskor ezek "
+               L"kategórianévként jönnek vissza. Az első:\r\n\r\n" +
+               FromBookText(found.First),
+           MB_OK | MB_ICONWARNING, L"Figyelem");
+}
+
+void FileMenu::SetTitle(const std::wstring& title) const {
+    SetWindowTextW(window_, title.c_str());
+}
+
+}  // namespace lindrel

@@ -1,0 +1,15 @@
+// Brings the main window's layout to the screen.
+#pragma once
+
+#include "app/MainLayout.h"
+#include "controls/Windows.h"
+
+namespace lindrel {
+
+// `places` in twips, at the resolution of the screen that the window is on.
+void PlaceControls(HWND window, const MainLayout& places, UINT dpi);
+
+// Answers WM_GETMINMAXINFO with the least size.
+void LimitSize(MINMAXINFO& info, UINT dpi);
+
+}  // namespace lindrel

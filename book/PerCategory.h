@@ -1,0 +1,29 @@
+// The twelve categories of a book, numbered from 1, and a value for each of them.
+#pragma once
+
+#include <array>
+#include <cstddef>
+
+#include "book/Faults.h"
+
+namespace lindrel {
+
+inline constexpr int kCategories = 12;
+
+// Values of the twelve categories, indexed 1..12. Throws RangeFault for any other index.
+template <typename T>
+class PerCategory {
+  public:
+    T& operator()(int category) { return cells_[Cell(category)]; }
+    const T& operator()(int category) const { return cells_[Cell(category)]; }
+    bool operator==(const PerCategory&) const = default;
+
+  private:
+    static std::size_t Cell(int category) {
+        if (category < 1 || category > kCategories) throw RangeFault();
+        return static_cast<std::size_t>(category - 1);
+    }
+    std::array<T, kCategories> cells_{};
+};
+
+}  // namespace lindrel
