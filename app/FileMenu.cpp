@@ -1,5 +1,6 @@
 #include "app/FileMenu.h"
 
+#include "app/MenuCommands.h"
 #include "book/BookFile.h"
 #include "book/BookText.h"
 #include "book/Files.h"
@@ -26,28 +27,12 @@ std::wstring TextOf(const MalformedBook& malformed) {
 }  // namespace
 
 bool FileMenu::OnCommand(int id) {
-    switch (id) {
-        case ID_mnuNew:
-            mnuNew_Click();
-            return true;
-        case ID_mnuOpen:
-            mnuOpen_Click();
-            return true;
-        case ID_mnuClose:
-            mnuClose_Click();
-            return true;
-        case ID_mnuSave:
-            mnuSave_Click();
-            return true;
-        case ID_mnuSaveAs:
-            mnuSaveAs_Click();
-            return true;
-        case ID_mnuExit:
-            mnuExit_Click();
-            return true;
-        default:
-            return false;
-    }
+    static constexpr MenuCommand<FileMenu> kCommands[] = {
+        {ID_mnuNew, &FileMenu::mnuNew_Click},       {ID_mnuOpen, &FileMenu::mnuOpen_Click},
+        {ID_mnuClose, &FileMenu::mnuClose_Click},   {ID_mnuSave, &FileMenu::mnuSave_Click},
+        {ID_mnuSaveAs, &FileMenu::mnuSaveAs_Click}, {ID_mnuExit, &FileMenu::mnuExit_Click},
+    };
+    return RunMenuCommand<FileMenu>(*this, kCommands, id);
 }
 
 void FileMenu::ResetBook() {

@@ -1,9 +1,8 @@
 #include "app/frmStart.h"
 
-#include <algorithm>
-#include <iterator>
 #include <new>
 
+#include "app/MenuCommands.h"
 #include "app/PlaceControls.h"
 #include "controls/PendingFault.h"
 #include "resources/resource.h"
@@ -137,11 +136,7 @@ LRESULT frmStart::OnControlMessage(UINT message, WPARAM wparam, LPARAM lparam) {
 }
 
 void frmStart::OnCommand(int id, int event) {
-    struct Command {
-        int Id;
-        void (frmStart::*Handler)();
-    };
-    static constexpr Command kCommands[] = {
+    static constexpr MenuCommand<frmStart> kCommands[] = {
         {ID_mnuKat, &frmStart::mnuKat_Click},
         {ID_mnuAdd, &frmStart::mnuAdd_Click},
         {ID_mnuEdit, &frmStart::mnuEdit_Click},
@@ -159,12 +154,10 @@ void frmStart::OnCommand(int id, int event) {
         {ID_mnuGoHome, &frmStart::mnuGoHome_Click},
         {ID_mnuAbout, &frmStart::mnuAbout_Click},
     };
-    if (toolbar_.OnCommand(id) || file_menu_.OnCommand(id) || fields_.OnCommand(id) ||
-        search_box_.OnCommand(id, event) || view_.OnCommand(id))
+    if (toolbar_.OnCommand(id) || file_menu_.OnCommand(id) || view_.OnCommand(id) || fields_.OnCommand(id) ||
+        search_box_.OnCommand(id, event))
         return;
-    const auto* const command = std::find_if(std::begin(kCommands), std::end(kCommands),
-                                             [id](const Command& known) { return known.Id == id; });
-    if (command != std::end(kCommands)) (this->*command->Handler)();
+    RunMenuCommand<frmStart>(*this, kCommands, id);
 }
 
 LRESULT frmStart::OnNotify(const NMHDR& header) {

@@ -195,5 +195,26 @@ TEST_F(frmI_FavTest, AFullBookEndsInTheReportAndLosesNothing) {
     book.ExpectReportAndSave(L"Futásidejű hiba: 6\r\n\r\nTúlcsordulás.");
 }
 
+TEST_F(frmI_FavTest, AFaultAfterACancelledPageOffersToSaveAmongBooks) {
+    Write(L"a.url", "[InternetShortcut]\r\n");
+    program.OnUi([](frmStart& form) { form.OpenedBook().Modified = true; });
+    const DialogOnScreen dialog = Open();
+    dialog.Click(ID_frmImport_cmdOK);
+    program.FileDialog().Cancel();
+    program.Settle();
+    ChooseFolder(dialog);
+    const BoxOnScreen report = program.Box();
+    EXPECT_EQ(report.Text(), L"Futásidejű hiba: 62\r\n\r\nOlvasás a fájl vége után.");
+    report.Press(IDOK);
+    const BoxOnScreen question = program.Box();
+    EXPECT_EQ(question.Title(), L"A fájl módosult");
+    question.Press(IDYES);
+    const FileDialogOnScreen save = program.FileDialog();
+    EXPECT_EQ(save.Title(), L"File mentése");
+    EXPECT_EQ(save.Filters(), std::vector<std::wstring>{L"Lindrel fájlok (*.lnd)"});
+    save.Cancel();
+    EXPECT_EQ(program.WaitForEnd(), 1);
+}
+
 }  // namespace
 }  // namespace lindrel::testing

@@ -10,9 +10,9 @@
 namespace lindrel::testing {
 namespace {
 
-class frmStartFileTest : public FileSession {};
+class FileMenuTest : public FileSession {};
 
-TEST_F(frmStartFileTest, StartsWithTheEmptyBook) {
+TEST_F(FileMenuTest, StartsWithTheEmptyBook) {
     EXPECT_EQ(program.State(), EmptyState());
     EXPECT_EQ(program.BookBytes(), OneEntryBook(""));
     EXPECT_EQ(program.Ask<int>([](frmStart& form) { return form.OpenedBook().CurrentCategory; }), 1);
@@ -20,7 +20,7 @@ TEST_F(frmStartFileTest, StartsWithTheEmptyBook) {
 }
 
 // Wherever the last file was chosen.
-TEST_F(frmStartFileTest, FileDialogsStartInTheProgramsFolderWithBookFiles) {
+TEST_F(FileMenuTest, FileDialogsStartInTheProgramsFolderWithBookFiles) {
     wchar_t own[MAX_PATH] = L"";
     ASSERT_NE(GetModuleFileNameW(nullptr, own, MAX_PATH), 0u);
     const std::wstring program_folder = std::filesystem::path(own).parent_path().wstring();
@@ -45,7 +45,7 @@ TEST_F(frmStartFileTest, FileDialogsStartInTheProgramsFolderWithBookFiles) {
     expect_dialog(ID_mnuOpen, L"File megnyitása", L"").Cancel();
 }
 
-TEST_F(frmStartFileTest, SavesAndOpensAgain) {
+TEST_F(FileMenuTest, SavesAndOpensAgain) {
     Change();
     const std::wstring path = folder.File(L"m\x171sor.lnd");
     program.Choose(ID_mnuSaveAs);
@@ -68,7 +68,7 @@ TEST_F(frmStartFileTest, SavesAndOpensAgain) {
     EXPECT_EQ(program.State(), saved);
 }
 
-TEST_F(frmStartFileTest, OpenWithChangesAndYesSavesAndOpensNothing) {
+TEST_F(FileMenuTest, OpenWithChangesAndYesSavesAndOpensNothing) {
     Change();
     program.Choose(ID_mnuOpen);
     ExpectSaveQuestion(L"A file módosult", IDYES);
@@ -81,7 +81,7 @@ TEST_F(frmStartFileTest, OpenWithChangesAndYesSavesAndOpensNothing) {
     EXPECT_FALSE(program.State().Modified);
 }
 
-TEST_F(frmStartFileTest, NewWithYesAndACancelledSaveDialogLosesTheChanges) {
+TEST_F(FileMenuTest, NewWithYesAndACancelledSaveDialogLosesTheChanges) {
     const MainState empty = program.State();
     Change();
     program.Choose(ID_mnuNew);
@@ -96,7 +96,7 @@ constexpr char kThreeEntries[] =
     "#H\xEDrek\r\nA\r\nhttp://a.hu\r\n#2\r\n#3\r\nC\r\nhttp://c.hu\r\n#4\r\n#5\r\n#6\r\n#7\r\nG\r\n"
     "http://g.hu\r\n#8\r\n#9\r\n#10\r\n#11\r\n#12\r\n";
 
-TEST_F(frmStartFileTest, OpenShowsTheCategoryOfTheSelectedTabAndForgetsAllCheckMarks) {
+TEST_F(FileMenuTest, OpenShowsTheCategoryOfTheSelectedTabAndForgetsAllCheckMarks) {
     program.Add(1, {{L"Régi", L"http://regi.hu"}});
     program.Add(7, {{L"Hetedik", L"http://het.hu"}, {L"Másik", L"http://masik.hu"}});
     program.ClickBox(1);
@@ -132,7 +132,7 @@ TEST_F(frmStartFileTest, OpenShowsTheCategoryOfTheSelectedTabAndForgetsAllCheckM
     EXPECT_EQ(program.BookBytes(), OneEntryBook(""));
 }
 
-TEST_F(frmStartFileTest, AMalformedFileIsReportedWithItsLineAndLeavesTheOpenBook) {
+TEST_F(FileMenuTest, AMalformedFileIsReportedWithItsLineAndLeavesTheOpenBook) {
     Change();
     program.OnUi([](frmStart& form) { form.OpenedBook().Modified = false; });
     MainState expected = ChangedState();
@@ -157,7 +157,7 @@ TEST_F(frmStartFileTest, AMalformedFileIsReportedWithItsLineAndLeavesTheOpenBook
     }
 }
 
-TEST_F(frmStartFileTest, AMissingFileIsReportedAndTheOpenDialogComesBack) {
+TEST_F(FileMenuTest, AMissingFileIsReportedAndTheOpenDialogComesBack) {
     const MainState before = program.State();
     program.Choose(ID_mnuOpen);
     for (int attempt = 0; attempt < 2; ++attempt) {
@@ -174,7 +174,7 @@ TEST_F(frmStartFileTest, AMissingFileIsReportedAndTheOpenDialogComesBack) {
     EXPECT_EQ(program.State(), before);
 }
 
-TEST_F(frmStartFileTest, FileExistsOfAnEmptyPathSaysSoAndOfAPatternGoesByWhatMatches) {
+TEST_F(FileMenuTest, FileExistsOfAnEmptyPathSaysSoAndOfAPatternGoesByWhatMatches) {
     std::atomic<bool> exists{true};
     std::atomic<bool> answered{false};
     std::thread asking([&] {
@@ -193,7 +193,7 @@ TEST_F(frmStartFileTest, FileExistsOfAnEmptyPathSaysSoAndOfAPatternGoesByWhatMat
         [this](frmStart& form) { return FileExists(form.Handle(), folder.File(L"v?n.*")); }));
 }
 
-TEST_F(frmStartFileTest, NewAndCloseForgetTheBookOnNoAndKeepItOnCancel) {
+TEST_F(FileMenuTest, NewAndCloseForgetTheBookOnNoAndKeepItOnCancel) {
     const MainState empty = program.State();
     for (const int command : {ID_mnuNew, ID_mnuClose}) {
         Change();
@@ -209,7 +209,7 @@ TEST_F(frmStartFileTest, NewAndCloseForgetTheBookOnNoAndKeepItOnCancel) {
     }
 }
 
-TEST_F(frmStartFileTest, OpenWithChangesGoesOnAfterNoAndStopsAfterCancel) {
+TEST_F(FileMenuTest, OpenWithChangesGoesOnAfterNoAndStopsAfterCancel) {
     Change();
     const MainState changed = program.State();
     program.Choose(ID_mnuOpen);
@@ -225,7 +225,7 @@ TEST_F(frmStartFileTest, OpenWithChangesGoesOnAfterNoAndStopsAfterCancel) {
     EXPECT_EQ(program.State(), changed);
 }
 
-TEST_F(frmStartFileTest, AFileWithTooFewCategoriesIsLoadedWithAMessage) {
+TEST_F(FileMenuTest, AFileWithTooFewCategoriesIsLoadedWithAMessage) {
     Change();
     program.Choose(ID_mnuOpen);
     ExpectSaveQuestion(L"A file módosult", IDNO);

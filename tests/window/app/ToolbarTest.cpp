@@ -11,7 +11,7 @@
 namespace lindrel::testing {
 namespace {
 
-class frmStartToolbarTest : public ::testing::Test {
+class ToolbarTest : public ::testing::Test {
   protected:
     HWND Toolbar() const { return program.Control(ID_frmStart_Toolbar); }
     RECT PlaceOf(int position) const {
@@ -63,7 +63,7 @@ class frmStartToolbarTest : public ::testing::Test {
     Program program;
 };
 
-TEST_F(frmStartToolbarTest, HasTenButtonsWithNamesAndPictures) {
+TEST_F(ToolbarTest, HasTenButtonsWithNamesAndPictures) {
     program.OnUi([this](frmStart& form) {
         const HWND toolbar = Toolbar();
         const std::vector<std::wstring> names{L"Új fájl", L"Megnyit", L"Mentés",   L"Hozzáad", L"Export",
@@ -97,7 +97,7 @@ TEST_F(frmStartToolbarTest, HasTenButtonsWithNamesAndPictures) {
     });
 }
 
-TEST_F(frmStartToolbarTest, AllButTheFirstButtonHaveToolTips) {
+TEST_F(ToolbarTest, AllButTheFirstButtonHaveToolTips) {
     const std::vector<std::wstring> tips = program.Ask<std::vector<std::wstring>>([this](frmStart&) {
         const HWND toolbar = Toolbar();
         const auto window = reinterpret_cast<HWND>(SendMessageW(toolbar, TB_GETTOOLTIPS, 0, 0));
@@ -121,7 +121,7 @@ TEST_F(frmStartToolbarTest, AllButTheFirstButtonHaveToolTips) {
                                                L"Keresés", L"Áthelyez", L"Töröl", L"ki/bejelöl"}));
 }
 
-TEST_F(frmStartToolbarTest, TheFirstButtonStartsANewBook) {
+TEST_F(ToolbarTest, TheFirstButtonStartsANewBook) {
     MainState expected = EmptyState();
     expected.Status[0] = TwoEntries().Status[0];
     Press(1);
@@ -129,14 +129,14 @@ TEST_F(frmStartToolbarTest, TheFirstButtonStartsANewBook) {
     EXPECT_EQ(program.State(), expected);
 }
 
-TEST_F(frmStartToolbarTest, TheSecondButtonOpens) {
+TEST_F(ToolbarTest, TheSecondButtonOpens) {
     Press(2);
     const FileDialogOnScreen dialog = program.FileDialog();
     EXPECT_EQ(dialog.Title(), L"File megnyitása");
     dialog.Cancel();
 }
 
-TEST_F(frmStartToolbarTest, TheThirdButtonSaves) {
+TEST_F(ToolbarTest, TheThirdButtonSaves) {
     program.OnUi([](frmStart& form) { form.OpenedBook().Modified = true; });
     Press(3);
     const FileDialogOnScreen dialog = program.FileDialog();
@@ -144,31 +144,31 @@ TEST_F(frmStartToolbarTest, TheThirdButtonSaves) {
     dialog.Cancel();
 }
 
-TEST_F(frmStartToolbarTest, TheFourthButtonAdds) {
+TEST_F(ToolbarTest, TheFourthButtonAdds) {
     Press(4);
     program.Dialog(L"Új oldal hozzáadása").Cancel();
 }
 
-TEST_F(frmStartToolbarTest, TheFifthButtonExports) {
+TEST_F(ToolbarTest, TheFifthButtonExports) {
     TwoEntries();
     program.ClickBox(2);
     Press(5);
     program.Dialog(L"Exportálás").Cancel();
 }
 
-TEST_F(frmStartToolbarTest, TheSixthButtonModifies) {
+TEST_F(ToolbarTest, TheSixthButtonModifies) {
     ExpectDialog(6, L"Cím módosítása");
 }
 
-TEST_F(frmStartToolbarTest, TheSeventhButtonFinds) {
+TEST_F(ToolbarTest, TheSeventhButtonFinds) {
     ExpectDialog(7, L"Keresés");
 }
 
-TEST_F(frmStartToolbarTest, TheEighthButtonMoves) {
+TEST_F(ToolbarTest, TheEighthButtonMoves) {
     ExpectDialog(8, L"A kiválasztott címek áthelyezése");
 }
 
-TEST_F(frmStartToolbarTest, TheNinthButtonDeletes) {
+TEST_F(ToolbarTest, TheNinthButtonDeletes) {
     MainState expected = TwoEntries();
     Press(9);
     const BoxOnScreen box = program.Box();
@@ -177,7 +177,7 @@ TEST_F(frmStartToolbarTest, TheNinthButtonDeletes) {
     EXPECT_EQ(program.State(), expected);
 }
 
-TEST_F(frmStartToolbarTest, TheTenthButtonChecksAndUnchecksAll) {
+TEST_F(ToolbarTest, TheTenthButtonChecksAndUnchecksAll) {
     const MainState before = TwoEntries();
     Press(10);
     program.Settle();
@@ -190,14 +190,14 @@ TEST_F(frmStartToolbarTest, TheTenthButtonChecksAndUnchecksAll) {
     EXPECT_EQ(program.State(), before);
 }
 
-TEST_F(frmStartToolbarTest, PositionsThatHoldNoButtonDoNothing) {
+TEST_F(ToolbarTest, PositionsThatHoldNoButtonDoNothing) {
     const MainState before = TwoEntries();
     for (const int id : {ID_frmStart_Toolbar_1 - 1, ID_frmStart_Toolbar_10 + 1}) program.Run(id);
     EXPECT_EQ(program.State(), before);
     EXPECT_TRUE(program.NothingIsOpen());
 }
 
-TEST_F(frmStartToolbarTest, TheEntriesOfTheExportMenuDoNothing) {
+TEST_F(ToolbarTest, TheEntriesOfTheExportMenuDoNothing) {
     TwoEntries();
     program.ClickBox(1);
     const MainState before = program.State();
@@ -221,7 +221,7 @@ TEST_F(frmStartToolbarTest, TheEntriesOfTheExportMenuDoNothing) {
     }
 }
 
-TEST_F(frmStartToolbarTest, AButtonIsEnabledWithItsCommand) {
+TEST_F(ToolbarTest, AButtonIsEnabledWithItsCommand) {
     const int commands[] = {ID_mnuNew,  ID_mnuOpen, ID_mnuSave, ID_mnuAdd, ID_mnuExport,
                             ID_mnuEdit, ID_mnuFind, ID_mnuMove, ID_mnuDel, ID_mnuSelectAll};
     program.OnUi([&commands](frmStart& form) {
@@ -236,7 +236,7 @@ TEST_F(frmStartToolbarTest, AButtonIsEnabledWithItsCommand) {
     }
 }
 
-TEST_F(frmStartToolbarTest, ADisabledButtonRunsNothing) {
+TEST_F(ToolbarTest, ADisabledButtonRunsNothing) {
     const MainState before = TwoEntries();
     program.OnUi([](frmStart& form) { form.EnableCommand(ID_mnuNew, false); });
     Press(1);
@@ -244,7 +244,7 @@ TEST_F(frmStartToolbarTest, ADisabledButtonRunsNothing) {
     EXPECT_EQ(program.State(), before);
 }
 
-TEST_F(frmStartToolbarTest, StandsWholeBetweenMenuAndTabs) {
+TEST_F(ToolbarTest, StandsWholeBetweenMenuAndTabs) {
     RECT toolbar{};
     RECT tabs{};
     GetWindowRect(Toolbar(), &toolbar);
@@ -258,7 +258,7 @@ TEST_F(frmStartToolbarTest, StandsWholeBetweenMenuAndTabs) {
     EXPECT_LE(last.bottom, toolbar.bottom - toolbar.top);
 }
 
-TEST_F(frmStartToolbarTest, TheTwoPictureButtonsShowDifferentPicturesAndKeepTheirNames) {
+TEST_F(ToolbarTest, TheTwoPictureButtonsShowDifferentPicturesAndKeepTheirNames) {
     const auto painted = [](HWND button) {
         constexpr int kSide = 24;
         return Drawn(kSide, [&](HDC canvas) {
@@ -280,7 +280,7 @@ TEST_F(frmStartToolbarTest, TheTwoPictureButtonsShowDifferentPicturesAndKeepThei
     });
 }
 
-TEST_F(frmStartToolbarTest, ANewResolutionKeepsButtonsAndNames) {
+TEST_F(ToolbarTest, ANewResolutionKeepsButtonsAndNames) {
     const MainState before = TwoEntries();
     const RECT place = PlaceOf(10);
     program.OnUi([](frmStart& form) {

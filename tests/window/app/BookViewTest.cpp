@@ -1,18 +1,17 @@
-// Tabs, list, check marks and text fields of the main window.
+// Tabs, list and check marks of the main window.
 
 #include <gtest/gtest.h>
 
 #include "resources/resource.h"
 #include "tests/window/support/Program.h"
-#include "tests/window/support/RealClipboard.h"
 
 namespace lindrel::testing {
 namespace {
 
-class frmStartListTest : public ::testing::Test {
+class BookViewTest : public ::testing::Test {
   protected:
     // Three entries in category 1, four in category 3.
-    frmStartListTest() {
+    BookViewTest() {
         program.OnUi([](frmStart& form) {
             form.OpenedBook().TheBook.AddEntry(
                 1,
@@ -38,12 +37,12 @@ class frmStartListTest : public ::testing::Test {
     Program program;
 };
 
-TEST_F(frmStartListTest, AFillShowsTheCategoryWithoutSelectionAndWithTheCounters) {
+TEST_F(BookViewTest, AFillShowsTheCategoryWithoutSelectionAndWithTheCounters) {
     EXPECT_EQ(program.State(), FirstCategory());
     EXPECT_TRUE(program.CommandEnabled(ID_mnuToDesktop));
 }
 
-TEST_F(frmStartListTest, ColumnsAndFieldsBearTheirCaptions) {
+TEST_F(BookViewTest, ColumnsAndFieldsBearTheirCaptions) {
     EXPECT_EQ(program.List().Columns(), (std::vector<std::wstring>{L"webhely neve", L"URL cime"}));
     EXPECT_EQ(TextOf(program.Control(ID_frmStart_lblSiteName)), L"Webhely neve");
     EXPECT_EQ(TextOf(program.Control(ID_frmStart_lblURL)), L"URL");
@@ -53,7 +52,7 @@ TEST_F(frmStartListTest, ColumnsAndFieldsBearTheirCaptions) {
         EXPECT_EQ(GetDlgCtrlID(GetWindow(GetDlgItem(program.Main(), label), GW_HWNDNEXT)), field);
 }
 
-TEST_F(frmStartListTest, AnEmptyCategoryHasNoRowsAndNoDesktopCommand) {
+TEST_F(BookViewTest, AnEmptyCategoryHasNoRowsAndNoDesktopCommand) {
     program.ClickTab(2);
     MainState expected = FirstCategory();
     expected.SelectedTab = 2;
@@ -63,7 +62,7 @@ TEST_F(frmStartListTest, AnEmptyCategoryHasNoRowsAndNoDesktopCommand) {
     EXPECT_FALSE(program.CommandEnabled(ID_mnuToDesktop));
 }
 
-TEST_F(frmStartListTest, FillingTwiceGivesTheSameRowsWithoutCheckMarks) {
+TEST_F(BookViewTest, FillingTwiceGivesTheSameRowsWithoutCheckMarks) {
     program.ClickBox(2);
     program.OnUi([](frmStart& form) {
         form.OpenedBook().TheBook.Marks.SetCheckedCount(0);
@@ -72,12 +71,12 @@ TEST_F(frmStartListTest, FillingTwiceGivesTheSameRowsWithoutCheckMarks) {
     EXPECT_EQ(program.State(), FirstCategory());
 }
 
-TEST_F(frmStartListTest, EmptyNamesAndAddressesGiveEmptyCells) {
+TEST_F(BookViewTest, EmptyNamesAndAddressesGiveEmptyCells) {
     program.ClickTab(3);
     EXPECT_EQ(program.State().Rows.back(), (Row{L"", L""}));
 }
 
-TEST_F(frmStartListTest, AClickedRowIsShownInTheFields) {
+TEST_F(BookViewTest, AClickedRowIsShownInTheFields) {
     program.ClickRow(2);
     MainState expected = FirstCategory();
     expected.SelectedRow = 2;
@@ -86,7 +85,7 @@ TEST_F(frmStartListTest, AClickedRowIsShownInTheFields) {
     EXPECT_EQ(program.State(), expected);
 }
 
-TEST_F(frmStartListTest, CheckingAnotherRowChangesOnlyTheCounter) {
+TEST_F(BookViewTest, CheckingAnotherRowChangesOnlyTheCounter) {
     program.ClickRow(1);
     program.ClickBox(3);
     MainState expected = FirstCategory();
@@ -98,7 +97,7 @@ TEST_F(frmStartListTest, CheckingAnotherRowChangesOnlyTheCounter) {
     EXPECT_EQ(program.State(), expected);
 }
 
-TEST_F(frmStartListTest, TheSpaceBarChecksAndWalksDownAndStaysOnTheLastRow) {
+TEST_F(BookViewTest, TheSpaceBarChecksAndWalksDownAndStaysOnTheLastRow) {
     program.ClickRow(2);
     const HWND list = program.Control(ID_frmStart_ListURLs);
     program.PressKey(list, VK_SPACE);
@@ -115,7 +114,7 @@ TEST_F(frmStartListTest, TheSpaceBarChecksAndWalksDownAndStaysOnTheLastRow) {
     EXPECT_EQ(program.State(), expected);
 }
 
-TEST_F(frmStartListTest, ATabRemembersItsCheckMarks) {
+TEST_F(BookViewTest, ATabRemembersItsCheckMarks) {
     for (const int row : {1, 2, 3}) program.ClickBox(row);
     MainState expected = FirstCategory();
     expected.Checked = {1, 2, 3};
@@ -127,7 +126,7 @@ TEST_F(frmStartListTest, ATabRemembersItsCheckMarks) {
     EXPECT_EQ(program.State(), expected);
 }
 
-TEST_F(frmStartListTest, WithNothingCheckedNothingIsRemembered) {
+TEST_F(BookViewTest, WithNothingCheckedNothingIsRemembered) {
     program.ClickBox(2);
     program.ClickTab(3);
     program.ClickTab(1);
@@ -138,7 +137,7 @@ TEST_F(frmStartListTest, WithNothingCheckedNothingIsRemembered) {
     EXPECT_EQ(program.State(), FirstCategory());
 }
 
-TEST_F(frmStartListTest, OneCheckMarkIsEnoughForCheckAllToClearThem) {
+TEST_F(BookViewTest, OneCheckMarkIsEnoughForCheckAllToClearThem) {
     program.ClickBox(2);
     program.Run(ID_mnuSelectAll);
     EXPECT_EQ(program.State(), FirstCategory());
@@ -149,7 +148,7 @@ TEST_F(frmStartListTest, OneCheckMarkIsEnoughForCheckAllToClearThem) {
     EXPECT_EQ(program.State(), expected);
 }
 
-TEST_F(frmStartListTest, AColumnClickShowsTheFirstEntryOnlyWhileTheFieldIsEmpty) {
+TEST_F(BookViewTest, AColumnClickShowsTheFirstEntryOnlyWhileTheFieldIsEmpty) {
     const auto click_header = [this] {
         program.List().ClickHeader();
         program.Settle();
@@ -165,7 +164,7 @@ TEST_F(frmStartListTest, AColumnClickShowsTheFirstEntryOnlyWhileTheFieldIsEmpty)
     EXPECT_EQ(program.State(), before);
 }
 
-TEST_F(frmStartListTest, CheckingTheSelectedLastRowByMouseStaysOnIt) {
+TEST_F(BookViewTest, CheckingTheSelectedLastRowByMouseStaysOnIt) {
     program.ClickRow(3);
     program.ClickBox(3);
     MainState expected = FirstCategory();
@@ -181,7 +180,7 @@ TEST_F(frmStartListTest, CheckingTheSelectedLastRowByMouseStaysOnIt) {
     EXPECT_EQ(program.State(), expected);
 }
 
-TEST_F(frmStartListTest, CheckingTheSelectedRowByMouseGoesOnToTheNext) {
+TEST_F(BookViewTest, CheckingTheSelectedRowByMouseGoesOnToTheNext) {
     program.ClickRow(1);
     program.ClickBox(1);
     MainState expected = FirstCategory();
@@ -193,7 +192,7 @@ TEST_F(frmStartListTest, CheckingTheSelectedRowByMouseGoesOnToTheNext) {
     EXPECT_EQ(program.State(), expected);
 }
 
-TEST_F(frmStartListTest, CheckAllIsInertWhileTheFirstElevenCategoriesAreEmpty) {
+TEST_F(BookViewTest, CheckAllIsInertWhileTheFirstElevenCategoriesAreEmpty) {
     program.Run(ID_mnuNew);
     program.OnUi([](frmStart& form) { form.OpenedBook().TheBook.AddEntry(12, {{"A", "http://a.hu"}}); });
     program.ClickTab(12);
@@ -201,48 +200,6 @@ TEST_F(frmStartListTest, CheckAllIsInertWhileTheFirstElevenCategoriesAreEmpty) {
     EXPECT_EQ(before.Rows.size(), 1u);
     program.Run(ID_mnuSelectAll);
     EXPECT_EQ(program.State(), before);
-}
-
-TEST_F(frmStartListTest, ADoubleClickOnTheAddressCopiesItAndAnEmptyOneLeavesTheClipboard) {
-    const HWND field = program.Control(ID_frmStart_txtURL);
-    const auto double_click = [&] {
-        PostMessageW(field, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(5, 5));
-        PostMessageW(field, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
-        program.Settle();
-    };
-    PutClipboardText(L"régi");
-    double_click();
-    EXPECT_EQ(TextOnClipboard(), L"régi");
-    program.ClickRow(2);
-    double_click();
-    EXPECT_EQ(TextOnClipboard(), L"http://ketto.hu");
-}
-
-TEST_F(frmStartListTest, ControlCInTheAddressCopiesTheSelectionAlsoAnEmptyOne) {
-    program.ClickRow(2);
-    const HWND field = program.Control(ID_frmStart_txtURL);
-    SendMessageW(field, EM_SETSEL, 7, 12);
-    const auto control_c = [&] {
-        PostMessageW(field, WM_CHAR, 3, 1);
-        program.Settle();
-    };
-    PutClipboardText(L"régi");
-    control_c();
-    EXPECT_EQ(TextOnClipboard(), L"ketto");
-    SendMessageW(field, EM_SETSEL, 3, 3);
-    control_c();
-    EXPECT_EQ(TextOnClipboard(), L"");
-}
-
-TEST_F(frmStartListTest, CopyingLeavesOtherFormsOnTheClipboard) {
-    const UINT form = RegisterClipboardFormatW(L"Lindrel test form");
-    PutClipboardBytes(form, "kép");
-    program.ClickRow(2);
-    const HWND field = program.Control(ID_frmStart_txtURL);
-    PostMessageW(field, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(5, 5));
-    program.Settle();
-    EXPECT_EQ(TextOnClipboard(), L"http://ketto.hu");
-    EXPECT_TRUE(ClipboardHolds(form));
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// The search box and the button that opens the shown address.
+// The search box.
 
 #include <gtest/gtest.h>
 
@@ -12,10 +12,10 @@ namespace {
 
 constexpr wchar_t kExcite[] = L"http://search.excite.com/search.gw?searchType=Concept&search=";
 
-class frmStartSearchTest : public ::testing::Test {
+class SearchBoxTest : public ::testing::Test {
   protected:
     // The second and the fourth entry of the first category hold "AB".
-    frmStartSearchTest() {
+    SearchBoxTest() {
         program.Add(1, {{L"első", L"http://ab.hu"},
                         {L"kABát", L"http://2.hu"},
                         {L"harmadik", L"http://3.hu"},
@@ -57,7 +57,7 @@ class frmStartSearchTest : public ::testing::Test {
     Program program;
 };
 
-TEST_F(frmStartSearchTest, OffersSixChoicesTheEmptyOneFirst) {
+TEST_F(SearchBoxTest, OffersSixChoicesTheEmptyOneFirst) {
     const ComboBox finders(Control(ID_frmStart_cmbFinders));
     std::vector<std::wstring> items;
     for (int i = 0; i < finders.Count(); ++i) items.push_back(finders.Item(i));
@@ -68,14 +68,14 @@ TEST_F(frmStartSearchTest, OffersSixChoicesTheEmptyOneFirst) {
     EXPECT_EQ(TextOf(Control(ID_frmStart_txtFind)), L"");
 }
 
-TEST_F(frmStartSearchTest, EachControlHasItsToolTip) {
+TEST_F(SearchBoxTest, EachControlHasItsToolTip) {
     EXPECT_EQ(ToolTip(ID_frmStart_cmbFinders), L"keress az interneten");
     EXPECT_EQ(ToolTip(ID_frmStart_txtFind), L"a keresett szó");
     EXPECT_EQ(ToolTip(ID_frmStart_Image1), L"Keresés");
     EXPECT_EQ(ToolTip(ID_frmStart_picGo), L"Ugorj a web oldalra");
 }
 
-TEST_F(frmStartSearchTest, SearchesWalkThroughTheHitsOfTheCategoryAndStartAgain) {
+TEST_F(SearchBoxTest, SearchesWalkThroughTheHitsOfTheCategoryAndStartAgain) {
     Type(L"ab");
     EXPECT_EQ(SelectedAfterSearch(), 2);
     EXPECT_EQ(SelectedAfterSearch(), 4);
@@ -84,7 +84,7 @@ TEST_F(frmStartSearchTest, SearchesWalkThroughTheHitsOfTheCategoryAndStartAgain)
     EXPECT_EQ(SelectedAfterSearch(), 2);
 }
 
-TEST_F(frmStartSearchTest, AHitIsSelectedButNotShownInTheFields) {
+TEST_F(SearchBoxTest, AHitIsSelectedButNotShownInTheFields) {
     const MainState before = program.State();
     Type(L"ab");
     Search();
@@ -93,7 +93,7 @@ TEST_F(frmStartSearchTest, AHitIsSelectedButNotShownInTheFields) {
     EXPECT_EQ(program.State(), expected);
 }
 
-TEST_F(frmStartSearchTest, AChangedTextSearchesFromTheFirstEntry) {
+TEST_F(SearchBoxTest, AChangedTextSearchesFromTheFirstEntry) {
     Type(L"ab");
     EXPECT_EQ(SelectedAfterSearch(), 2);
     EXPECT_EQ(SelectedAfterSearch(), 4);
@@ -110,7 +110,7 @@ TEST_F(frmStartSearchTest, AChangedTextSearchesFromTheFirstEntry) {
     EXPECT_EQ(SelectedAfterSearch(), 2);
 }
 
-TEST_F(frmStartSearchTest, HungarianLettersAreFoundInEitherCase) {
+TEST_F(SearchBoxTest, HungarianLettersAreFoundInEitherCase) {
     program.ClickTab(2);
     Type(L"tűzijáték");
     EXPECT_EQ(SelectedAfterSearch(), 1);
@@ -120,14 +120,14 @@ TEST_F(frmStartSearchTest, HungarianLettersAreFoundInEitherCase) {
     NothingMoreIsFound();
 }
 
-TEST_F(frmStartSearchTest, OnlyNamesOfTheShownCategoryAreSearched) {
+TEST_F(SearchBoxTest, OnlyNamesOfTheShownCategoryAreSearched) {
     Type(L"http");
     NothingMoreIsFound();
     Type(L"időjárás");
     NothingMoreIsFound();
 }
 
-TEST_F(frmStartSearchTest, ASearchGoesOnAtTheOldPlaceAfterATabChange) {
+TEST_F(SearchBoxTest, ASearchGoesOnAtTheOldPlaceAfterATabChange) {
     program.Add(3, {{L"ab1", L"1"}, {L"ab2", L"2"}, {L"ab3", L"3"}});
     Type(L"ab");
     EXPECT_EQ(SelectedAfterSearch(), 2);
@@ -137,7 +137,7 @@ TEST_F(frmStartSearchTest, ASearchGoesOnAtTheOldPlaceAfterATabChange) {
     EXPECT_EQ(SelectedAfterSearch(), 1);
 }
 
-TEST_F(frmStartSearchTest, FewerThanTwoCharactersDoNothing) {
+TEST_F(SearchBoxTest, FewerThanTwoCharactersDoNothing) {
     const RecordedShell shell;
     for (const wchar_t* const text : {L"", L"a"}) {
         Type(text);
@@ -155,7 +155,7 @@ TEST_F(frmStartSearchTest, FewerThanTwoCharactersDoNothing) {
     EXPECT_EQ(shell.NextAddress(), std::wstring(kExcite) + L"ab");
 }
 
-TEST_F(frmStartSearchTest, AnEmptyCategoryIsNotSearched) {
+TEST_F(SearchBoxTest, AnEmptyCategoryIsNotSearched) {
     program.ClickTab(5);
     Type(L"ab");
     const MainState before = program.State();
@@ -164,7 +164,7 @@ TEST_F(frmStartSearchTest, AnEmptyCategoryIsNotSearched) {
     EXPECT_EQ(program.State(), before);
 }
 
-TEST_F(frmStartSearchTest, AHitOutsideTheViewIsScrolledIn) {
+TEST_F(SearchBoxTest, AHitOutsideTheViewIsScrolledIn) {
     std::vector<Row> many(500, {L"x", L"http://x.hu"});
     many[399].first = L"itt ŐZ van";
     program.Add(4, many);
@@ -178,7 +178,7 @@ TEST_F(frmStartSearchTest, AHitOutsideTheViewIsScrolledIn) {
     EXPECT_LT(400, first_shown + ListView_GetCountPerPage(list));
 }
 
-TEST_F(frmStartSearchTest, AServiceOpensItsPageWithTheWordsAsTypedAndIsThenLeft) {
+TEST_F(SearchBoxTest, AServiceOpensItsPageWithTheWordsAsTypedAndIsThenLeft) {
     const RecordedShell shell;
     Choose(3);
     Type(L"két szó");
@@ -195,7 +195,7 @@ TEST_F(frmStartSearchTest, AServiceOpensItsPageWithTheWordsAsTypedAndIsThenLeft)
     EXPECT_EQ(shell.Addresses().size(), 1u);
 }
 
-TEST_F(frmStartSearchTest, EveryServiceOpensItsOwnPage) {
+TEST_F(SearchBoxTest, EveryServiceOpensItsOwnPage) {
     const RecordedShell shell;
     const std::wstring pages[] = {
         L"https://search.yahoo.com/search?fr=altavista&p=", L"https://search.lycos.com/web/?q=", kExcite,
@@ -209,7 +209,7 @@ TEST_F(frmStartSearchTest, EveryServiceOpensItsOwnPage) {
     }
 }
 
-TEST_F(frmStartSearchTest, AServiceIsAskedFromAnEmptyCategoryToo) {
+TEST_F(SearchBoxTest, AServiceIsAskedFromAnEmptyCategoryToo) {
     const RecordedShell shell;
     program.ClickTab(9);
     Choose(3);
@@ -218,7 +218,7 @@ TEST_F(frmStartSearchTest, AServiceIsAskedFromAnEmptyCategoryToo) {
     EXPECT_EQ(shell.NextAddress(), std::wstring(kExcite) + L"ab");
 }
 
-TEST_F(frmStartSearchTest, EnterInTheTextBoxSearches) {
+TEST_F(SearchBoxTest, EnterInTheTextBoxSearches) {
     const RecordedShell shell;
     Type(L"ab");
     program.OnUi([&](frmStart&) { SetFocus(Control(ID_frmStart_txtFind)); });
@@ -239,14 +239,14 @@ TEST_F(frmStartSearchTest, EnterInTheTextBoxSearches) {
     EXPECT_EQ(Chosen(), 0);
 }
 
-TEST_F(frmStartSearchTest, EnterPressesThePictureButtonThatHasTheFocus) {
+TEST_F(SearchBoxTest, EnterPressesThePictureButtonThatHasTheFocus) {
     Type(L"ab");
     program.OnUi([&](frmStart&) { SetFocus(Control(ID_frmStart_Image1)); });
     program.PressKey(Control(ID_frmStart_Image1), VK_RETURN);
     EXPECT_EQ(program.List().Selected(), 2);
 }
 
-TEST_F(frmStartSearchTest, TheTextIsSelectedWheneverItsBoxGainsTheFocus) {
+TEST_F(SearchBoxTest, TheTextIsSelectedWheneverItsBoxGainsTheFocus) {
     Type(L"műsor");
     const TextBox box(Control(ID_frmStart_txtFind));
     program.OnUi([&](frmStart&) {
@@ -256,7 +256,7 @@ TEST_F(frmStartSearchTest, TheTextIsSelectedWheneverItsBoxGainsTheFocus) {
     EXPECT_EQ(box.SelectedText(), L"műsor");
 }
 
-TEST_F(frmStartSearchTest, ComingBackToTheWindowLeavesTheCaretInTheSearchText) {
+TEST_F(SearchBoxTest, ComingBackToTheWindowLeavesTheCaretInTheSearchText) {
     Type(L"műsor");
     const TextBox box(Control(ID_frmStart_txtFind));
     program.OnUi([&](frmStart&) {
@@ -268,7 +268,7 @@ TEST_F(frmStartSearchTest, ComingBackToTheWindowLeavesTheCaretInTheSearchText) {
     EXPECT_EQ(box.SelectedText(), L"űs");
 }
 
-TEST_F(frmStartSearchTest, DelInTheTextBoxDeletesTextNotEntries) {
+TEST_F(SearchBoxTest, DelInTheTextBoxDeletesTextNotEntries) {
     Type(L"ab");
     program.ClickBox(1);
     program.OnUi([&](frmStart&) { SetFocus(Control(ID_frmStart_txtFind)); });
@@ -278,37 +278,7 @@ TEST_F(frmStartSearchTest, DelInTheTextBoxDeletesTextNotEntries) {
     EXPECT_EQ(program.State().Rows.size(), 4u);
 }
 
-TEST_F(frmStartSearchTest, TheButtonOpensTheShownAddress) {
-    const RecordedShell shell;
-    program.Add(6, {{L"út", L"https://pelda.hu/két szó/ÁRVÍZTŰRŐ?a=1&b=%20"}});
-    program.ClickTab(6);
-    const auto press = [&] {
-        PostMessageW(Control(ID_frmStart_picGo), BM_CLICK, 0, 0);
-        program.Settle();
-    };
-    // Nothing is shown yet.
-    press();
-    program.ClickRow(1);
-    press();
-    EXPECT_EQ(shell.NextAddress(), L"https://pelda.hu/két szó/ÁRVÍZTŰRŐ?a=1&b=%20");
-    program.ClickTab(1);
-    program.ClickRow(3);
-    program.Run(ID_mnuGoto);
-    EXPECT_EQ(shell.NextAddress(), L"http://3.hu");
-}
-
-TEST_F(frmStartSearchTest, AnAddressThatTheShellCannotOpenShowsNothing) {
-    program.Add(6, {{L"semmi", L"C:\\nincs ilyen\\fájl.html"}});
-    program.ClickTab(6);
-    program.ClickRow(1);
-    const MainState before = program.State();
-    PostMessageW(Control(ID_frmStart_picGo), BM_CLICK, 0, 0);
-    program.Settle();
-    EXPECT_TRUE(program.NothingIsOpen());
-    EXPECT_EQ(program.State(), before);
-}
-
-TEST_F(frmStartSearchTest, APictureButtonHasABorderWhileTheMouseHoldsIt) {
+TEST_F(SearchBoxTest, APictureButtonHasABorderWhileTheMouseHoldsIt) {
     for (const int id : {ID_frmStart_Image1, ID_frmStart_picGo}) {
         const HWND button = Control(id);
         const auto has_border = [&] { return (GetWindowLongPtrW(button, GWL_STYLE) & WS_BORDER) != 0; };
@@ -333,7 +303,7 @@ TEST_F(frmStartSearchTest, APictureButtonHasABorderWhileTheMouseHoldsIt) {
     }
 }
 
-TEST_F(frmStartSearchTest, TwoQuickClicksSearchTwice) {
+TEST_F(SearchBoxTest, TwoQuickClicksSearchTwice) {
     Type(L"ab");
     const HWND button = Control(ID_frmStart_Image1);
     for (const auto message : {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_LBUTTONUP})

@@ -5,7 +5,7 @@
 namespace lindrel::testing {
 namespace {
 
-class frmStartSaveTest : public FileSession {
+class FileMenuSaveTest : public FileSession {
   protected:
     void ExpectOverwriteQuestion(const std::wstring& path, int answer) const {
         const BoxOnScreen box = program.Box();
@@ -29,21 +29,21 @@ class frmStartSaveTest : public FileSession {
     }
 };
 
-TEST_F(frmStartSaveTest, SavingAnUnmodifiedBookDoesNothing) {
+TEST_F(FileMenuSaveTest, SavingAnUnmodifiedBookDoesNothing) {
     const MainState before = program.State();
     program.Run(ID_mnuSave);
     EXPECT_TRUE(program.NothingIsOpen());
     EXPECT_EQ(program.State(), before);
 }
 
-TEST_F(frmStartSaveTest, SaveAsDoesNothingForEntriesInTheTwelfthCategoryOnly) {
+TEST_F(FileMenuSaveTest, SaveAsDoesNothingForEntriesInTheTwelfthCategoryOnly) {
     Change(12);
     const MainState before = program.State();
     program.Choose(ID_mnuSaveAs);
     ExpectState(before);
 }
 
-TEST_F(frmStartSaveTest, SavingABookThatWasNeverSavedAsksForAFileAndSetsTheTitle) {
+TEST_F(FileMenuSaveTest, SavingABookThatWasNeverSavedAsksForAFileAndSetsTheTitle) {
     Change();
     const std::wstring path = folder.File(L"Első könyv.lnd");
     program.Choose(ID_mnuSave);
@@ -54,7 +54,7 @@ TEST_F(frmStartSaveTest, SavingABookThatWasNeverSavedAsksForAFileAndSetsTheTitle
     EXPECT_EQ(folder.Names(), std::vector<std::wstring>{L"Első könyv.lnd"});
 }
 
-TEST_F(frmStartSaveTest, ACancelledSaveOfABookThatWasNeverSavedChangesNothing) {
+TEST_F(FileMenuSaveTest, ACancelledSaveOfABookThatWasNeverSavedChangesNothing) {
     Change();
     for (const int command : {ID_mnuSave, ID_mnuSaveAs}) {
         program.Choose(command);
@@ -63,7 +63,7 @@ TEST_F(frmStartSaveTest, ACancelledSaveOfABookThatWasNeverSavedChangesNothing) {
     }
 }
 
-TEST_F(frmStartSaveTest, ANameWithoutAnExtensionIsSavedAsABookFile) {
+TEST_F(FileMenuSaveTest, ANameWithoutAnExtensionIsSavedAsABookFile) {
     Change();
     program.Choose(ID_mnuSave);
     program.FileDialog().Accept(folder.File(L"könyv"));
@@ -71,7 +71,7 @@ TEST_F(frmStartSaveTest, ANameWithoutAnExtensionIsSavedAsABookFile) {
     EXPECT_EQ(folder.Names(), std::vector<std::wstring>{L"könyv.lnd"});
 }
 
-TEST_F(frmStartSaveTest, SaveAsOntoAnExistingFileAsksAndKeepsTheRefusedPath) {
+TEST_F(FileMenuSaveTest, SaveAsOntoAnExistingFileAsksAndKeepsTheRefusedPath) {
     Change();
     const std::wstring path = folder.Write(L"van.lnd", "régi");
     program.Choose(ID_mnuSaveAs);
@@ -92,7 +92,7 @@ TEST_F(frmStartSaveTest, SaveAsOntoAnExistingFileAsksAndKeepsTheRefusedPath) {
     EXPECT_EQ(TemporaryFolder::Read(path), ChangedBook());
 }
 
-TEST_F(frmStartSaveTest, SaveAsOntoAnExistingFileOverwritesItAfterYes) {
+TEST_F(FileMenuSaveTest, SaveAsOntoAnExistingFileOverwritesItAfterYes) {
     Change();
     const std::wstring path = folder.Write(L"van.lnd", std::string(5000, '#'));
     program.Choose(ID_mnuSaveAs);
@@ -102,7 +102,7 @@ TEST_F(frmStartSaveTest, SaveAsOntoAnExistingFileOverwritesItAfterYes) {
     EXPECT_EQ(folder.Names(), std::vector<std::wstring>{L"van.lnd"});
 }
 
-TEST_F(frmStartSaveTest, SaveAsAfterNoSavesUnderAnotherNameAndLeavesTheRefusedFile) {
+TEST_F(FileMenuSaveTest, SaveAsAfterNoSavesUnderAnotherNameAndLeavesTheRefusedFile) {
     Change();
     const std::wstring refused = folder.Write(L"van.lnd", "régi");
     const std::wstring path = folder.File(L"más.lnd");
@@ -114,7 +114,7 @@ TEST_F(frmStartSaveTest, SaveAsAfterNoSavesUnderAnotherNameAndLeavesTheRefusedFi
     EXPECT_EQ(TemporaryFolder::Read(refused), "régi");
 }
 
-TEST_F(frmStartSaveTest, PlainSaveOfALoadedBookLeavesTheTitle) {
+TEST_F(FileMenuSaveTest, PlainSaveOfALoadedBookLeavesTheTitle) {
     const std::wstring path =
         folder.Write(L"a.lnd", "#1\r\n#2\r\n#3\r\n#4\r\n#5\r\n#6\r\n#7\r\n#8\r\n#9\r\n#10\r\n#11\r\n#12\r\n");
     program.Choose(ID_mnuOpen);
@@ -132,7 +132,7 @@ TEST_F(frmStartSaveTest, PlainSaveOfALoadedBookLeavesTheTitle) {
               "nev.hu\r\n#2\r\n#3\r\n#4\r\n#5\r\n#6\r\n#7\r\n#8\r\n#9\r\n#10\r\n#11\r\n#12\r\n");
 }
 
-TEST_F(frmStartSaveTest, AFailedSaveSaysWhyChangesNothingAndCallsTheCommandOff) {
+TEST_F(FileMenuSaveTest, AFailedSaveSaysWhyChangesNothingAndCallsTheCommandOff) {
     const std::string old = "régi";
     const std::wstring path = folder.Write(L"zárt.lnd", old);
     ASSERT_TRUE(SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_READONLY));
@@ -170,7 +170,7 @@ TEST_F(frmStartSaveTest, AFailedSaveSaysWhyChangesNothingAndCallsTheCommandOff) 
     ASSERT_TRUE(SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL));
 }
 
-TEST_F(frmStartSaveTest, EntriesThatWillComeBackAsHeadersAreWarnedOf) {
+TEST_F(FileMenuSaveTest, EntriesThatWillComeBackAsHeadersAreWarnedOf) {
     program.OnUi([&](frmStart& form) {
         form.OpenedBook().TheBook.AddEntry(2, {{"#els\xF5", "http://a.hu"}, {"B", "#m\xE1sodik"}});
         form.OpenedBook().OpenedFile = folder.File(L"a.lnd");
@@ -190,7 +190,7 @@ TEST_F(frmStartSaveTest, EntriesThatWillComeBackAsHeadersAreWarnedOf) {
     EXPECT_FALSE(program.State().Modified);
 }
 
-TEST_F(frmStartSaveTest, ABookThatCannotBeWrittenOutIsKeptAndTheCommandCalledOff) {
+TEST_F(FileMenuSaveTest, ABookThatCannotBeWrittenOutIsKeptAndTheCommandCalledOff) {
     for (int i = 0; i < 5; ++i) Change(11);
     program.OnUi([](frmStart& form) { form.OpenedBook().Modified = false; });
     const std::wstring path = folder.Write(L"kevés.lnd", kElevenHeaders);

@@ -5,9 +5,9 @@
 namespace lindrel::testing {
 namespace {
 
-class frmStartClosingTest : public FileSession {};
+class FileMenuClosingTest : public FileSession {};
 
-TEST_F(frmStartClosingTest, AFaultThatNobodyCatchesIsReportedAndEndsTheProgram) {
+TEST_F(FileMenuClosingTest, AFaultThatNobodyCatchesIsReportedAndEndsTheProgram) {
     for (int i = 0; i < 5; ++i) Change(11);
     program.OnUi([](frmStart& form) { form.OpenedBook().Modified = false; });
     program.Choose(ID_mnuOpen);
@@ -27,7 +27,7 @@ TEST_F(frmStartClosingTest, AFaultThatNobodyCatchesIsReportedAndEndsTheProgram) 
     EXPECT_EQ(program.WaitForEnd(), 1);
 }
 
-TEST_F(frmStartClosingTest, ClosingAsksWithItsOwnTitleAndCancelKeepsTheWindow) {
+TEST_F(FileMenuClosingTest, ClosingAsksWithItsOwnTitleAndCancelKeepsTheWindow) {
     Change();
     program.Close();
     ExpectSaveQuestion(L"A fájl módosult", IDCANCEL);
@@ -40,7 +40,7 @@ TEST_F(frmStartClosingTest, ClosingAsksWithItsOwnTitleAndCancelKeepsTheWindow) {
     EXPECT_EQ(program.WaitForEnd(), 0);
 }
 
-TEST_F(frmStartClosingTest, ClosingWithYesSavesUnderAChosenNameAndEndsTheProgram) {
+TEST_F(FileMenuClosingTest, ClosingWithYesSavesUnderAChosenNameAndEndsTheProgram) {
     Change();
     const std::wstring path = folder.File(L"vége.lnd");
     program.Close();
@@ -51,7 +51,7 @@ TEST_F(frmStartClosingTest, ClosingWithYesSavesUnderAChosenNameAndEndsTheProgram
     EXPECT_EQ(TemporaryFolder::Read(path), ChangedBook());
 }
 
-TEST_F(frmStartClosingTest, ClosingWithYesSavesInTheBooksOwnFileWithoutADialog) {
+TEST_F(FileMenuClosingTest, ClosingWithYesSavesInTheBooksOwnFileWithoutADialog) {
     Change();
     const std::wstring path = folder.Write(L"van.lnd", "régi");
     program.OnUi([&](frmStart& form) { form.OpenedBook().OpenedFile = path; });
@@ -62,7 +62,7 @@ TEST_F(frmStartClosingTest, ClosingWithYesSavesInTheBooksOwnFileWithoutADialog) 
     EXPECT_EQ(TemporaryFolder::Read(path), ChangedBook());
 }
 
-TEST_F(frmStartClosingTest, ClosingWithYesAndACancelledSaveDialogLosesTheChangesAndEndsTheProgram) {
+TEST_F(FileMenuClosingTest, ClosingWithYesAndACancelledSaveDialogLosesTheChangesAndEndsTheProgram) {
     Change();
     program.Close();
     ExpectSaveQuestion(L"A fájl módosult", IDYES);
@@ -71,7 +71,7 @@ TEST_F(frmStartClosingTest, ClosingWithYesAndACancelledSaveDialogLosesTheChanges
     EXPECT_EQ(folder.Names(), std::vector<std::wstring>{});
 }
 
-TEST_F(frmStartClosingTest, TheEndOfTheSessionWaitsForTheAnswerAndLeavesTheWindow) {
+TEST_F(FileMenuClosingTest, TheEndOfTheSessionWaitsForTheAnswerAndLeavesTheWindow) {
     EXPECT_EQ(QueryEndSession().get(), TRUE);  // nothing to ask
     ExpectState(EmptyState());
 

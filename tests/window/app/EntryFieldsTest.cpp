@@ -1,0 +1,96 @@
+// Name and address of the entry that was picked last: opening and copying the address.
+
+#include <gtest/gtest.h>
+
+#include "resources/resource.h"
+#include "tests/window/support/Program.h"
+#include "tests/window/support/RealClipboard.h"
+#include "tests/window/support/RecordedShell.h"
+
+namespace lindrel::testing {
+namespace {
+
+class EntryFieldsTest : public ::testing::Test {
+  protected:
+    EntryFieldsTest() {
+        program.Add(
+            1, {{L"Egy", L"http://egy.hu"}, {L"Kettő", L"http://ketto.hu"}, {L"Három", L"http://harom.hu"}});
+    }
+
+    Program program;
+};
+
+TEST_F(EntryFieldsTest, TheButtonOpensTheShownAddress) {
+    const RecordedShell shell;
+    program.Add(6, {{L"út", L"https://pelda.hu/két szó/ÁRVÍZTŰRŐ?a=1&b=%20"}});
+    program.ClickTab(6);
+    const auto press = [&] {
+        PostMessageW(program.Control(ID_frmStart_picGo), BM_CLICK, 0, 0);
+        program.Settle();
+    };
+    // Nothing is shown yet.
+    press();
+    program.ClickRow(1);
+    press();
+    EXPECT_EQ(shell.NextAddress(), L"https://pelda.hu/két szó/ÁRVÍZTŰRŐ?a=1&b=%20");
+    program.ClickTab(1);
+    program.ClickRow(3);
+    program.Run(ID_mnuGoto);
+    EXPECT_EQ(shell.NextAddress(), L"http://harom.hu");
+}
+
+TEST_F(EntryFieldsTest, AnAddressThatTheShellCannotOpenShowsNothing) {
+    program.Add(6, {{L"semmi", L"C:\\nincs ilyen\\fájl.html"}});
+    program.ClickTab(6);
+    program.ClickRow(1);
+    const MainState before = program.State();
+    PostMessageW(program.Control(ID_frmStart_picGo), BM_CLICK, 0, 0);
+    program.Settle();
+    EXPECT_TRUE(program.NothingIsOpen());
+    EXPECT_EQ(program.State(), before);
+}
+
+TEST_F(EntryFieldsTest, ADoubleClickOnTheAddressCopiesItAndAnEmptyOneLeavesTheClipboard) {
+    const HWND field = program.Control(ID_frmStart_txtURL);
+    const auto double_click = [&] {
+        PostMessageW(field, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(5, 5));
+        PostMessageW(field, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+        program.Settle();
+    };
+    PutClipboardText(L"régi");
+    double_click();
+    EXPECT_EQ(TextOnClipboard(), L"régi");
+    program.ClickRow(2);
+    double_click();
+    EXPECT_EQ(TextOnClipboard(), L"http://ketto.hu");
+}
+
+TEST_F(EntryFieldsTest, ControlCInTheAddressCopiesTheSelectionAlsoAnEmptyOne) {
+    program.ClickRow(2);
+    const HWND field = program.Control(ID_frmStart_txtURL);
+    SendMessageW(field, EM_SETSEL, 7, 12);
+    const auto control_c = [&] {
+        PostMessageW(field, WM_CHAR, 3, 1);
+        program.Settle();
+    };
+    PutClipboardText(L"régi");
+    control_c();
+    EXPECT_EQ(TextOnClipboard(), L"ketto");
+    SendMessageW(field, EM_SETSEL, 3, 3);
+    control_c();
+    EXPECT_EQ(TextOnClipboard(), L"");
+}
+
+TEST_F(EntryFieldsTest, CopyingLeavesOtherFormsOnTheClipboard) {
+    const UINT form = RegisterClipboardFormatW(L"Lindrel test form");
+    PutClipboardBytes(form, "kép");
+    program.ClickRow(2);
+    const HWND field = program.Control(ID_frmStart_txtURL);
+    PostMessageW(field, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(5, 5));
+    program.Settle();
+    EXPECT_EQ(TextOnClipboard(), L"http://ketto.hu");
+    EXPECT_TRUE(ClipboardHolds(form));
+}
+
+}  // namespace
+}  // namespace lindrel::testing
