@@ -8,11 +8,6 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   target_compile_options(lindrel_warnings INTERFACE -Wduplicated-cond -Wlogical-op -Wno-restrict)
 endif()
 if(MINGW)
-  # One exe that runs on every Windows; casts of function and handle types are the system's own habit.
-  target_link_options(lindrel_warnings INTERFACE -static)
+  # Casts of function and handle types are the system's own habit.
   target_compile_options(lindrel_warnings INTERFACE -Wno-old-style-cast)
-endif()
-if(LINDREL_SANITIZE)
-  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
-  add_link_options(-fsanitize=address,undefined)
 endif()
