@@ -12,8 +12,4 @@ for preset in native sanitize x64 x86 fuzz; do
   cmake --build --preset "$preset" -- -k 0
 done
 make_template_prefix
-
-# One CTest run over the tests of all builds, so that one summary ends it.
-mkdir -p build/all
-printf 'subdirs("%s" "%s" "%s" "%s" "%s")\n' ../native ../sanitize ../x64 ../x86 ../fuzz >build/all/CTestTestfile.cmake
-exec ctest --test-dir build/all -j "$(nproc)" --output-on-failure
+exec ctest --preset all -j "$(nproc)"
