@@ -2,16 +2,12 @@
 # the portable sources in the native build, for those of the windows in a Windows build.
 find_program(CLANG_FORMAT clang-format)
 find_program(CLANG_TIDY clang-tidy)
-file(GLOB_RECURSE LINDREL_SOURCES CONFIGURE_DEPENDS
-  ${CMAKE_SOURCE_DIR}/app/*.[ch]* ${CMAKE_SOURCE_DIR}/book/*.[ch]* ${CMAKE_SOURCE_DIR}/controls/*.[ch]*
-  ${CMAKE_SOURCE_DIR}/edit/*.[ch]* ${CMAKE_SOURCE_DIR}/find/*.[ch]* ${CMAKE_SOURCE_DIR}/export/*.[ch]*
-  ${CMAKE_SOURCE_DIR}/import/*.[ch]* ${CMAKE_SOURCE_DIR}/tray/*.[ch]* ${CMAKE_SOURCE_DIR}/help/*.[ch]*
-  ${CMAKE_SOURCE_DIR}/tests/*.[ch]* ${CMAKE_SOURCE_DIR}/bench/*.[ch]* ${CMAKE_SOURCE_DIR}/fuzz/*.[ch]*)
-list(FILTER LINDREL_SOURCES INCLUDE REGEX "\\.(cpp|h)$")
-if(CLANG_FORMAT)
-  add_custom_target(format COMMAND ${CLANG_FORMAT} -i ${LINDREL_SOURCES})
-  add_custom_target(format-check COMMAND ${CLANG_FORMAT} --dry-run --Werror ${LINDREL_SOURCES})
-endif()
+foreach(folder ${LINDREL_FOLDERS} tests bench fuzz)
+  list(APPEND patterns ${CMAKE_SOURCE_DIR}/${folder}/*.cpp ${CMAKE_SOURCE_DIR}/${folder}/*.h)
+endforeach()
+file(GLOB_RECURSE LINDREL_SOURCES CONFIGURE_DEPENDS ${patterns})
+add_custom_target(format COMMAND ${CLANG_FORMAT} -i ${LINDREL_SOURCES})
+add_custom_target(format-check COMMAND ${CLANG_FORMAT} --dry-run --Werror ${LINDREL_SOURCES})
 
 # clang-tidy reads the compile commands of the build, which are GCC's.
 set(tidy ${CLANG_TIDY} --quiet -p ${CMAKE_BINARY_DIR} --extra-arg=-Wno-unknown-warning-option)
