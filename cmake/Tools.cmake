@@ -34,7 +34,7 @@ endif()
 # Kept in good order with every run of the tests, once; folder by folder, so that they run side by side.
 if(BUILD_TESTING AND NOT WIN32 AND NOT LINDREL_SANITIZE)
   add_test(NAME sources.format COMMAND ${CLANG_FORMAT} --dry-run --Werror ${LINDREL_SOURCES})
-  add_test(NAME sources.rules COMMAND ${CMAKE_SOURCE_DIR}/tests/check-sources.sh)
+  add_test(NAME sources.rules COMMAND ${CMAKE_SOURCE_DIR}/tests/check-sources.py)
   foreach(source ${core_sources})
     cmake_path(GET source PARENT_PATH folder)
     cmake_path(GET folder FILENAME folder)

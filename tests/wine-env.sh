@@ -8,7 +8,7 @@ lindrel_wine="$lindrel_root/build/wine"
 lindrel_packages=(
   cmake ninja-build g++ git
   g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix wine wine64
-  libgtest-dev libbenchmark-dev clang clang-format clang-tidy libclang-rt-14-dev
+  libgtest-dev libbenchmark-dev clang clang-format clang-tidy libclang-rt-14-dev universal-ctags
   xvfb openbox xdotool imagemagick locales fonts-liberation python3
   fp-utils librsvg2-bin icoutils chromium)
 

@@ -1,0 +1,233 @@
+#!/usr/bin/env python3
+"""Rules of the sources that no compiler knows. Complains of every place that breaks one:
+    tests/check-sources.py"""
+
+import collections
+import functools
+import graphlib
+import pathlib
+import re
+import subprocess
+import sys
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+NOT_SHIPPED = ["tests", "bench", "fuzz"]
+
+LONGEST_FILE = 250
+LONGEST_TEST_FILE = 500
+LONGER_FILES = {}  # file: why it may be longer
+
+LONGEST_FUNCTION = 40
+LONGEST_TEST_FUNCTION = 50  # tables of cases
+
+FIXED_WAIT = re.compile(r"\b([Ss]leep(_for|_until|Ex)?|(u|nano)sleep)[ \t]*\(|^[ \t]*sleep[ \t]+[0-9.]")
+SWITCHED_OFF = re.compile(r"\bDISABLED_|GTEST_SKIP")
+SUITE = re.compile(r"TEST(?:_F|_P)?\((\w+)")
+INCLUDE = re.compile(r'\s*#\s*include\s+([<"])([^>"]+)')
+LITERAL = re.compile(r'"(?:[^"\\]|\\.)*"')
+DROPPED_RESULT = "static_cast<void>"
+
+Include = collections.namedtuple("Include", "file line system name")
+
+
+# The sources. Files are named from the root, with slashes.
+
+
+def files(folder, *endings):
+    found = (path for path in (ROOT / folder).rglob("*") if path.suffix in endings)
+    return sorted(path.relative_to(ROOT).as_posix() for path in found)
+
+
+@functools.cache
+def lines(file):
+    return (ROOT / file).read_text(encoding="utf-8").splitlines()
+
+
+@functools.cache
+def product_folders():
+    return sorted(path.parent.name for path in ROOT.glob("*/CMakeLists.txt") if path.parent.name not in NOT_SHIPPED)
+
+
+def product_files(*endings):
+    return [file for folder in product_folders() for file in files(folder, *endings)]
+
+
+@functools.cache
+def cpp_files():
+    return product_files(".cpp", ".h") + [file for folder in NOT_SHIPPED for file in files(folder, ".cpp", ".h")]
+
+
+@functools.cache
+def includes(file):
+    found = ((number, INCLUDE.match(line)) for number, line in enumerate(lines(file), 1))
+    return [Include(file, number, match[1] == "<", match[2]) for number, match in found if match]
+
+
+def folder_of(file):
+    return file.split("/")[0]
+
+
+def header_of(source):
+    return source.removesuffix(".cpp") + ".h"
+
+
+def sources_of(target):
+    """What the folders' CMakeLists.txt add to a target."""
+    for folder in product_folders():
+        text = "\n".join(lines(f"{folder}/CMakeLists.txt"))
+        for names in re.findall(rf"target_sources\({target}\s+PRIVATE\s+([^)]*)\)", text):
+            yield from (f"{folder}/{name}" for name in names.split())
+
+
+def is_of_one_system(file):
+    return file.endswith(("_win32.cpp", "_posix.cpp"))
+
+
+def is_system_header(include):
+    """Headers of the standard library have no ending."""
+    return include.system and include.name.endswith(".h")
+
+
+# The rules. Each yields its complaints: file, line, reason.
+
+
+def matches(pattern, names, reason):
+    for file in names:
+        for number, line in enumerate(lines(file), 1):
+            if pattern.search(line):
+                yield file, number, reason
+
+
+def no_fixed_waits():
+    scripts_and_tests = files("tests", ".cpp", ".h", ".sh", ".py")
+    return matches(FIXED_WAIT, scripts_and_tests, "a fixed wait in a test; poll with a deadline instead")
+
+
+def no_test_is_switched_off():
+    return matches(SWITCHED_OFF, files("tests", ".cpp"), "a test that is switched off")
+
+
+def every_source_is_built():
+    for file in product_files(".cpp"):
+        folder, name = file.rsplit("/", 1)
+        if not re.search(rf"\b{re.escape(name)}\b", "\n".join(lines(f"{folder}/CMakeLists.txt"))):
+            yield file, 1, "a source that no target knows"
+
+
+def suites_bear_their_files_names():
+    """CTest runs the suite that is named as the file is."""
+    for file in files("tests/window", ".cpp") + files("tests/e2e", ".cpp"):
+        stem = pathlib.PurePath(file).stem
+        for number, line in enumerate(lines(file), 1):
+            suite = SUITE.match(line)
+            if stem.endswith("Test") and suite and suite[1] != stem:
+                yield file, number, f"the suite {suite[1]} does not bear the file's name"
+
+
+def nobody_includes_the_app():
+    for file in cpp_files():
+        for include in includes(file):
+            if folder_of(include.name) == "app" and folder_of(file) not in ("app", "tests"):
+                yield file, include.line, f"only app/ and tests/ may include {include.name}"
+
+
+def the_book_stands_alone():
+    for file in files("book", ".cpp", ".h"):
+        for include in includes(file):
+            if not include.system and folder_of(include.name) != "book":
+                yield file, include.line, f"book/ may not include {include.name} of another folder"
+            elif pathlib.PurePath(include.name).name.startswith("frm"):
+                yield file, include.line, f"book/ may not include {include.name}, a window"
+            elif is_system_header(include) and not is_of_one_system(file):
+                yield file, include.line, f"only *_win32.cpp and *_posix.cpp of book/ may include <{include.name}>"
+
+
+def portable_sources_include_no_window():
+    """Of the portable sources, their headers, and all that these include."""
+    core = list(sources_of("lindrel_core"))
+    windows = set(sources_of("lindrel_ui"))
+    windows |= {header_of(source) for source in windows}
+    waiting = core + [header_of(source) for source in core]
+    seen = set()
+    while waiting:
+        file = waiting.pop()
+        if file in seen or not (ROOT / file).exists():
+            continue
+        seen.add(file)
+        for include in includes(file):
+            if is_system_header(include) and not is_of_one_system(file):
+                yield file, include.line, f"<{include.name}> in the portable half"
+            elif folder_of(include.name) == "controls" or include.name in windows:
+                yield file, include.line, f"{include.name}, which is of the windows, in the portable half"
+            elif not include.system:
+                waiting.append(include.name)
+
+
+def folders_have_no_cycle():
+    uses = {}
+    for file in product_files(".cpp", ".h"):
+        for include in includes(file):
+            if not include.system and folder_of(include.name) in product_folders():
+                uses.setdefault((folder_of(file), folder_of(include.name)), include)
+    folders = graphlib.TopologicalSorter()
+    for user, used in uses:
+        if user != used:
+            folders.add(user, used)
+    try:
+        folders.prepare()
+    except graphlib.CycleError as error:
+        cycle = error.args[1][::-1]
+        for user, used in zip(cycle, cycle[1:]):
+            include = uses[user, used]
+            yield include.file, include.line, f"{include.name} is part of the include cycle {' > '.join(cycle)}"
+
+
+def functions_are_short():
+    ctags = ["ctags", "--options=NONE", "-x", "--_xformat=%{end}\t%n\t%{input}\t%N", "--language-force=C++",
+             "--kinds-C++=f", "--fields=+e"]
+    found = subprocess.run(ctags + cpp_files(), cwd=ROOT, check=True, capture_output=True, text=True)
+    for function in found.stdout.splitlines():
+        end, start, file, name = function.split("\t")
+        length = int(end or start) - int(start) + 1
+        limit = LONGEST_TEST_FUNCTION if folder_of(file) == "tests" else LONGEST_FUNCTION
+        if length > limit:
+            yield file, int(start), f"{name} has {length} lines; {limit} are the limit"
+
+
+def files_are_short():
+    for file in cpp_files():
+        limit = LONGEST_TEST_FILE if folder_of(file) == "tests" else LONGEST_FILE
+        if len(lines(file)) > limit and file not in LONGER_FILES:
+            yield file, 1, f"{len(lines(file))} lines; {limit} are the limit"
+
+
+def dropped_results_say_why():
+    for file in cpp_files():
+        above = ""
+        for number, line in enumerate(lines(file), 1):
+            explained = "//" in LITERAL.sub("", line) or above.lstrip().startswith("//")
+            if DROPPED_RESULT in line and not explained:
+                yield file, number, f"{DROPPED_RESULT} without a comment on this line or the one above"
+            above = line
+
+
+def nothing_is_called_intended():
+    sources = cpp_files() + product_files(".rc")
+    return matches(re.compile(r"\(intended\)"), sources, 'say why instead of "(intended)"')
+
+
+RULES = [
+    no_fixed_waits, no_test_is_switched_off, every_source_is_built, suites_bear_their_files_names,
+    nobody_includes_the_app, the_book_stands_alone, portable_sources_include_no_window, folders_have_no_cycle,
+    functions_are_short, files_are_short, dropped_results_say_why, nothing_is_called_intended,
+]
+
+
+def main():
+    complaints = sorted(set(complaint for rule in RULES for complaint in rule()))
+    for file, line, reason in complaints:
+        print(f"{file}:{line}: {reason}")
+    sys.exit(1 if complaints else 0)
+
+
+main()
