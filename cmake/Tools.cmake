@@ -6,8 +6,9 @@ foreach(folder ${LINDREL_FOLDERS} tests bench fuzz)
   list(APPEND patterns ${CMAKE_SOURCE_DIR}/${folder}/*.cpp ${CMAKE_SOURCE_DIR}/${folder}/*.h)
 endforeach()
 file(GLOB_RECURSE LINDREL_SOURCES CONFIGURE_DEPENDS ${patterns})
-add_custom_target(format COMMAND ${CLANG_FORMAT} -i ${LINDREL_SOURCES})
-add_custom_target(format-check COMMAND ${CLANG_FORMAT} --dry-run --Werror ${LINDREL_SOURCES})
+add_custom_target(format COMMAND ${CLANG_FORMAT} -i ${LINDREL_SOURCES} COMMENT "Formatting the sources" VERBATIM)
+add_custom_target(format-check COMMAND ${CLANG_FORMAT} --dry-run --Werror ${LINDREL_SOURCES}
+  COMMENT "Checking the format of the sources" VERBATIM)
 
 # clang-tidy reads the compile commands of the build, which are GCC's.
 set(tidy ${CLANG_TIDY} --quiet -p ${CMAKE_BINARY_DIR} --extra-arg=-Wno-unknown-warning-option)
@@ -25,10 +26,10 @@ if(WIN32)
       list(APPEND tidy --extra-arg=-isystem${folder})
     endif()
   endforeach()
-  add_custom_target(tidy COMMAND ${tidy} ${ui_sources})
+  add_custom_target(tidy COMMAND ${tidy} ${ui_sources} COMMENT "Checking the windows' sources" VERBATIM)
 else()
   get_target_property(core_sources lindrel_core SOURCES)
-  add_custom_target(tidy COMMAND ${tidy} ${core_sources})
+  add_custom_target(tidy COMMAND ${tidy} ${core_sources} COMMENT "Checking the portable sources" VERBATIM)
 endif()
 
 # Kept in good order with every run of the tests, once; folder by folder, so that they run side by side.
