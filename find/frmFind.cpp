@@ -20,7 +20,7 @@ constexpr int kColumnOfCategories = 1;
 LOGFONTW FixedPitchFont(UINT dpi) {
     LOGFONTW font = MessageFont(dpi);
     font.lfPitchAndFamily = FIXED_PITCH | FF_MODERN;
-    static_cast<void>(std::wcscpy(font.lfFaceName, L"Courier New"));
+    std::wcscpy(font.lfFaceName, L"Courier New");
     return font;
 }
 
@@ -41,11 +41,11 @@ void frmFind::Form_Load() {
                                  {ID_frmFind_cmdDel, Growth::Moves, Growth::Moves}});
     // Half as high again as the smallest, so that there is room for hits.
     RECT window{};
-    static_cast<void>(GetWindowRect(Handle(), &window));
+    GetWindowRect(Handle(), &window);
     const int width = window.right - window.left;
     const int height = window.bottom - window.top;
-    static_cast<void>(SetWindowPos(Handle(), nullptr, 0, 0, width * 5 / 4, height * 3 / 2,
-                                   SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE));
+    SetWindowPos(Handle(), nullptr, 0, 0, width * 5 / 4, height * 3 / 2,
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void frmFind::LoadList() {

@@ -188,7 +188,7 @@ TEST_F(FileMenuTest, FileExistsOfAnEmptyPathSaysSoAndOfAPatternGoesByWhatMatches
     asking.join();
     EXPECT_TRUE(answered);
     EXPECT_FALSE(exists);
-    static_cast<void>(folder.Write(L"van.lnd", ""));
+    folder.Write(L"van.lnd", "");
     EXPECT_TRUE(program.Ask<bool>(
         [this](frmStart& form) { return FileExists(form.Handle(), folder.File(L"v?n.*")); }));
 }

@@ -121,10 +121,10 @@ TEST_F(frmStartTrayTest, WithoutAnIconTheWindowStays) {
     ExpectBack();
     EXPECT_EQ(program.State(), before);
     program.OnUi([](frmStart&) { refusing = false; });
-    static_cast<void>(Taken());
+    Taken();
     program.Run(ID_mnuTray);
     ExpectInTray();
-    static_cast<void>(ExpectIconAdded());
+    ExpectIconAdded();
     Mouse(WM_LBUTTONDOWN);
     ExpectBack();
 }
@@ -155,7 +155,7 @@ TEST_F(frmStartTrayTest, TheIconComesAgainWithANewIdentifierAndTheSameToolTip) {
     bool differs = false;
     for (int i = 0; i < 10; ++i) {
         Mouse(WM_LBUTTONDOWN);
-        static_cast<void>(Taken());
+        Taken();
         program.Run(ID_mnuTray);
         differs = ExpectIconAdded() != first || differs;
     }
@@ -165,7 +165,7 @@ TEST_F(frmStartTrayTest, TheIconComesAgainWithANewIdentifierAndTheSameToolTip) {
 
 TEST_F(frmStartTrayTest, MovesReleasesDoubleClicksAndTheMiddleButtonDoNothing) {
     program.Run(ID_mnuTray);
-    static_cast<void>(Taken());
+    Taken();
     for (const int message : {WM_MOUSEMOVE, WM_LBUTTONUP, WM_RBUTTONUP, WM_LBUTTONDBLCLK, WM_RBUTTONDBLCLK,
                               WM_MBUTTONDOWN, WM_MBUTTONUP, WM_MBUTTONDBLCLK, WM_MOUSEWHEEL}) {
         Mouse(message);

@@ -51,9 +51,9 @@ int ListOnScreen::Selected() const {
 }
 
 LPARAM ListOnScreen::PointOnText(int row) const {
-    static_cast<void>(ListView_EnsureVisible(list_, row - 1, FALSE));
+    ListView_EnsureVisible(list_, row - 1, FALSE);
     RECT place{};
-    static_cast<void>(ListView_GetItemRect(list_, row - 1, &place, LVIR_LABEL));
+    ListView_GetItemRect(list_, row - 1, &place, LVIR_LABEL);
     return MAKELPARAM(place.left + 6, (place.top + place.bottom) / 2);
 }
 
@@ -71,9 +71,9 @@ void ListOnScreen::DoubleClickRow(int row) const {
 }
 
 void ListOnScreen::ClickBox(int row) const {
-    static_cast<void>(ListView_EnsureVisible(list_, row - 1, FALSE));
+    ListView_EnsureVisible(list_, row - 1, FALSE);
     RECT place{};
-    static_cast<void>(ListView_GetItemRect(list_, row - 1, &place, LVIR_ICON));
+    ListView_GetItemRect(list_, row - 1, &place, LVIR_ICON);
     // The check box stands just before the row's label.
     const LPARAM point = MAKELPARAM(place.left - 8, (place.top + place.bottom) / 2);
     PostMessageW(list_, WM_LBUTTONDOWN, MK_LBUTTON, point);

@@ -186,7 +186,7 @@ bool Program::CommandEnabled(int menu_id) const {
 void Program::ClickTab(int tab) const {
     RECT place{};
     const HWND strip = Control(ID_frmStart_TabStrip1);
-    OnUi([&](frmStart&) { static_cast<void>(TabCtrl_GetItemRect(strip, tab - 1, &place)); });
+    OnUi([&](frmStart&) { TabCtrl_GetItemRect(strip, tab - 1, &place); });
     const LPARAM point = MAKELPARAM((place.left + place.right) / 2, (place.top + place.bottom) / 2);
     PostMessageW(strip, WM_LBUTTONDOWN, MK_LBUTTON, point);
     PostMessageW(strip, WM_LBUTTONUP, 0, point);

@@ -19,7 +19,7 @@ class OpenedClipboard {
         // Somebody may just be reading it.
         WaitUntil("the clipboard", [] { return OpenClipboard(nullptr) != FALSE; });
     }
-    ~OpenedClipboard() { static_cast<void>(CloseClipboard()); }
+    ~OpenedClipboard() { CloseClipboard(); }
     OpenedClipboard(const OpenedClipboard&) = delete;
     OpenedClipboard& operator=(const OpenedClipboard&) = delete;
 };
