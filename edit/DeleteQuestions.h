@@ -1,4 +1,5 @@
-// What the user is asked before entries are deleted. The two questions differ in their buttons (intended).
+// What the user is asked before entries are deleted. Each question has its own buttons, OK and Cancel or Yes and No:
+// hands that know them press the right key unread.
 #pragma once
 
 #include "controls/Windows.h"

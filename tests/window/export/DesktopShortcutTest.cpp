@@ -182,7 +182,7 @@ TEST_F(DesktopShortcutTest, ADesktopWhoseShortenedPathIsNotThereIsReportedAfterT
 }
 
 TEST_F(DesktopShortcutTest, AFileThatCannotBeCreatedIsReportedAfterTheNameHasChanged) {
-    // The shell's other forbidden characters stay (intended), and no file can bear them.
+    // The shell's other forbidden characters stay, and no file can bear them.
     ShowAndSelect(L"a\\b/c:d?e*f\"g<h>i|j");
     const MainState before = program.State();
     AskFor(L"a\\b/c:d?e*f\"g<h>i|j", IDOK);
