@@ -33,8 +33,8 @@ class Control {
   protected:
     // For wrappers that begin and end with their window.
     void Wrap(HWND handle) { handle_ = handle; }
-    LRESULT Send(UINT message, WPARAM first = 0, LPARAM second = 0) const {
-        return SendMessageW(handle_, message, first, second);
+    LRESULT Send(UINT message, WPARAM wparam = 0, LPARAM lparam = 0) const {
+        return SendMessageW(handle_, message, wparam, lparam);
     }
 
   private:

@@ -161,11 +161,11 @@ void Dialog::FocusOn(int id) const {
     SendMessageW(handle_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Item(id)), TRUE);
 }
 
-INT_PTR CALLBACK Dialog::Procedure(HWND handle, UINT message, WPARAM first, LPARAM second) {
+INT_PTR CALLBACK Dialog::Procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam) {
     if (message == WM_INITDIALOG) {
-        auto* const dialog = reinterpret_cast<Dialog*>(second);
+        auto* const dialog = reinterpret_cast<Dialog*>(lparam);
         dialog->handle_ = handle;
-        SetWindowLongPtrW(handle, DWLP_USER, second);
+        SetWindowLongPtrW(handle, DWLP_USER, lparam);
     }
     auto* const dialog = reinterpret_cast<Dialog*>(GetWindowLongPtrW(handle, DWLP_USER));
     if (dialog == nullptr) return FALSE;
@@ -173,12 +173,12 @@ INT_PTR CALLBACK Dialog::Procedure(HWND handle, UINT message, WPARAM first, LPAR
         dialog->handle_ = nullptr;
         return FALSE;
     }
-    return Guarded<INT_PTR>(FALSE, [&] { return dialog->Handle(message, first, second); });
+    return Guarded<INT_PTR>(FALSE, [&] { return dialog->Handle(message, wparam, lparam); });
 }
 
-INT_PTR Dialog::Handle(UINT message, WPARAM first, LPARAM second) {
+INT_PTR Dialog::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
     LRESULT result = 0;
-    if (OnMessage(message, first, second, result)) {
+    if (OnMessage(message, wparam, lparam, result)) {
         SetWindowLongPtrW(handle_, DWLP_MSGRESULT, result);
         return TRUE;
     }
@@ -191,21 +191,21 @@ INT_PTR Dialog::Handle(UINT message, WPARAM first, LPARAM second) {
         }
         case WM_DPICHANGED:
             // Behind the dialog manager's own work. Where the message cannot be kept, its font stays.
-            static_cast<void>(PostMessageW(handle_, kApplyResolution, LOWORD(first), 0));
+            static_cast<void>(PostMessageW(handle_, kApplyResolution, LOWORD(wparam), 0));
             return FALSE;
         case kApplyResolution:
-            ApplyResolution(static_cast<UINT>(first));
+            ApplyResolution(static_cast<UINT>(wparam));
             return TRUE;
         case WM_ACTIVATE:
-            returned_focus_.OnActivate(first);
+            returned_focus_.OnActivate(wparam);
             return FALSE;
         case WM_COMMAND:
-            if (HIWORD(first) == EN_SETFOCUS && returned_focus_.Is(reinterpret_cast<HWND>(second)))
+            if (HIWORD(wparam) == EN_SETFOCUS && returned_focus_.Is(reinterpret_cast<HWND>(lparam)))
                 return TRUE;
-            OnCommand(LOWORD(first), HIWORD(first));
+            OnCommand(LOWORD(wparam), HIWORD(wparam));
             return TRUE;
         case WM_NOTIFY:
-            SetWindowLongPtrW(handle_, DWLP_MSGRESULT, OnNotify(*reinterpret_cast<const NMHDR*>(second)));
+            SetWindowLongPtrW(handle_, DWLP_MSGRESULT, OnNotify(*reinterpret_cast<const NMHDR*>(lparam)));
             return TRUE;
         default:
             return FALSE;

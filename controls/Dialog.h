@@ -53,7 +53,7 @@ class Dialog {
     // WM_NOTIFY; the result goes back to the control.
     virtual LRESULT OnNotify(const NMHDR& header);
     // Any other message; true when handled, `result` then goes back to the sender.
-    virtual bool OnMessage(UINT message, WPARAM first, LPARAM second, LRESULT& result);
+    virtual bool OnMessage(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& result);
     // A key message before the dialog's own keyboard handling; true swallows it.
     virtual bool PreTranslate(const MSG& message);
 
@@ -70,8 +70,8 @@ class Dialog {
     void SetToolTip(int id, const std::wstring& text) { tool_tips_.Set(handle_, Item(id), text); }
 
   private:
-    static INT_PTR CALLBACK Procedure(HWND handle, UINT message, WPARAM first, LPARAM second);
-    INT_PTR Handle(UINT message, WPARAM first, LPARAM second);
+    static INT_PTR CALLBACK Procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam);
+    INT_PTR Handle(UINT message, WPARAM wparam, LPARAM lparam);
     void Create(HWND owner);
     void RunModalLoop();
 

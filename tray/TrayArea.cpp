@@ -82,27 +82,27 @@ void TrayArea::Place(HWND owner, Environment environment) {
     Resize();
 }
 
-LRESULT CALLBACK TrayArea::Procedure(HWND window, UINT message, WPARAM first, LPARAM second) {
+LRESULT CALLBACK TrayArea::Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
     if (message == WM_NCCREATE) {
         auto* const made =
-            static_cast<TrayArea*>(reinterpret_cast<const CREATESTRUCTW*>(second)->lpCreateParams);
+            static_cast<TrayArea*>(reinterpret_cast<const CREATESTRUCTW*>(lparam)->lpCreateParams);
         made->handle_ = window;
         SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(made));
     }
     auto* const control = reinterpret_cast<TrayArea*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-    if (control == nullptr) return DefWindowProcW(window, message, first, second);
+    if (control == nullptr) return DefWindowProcW(window, message, wparam, lparam);
     if (message == WM_NCDESTROY) {
         SetWindowLongPtrW(window, GWLP_USERDATA, 0);
         control->handle_ = nullptr;
-        return DefWindowProcW(window, message, first, second);
+        return DefWindowProcW(window, message, wparam, lparam);
     }
-    return Guarded<LRESULT>(0, [&] { return control->Handle(message, first, second); });
+    return Guarded<LRESULT>(0, [&] { return control->Handle(message, wparam, lparam); });
 }
 
-LRESULT TrayArea::Handle(UINT message, WPARAM first, LPARAM second) {
+LRESULT TrayArea::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
     switch (message) {
         case kCallbackMessage:
-            Decode(second);
+            Decode(lparam);
             return 0;
         case WM_SIZE:
             if (!resizing_) Resize();
@@ -114,7 +114,7 @@ LRESULT TrayArea::Handle(UINT message, WPARAM first, LPARAM second) {
             RemoveIcon();
             return 0;
         default:
-            return DefWindowProcW(handle_, message, first, second);
+            return DefWindowProcW(handle_, message, wparam, lparam);
     }
 }
 

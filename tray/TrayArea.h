@@ -76,8 +76,8 @@ class TrayArea {
     static ShellNotifyIcon NotifyShell;
 
   private:
-    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM first, LPARAM second);
-    LRESULT Handle(UINT message, WPARAM first, LPARAM second);
+    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
+    LRESULT Handle(UINT message, WPARAM wparam, LPARAM lparam);
     void Decode(LPARAM mouse_message);
     void Resize();
     void PaintPicture() const;

@@ -69,12 +69,12 @@ class DirListTest : public ::testing::Test {
     HWND tree = nullptr;
 
   private:
-    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM first, LPARAM second) {
+    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
         const auto* const notified =
             reinterpret_cast<const DirList*>(GetWindowLongPtrW(window, GWLP_USERDATA));
         if (message == WM_NOTIFY && notified != nullptr)
-            return notified->Notify(*reinterpret_cast<const NMHDR*>(second));
-        return DefWindowProcW(window, message, first, second);
+            return notified->Notify(*reinterpret_cast<const NMHDR*>(lparam));
+        return DefWindowProcW(window, message, wparam, lparam);
     }
     HWND parent_ = nullptr;
 };
