@@ -17,7 +17,7 @@ void Grow(LONG& near_side, LONG& far_side, Growth growth, LONG by) {
 
 SIZE Anchors::ClientSize() const {
     RECT client{};
-    static_cast<void>(GetClientRect(dialog_, &client));  // fails only for a window that is gone
+    GetClientRect(dialog_, &client);
     return {client.right, client.bottom};
 }
 
@@ -26,12 +26,12 @@ void Anchors::Remember(HWND dialog, std::initializer_list<Control> controls) {
     dpi_ = DpiOf(dialog);
     least_client_ = ClientSize();
     RECT window{};
-    static_cast<void>(GetWindowRect(dialog, &window));
+    GetWindowRect(dialog, &window);
     least_window_ = {window.right - window.left, window.bottom - window.top};
     controls_.clear();
     for (const Control& control : controls) {
         RECT place{};
-        static_cast<void>(GetWindowRect(GetDlgItem(dialog, control.Id), &place));
+        GetWindowRect(GetDlgItem(dialog, control.Id), &place);
         MapWindowPoints(HWND_DESKTOP, dialog, reinterpret_cast<POINT*>(&place), 2);
         controls_.push_back({control, place});
     }
@@ -47,9 +47,9 @@ void Anchors::Place() const {
         Grow(place.left, place.right, remembered.control.Across, across);
         Grow(place.top, place.bottom, remembered.control.Down, down);
         // What a text shows can depend on its width, so nothing of the old picture is kept.
-        static_cast<void>(SetWindowPos(GetDlgItem(dialog_, remembered.control.Id), nullptr, place.left,
-                                       place.top, place.right - place.left, place.bottom - place.top,
-                                       SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS));
+        SetWindowPos(GetDlgItem(dialog_, remembered.control.Id), nullptr, place.left, place.top,
+                     place.right - place.left, place.bottom - place.top,
+                     SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
     }
 }
 

@@ -26,7 +26,7 @@ void CheckListView::Attach(HWND list) {
     });
     ListView_SetExtendedListViewStyle(list, kExtendedStyles | LVS_EX_CHECKBOXES);
     // The check marks are ours: the control asks for each row's.
-    static_cast<void>(ListView_SetCallbackMask(list, LVIS_STATEIMAGEMASK));
+    ListView_SetCallbackMask(list, LVIS_STATEIMAGEMASK);
 }
 
 void CheckListView::AddColumn(const std::wstring& caption, int width_in_pixels) {
@@ -40,7 +40,7 @@ void CheckListView::AddColumn(const std::wstring& caption, int width_in_pixels) 
 }
 
 void CheckListView::SetColumnWidth(int column, int width_in_pixels) {
-    static_cast<void>(ListView_SetColumnWidth(Handle(), column, width_in_pixels));
+    ListView_SetColumnWidth(Handle(), column, width_in_pixels);
 }
 
 void CheckListView::ScaleColumns(UINT from_dpi, UINT to_dpi) {
@@ -68,18 +68,18 @@ void CheckListView::SetRows(int count, CellText text) {
 
 void CheckListView::SetChecked(int position, bool checked) {
     checked_.at(static_cast<std::size_t>(position - 1)) = checked;
-    static_cast<void>(ListView_RedrawItems(Handle(), position - 1, position - 1));
+    ListView_RedrawItems(Handle(), position - 1, position - 1);
 }
 
 void CheckListView::SetAllChecked(bool checked) {
     checked_.assign(checked_.size(), checked);
-    static_cast<void>(ListView_RedrawItems(Handle(), 0, Count() - 1));
+    ListView_RedrawItems(Handle(), 0, Count() - 1);
     TellScreenReaders(CHILDID_SELF);
 }
 
 void CheckListView::CheckRows(std::span<const std::int16_t> positions) {
     for (const std::int16_t position : positions) checked_.at(static_cast<std::size_t>(position - 1)) = true;
-    static_cast<void>(ListView_RedrawItems(Handle(), 0, Count() - 1));
+    ListView_RedrawItems(Handle(), 0, Count() - 1);
 }
 
 // The control does not know of the check marks, so it cannot tell of their changes.
@@ -96,12 +96,12 @@ void CheckListView::Select(int position) {
     constexpr UINT kState = LVIS_SELECTED | LVIS_FOCUSED;
     ListView_SetItemState(Handle(), position - 1, kState, kState);
     // The starting point of arrow keys with Shift, and on some systems of plain ones.
-    static_cast<void>(ListView_SetSelectionMark(Handle(), position - 1));
+    ListView_SetSelectionMark(Handle(), position - 1);
     selecting_ = outer;
 }
 
 void CheckListView::EnsureVisible(int position) {
-    static_cast<void>(ListView_EnsureVisible(Handle(), position - 1, FALSE));
+    ListView_EnsureVisible(Handle(), position - 1, FALSE);
 }
 
 int CheckListView::Focused() const {

@@ -10,8 +10,7 @@ class OpenedClipboard {
   public:
     explicit OpenedClipboard(HWND owner) : open_(OpenClipboard(owner) != FALSE) {}
     ~OpenedClipboard() {
-        // Fails only when it was not open.
-        if (open_) static_cast<void>(CloseClipboard());
+        if (open_) CloseClipboard();
     }
     OpenedClipboard(const OpenedClipboard&) = delete;
     OpenedClipboard& operator=(const OpenedClipboard&) = delete;
@@ -32,7 +31,7 @@ std::wstring ClipboardText(HWND owner) {
     if (text == nullptr) return {};
     // The memory is another program's: its end need not be where the text says.
     std::wstring copy(text, wcsnlen(text, GlobalSize(data) / sizeof(wchar_t)));
-    static_cast<void>(GlobalUnlock(data));  // 0 means that nobody locks it any more
+    GlobalUnlock(data);
     return copy;
 }
 
@@ -46,18 +45,18 @@ HGLOBAL GlobalCopy(const Character* text, std::size_t length) {
     if (memory == nullptr) return nullptr;
     void* const place = GlobalLock(memory);
     if (place == nullptr) {
-        static_cast<void>(GlobalFree(memory));  // nothing else can be done with it
+        GlobalFree(memory);
         return nullptr;
     }
     std::memcpy(place, text, bytes);
-    static_cast<void>(GlobalUnlock(memory));  // 0 means that nobody locks it any more
+    GlobalUnlock(memory);
     return memory;
 }
 
 bool PutOnClipboard(UINT format, HGLOBAL memory) {
     if (memory == nullptr) return false;
     if (SetClipboardData(format, memory) != nullptr) return true;
-    static_cast<void>(GlobalFree(memory));  // still ours
+    GlobalFree(memory);  // still ours
     return false;
 }
 
@@ -68,12 +67,13 @@ void SetClipboardText(HWND owner, const std::wstring& text) {
     if (!clipboard) return;
     const std::size_t length = text.size() + 1;
     if (!PutOnClipboard(CF_UNICODETEXT, GlobalCopy(text.c_str(), length))) return;
-    // The clipboard is not emptied first (intended: a picture on it stays), so an older text in the machine's
-    // code page would stay as well.
+    // The clipboard is not emptied first, so that a picture on it stays; but then an older text in the
+    // machine's code page would stay too, and programs that read no other would paste it.
     std::string narrow(length * 4, '\0');
     const int used = WideCharToMultiByte(CP_ACP, 0, text.c_str(), static_cast<int>(length), narrow.data(),
                                          static_cast<int>(narrow.size()), nullptr, nullptr);
     if (used > 0)
+        // When it cannot be put there, most programs still find the other one.
         static_cast<void>(
             PutOnClipboard(CF_TEXT, GlobalCopy(narrow.c_str(), static_cast<std::size_t>(used))));
 }

@@ -1,6 +1,7 @@
 #include "controls/Control.h"
 
 #include <algorithm>
+#include <new>
 
 namespace lindrel {
 
@@ -33,22 +34,20 @@ std::wstring WithoutAccessKeys(std::wstring_view text) {
     return doubled;
 }
 
-// The results of the calls below say only that the window is gone, which no caller could mend.
-
 void Control::SetText(std::wstring_view text) const {
-    static_cast<void>(SetWindowTextW(handle_, std::wstring(text).c_str()));
+    SetWindowTextW(handle_, std::wstring(text).c_str());
 }
 
 void Control::Enable(bool enabled) const {
-    static_cast<void>(EnableWindow(handle_, enabled));
+    EnableWindow(handle_, enabled);
 }
 
 void Control::Show(bool shown) const {
-    static_cast<void>(ShowWindow(handle_, shown ? SW_SHOW : SW_HIDE));
+    ShowWindow(handle_, shown ? SW_SHOW : SW_HIDE);
 }
 
 void Control::SetFocus() const {
-    static_cast<void>(::SetFocus(handle_));
+    ::SetFocus(handle_);
 }
 
 void TextBox::Select(int start, int length) const {
@@ -108,8 +107,8 @@ void ComboBox::WidenList() const {
         static_cast<void>(GetTextExtentPoint32W(screen, text.c_str(), static_cast<int>(text.size()), &size));
         widest = std::max(widest, size.cx);
     }
-    static_cast<void>(SelectObject(screen, before));
-    static_cast<void>(ReleaseDC(Handle(), screen));
+    SelectObject(screen, before);
+    ReleaseDC(Handle(), screen);
     const int edges = GetSystemMetrics(SM_CXVSCROLL) + 4 * GetSystemMetrics(SM_CXEDGE);
     Send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(widest) + static_cast<WPARAM>(edges));
 }
@@ -123,7 +122,7 @@ void TabStrip::Add(std::wstring_view caption) const {
     TCITEMW item{};
     item.mask = TCIF_TEXT;
     item.pszText = text.data();
-    static_cast<void>(TabCtrl_InsertItem(Handle(), Count(), &item));
+    if (TabCtrl_InsertItem(Handle(), Count(), &item) == -1) throw std::bad_alloc();
 }
 
 void TabStrip::SetCaption(int position, std::wstring_view caption) const {
@@ -131,7 +130,7 @@ void TabStrip::SetCaption(int position, std::wstring_view caption) const {
     TCITEMW item{};
     item.mask = TCIF_TEXT;
     item.pszText = text.data();
-    static_cast<void>(TabCtrl_SetItem(Handle(), position - 1, &item));
+    TabCtrl_SetItem(Handle(), position - 1, &item);
 }
 
 std::wstring TabStrip::Caption(int position) const {
@@ -152,7 +151,7 @@ int TabStrip::Selected() const {
 }
 
 void TabStrip::Select(int position) const {
-    static_cast<void>(TabCtrl_SetCurSel(Handle(), position - 1));
+    TabCtrl_SetCurSel(Handle(), position - 1);
 }
 
 void StatusBar::SetPanel(int panel, std::wstring_view text) const {

@@ -90,7 +90,7 @@ class DisabledOwner {
 }  // namespace
 
 Dialog::~Dialog() {
-    if (handle_ != nullptr) static_cast<void>(DestroyWindow(handle_));
+    if (handle_ != nullptr) DestroyWindow(handle_);
 }
 
 void Dialog::ShowModal(HWND owner) {
@@ -101,12 +101,11 @@ void Dialog::ShowModal(HWND owner) {
         Form_Unload();
     } catch (...) {
         disabled.GiveBack();
-        if (handle_ != nullptr) static_cast<void>(DestroyWindow(handle_));
+        if (handle_ != nullptr) DestroyWindow(handle_);
         throw;
     }
     disabled.GiveBack();
-    // Fails only when it is gone already.
-    static_cast<void>(DestroyWindow(handle_));
+    DestroyWindow(handle_);
 }
 
 void Dialog::Create(HWND owner) {

@@ -31,7 +31,7 @@ class WithoutDiskBoxes {
   public:
     WithoutDiskBoxes() : changed_(SetThreadErrorMode(SEM_FAILCRITICALERRORS, &before_) != FALSE) {}
     ~WithoutDiskBoxes() {
-        if (changed_) static_cast<void>(SetThreadErrorMode(before_, nullptr));
+        if (changed_) SetThreadErrorMode(before_, nullptr);
     }
     WithoutDiskBoxes(const WithoutDiskBoxes&) = delete;
     WithoutDiskBoxes& operator=(const WithoutDiskBoxes&) = delete;
@@ -108,11 +108,11 @@ void DirList::Attach(HWND tree) {
     closed_picture_ = FolderPicture(false);
     open_picture_ = FolderPicture(true);
     // The system's own list, which the control never frees.
-    static_cast<void>(TreeView_SetImageList(tree, SystemPictures(), TVSIL_NORMAL));
+    TreeView_SetImageList(tree, SystemPictures(), TVSIL_NORMAL);
     const DWORD drives = GetLogicalDrives();
     for (int drive = 0; drive < 26; ++drive)
         if ((drives >> drive & 1) != 0)
-            static_cast<void>(Add(TVI_ROOT, {static_cast<wchar_t>(L'A' + drive), L':', L'\\'}, TVI_LAST));
+            Add(TVI_ROOT, {static_cast<wchar_t>(L'A' + drive), L':', L'\\'}, TVI_LAST);
 }
 
 HTREEITEM DirList::Add(HTREEITEM parent, const std::wstring& name, HTREEITEM place) const {
@@ -139,11 +139,11 @@ void DirList::FillFolder(HTREEITEM folder) const {
     item.hItem = folder;
     if (!TreeView_GetItem(Handle(), &item) || item.lParam == kFilled) return;
     const std::vector<std::wstring> names = FoldersIn(PathOf(folder));
-    for (const std::wstring& name : names) static_cast<void>(Add(folder, name, TVI_LAST));
+    for (const std::wstring& name : names) Add(folder, name, TVI_LAST);
     item.mask = TVIF_PARAM | TVIF_CHILDREN;
     item.lParam = kFilled;
     item.cChildren = names.empty() ? 0 : 1;
-    static_cast<void>(TreeView_SetItem(Handle(), &item));  // a plus sign too many does no harm
+    TreeView_SetItem(Handle(), &item);
 }
 
 std::wstring DirList::NameOf(HTREEITEM item) const {
@@ -181,7 +181,7 @@ HTREEITEM DirList::Reach(HTREEITEM parent, const std::wstring& name, const std::
         opener.mask = TVIF_CHILDREN;
         opener.hItem = parent;
         opener.cChildren = 1;
-        if (parent != TVI_ROOT) static_cast<void>(TreeView_SetItem(Handle(), &opener));
+        if (parent != TVI_ROOT) TreeView_SetItem(Handle(), &opener);
     }
     return item;
 }
@@ -207,10 +207,9 @@ void DirList::SetPath(const std::wstring& path) const {
     }
     if (reached == nullptr) reached = TreeView_GetRoot(Handle());
     FillFolder(reached);
-    static_cast<void>(TreeView_SelectItem(Handle(), reached));
-    static_cast<void>(
-        TreeView_Expand(Handle(), reached, TVE_EXPAND));  // fails where there is nothing to open
-    static_cast<void>(TreeView_EnsureVisible(Handle(), reached));
+    TreeView_SelectItem(Handle(), reached);
+    TreeView_Expand(Handle(), reached, TVE_EXPAND);
+    TreeView_EnsureVisible(Handle(), reached);
 }
 
 LRESULT DirList::Notify(const NMHDR& header) const {

@@ -39,8 +39,7 @@ void CentreOnOwner(HWND window, HWND owner) {
     const RECT& work = monitor.rcWork;
     const int left = placed((around.left + around.right) / 2, width, work.left, work.right);
     const int top = placed((around.top + around.bottom) / 2, height, work.top, work.bottom);
-    static_cast<void>(
-        SetWindowPos(window, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE));
+    SetWindowPos(window, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 }  // namespace lindrel

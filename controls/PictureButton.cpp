@@ -11,19 +11,18 @@ void PictureButton::Attach(HWND button) {
 void PictureButton::SetPicture(int icon_id, int size) {
     picture_ = Picture(GetModuleHandleW(nullptr), icon_id, size);
     size_ = size;
-    static_cast<void>(InvalidateRect(Handle(), nullptr, TRUE));
+    InvalidateRect(Handle(), nullptr, TRUE);
 }
 
 void PictureButton::Draw(const DRAWITEMSTRUCT& item) const {
     RECT place = item.rcItem;
-    static_cast<void>(FillRect(item.hDC, &place, GetSysColorBrush(COLOR_BTNFACE)));
+    FillRect(item.hDC, &place, GetSysColorBrush(COLOR_BTNFACE));
     const int left = (place.left + place.right - size_) / 2;
     const int top = (place.top + place.bottom - size_) / 2;
     if (picture_.Handle() != nullptr)
-        static_cast<void>(
-            DrawIconEx(item.hDC, left, top, picture_.Handle(), size_, size_, 0, nullptr, DI_NORMAL));
+        DrawIconEx(item.hDC, left, top, picture_.Handle(), size_, size_, 0, nullptr, DI_NORMAL);
     const bool show_focus = (item.itemState & ODS_FOCUS) != 0 && (item.itemState & ODS_NOFOCUSRECT) == 0;
-    if (show_focus) static_cast<void>(DrawFocusRect(item.hDC, &place));
+    if (show_focus) DrawFocusRect(item.hDC, &place);
 }
 
 void PictureButton::ShowBorder(bool shown) const {
@@ -31,10 +30,9 @@ void PictureButton::ShowBorder(bool shown) const {
     const LONG_PTR wanted = shown ? style | WS_BORDER : style & ~static_cast<LONG_PTR>(WS_BORDER);
     if (wanted == style) return;
     SetWindowLongPtrW(Handle(), GWL_STYLE, wanted);
-    static_cast<void>(
-        SetWindowPos(Handle(), nullptr, 0, 0, 0, 0,
-                     SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED));
-    static_cast<void>(InvalidateRect(Handle(), nullptr, TRUE));
+    SetWindowPos(Handle(), nullptr, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+    InvalidateRect(Handle(), nullptr, TRUE);
 }
 
 std::optional<LRESULT> PictureButton::OnMessage(UINT message, LPARAM lparam) {

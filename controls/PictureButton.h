@@ -22,7 +22,7 @@ class PictureButton : public Control {
 
   private:
     std::optional<LRESULT> OnMessage(UINT message, LPARAM lparam);
-    // A single-line border while the mouse holds it is all that pressing the button shows (intended).
+    // The picture looks the same pressed or not; only the border tells that the mouse holds the button.
     void MouseDown() const { ShowBorder(true); }
     void MouseUp() const { ShowBorder(false); }
     void ShowBorder(bool shown) const;

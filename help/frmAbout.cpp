@@ -33,7 +33,7 @@ frmAbout::frmAbout() : Dialog(IDD_frmAbout) {}
 
 void frmAbout::Form_Load() {
     const std::wstring title = kApplicationTitle;
-    static_cast<void>(SetWindowTextW(Handle(), (title + L" névjegye").c_str()));
+    SetWindowTextW(Handle(), (title + L" névjegye").c_str());
     Get<Control>(ID_frmAbout_lblTitle).SetText(title);
     Get<Control>(ID_frmAbout_lblVersion)
         .SetText(VersionLine(LINDREL_VERSION_MAJOR, LINDREL_VERSION_MINOR, LINDREL_VERSION_REVISION));

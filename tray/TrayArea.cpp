@@ -49,7 +49,7 @@ TrayArea::ShellNotifyIcon TrayArea::NotifyShell = &Shell_NotifyIconA;
 
 TrayArea::~TrayArea() {
     // Already gone when the owner was closed.
-    if (handle_ != nullptr) static_cast<void>(DestroyWindow(handle_));
+    if (handle_ != nullptr) DestroyWindow(handle_);
 }
 
 void TrayArea::Place(HWND owner, Environment environment) {
@@ -146,8 +146,7 @@ SIZE TrayArea::PictureSize() const {
 void TrayArea::Resize() {
     const SIZE size = PictureSize();
     resizing_ = true;
-    static_cast<void>(
-        SetWindowPos(handle_, nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE));
+    SetWindowPos(handle_, nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     resizing_ = false;
 }
 
@@ -156,9 +155,9 @@ void TrayArea::PaintPicture() const {
     const HDC canvas = BeginPaint(handle_, &paint);
     if (canvas == nullptr) return;
     const SIZE size = PictureSize();
-    static_cast<void>(DrawIconEx(canvas, 0, 0, LoadIconW(nullptr, IDI_APPLICATION), size.cx, size.cy, 0,
-                                 GetSysColorBrush(COLOR_BTNFACE), DI_NORMAL));
-    static_cast<void>(EndPaint(handle_, &paint));  // never fails
+    DrawIconEx(canvas, 0, 0, LoadIconW(nullptr, IDI_APPLICATION), size.cx, size.cy, 0,
+               GetSysColorBrush(COLOR_BTNFACE), DI_NORMAL);
+    EndPaint(handle_, &paint);
 }
 
 void TrayArea::SetIcon(Picture New_Icon) {
@@ -168,6 +167,7 @@ void TrayArea::SetIcon(Picture New_Icon) {
     } else if (properties_.Visible) {
         record_.uFlags = NIF_ICON;
         record_.hIcon = *New_Icon;
+        // When the shell refuses, the icon that it shows stays.
         static_cast<void>(Tell(NIM_MODIFY));
     }
     Announce(L"Icon");
@@ -177,7 +177,7 @@ void TrayArea::SetToolTip(std::wstring_view New_ToolTip) {
     properties_.ToolTip = Trim(New_ToolTip);
     record_.uFlags = NIF_TIP;
     PutToolTip();
-    // Shown or not (intended): when it is not, the call has no effect.
+    // Told also while the icon is hidden; the shell refuses then, and nothing happens.
     static_cast<void>(Tell(NIM_MODIFY));
     Announce(L"ToolTip");
 }
@@ -210,6 +210,7 @@ void TrayArea::AddIcon() {
 }
 
 void TrayArea::RemoveIcon() {
+    // Refused when the shell has no such icon; then it is gone already.
     static_cast<void>(Tell(NIM_DELETE));
     added_ = taken_ = false;
 }

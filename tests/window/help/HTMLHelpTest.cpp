@@ -48,7 +48,8 @@ class HTMLHelpTest : public ::testing::Test {
         return std::filesystem::path(program).replace_filename(L"lnd.chm").wstring();
     }
     static void RemoveHelpFile() {
-        static_cast<void>(DeleteFileW(InProgramFolder().c_str()));  // usually there is none
+        // Usually there is neither.
+        static_cast<void>(DeleteFileW(InProgramFolder().c_str()));
         static_cast<void>(RemoveDirectoryW(InProgramFolder().c_str()));
     }
     static void PutHelpFile() {
