@@ -119,10 +119,6 @@ void CheckListView::ShowGridLines(bool shown) {
     ListView_SetExtendedListViewStyleEx(Handle(), LVS_EX_GRIDLINES, shown ? LVS_EX_GRIDLINES : 0);
 }
 
-bool CheckListView::HasGridLines() const {
-    return (ListView_GetExtendedListViewStyle(Handle()) & LVS_EX_GRIDLINES) != 0;
-}
-
 LRESULT CheckListView::Notify(const NMHDR& header) {
     switch (header.code) {
         case LVN_GETDISPINFOW:
@@ -147,9 +143,6 @@ LRESULT CheckListView::Notify(const NMHDR& header) {
             return 0;
         case NM_DBLCLK:
             if (reinterpret_cast<const NMITEMACTIVATE&>(header).iItem >= 0 && DoubleClick) DoubleClick();
-            return 0;
-        case LVN_KEYDOWN:
-            if (KeyDown) KeyDown(reinterpret_cast<const NMLVKEYDOWN&>(header).wVKey);
             return 0;
         default:
             return 0;

@@ -35,7 +35,6 @@ class CheckListView : public Control {
     // Shows `count` rows, none checked, none selected, scrolled to the first.
     void SetRows(int count, CellText text);
     int Count() const { return static_cast<int>(checked_.size()); }
-    std::wstring CellTextAt(int position, int column) const { return text_(position, column); }
 
     bool IsChecked(int position) const { return checked_.at(static_cast<std::size_t>(position - 1)); }
     // By the program: raises no ItemCheck.
@@ -56,14 +55,12 @@ class CheckListView : public Control {
     void Focus(int position);
 
     void ShowGridLines(bool shown);
-    bool HasGridLines() const;
 
     // What the user does.
     std::function<void()> ItemClick;              // a row was selected or clicked, by mouse or keys
     std::function<void(int position)> ItemCheck;  // a check box was toggled, by mouse or space bar
     std::function<void()> ColumnClick;
-    std::function<void()> DoubleClick;     // on a row
-    std::function<void(int key)> KeyDown;  // a virtual key code
+    std::function<void()> DoubleClick;  // on a row
 
     LRESULT Notify(const NMHDR& header);
 

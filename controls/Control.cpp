@@ -7,13 +7,11 @@ namespace lindrel {
 
 namespace {
 
-std::wstring ItemText(HWND window, UINT length_message, UINT text_message, WPARAM item) {
-    const LRESULT length = SendMessageW(window, length_message, item, 0);
-    if (length <= 0) return {};
-    std::wstring text(static_cast<std::size_t>(length) + 1, L'\0');
-    const LRESULT copied = SendMessageW(window, text_message, item, reinterpret_cast<LPARAM>(text.data()));
-    text.resize(static_cast<std::size_t>(std::max<LRESULT>(copied, 0)));
-    return text;
+// "&" doubled: a single one would mark an access key.
+std::wstring WithoutAccessKeys(std::wstring_view text) {
+    std::wstring doubled;
+    for (const wchar_t character : text) doubled.append(character == L'&' ? 2 : 1, character);
+    return doubled;
 }
 
 }  // namespace
@@ -26,12 +24,6 @@ std::wstring TextOf(HWND window) {
                                         reinterpret_cast<LPARAM>(text.data()));
     text.resize(static_cast<std::size_t>(std::max<LRESULT>(copied, 0)));
     return text;
-}
-
-std::wstring WithoutAccessKeys(std::wstring_view text) {
-    std::wstring doubled;
-    for (const wchar_t character : text) doubled.append(character == L'&' ? 2 : 1, character);
-    return doubled;
 }
 
 void Control::SetText(std::wstring_view text) const {
@@ -78,16 +70,18 @@ void ComboBox::Add(std::wstring_view text) const {
     if (Send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(terminated.c_str())) < 0) throw std::bad_alloc();
 }
 
-void ComboBox::Clear() const {
-    Send(CB_RESETCONTENT);
-}
-
 void ComboBox::Select(int index) const {
     Send(CB_SETCURSEL, static_cast<WPARAM>(index));
 }
 
 std::wstring ComboBox::Item(int index) const {
-    return ItemText(Handle(), CB_GETLBTEXTLEN, CB_GETLBTEXT, static_cast<WPARAM>(index));
+    const auto item = static_cast<WPARAM>(index);
+    const LRESULT length = Send(CB_GETLBTEXTLEN, item);
+    if (length <= 0) return {};
+    std::wstring text(static_cast<std::size_t>(length) + 1, L'\0');
+    const LRESULT copied = Send(CB_GETLBTEXT, item, reinterpret_cast<LPARAM>(text.data()));
+    text.resize(static_cast<std::size_t>(std::max<LRESULT>(copied, 0)));
+    return text;
 }
 
 void ListBox::Add(std::wstring_view text) const {
@@ -113,16 +107,12 @@ void ComboBox::WidenList() const {
     Send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(widest) + static_cast<WPARAM>(edges));
 }
 
-int TabStrip::Count() const {
-    return TabCtrl_GetItemCount(Handle());
-}
-
 void TabStrip::Add(std::wstring_view caption) const {
     std::wstring text = WithoutAccessKeys(caption);
     TCITEMW item{};
     item.mask = TCIF_TEXT;
     item.pszText = text.data();
-    if (TabCtrl_InsertItem(Handle(), Count(), &item) == -1) throw std::bad_alloc();
+    if (TabCtrl_InsertItem(Handle(), TabCtrl_GetItemCount(Handle()), &item) == -1) throw std::bad_alloc();
 }
 
 void TabStrip::SetCaption(int position, std::wstring_view caption) const {
@@ -131,19 +121,6 @@ void TabStrip::SetCaption(int position, std::wstring_view caption) const {
     item.mask = TCIF_TEXT;
     item.pszText = text.data();
     TabCtrl_SetItem(Handle(), position - 1, &item);
-}
-
-std::wstring TabStrip::Caption(int position) const {
-    std::wstring text(32768, L'\0');
-    TCITEMW item{};
-    item.mask = TCIF_TEXT;
-    item.pszText = text.data();
-    item.cchTextMax = static_cast<int>(text.size());
-    if (!TabCtrl_GetItem(Handle(), position - 1, &item)) return {};
-    text.assign(item.pszText);
-    for (auto at = text.find(L"&&"); at != std::wstring::npos; at = text.find(L"&&", at + 1))
-        text.erase(at, 1);
-    return text;
 }
 
 int TabStrip::Selected() const {
@@ -156,15 +133,6 @@ void TabStrip::Select(int position) const {
 
 void StatusBar::SetPanel(int panel, std::wstring_view text) const {
     Send(SB_SETTEXTW, static_cast<WPARAM>(panel - 1), reinterpret_cast<LPARAM>(std::wstring(text).c_str()));
-}
-
-std::wstring StatusBar::Panel(int panel) const {
-    const auto item = static_cast<WPARAM>(panel - 1);
-    const auto length = static_cast<std::size_t>(LOWORD(Send(SB_GETTEXTLENGTHW, item)));
-    std::wstring text(length + 1, L'\0');
-    Send(SB_GETTEXTW, item, reinterpret_cast<LPARAM>(text.data()));
-    text.resize(length);
-    return text;
 }
 
 void StatusBar::SetPanels(const std::vector<int>& right_edges) const {

@@ -12,9 +12,6 @@ namespace lindrel {
 // The text of a window of any length. Reads a control of another process' thread as well.
 std::wstring TextOf(HWND window);
 
-// "&" doubled, for places where a single one would mark an access key.
-std::wstring WithoutAccessKeys(std::wstring_view text);
-
 class Control {
   public:
     Control() = default;
@@ -24,7 +21,6 @@ class Control {
     std::wstring Text() const { return TextOf(handle_); }
     void SetText(std::wstring_view text) const;
     bool IsEmpty() const { return GetWindowTextLengthW(handle_) == 0; }
-    bool IsEnabled() const { return IsWindowEnabled(handle_) != FALSE; }
     void Enable(bool enabled) const;
     void Show(bool shown) const;
     void SetFocus() const;
@@ -67,7 +63,6 @@ class ComboBox : public Control {
     using Control::Control;
 
     void Add(std::wstring_view text) const;
-    void Clear() const;
     int Count() const { return static_cast<int>(Send(CB_GETCOUNT)); }
     // 0-based; -1 when nothing is selected.
     int Selected() const { return static_cast<int>(Send(CB_GETCURSEL)); }
@@ -92,10 +87,8 @@ class TabStrip : public Control {
     using Control::Control;
 
     // All positions are 1-based.
-    int Count() const;
     void Add(std::wstring_view caption) const;
     void SetCaption(int position, std::wstring_view caption) const;
-    std::wstring Caption(int position) const;
     int Selected() const;
     // Selects without raising the click.
     void Select(int position) const;
@@ -107,7 +100,6 @@ class StatusBar : public Control {
 
     // 1-based panels.
     void SetPanel(int panel, std::wstring_view text) const;
-    std::wstring Panel(int panel) const;
     // Right edges of the panels in pixels; -1 reaches to the end.
     void SetPanels(const std::vector<int>& right_edges) const;
 };

@@ -27,12 +27,4 @@ void ToolTips::Set(HWND window, HWND control, const std::wstring& text) {
     SendMessageW(tips_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
-std::wstring ToolTips::Of(HWND window, HWND control) const {
-    wchar_t text[256] = L"";
-    TTTOOLINFOW tool = ToolOf(window, control);
-    tool.lpszText = text;
-    SendMessageW(tips_, TTM_GETTEXTW, 256, reinterpret_cast<LPARAM>(&tool));
-    return text;
-}
-
 }  // namespace lindrel

@@ -12,8 +12,6 @@ class ToolTips {
     // Sets the text of a control of a window, also anew. The texts go with the window. Without the system's
     // help there are just none: a tip never holds up the program.
     void Set(HWND window, HWND control, const std::wstring& text);
-    // The text that a control has; empty for none.
-    std::wstring Of(HWND window, HWND control) const;
 
   private:
     HWND tips_ = nullptr;

@@ -69,9 +69,7 @@ class frmStartCommandsTest : public ::testing::Test {
     bool IsMarked(int id) const {
         return (GetMenuState(GetMenu(program.Main()), static_cast<UINT>(id), MF_BYCOMMAND) & MF_CHECKED) != 0;
     }
-    bool HasGridLines() const {
-        return (ListView_GetExtendedListViewStyle(program.List().Handle()) & LVS_EX_GRIDLINES) != 0;
-    }
+    bool HasGridLines() const { return program.List().HasGridLines(); }
     void PressShortcut(const Shortcut& shortcut) const {
         const auto hold = [&](bool down) {
             program.OnUi([&](frmStart&) {

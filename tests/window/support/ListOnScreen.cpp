@@ -50,6 +50,10 @@ int ListOnScreen::Selected() const {
     return ListView_GetNextItem(list_, -1, LVNI_SELECTED) + 1;
 }
 
+bool ListOnScreen::HasGridLines() const {
+    return (ListView_GetExtendedListViewStyle(list_) & LVS_EX_GRIDLINES) != 0;
+}
+
 LPARAM ListOnScreen::PointOnText(int row) const {
     ListView_EnsureVisible(list_, row - 1, FALSE);
     RECT place{};

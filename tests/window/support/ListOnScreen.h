@@ -22,6 +22,7 @@ class ListOnScreen {
     std::vector<int> Checked() const;
     // 0 for none.
     int Selected() const;
+    bool HasGridLines() const;
 
     // Mouse clicks on a row's text or its check box, scrolled into view. They return at once; settle the
     // program.

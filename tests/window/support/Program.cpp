@@ -13,6 +13,7 @@
 #include "book/BookText.h"
 #include "book/Files.h"
 #include "resources/resource.h"
+#include "tests/window/support/ControlsOnScreen.h"
 #include "tests/window/support/Text.h"
 
 namespace lindrel::testing {
@@ -160,15 +161,14 @@ MainState Program::State() const {
     MainState state;
     OnUi([&](frmStart& form) {
         state.Title = TextOf(form.Handle());
-        const TabStrip tabs(Control(ID_frmStart_TabStrip1));
-        for (int k = 1; k <= tabs.Count(); ++k) state.Tabs.push_back(tabs.Caption(k));
-        state.SelectedTab = tabs.Selected();
+        state.Tabs = TabCaptions(Control(ID_frmStart_TabStrip1));
+        state.SelectedTab = TabStrip(Control(ID_frmStart_TabStrip1)).Selected();
         const ListOnScreen list = List();
         state.Rows = list.Rows();
         state.Checked = list.Checked();
         state.SelectedRow = list.Selected();
-        const StatusBar status(Control(ID_frmStart_StatusBar1));
-        for (int panel = 1; panel <= 3; ++panel) state.Status[panel - 1] = status.Panel(panel);
+        for (int panel = 1; panel <= 3; ++panel)
+            state.Status[panel - 1] = PanelText(Control(ID_frmStart_StatusBar1), panel);
         state.txtSite = TextOf(Control(ID_frmStart_txtSite));
         state.txtURL = TextOf(Control(ID_frmStart_txtURL));
         state.OpenedFile = form.OpenedBook().OpenedFile;
