@@ -1,6 +1,7 @@
 #include "help/HTMLHelp.h"
 
 #include "controls/Shell.h"
+#include "controls/Windows.h"
 
 namespace lindrel {
 
@@ -8,20 +9,16 @@ namespace {
 
 constexpr UINT kDisplayContents = 1;  // HH_DISPLAY_TOC
 
-// The viewer is looked up when help is first wanted, so that the program also starts where it is not
+// `file` is a path and, after ">", a window type; `command` is one of the viewer's HH_ commands.
+using HelpViewer = HWND(WINAPI*)(HWND owner, const wchar_t* file, UINT command, DWORD_PTR data);
+
+// The viewer is looked up when help is wanted, so that the program also starts where it is not
 // installed. It is never unloaded: its windows may still be open.
 HelpViewer InstalledViewer() {
     const HMODULE library = LoadLibraryExW(L"hhctrl.ocx", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
     if (library == nullptr) return nullptr;
     return reinterpret_cast<HelpViewer>(reinterpret_cast<void*>(GetProcAddress(library, "HtmlHelpW")));
 }
-
-HWND WINAPI ShowInInstalledViewer(HWND owner, const wchar_t* file, UINT command, DWORD_PTR data) {
-    static const HelpViewer viewer = InstalledViewer();
-    return viewer != nullptr ? viewer(owner, file, command, data) : nullptr;
-}
-
-HelpViewer the_viewer = &ShowInInstalledViewer;
 
 }  // namespace
 
@@ -30,15 +27,11 @@ std::wstring HelpFilePath(std::int16_t kind) {
 }
 
 void ShowHelp(std::int16_t kind, const std::wstring& window) {
+    const HelpViewer viewer = InstalledViewer();
+    if (viewer == nullptr) return;
     const std::wstring file = HelpFilePath(kind) + L">" + window;
     // The result, the viewer's window, is of no use here; failures are the viewer's to report.
-    static_cast<void>(the_viewer(nullptr, file.c_str(), kDisplayContents, 0));
-}
-
-HelpViewer ExchangeHelpViewer(HelpViewer viewer) {
-    const HelpViewer before = the_viewer;
-    the_viewer = viewer;
-    return before;
+    static_cast<void>(viewer(nullptr, file.c_str(), kDisplayContents, 0));
 }
 
 }  // namespace lindrel

@@ -4,8 +4,6 @@
 #include <cstdint>
 #include <string>
 
-#include "controls/Windows.h"
-
 namespace lindrel {
 
 // Full path of the help file of a kind, whether or not it is there: kind 1 is lnd.chm in the program's
@@ -16,12 +14,5 @@ std::wstring HelpFilePath(std::int16_t kind);
 // viewer is a window of its own that stays open beside the program's. Nothing is shown, and nothing is
 // reported, when the viewer or the file cannot be opened.
 void ShowHelp(std::int16_t kind, const std::wstring& window);
-
-// What shows a help file: the system's viewer, or whatever a test has put in its place. `file` is a path and,
-// after ">", a window type; `command` is one of the viewer's HH_ commands.
-using HelpViewer = HWND(WINAPI*)(HWND owner, const wchar_t* file, UINT command, DWORD_PTR data);
-
-// Puts another viewer in place and returns the one before. Only while no help is being shown.
-HelpViewer ExchangeHelpViewer(HelpViewer viewer);
 
 }  // namespace lindrel

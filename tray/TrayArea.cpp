@@ -45,8 +45,6 @@ std::string ShellText(std::wstring_view text) {
 
 }  // namespace
 
-TrayArea::ShellNotifyIcon TrayArea::NotifyShell = &Shell_NotifyIconA;
-
 TrayArea::~TrayArea() {
     // Already gone when the owner was closed.
     if (handle_ != nullptr) DestroyWindow(handle_);
@@ -217,7 +215,7 @@ void TrayArea::RemoveIcon() {
 
 // False when the shell is not there or knows no such icon; the user then sees none.
 bool TrayArea::Tell(DWORD operation) {
-    return NotifyShell(operation, &record_) != FALSE;
+    return Shell_NotifyIconA(operation, &record_) != FALSE;
 }
 
 void TrayArea::PutToolTip() {

@@ -71,10 +71,6 @@ class TrayArea {
     std::function<void(std::int16_t& Button)> MouseUp;
     std::function<void()> DblClick;
 
-    // The shell's operation (NIM_ADD, NIM_MODIFY, NIM_DELETE), the one way of all controls to it.
-    using ShellNotifyIcon = BOOL(WINAPI*)(DWORD operation, NOTIFYICONDATAA* record);
-    static ShellNotifyIcon NotifyShell;
-
   private:
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
     LRESULT Handle(UINT message, WPARAM wparam, LPARAM lparam);

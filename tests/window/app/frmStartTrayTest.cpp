@@ -6,6 +6,7 @@
 
 #include "resources/resource.h"
 #include "tests/window/support/Program.h"
+#include "tests/window/support/ReplacedImport.h"
 
 namespace lindrel::testing {
 namespace {
@@ -40,11 +41,10 @@ class RecordingShell {
     RecordingShell() {
         calls.clear();
         refusing = icon_is_there = false;
-        TrayArea::NotifyShell = &Record;
     }
-    ~RecordingShell() { TrayArea::NotifyShell = &Shell_NotifyIconA; }
-    RecordingShell(const RecordingShell&) = delete;
-    RecordingShell& operator=(const RecordingShell&) = delete;
+
+  private:
+    ReplacedImport shell_{&Shell_NotifyIconA, &Record};
 };
 
 class frmStartTrayTest : public ::testing::Test {

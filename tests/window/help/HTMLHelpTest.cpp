@@ -5,11 +5,14 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <optional>
 #include <ostream>
+#include <string_view>
 
 #include "resources/resource.h"
 #include "tests/window/support/Program.h"
 #include "tests/window/support/RecordedShell.h"
+#include "tests/window/support/ReplacedImport.h"
 
 namespace lindrel::testing {
 namespace {
@@ -32,13 +35,11 @@ class HTMLHelpTest : public ::testing::Test {
   protected:
     HTMLHelpTest() {
         calls.clear();
-        before_ = ExchangeHelpViewer(&Record);
+        system_look_up = &GetProcAddress;
+        look_up_.emplace(&GetProcAddress, &LookUp);
         RemoveHelpFile();
     }
-    ~HTMLHelpTest() override {
-        ExchangeHelpViewer(before_);
-        RemoveHelpFile();
-    }
+    ~HTMLHelpTest() override { RemoveHelpFile(); }
 
     // Found without the help of what is tested.
     static std::wstring InProgramFolder() {
@@ -80,7 +81,14 @@ class HTMLHelpTest : public ::testing::Test {
         calls.push_back({owner, file, command, data});
         return nullptr;
     }
-    HelpViewer before_;
+    // The look-up of functions in libraries finds Record in the viewer's place.
+    static FARPROC WINAPI LookUp(HMODULE library, const char* name) {
+        if (!IS_INTRESOURCE(name) && std::string_view(name) == "HtmlHelpW")
+            return reinterpret_cast<FARPROC>(reinterpret_cast<void*>(&Record));
+        return system_look_up(library, name);
+    }
+    static inline FARPROC(WINAPI* system_look_up)(HMODULE library, const char* name);
+    std::optional<ReplacedImport> look_up_;
 };
 
 TEST_F(HTMLHelpTest, TheHelpFileOfKindOneLiesBesideTheProgram) {

@@ -16,6 +16,7 @@
 
 #include "controls/PendingFault.h"
 #include "tests/window/support/Polling.h"
+#include "tests/window/support/ReplacedImport.h"
 
 namespace lindrel::testing {
 namespace {
@@ -77,16 +78,13 @@ class TrayAreaTest : public ::testing::Test {
     static constexpr DWORD kSize = sizeof(void*) == 4 ? 88 : 104;
 
     TrayAreaTest() {
-        TrayArea::NotifyShell = &Record;
         calls.clear();
         control->PropertyChanged = [this](const wchar_t* name) { changed.emplace_back(name); };
         control->Place(owner.Handle());
         window = control->Handle();
     }
-    ~TrayAreaTest() override {
-        control.reset();
-        TrayArea::NotifyShell = &Shell_NotifyIconA;
-    }
+    // Nobody writes down what it is told any more.
+    void UseTheRealShell() { recorded_.reset(); }
 
     static std::string Padded(const std::string& tip) {
         const std::string field = tip + '\0';
@@ -123,6 +121,7 @@ class TrayAreaTest : public ::testing::Test {
     OwnerWindow owner;
     Texts changed;
     Texts heard;
+    std::optional<ReplacedImport> recorded_{std::in_place, &Shell_NotifyIconA, &Record};
     std::unique_ptr<TrayArea> control = std::make_unique<TrayArea>();
     HWND window = nullptr;
 };
@@ -479,7 +478,7 @@ void RealClick(POINT place, DWORD down, DWORD up) {
 }
 
 TEST_F(TrayAreaTest, TheRealIconHearsBothButtonsAndGoes) {
-    TrayArea::NotifyShell = &Shell_NotifyIconA;
+    UseTheRealShell();
     HearEverything();
     control->MouseMove = nullptr;  // as many as the pointer makes
     control->SetIcon(icon);
