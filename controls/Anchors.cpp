@@ -46,7 +46,7 @@ void Anchors::Place() const {
         RECT place = remembered.place;
         Grow(place.left, place.right, remembered.control.Across, across);
         Grow(place.top, place.bottom, remembered.control.Down, down);
-        // What a text shows can depend on its width, so nothing of the old picture is kept.
+        // A text may be drawn differently at another width, so the old pixels are not kept.
         SetWindowPos(GetDlgItem(dialog_, remembered.control.Id), nullptr, place.left, place.top,
                      place.right - place.left, place.bottom - place.top,
                      SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);

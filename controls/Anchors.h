@@ -1,5 +1,5 @@
-// Keeps the controls of a dialog that can be resized in step with it. The template is the dialog at its
-// smallest; what it grows beyond that goes to the controls that stretch.
+// Moves and stretches the controls of a resizable dialog as it grows. The template is the dialog at its
+// smallest.
 #pragma once
 
 #include <initializer_list>
@@ -21,12 +21,12 @@ class Anchors {
         Growth Down;
     };
 
-    // Takes the places that the controls have now for those of the smallest dialog. Controls that are not
-    // named stay.
+    // Takes the current places of the controls as those in the smallest dialog. Controls that are not named
+    // stay where they are.
     void Remember(HWND dialog, std::initializer_list<Control> controls);
 
-    // To be called for WM_SIZE, WM_GETMINMAXINFO and, before the dialog manager's own handling,
-    // WM_DPICHANGED. Before Remember() they do nothing.
+    // For WM_SIZE, WM_GETMINMAXINFO and, before the dialog manager handles it, WM_DPICHANGED. They do nothing
+    // before Remember().
     void Place() const;
     void LimitSize(MINMAXINFO& info) const;
     void ChangeResolution(UINT dpi);

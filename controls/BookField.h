@@ -1,4 +1,4 @@
-// Fields of dialogs that show or change something of a book.
+// Dialog fields for what is in a book.
 #pragma once
 
 #include "book/Book.h"
@@ -7,8 +7,8 @@
 
 namespace lindrel {
 
-// Whether a book can hold the text of a text box. If not, tells which character is in the way, and puts the
-// focus in the box with that character selected.
+// Whether a book can store the text of a text box. If not, tells the user which character it cannot store,
+// and selects that character in the box.
 bool FitsBook(const Dialog& dialog, int field_id);
 
 // Fills a combo box with the names of the twelve categories and chooses one (1..12).

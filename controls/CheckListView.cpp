@@ -1,6 +1,7 @@
 #include "controls/CheckListView.h"
 
 #include <algorithm>
+#include <new>
 #include <utility>
 
 #include "book/BookText.h"
@@ -59,7 +60,7 @@ void CheckListView::SetRows(int count, CellText text) {
     checked_.assign(static_cast<std::size_t>(count), false);
     text_ = std::move(text);
     selecting_ = true;
-    // From no rows to the new ones, so that neither selection nor scroll position survives.
+    // Emptied first, so that neither selection nor scroll position survives.
     ListView_SetItemCountEx(Handle(), 0, 0);
     ListView_SetItemState(Handle(), -1, 0, LVIS_SELECTED | LVIS_FOCUSED);
     ListView_SetItemCountEx(Handle(), count, 0);
@@ -82,7 +83,7 @@ void CheckListView::CheckRows(std::span<const std::int16_t> positions) {
     ListView_RedrawItems(Handle(), 0, Count() - 1);
 }
 
-// The control does not know of the check marks, so it cannot tell of their changes.
+// The control does not know the check marks, so it cannot announce their changes.
 void CheckListView::TellScreenReaders(LONG row) const {
     NotifyWinEvent(EVENT_OBJECT_STATECHANGE, Handle(), OBJID_CLIENT, row);
 }
@@ -95,7 +96,7 @@ void CheckListView::Select(int position) {
     const bool outer = std::exchange(selecting_, true);
     constexpr UINT kState = LVIS_SELECTED | LVIS_FOCUSED;
     ListView_SetItemState(Handle(), position - 1, kState, kState);
-    // The starting point of arrow keys with Shift, and on some systems of plain ones.
+    // Where arrow keys with Shift start, and on some systems plain ones.
     ListView_SetSelectionMark(Handle(), position - 1);
     selecting_ = outer;
 }
@@ -137,7 +138,7 @@ LRESULT CheckListView::Notify(const NMHDR& header) {
             if (ColumnClick) ColumnClick();
             return 0;
         case NM_CLICK:
-            // A click on the row that is selected already changes no state, but is a click.
+            // Clicking the row that is already selected changes no state, but counts as a click.
             if (reinterpret_cast<const NMITEMACTIVATE&>(header).iItem >= 0 && Selected() != 0 && ItemClick)
                 ItemClick();
             return 0;
@@ -162,7 +163,7 @@ void CheckListView::FillCell(NMLVDISPINFOW& cell) const {
         item.state = INDEXTOSTATEIMAGEMASK(IsChecked(position) ? kCheckedImage : kUncheckedImage);
 }
 
-// Typing finds the first row from the start on, around the end, that begins with the typed letters.
+// For typing in the list: the first row from iStart on, and around the end, that begins with the letters.
 LRESULT CheckListView::FindRow(const NMLVFINDITEMW& search) const {
     if ((search.lvfi.flags & (LVFI_STRING | LVFI_PARTIAL)) == 0 || search.lvfi.psz == nullptr) return -1;
     const std::wstring letters = search.lvfi.psz;

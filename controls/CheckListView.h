@@ -1,6 +1,5 @@
-// A report list with a check box before each row. The list holds no rows of its own: it asks for the texts of
-// the rows on the screen, so that 32,767 rows cost no more than ten. The check marks are kept here. All
-// positions are 1-based.
+// A report list with a check box before each row. It stores check marks but no rows: it asks for the texts of
+// the rows on the screen, so that 32,767 rows cost no more than ten. All positions are 1-based.
 #pragma once
 
 #include <cstdint>
@@ -20,8 +19,8 @@ class CheckListView : public Control {
     // Text of a cell; column 0 or 1. Asked when a row is painted or searched by its first letters.
     using CellText = std::function<std::wstring(int position, int column)>;
 
-    // Takes over a list view control that was made with the styles kStyles. Its parent passes the WM_NOTIFY
-    // messages of the control to Notify().
+    // Wraps a list view that was made with kStyles. Its parent passes the WM_NOTIFY messages of the control
+    // to Notify(). Throws std::bad_alloc when the system cannot.
     void Attach(HWND list);
     static constexpr DWORD kStyles = LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL | LVS_SHOWSELALWAYS;
 
@@ -29,7 +28,7 @@ class CheckListView : public Control {
     void SetColumnWidth(int column, int width_in_pixels);
     // Keeps each column as wide as it was, in inches, when the resolution changes.
     void ScaleColumns(UINT from_dpi, UINT to_dpi);
-    // Draws the check boxes anew, at the resolution that the window has now.
+    // Makes new check boxes, for the resolution that the window has now.
     void RemakeCheckBoxes();
 
     // Shows `count` rows, none checked, none selected, scrolled to the first.
@@ -37,7 +36,7 @@ class CheckListView : public Control {
     int Count() const { return static_cast<int>(checked_.size()); }
 
     bool IsChecked(int position) const { return checked_.at(static_cast<std::size_t>(position - 1)); }
-    // By the program: raises no ItemCheck.
+    // Raises no ItemCheck.
     void SetChecked(int position, bool checked);
     void SetAllChecked(bool checked);
     // Checks the rows at these positions as well. Throws std::out_of_range for one that is not there.
@@ -45,13 +44,12 @@ class CheckListView : public Control {
 
     // 0 when no row is selected.
     int Selected() const;
-    // By the program: raises no ItemClick. The row has the focus rectangle too.
+    // Raises no ItemClick. The row gets the focus rectangle too.
     void Select(int position);
     void EnsureVisible(int position);
-    // The row from which the arrow keys go on, selected or not; 0 for none.
+    // The row where the arrow keys start, selected or not; 0 for none.
     int Focused() const;
-    // Gives the arrow keys their place without selecting a row. A position behind the last row means that
-    // one.
+    // Sets where the arrow keys start without selecting a row. A position past the end means the last row.
     void Focus(int position);
 
     void ShowGridLines(bool shown);
@@ -76,7 +74,7 @@ class CheckListView : public Control {
     Subclass subclass_;
     std::vector<bool> checked_;
     CellText text_;
-    bool selecting_ = false;  // a change of the selection that the program makes
+    bool selecting_ = false;  // the program itself changes the selection
 };
 
 }  // namespace lindrel

@@ -29,7 +29,7 @@ std::wstring ClipboardText(HWND owner) {
     if (data == nullptr) return {};
     const auto* const text = static_cast<const wchar_t*>(GlobalLock(data));
     if (text == nullptr) return {};
-    // The memory is another program's: its end need not be where the text says.
+    // Another program's memory: it may end before any NUL.
     std::wstring copy(text, wcsnlen(text, GlobalSize(data) / sizeof(wchar_t)));
     GlobalUnlock(data);
     return copy;
@@ -37,7 +37,7 @@ std::wstring ClipboardText(HWND owner) {
 
 namespace {
 
-// Memory that the clipboard takes over; null when there is none.
+// A copy for the clipboard to take over; null when there is no memory.
 template <typename Character>
 HGLOBAL GlobalCopy(const Character* text, std::size_t length) {
     const std::size_t bytes = length * sizeof(Character);

@@ -1,5 +1,6 @@
-// The common dialog for files. The main window owns the one that the whole program uses; whoever uses it sets
-// filter, title and file name; a BookFilterAfterwards then brings the filter of books back.
+// The system's dialogs for opening and saving files. The main window owns the object that the whole program
+// shares; whoever uses it sets filter, title and file name, and a BookFilterAfterwards then brings the filter
+// of books back.
 #pragma once
 
 #include <string>
@@ -21,9 +22,9 @@ class CommonDialog {
     std::wstring FileName;    // proposed before, chosen (full path) after
     std::wstring DefaultExt;  // appended by the save dialog when none is typed; without a dot
 
-    // Show the dialog over its owner and set FileName. Throw Fault(kDialogCancelled) when the user cancels,
-    // and Fault with the system's number when the dialog fails; FileName is then as it was. They ask nothing
-    // about existing or missing files: the program does.
+    // Show the dialog and set FileName. Throw Fault(kDialogCancelled) when the user cancels, and Fault with
+    // the system's number when the dialog fails; FileName is then as it was. They do not ask about existing
+    // or missing files; that is up to the caller.
     void ShowOpen(HWND owner);
     void ShowSave(HWND owner);
 

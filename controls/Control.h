@@ -9,7 +9,7 @@
 
 namespace lindrel {
 
-// The text of a window of any length. Reads a control of another process' thread as well.
+// The text of a window, of any length; also of another process' control.
 std::wstring TextOf(HWND window);
 
 class Control {
@@ -27,7 +27,7 @@ class Control {
     bool HasFocus() const { return GetFocus() == handle_; }
 
   protected:
-    // For wrappers that begin and end with their window.
+    // For controls that are attached to a window later, and detached when it is destroyed.
     void Wrap(HWND handle) { handle_ = handle; }
     LRESULT Send(UINT message, WPARAM wparam = 0, LPARAM lparam = 0) const {
         return SendMessageW(handle_, message, wparam, lparam);
@@ -46,7 +46,7 @@ class TextBox : public Control {
     void Select(int start, int length) const;
     void SelectAll() const { Select(0, GetWindowTextLengthW(Handle())); }
     std::wstring SelectedText() const;
-    // What stands in the box, greyed, as long as nothing is typed.
+    // The grey text that the box shows while it is empty.
     void SetHint(const std::wstring& text) const;
 };
 
@@ -68,11 +68,11 @@ class ComboBox : public Control {
     int Selected() const { return static_cast<int>(Send(CB_GETCURSEL)); }
     void Select(int index) const;
     std::wstring Item(int index) const;
-    // Makes the list that drops down as wide as its longest item, if that is wider than the box.
+    // Makes the drop-down list as wide as its longest item, and never narrower than the box.
     void WidenList() const;
 };
 
-class ListBox : public Control {  // with several lines selected at once
+class ListBox : public Control {  // with multiple selection
   public:
     using Control::Control;
 
@@ -90,7 +90,7 @@ class TabStrip : public Control {
     void Add(std::wstring_view caption) const;
     void SetCaption(int position, std::wstring_view caption) const;
     int Selected() const;
-    // Selects without raising the click.
+    // Raises no click.
     void Select(int position) const;
 };
 

@@ -37,8 +37,8 @@ const WORD* AlignedToDword(const WORD* at, const WORD* base) {
     return (at - base) % 2 == 0 ? at : at + 1;
 }
 
-// The template of the resources with the user's message font in the place of its own, so that the dialog
-// manager scales the dialog to that font.
+// The template from the resources with the user's message font instead of its own; the dialog manager scales
+// the dialog to that font.
 std::vector<WORD> TemplateInMessageFont(HINSTANCE module, int template_id) {
     const HRSRC resource = FindResourceW(module, MAKEINTRESOURCEW(template_id), RT_DIALOG);
     const HGLOBAL loaded = resource != nullptr ? LoadResource(module, resource) : nullptr;
@@ -66,7 +66,7 @@ std::vector<WORD> TemplateInMessageFont(HINSTANCE module, int template_id) {
     return changed;
 }
 
-// Takes input away from the owner for as long as the dialog is up.
+// Disables the owner while the dialog is up.
 class DisabledOwner {
   public:
     explicit DisabledOwner(HWND owner) : owner_(owner) {
@@ -127,7 +127,7 @@ void Dialog::RunModalLoop() {
         const BOOL got = GetMessageW(&message, nullptr, 0, 0);
         if (got == -1) throw std::bad_alloc();
         if (got == 0) {
-            // The program is ending: the outer loop must hear of it as well.
+            // The program is ending: the outer loop must end too.
             PostQuitMessage(static_cast<int>(message.wParam));
             return;
         }
@@ -189,7 +189,7 @@ INT_PTR Dialog::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
             return GetFocus() == before ? TRUE : FALSE;
         }
         case WM_DPICHANGED:
-            // Behind the dialog manager's own work. Where the message cannot be kept, its font stays.
+            // Posted, to come after the dialog manager's own work. If the queue is full, its font stays.
             static_cast<void>(PostMessageW(handle_, kApplyResolution, LOWORD(wparam), 0));
             return FALSE;
         case kApplyResolution:

@@ -28,9 +28,9 @@ class Dialog {
     Dialog(const Dialog&) = delete;
     Dialog& operator=(const Dialog&) = delete;
 
-    // Shows the dialog in the middle of its owner, in the user's message font, and returns when it is closed.
-    // The owner takes no input meanwhile. Throws on what a handler throws; the dialog is gone then, without
-    // Form_Unload, and the owner is usable again.
+    // Shows the dialog centred on its owner, in the user's message font, and returns when it is closed. The
+    // owner is disabled meanwhile. Throws what a handler throws, and std::bad_alloc when the system cannot;
+    // the dialog is gone then, without Form_Unload, and the owner is usable again.
     void ShowModal(HWND owner);
 
     HWND Handle() const { return handle_; }
@@ -41,8 +41,8 @@ class Dialog {
     // Before the dialog is first shown. Returning leaves the focus on the first control in the tab order
     // unless the handler has set it.
     virtual void Form_Load() {}
-    // Dresses what has a font or a picture of its own for a resolution: after Form_Load, and when the dialog
-    // has come to a screen of another one, where the dialog manager gives its font to every control.
+    // Sets fonts and pictures of the dialog's own for a resolution: after Form_Load, and when the dialog has
+    // come to a screen of another resolution, where the dialog manager has given its font to every control.
     virtual void ApplyResolution(UINT) {}
     // The dialog is about to close; its controls are still there.
     virtual void Form_Unload() {}
@@ -50,9 +50,9 @@ class Dialog {
     // EN_SETFOCUS only comes when the user moves in the dialog, not when the dialog comes to the front again.
     // The default closes the dialog for IDCANCEL (Esc and the title bar's button).
     virtual void OnCommand(int id, int event);
-    // WM_NOTIFY; the result goes back to the control.
+    // WM_NOTIFY; the result is the answer to the control.
     virtual LRESULT OnNotify(const NMHDR& header);
-    // Any other message; true when handled, `result` then goes back to the sender.
+    // Any message, before the dialog's own handling; true when done, `result` is then the answer.
     virtual bool OnMessage(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& result);
     // A key message before the dialog's own keyboard handling; true swallows it.
     virtual bool PreTranslate(const MSG& message);
@@ -66,7 +66,7 @@ class Dialog {
     Wrapper Get(int id) const {
         return Wrapper(Item(id));
     }
-    // Shows a text while the mouse rests on a control.
+    // The text shown while the mouse rests on a control.
     void SetToolTip(int id, const std::wstring& text) { tool_tips_.Set(handle_, Item(id), text); }
 
   private:

@@ -26,7 +26,7 @@ std::wstring Joined(const std::wstring& folder, const std::wstring& name) {
     return folder + (folder.ends_with(L'\\') ? L"" : L"\\") + name;
 }
 
-// An empty drive must not raise the system's box that asks for a disk.
+// Keeps the system from asking for a disk when a drive is empty.
 class WithoutDiskBoxes {
   public:
     WithoutDiskBoxes() : changed_(SetThreadErrorMode(SEM_FAILCRITICALERRORS, &before_) != FALSE) {}
@@ -94,7 +94,7 @@ HIMAGELIST SystemPictures() {
                        SHGFI_SYSICONINDEX | SHGFI_SMALLICON | SHGFI_USEFILEATTRIBUTES));
 }
 
-// How much of a path is the tree's root for it: "C:\" or "\\server\share".
+// Length of the beginning of a path that is a root of the tree: "C:" or "\\server\share".
 std::size_t RootLength(const std::wstring& path) {
     if (!path.starts_with(L"\\\\")) return std::min(path.find(L'\\'), path.size());
     const std::size_t server_end = std::min(path.find(L'\\', 2), path.size());
@@ -122,8 +122,8 @@ HTREEITEM DirList::Add(HTREEITEM parent, const std::wstring& name, HTREEITEM pla
     item.hInsertAfter = place;
     item.item.mask = TVIF_TEXT | TVIF_CHILDREN | TVIF_PARAM | TVIF_IMAGE | TVIF_SELECTEDIMAGE;
     item.item.pszText = text.data();
-    // A folder is looked into when it comes on the screen, a drive, which may be slow or empty, when it is
-    // opened.
+    // A folder is looked into when it comes on the screen; a drive, which may be slow or empty, only when it
+    // is opened.
     item.item.cChildren = parent == TVI_ROOT ? 1 : I_CHILDRENCALLBACK;
     item.item.lParam = kNotFilled;
     item.item.iImage = closed_picture_;

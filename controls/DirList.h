@@ -9,15 +9,15 @@ namespace lindrel {
 
 class DirList : public Control {
   public:
-    // Takes over a tree view control and shows the drives. Its parent passes the WM_NOTIFY messages of the
-    // control to Notify().
+    // Wraps a tree view and shows the drives in it. Its parent passes the WM_NOTIFY messages of the control
+    // to Notify(). Throws std::bad_alloc when the system cannot.
     void Attach(HWND tree);
 
     // Full path of the selected folder; a drive's ends in a backslash. Empty when nothing is selected.
     std::wstring Path() const;
-    // Opens the tree down to a folder, selects it and scrolls to it; as far down as the folders are there.
-    // Hidden folders and shares of the network, which the tree does not show otherwise, are shown on the way.
-    // The first drive is selected when there is nothing of the path.
+    // Opens the tree down to a folder, or to the last one on the way to it that exists, selects it and
+    // scrolls to it. Hidden folders and network shares, otherwise left out, are shown on the way. Selects the
+    // first drive when nothing of the path exists.
     void SetPath(const std::wstring& path) const;
 
     LRESULT Notify(const NMHDR& header) const;

@@ -6,7 +6,7 @@
 
 namespace lindrel {
 
-// Twips of a number of pixels, and pixels of a number of twips (rounded to the nearest, or up).
+// From pixels to twips (rounded towards 0), and from twips to pixels (to the nearest, or up).
 constexpr int TwipsOf(int pixels, UINT dpi) {
     return static_cast<int>(static_cast<long long>(pixels) * 1440 / static_cast<long long>(dpi));
 }
@@ -18,10 +18,10 @@ constexpr int PixelsAtLeast(int twips, UINT dpi) {
     return static_cast<int>((static_cast<long long>(twips) * static_cast<long long>(dpi) + 1439) / 1440);
 }
 
-// Dots per inch of the screen that a window is on.
+// Dots per inch of the screen that a window is on; 96 when there is no such window.
 UINT DpiOf(HWND window);
 
-// The font in which the user reads messages, at a resolution.
+// The font that the user has chosen for messages, at a resolution.
 LOGFONTW MessageFont(UINT dpi);
 
 // A font that is deleted with its owner.
@@ -35,7 +35,7 @@ class Font {
     Owned<HFONT> handle_;
 };
 
-// Moves a window to the middle of its owner, and on to the screen's work area where it would stick out.
+// Centres a window on its owner, but keeps it in the screen's work area.
 void CentreOnOwner(HWND window, HWND owner);
 
 }  // namespace lindrel

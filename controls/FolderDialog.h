@@ -1,5 +1,5 @@
-// What the dialogs in which the user picks a folder share: the tree of folders, the button that takes the
-// selected one, and the button that cancels.
+// Base of the dialogs in which the user picks a folder: the tree, the button that takes the selected folder,
+// and the button that cancels.
 #pragma once
 
 #include <string>

@@ -10,8 +10,8 @@ namespace lindrel {
 inline constexpr wchar_t kApplicationTitle[] = L"Lindrel";
 inline constexpr wchar_t kErrorTitle[] = L"Hiba";
 
-// Shows a modal box over its owner and returns the button pressed (IDOK, IDYES, ...). A box without a title
-// of its own carries the application's. `style` is a sum of MB_ values.
+// Shows a message box and returns the button pressed (IDOK, IDYES, ...). `style` is a combination of MB_
+// flags. Throws std::bad_alloc when the box cannot be shown.
 int MsgBox(HWND owner, const std::wstring& text, UINT style = MB_OK,
            const std::wstring& title = kApplicationTitle);
 

@@ -2,6 +2,8 @@
 
 #include <exception>
 
+#include "controls/Windows.h"
+
 namespace lindrel {
 
 namespace {
@@ -10,8 +12,7 @@ thread_local std::exception_ptr pending;
 
 void KeepPendingFault() noexcept {
     if (!pending) pending = std::current_exception();
-    // GetMessage does not return for a message that another thread sent. A full queue is a busy one, and
-    // needs no waking.
+    // GetMessage does not return for a message that another thread sent. A full queue needs no waking.
     static_cast<void>(PostThreadMessageW(GetCurrentThreadId(), WM_NULL, 0, 0));
 }
 

@@ -4,11 +4,9 @@
 
 #include <utility>
 
-#include "controls/Windows.h"
-
 namespace lindrel {
 
-// Keeps the exception being handled and wakes the thread's message loop. A later one does not displace it.
+// Keeps the exception being handled, unless one is kept already, and wakes the thread's message loop.
 void KeepPendingFault() noexcept;
 
 // Throws the kept exception, if there is one. Called after each message that a loop dispatches.

@@ -8,15 +8,15 @@
 
 namespace lindrel {
 
-// The side of a picture on a button or a toolbar, in pixels: 16 at 96 dots per inch.
+// The side of a picture on a button, in pixels: 16 at 96 dots per inch.
 int PictureSize(UINT dpi);
 
 // An icon that is destroyed with its owner.
 class Picture {
   public:
     Picture() = default;
-    // The icon of the resources, `size` pixels wide and high; where the resources have no such size, the
-    // nearest one scaled. Throws std::bad_alloc when there is none.
+    // An icon of the resources, `size` pixels wide and high; scaled from the nearest size if that is not
+    // among them. Throws std::bad_alloc when there is no such icon.
     Picture(HINSTANCE instance, int id, int size);
     HICON Handle() const { return handle_.get(); }
 

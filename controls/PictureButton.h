@@ -11,7 +11,7 @@ namespace lindrel {
 
 class PictureButton : public Control {
   public:
-    // Takes over a button that was made with kStyle. Its parent sends WM_DRAWITEM back to the control that it
+    // Wraps a button that was made with kStyle. Its parent sends WM_DRAWITEM back to the control that it
     // is for (hwndItem), which draws itself. Throws std::bad_alloc when the system cannot.
     void Attach(HWND button);
     static constexpr DWORD kStyle = BS_OWNERDRAW;
@@ -22,7 +22,7 @@ class PictureButton : public Control {
 
   private:
     std::optional<LRESULT> OnMessage(UINT message, LPARAM lparam);
-    // The picture looks the same pressed or not; only the border tells that the mouse holds the button.
+    // The picture stays as it is while the mouse holds the button; only the border tells.
     void MouseDown() const { ShowBorder(true); }
     void MouseUp() const { ShowBorder(false); }
     void ShowBorder(bool shown) const;

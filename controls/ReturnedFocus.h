@@ -1,6 +1,5 @@
-// Tells the focus that a control gains from the user from the one that it gets back when its window comes to
-// the front again, after a message box or from another program: coming back must leave caret and selection
-// alone.
+// Tells whether a control gets the focus from the user, or only gets it back because its window is active
+// again, after a message box or another program. Getting it back must leave caret and selection alone.
 #pragma once
 
 #include <utility>
@@ -11,15 +10,15 @@ namespace lindrel {
 
 class ReturnedFocus {
   public:
-    // WM_ACTIVATE of the window, before the focus changes.
+    // For WM_ACTIVATE of the window. `state` is the message's wparam.
     void OnActivate(WPARAM state) {
         if (LOWORD(state) == WA_INACTIVE) left_ = GetFocus();
     }
-    // Whether a control that has gained the focus only gets back what it had. To be asked once each time.
+    // Whether a control that has gained the focus only gets it back. To be asked once for each EN_SETFOCUS.
     bool Is(HWND control) { return std::exchange(left_, nullptr) == control; }
 
   private:
-    HWND left_ = nullptr;  // had the focus when the window went out of the front
+    HWND left_ = nullptr;  // had the focus when the window was deactivated
 };
 
 }  // namespace lindrel

@@ -1,4 +1,4 @@
-// What the program asks of the shell and the file system by path.
+// Files, folders and addresses, as the file system and the shell know them.
 #pragma once
 
 #include <optional>
@@ -12,7 +12,7 @@ namespace lindrel {
 // The folder of the running program, without a backslash at its end.
 std::wstring ProgramFolder();
 
-// Whether a look-up of the path finds a file. The path may hold wildcards: any match counts. Folders do not.
+// Whether there is a file of this path, which may hold wildcards. Folders do not count.
 bool FileIsThere(const std::wstring& path);
 
 // Names of the files that match a path with wildcards in its last part, sorted as the user sorts names.
@@ -21,8 +21,8 @@ std::vector<std::wstring> FilesMatching(const std::wstring& pattern);
 // Like FileIsThere, but tells the user when there is none ("A megadott fájl nem létezik").
 bool FileExists(HWND owner, const std::wstring& path);
 
-// Hands an address to the program that the shell has for it. The result is the shell's; above 32 means
-// success. Nothing is shown when it fails.
+// Opens an address with the program that is registered for it. The result is ShellExecute's: above 32 means
+// success. Shows nothing when it fails.
 INT_PTR OpenAddress(const std::wstring& address);
 
 // Path of one of the shell's folders (a CSIDL_ value), or nothing when the shell has none.

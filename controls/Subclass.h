@@ -1,4 +1,4 @@
-// Looks in on the messages of a window whose procedure is the system's or another class's.
+// Intercepts the messages of a window whose procedure is the system's or another class's.
 #pragma once
 
 #include <functional>
@@ -24,8 +24,8 @@ class Subclass {
     // std::bad_alloc when the system cannot.
     void Attach(HWND window, Handler handler);
 
-    // Lets the window deal with a message and returns what it answers: for a handler that comes after the
-    // window or changes its answer.
+    // Passes a message on to the window at once and returns its answer, for a handler that acts after the
+    // window or changes the answer.
     LRESULT Default(UINT message, WPARAM wparam, LPARAM lparam) const;
 
   private:

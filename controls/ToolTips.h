@@ -9,8 +9,8 @@ namespace lindrel {
 
 class ToolTips {
   public:
-    // Sets the text of a control of a window, also anew. The texts go with the window. Without the system's
-    // help there are just none: a tip never holds up the program.
+    // Sets or replaces the tip of a control in a window. The tips go with the window. When the system cannot
+    // make tips there are none, and nothing else is wrong.
     void Set(HWND window, HWND control, const std::wstring& text);
 
   private:

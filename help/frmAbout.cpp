@@ -1,6 +1,6 @@
 #include "help/frmAbout.h"
 
-#include <commctrl.h>
+#include <utility>
 
 #include "Version.h"
 #include "controls/MsgBox.h"
@@ -38,7 +38,7 @@ void frmAbout::Form_Load() {
     Get<Control>(ID_frmAbout_lblVersion)
         .SetText(VersionLine(LINDREL_VERSION_MAJOR, LINDREL_VERSION_MINOR, LINDREL_VERSION_REVISION));
     Get<Control>(ID_frmAbout_Label1).SetText(L"<a>" + std::wstring(kHomePage) + L"</a>");
-    // Not on the link, which comes first: Enter closes the box.
+    // Not on the link, which is the first control: Enter closes the box.
     FocusOn(ID_frmAbout_cmdOK);
 }
 

@@ -14,18 +14,18 @@ namespace {
 
 constexpr wchar_t kWindowClass[] = L"TrayArea";
 
-// The shell sends the mouse messages of the icon under the number of an ordinary mouse move. The control's
-// window is never visible where a pointer could move over it.
+// The shell reports the mouse on the icon under the number of an ordinary mouse move. No ordinary one reaches
+// the control's window, which the pointer is never over.
 constexpr UINT kCallbackMessage = WM_MOUSEMOVE;
 
-// The shell's first record; the fields that came later are zero, so that a tool tip of 64 characters, which
-// has no room for its NUL, ends there.
+// The first version of the record. The fields of later ones are zero, so that a tool tip of 64 characters,
+// which leaves no room for a NUL, ends there.
 constexpr DWORD kRecordSize = NOTIFYICONDATAA_V1_SIZE;
 static_assert(kRecordSize == (sizeof(void*) == 4 ? 88 : 104));
 static_assert(sizeof NOTIFYICONDATAA::szTip > kTipLength);
 static_assert(WM_MOUSEMOVE == 512 && WM_LBUTTONDOWN == 513 && WM_RBUTTONDBLCLK == 518);
 
-// What the shell broadcasts when it has made a new taskbar, without the icons of the old one.
+// What the shell broadcasts when it has made a new taskbar, which has no icons yet.
 UINT TaskbarCreated() {
     static const UINT message = RegisterWindowMessageW(L"TaskbarCreated");
     return message;
@@ -68,14 +68,13 @@ void TrayArea::Place(HWND owner, Environment environment) {
     if (window == nullptr) throw std::bad_alloc();
     // The shell's broadcasts reach no child windows: the control hears them at its owner.
     owner_.Attach(owner, [this](UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
-        // Under its old identifier: some taskbars that are called new still have the icon, and then refuse
-        // it.
+        // Under its old identifier, so that a taskbar that still has the icon refuses it.
         if (message == TaskbarCreated() && added_) AddIcon();
         return std::nullopt;
     });
     record_.cbSize = kRecordSize;
     record_.hWnd = window;
-    // The shell may run with fewer rights than the program. Where that needs no leave, none is given.
+    // For a shell with fewer rights than the program. Without it the icon misses a new taskbar, no more.
     static_cast<void>(ChangeWindowMessageFilterEx(owner, TaskbarCreated(), MSGFLT_ALLOW, nullptr));
     Resize();
 }

@@ -34,7 +34,7 @@ class TrayArea {
     };
 
     TrayArea() = default;
-    // Removes the icon, as does the end of the owner.
+    // Removes the icon. So does the destruction of the owner.
     ~TrayArea();
     TrayArea(const TrayArea&) = delete;
     TrayArea& operator=(const TrayArea&) = delete;
@@ -43,7 +43,7 @@ class TrayArea {
     // main window of the same thread and holds one such control. Throws std::bad_alloc when the system
     // cannot; then there is no control.
     void Place(HWND owner, Environment environment = Environment::Running);
-    // The control's own window; null before it is placed and after its owner's end.
+    // The control's own window; null before it is placed and after its owner is destroyed.
     HWND Handle() const { return handle_; }
 
     // Stores what was saved, as it is: nothing appears until Visible is set.
@@ -53,12 +53,12 @@ class TrayArea {
     const Picture& Icon() const { return properties_.Icon; }
     const std::wstring& ToolTip() const { return properties_.ToolTip; }
     bool Visible() const { return properties_.Visible; }
-    // Whether the shell has taken the icon. Not so while Visible is true: the user sees no icon.
+    // Whether the shell shows the icon. False while Visible is true when the shell has refused it.
     bool IsTaken() const { return taken_; }
 
-    // What the shell makes of a change is not looked at: an icon that it cannot add does not appear.
-    void SetIcon(Picture New_Icon);  // no picture at all removes the icon from the notification area
-    // Stored without the blanks around it. The shell keeps the first 64 characters of it.
+    // A change that the shell refuses has no effect on the screen; the properties change all the same.
+    void SetIcon(Picture New_Icon);  // no picture at all hides the icon
+    // Stored without the blanks around it. The shell gets the first 64 characters.
     void SetToolTip(std::wstring_view New_ToolTip);
     void SetVisible(bool New_Visible);
 

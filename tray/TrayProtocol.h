@@ -17,18 +17,17 @@ struct TrayMouse {
     bool operator==(const TrayMouse&) const = default;
 };
 
-// The event of a mouse message's number; None for all that the icon does not know, the middle button's too.
+// The event that a mouse message stands for; None for those that the icon ignores, the middle button's too.
 TrayMouse TrayMouseOf(std::uint64_t message);
 
 // Length of the field that the shell keeps a tool tip in.
 inline constexpr std::size_t kTipLength = 64;
 
-// A tool tip in the shell's record: the text and its NUL, filled up with blanks or cut off. A text that is
-// cut has no NUL in the field. Text and field are bytes of the machine's ANSI code page, in which the shell
-// reads the record; 64 counts bytes.
+// A tool tip as the shell's record holds it: the text and a NUL, then blanks; a text of 64 bytes or more is
+// cut off and has no NUL. Text and field are in the machine's ANSI code page.
 std::array<char, kTipLength> TipField(std::string_view tip);
 
-// An icon's identifier, 1..65535, of a random number in [0, 1).
+// An icon's identifier, 1..65535, from a random number in [0, 1).
 std::uint32_t TrayIdentifier(double random);
 
 }  // namespace lindrel
