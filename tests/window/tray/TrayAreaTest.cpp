@@ -1,130 +1,22 @@
-// The tray icon on a window of its own: what it tells the shell, and what it hears from it.
+// What the tray icon tells the shell, and its properties.
 
 #include "tray/TrayArea.h"
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <memory>
 #include <optional>
-#include <ostream>
 #include <set>
-#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
 
-#include "controls/PendingFault.h"
-#include "tests/window/support/Polling.h"
-#include "tests/window/support/ReplacedImport.h"
+#include "tests/window/tray/TraySession.h"
 
 namespace lindrel::testing {
 namespace {
 
-// One call of the shell with everything that its record holds.
-struct Call {
-    DWORD Operation = 0;
-    DWORD Size = 0;
-    HWND Window = nullptr;
-    UINT Identifier = 0;
-    UINT Flags = 0;
-    UINT Message = 0;
-    HICON Icon = nullptr;
-    std::string Tip;  // the 64 characters of the field
-    bool operator==(const Call&) const = default;
-};
-
-void PrintTo(const Call& call, std::ostream* out) {
-    *out << "\n  operation " << call.Operation << " size " << call.Size << " window " << call.Window << " id "
-         << call.Identifier << " flags " << call.Flags << " message " << call.Message << " icon " << call.Icon
-         << " tip [" << ::testing::PrintToString(call.Tip) << "]";
-}
-
-std::vector<Call> calls;
-
-BOOL WINAPI Record(DWORD operation, NOTIFYICONDATAA* record) {
-    calls.push_back({operation, record->cbSize, record->hWnd, record->uID, record->uFlags,
-                     record->uCallbackMessage, record->hIcon, std::string(record->szTip, 64)});
-    // A reader that goes on to a NUL finds it right behind the field.
-    EXPECT_EQ(record->szTip[64], '\0');
-    return FALSE;  // a shell that refuses everything changes nothing
-}
-
-std::vector<Call> Taken() {
-    return std::exchange(calls, {});
-}
-
-class OwnerWindow {
-  public:
-    OwnerWindow()
-        : window_(CreateWindowExW(0, L"STATIC", L"tulajdonos", WS_OVERLAPPEDWINDOW, 0, 0, 300, 200, nullptr,
-                                  nullptr, nullptr, nullptr)) {
-        if (window_ == nullptr) throw std::runtime_error("no window");
-    }
-    ~OwnerWindow() { Close(); }
-    OwnerWindow(const OwnerWindow&) = delete;
-    OwnerWindow& operator=(const OwnerWindow&) = delete;
-    HWND Handle() const { return window_; }
-    void Close() {
-        if (window_ != nullptr) DestroyWindow(std::exchange(window_, nullptr));
-    }
-
-  private:
-    HWND window_;
-};
-
-class TrayAreaTest : public ::testing::Test {
-  protected:
-    static constexpr DWORD kSize = sizeof(void*) == 4 ? 88 : 104;
-
-    TrayAreaTest() {
-        calls.clear();
-        control->PropertyChanged = [this](const wchar_t* name) { changed.emplace_back(name); };
-        control->Place(owner.Handle());
-        window = control->Handle();
-    }
-    // Nobody writes down what it is told any more.
-    void UseTheRealShell() { recorded_.reset(); }
-
-    static std::string Padded(const std::string& tip) {
-        const std::string field = tip + '\0';
-        return field + std::string(64 - field.size(), ' ');
-    }
-    Call Expected(DWORD operation, UINT identifier, UINT flags, UINT message, HICON shown,
-                  const std::string& tip) const {
-        return {operation, kSize, window, identifier, flags, message, shown, tip};
-    }
-    // Shows the icon and forgets the call; its identifier.
-    UINT Show() {
-        control->SetVisible(true);
-        const std::vector<Call> added = Taken();
-        EXPECT_EQ(added.size(), 1u);
-        changed.clear();
-        return added.at(0).Identifier;
-    }
-    void Mouse(LPARAM message) const { SendMessageW(window, 512, 4711, message); }
-    void HearEverything() {
-        control->MouseMove = [this] { heard.emplace_back(L"MouseMove"); };
-        control->MouseDown = [this](std::int16_t& button) {
-            heard.push_back(L"MouseDown " + std::to_wstring(button));
-        };
-        control->MouseUp = [this](std::int16_t& button) {
-            heard.push_back(L"MouseUp " + std::to_wstring(button));
-        };
-        control->DblClick = [this] { heard.emplace_back(L"DblClick"); };
-    }
-
-    using Texts = std::vector<std::wstring>;
-    const HICON icon = LoadIconW(nullptr, IDI_WARNING);
-    const HICON other_icon = LoadIconW(nullptr, IDI_ERROR);
-    const std::string no_tip = std::string(64, '\0');
-    OwnerWindow owner;
-    Texts changed;
-    Texts heard;
-    std::optional<ReplacedImport> recorded_{std::in_place, &Shell_NotifyIconA, &Record};
-    std::unique_ptr<TrayArea> control = std::make_unique<TrayArea>();
-    HWND window = nullptr;
-};
+class TrayAreaTest : public TraySession {};
 
 TEST_F(TrayAreaTest, ANewControlIsEmptyAndTellsTheShellNothing) {
     EXPECT_EQ(control->SavedProperties(), (TrayArea::Properties{HICON{}, L"", false}));
@@ -337,57 +229,6 @@ TEST_F(TrayAreaTest, TheBroadcastOfANewTaskbarReachesTheControlOfAHiddenWindow) 
     EXPECT_EQ(again[0].Operation, static_cast<DWORD>(NIM_ADD));
 }
 
-TEST_F(TrayAreaTest, EveryMouseMessageRaisesItsEvent) {
-    HearEverything();
-    for (LPARAM message = 505; message <= 530; ++message) Mouse(message);
-    EXPECT_EQ(heard, (Texts{L"MouseMove", L"MouseDown 1", L"MouseUp 1", L"DblClick", L"MouseDown 2",
-                            L"MouseUp 2", L"DblClick"}));
-}
-
-TEST_F(TrayAreaTest, ARightClickRaisesDownAndUpOfTheSecondButton) {
-    HearEverything();
-    for (const LPARAM message : {WM_MOUSEMOVE, WM_RBUTTONDOWN, WM_RBUTTONUP}) Mouse(message);
-    EXPECT_EQ(heard, (Texts{L"MouseMove", L"MouseDown 2", L"MouseUp 2"}));
-}
-
-TEST_F(TrayAreaTest, ALeftDoubleClickComesAfterTheFirstClick) {
-    HearEverything();
-    for (const LPARAM message : {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_LBUTTONUP})
-        Mouse(message);
-    EXPECT_EQ(heard, (Texts{L"MouseDown 1", L"MouseUp 1", L"DblClick", L"MouseUp 1"}));
-}
-
-TEST_F(TrayAreaTest, TheMiddleButtonRaisesNothing) {
-    HearEverything();
-    for (const LPARAM message : {WM_MBUTTONDOWN, WM_MBUTTONUP, WM_MBUTTONDBLCLK, WM_MOUSEWHEEL})
-        Mouse(message);
-    EXPECT_EQ(heard, Texts{});
-}
-
-TEST_F(TrayAreaTest, EventsThatNobodyHearsDoNothing) {
-    for (LPARAM message = 512; message <= 518; ++message) Mouse(message);
-    EXPECT_EQ(Taken(), std::vector<Call>{});
-}
-
-TEST_F(TrayAreaTest, AHandlerMayHideTheIconAndItsButtonIsItsOwn) {
-    const UINT identifier = Show();
-    HearEverything();
-    control->MouseDown = [this, hear = control->MouseDown](std::int16_t& button) {
-        hear(button);
-        button = 7;
-        control->SetVisible(false);
-    };
-    for (const LPARAM message : {WM_LBUTTONDOWN, WM_LBUTTONUP}) Mouse(message);
-    EXPECT_EQ(heard, (Texts{L"MouseDown 1", L"MouseUp 1"}));
-    EXPECT_EQ(Taken(), std::vector{Expected(NIM_DELETE, identifier, 1, 512, nullptr, no_tip)});
-}
-
-TEST_F(TrayAreaTest, AFaultOfAHandlerStopsAtTheWindowProcedure) {
-    control->MouseDown = [](std::int16_t&) { throw std::runtime_error("hiba"); };
-    Mouse(WM_LBUTTONDOWN);
-    EXPECT_THROW(ThrowPendingFault(), std::runtime_error);
-}
-
 TEST_F(TrayAreaTest, TheEndOfTheControlAlwaysRemovesItsIcon) {
     const UINT identifier = Show();
     control.reset();
@@ -445,58 +286,6 @@ TEST_F(TrayAreaTest, WhileTheWindowIsDesignedNoIconIsAddedButRemoved) {
     EXPECT_EQ(changed, (Texts{L"Visible", L"Visible"}));
     designed.reset();
     EXPECT_EQ(Taken(), removed);
-}
-
-// Pumps the messages of this thread until the answer is true.
-bool PumpEventually(const std::function<bool()>& answer, std::chrono::milliseconds deadline = kDeadline) {
-    return Eventually(
-        [&] {
-            MSG message{};
-            while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
-            return answer();
-        },
-        deadline);
-}
-
-// The middle of the icon that the shell shows, in the window in which Wine keeps such icons.
-std::optional<POINT> IconOnScreen() {
-    const HWND tray = FindWindowW(nullptr, L"Wine System Tray");
-    const HWND shown = tray == nullptr ? nullptr : GetWindow(tray, GW_CHILD);
-    RECT place{};
-    if (shown == nullptr || !IsWindowVisible(shown) || !GetWindowRect(shown, &place)) return std::nullopt;
-    return POINT{(place.left + place.right) / 2, (place.top + place.bottom) / 2};
-}
-
-void RealClick(POINT place, DWORD down, DWORD up) {
-    ASSERT_TRUE(SetCursorPos(place.x, place.y));
-    INPUT inputs[2]{};
-    inputs[0].type = INPUT_MOUSE;
-    inputs[0].mi.dwFlags = down;
-    inputs[1].type = INPUT_MOUSE;
-    inputs[1].mi.dwFlags = up;
-    ASSERT_EQ(SendInput(2, inputs, sizeof(INPUT)), 2u);
-}
-
-TEST_F(TrayAreaTest, TheRealIconHearsBothButtonsAndGoes) {
-    UseTheRealShell();
-    HearEverything();
-    control->MouseMove = nullptr;  // as many as the pointer makes
-    control->SetIcon(icon);
-    control->SetToolTip(L"Lindrel");
-    control->SetVisible(true);
-    ASSERT_TRUE(PumpEventually([] { return IconOnScreen().has_value(); }));
-    // The icon may still be on its way to its place; then a click misses, and a user would click again.
-    const auto click_until_heard = [this](DWORD down, DWORD up, std::size_t count) {
-        return PumpEventually([&] {
-            RealClick(*IconOnScreen(), down, up);
-            return PumpEventually([&] { return heard.size() >= count; }, std::chrono::seconds(2));
-        });
-    };
-    ASSERT_TRUE(click_until_heard(MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP, 2));
-    ASSERT_TRUE(click_until_heard(MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP, 4));
-    EXPECT_EQ(heard, (Texts{L"MouseDown 1", L"MouseUp 1", L"MouseDown 2", L"MouseUp 2"}));
-    control->SetVisible(false);
-    EXPECT_TRUE(PumpEventually([] { return !IconOnScreen().has_value(); }));
 }
 
 }  // namespace
