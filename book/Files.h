@@ -1,5 +1,4 @@
-// Whole files in and out. The two systems that this builds for differ only in Files_win32.cpp and
-// Files_posix.cpp.
+// Whole files in and out.
 #pragma once
 
 #include <filesystem>
@@ -19,12 +18,6 @@ void WriteFileBytes(const std::filesystem::path& path, std::string_view bytes);
 // renamed. Throws FileFault with the system's reason (a read-only file is never replaced); then the old file
 // is as it was and no temporary file is left.
 void ReplaceFileBytes(const std::filesystem::path& path, std::string_view bytes);
-
-// A path as text for the user.
-std::wstring WideText(const std::filesystem::path& path);
-
-// The last part of a path as text.
-std::wstring NameOfFile(const std::filesystem::path& path);
 
 // The part of a path after its last backslash, without blanks at its ends; without a backslash the whole
 // path.

@@ -1,27 +1,38 @@
 #include "book/OutputFile.h"
 
-#include "book/Faults.h"
-#include "book/Files.h"
+#include <cstddef>
+#include <utility>
 
 namespace lindrel {
 
-OutputFile::OutputFile(const std::filesystem::path& path)
-    : path_(path), stream_(path, std::ios::binary | std::ios::trunc) {
-    if (!stream_) throw FileFault(WideText(path_), L"A fájl nem hozható létre");
+namespace {
+constexpr std::size_t kBlockBytes = 65536;
+}
+
+OutputFile::OutputFile(const std::filesystem::path& path) : file_(File::ForWriting(path)) {}
+
+OutputFile::~OutputFile() {
+    try {
+        WritePending();
+    } catch (...) {
+        // Without Close() there is another exception on its way, which must not be replaced.
+    }
 }
 
 void OutputFile::Write(std::string_view bytes) {
-    stream_.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    Check();
+    pending_.append(bytes);
+    if (pending_.size() >= kBlockBytes) WritePending();
 }
 
 void OutputFile::Close() {
-    stream_.close();
-    Check();
+    WritePending();
+    file_.Close();
 }
 
-void OutputFile::Check() {
-    if (!stream_) throw FileFault(WideText(path_), L"A fájl nem írható");
+void OutputFile::WritePending() {
+    // Emptied first, so that the destructor does not try again what could not be written.
+    const std::string bytes = std::exchange(pending_, {});
+    file_.Write(bytes);
 }
 
 }  // namespace lindrel

@@ -1,31 +1,37 @@
-// A file that is written piece by piece, and the pieces' receiver that the writers of the program know.
+// A file that is written piece by piece.
 #pragma once
 
 #include <filesystem>
-#include <fstream>
 #include <functional>
+#include <string>
 #include <string_view>
+
+#include "book/File.h"
 
 namespace lindrel {
 
-// Takes the bytes of a file in their order.
+// Receives the bytes of a file, in order. The exporters write to one of these.
 using ByteSink = std::function<void(std::string_view bytes)>;
 
+// Buffers the pieces. Throws FileFault with the system's reason; what has been written so far stays in the
+// file.
 class OutputFile {
   public:
-    // Creates the file, in the place of an old one. Throws FileFault.
+    // Creates the file, or empties an existing one.
     explicit OutputFile(const std::filesystem::path& path);
+    // Writes what is still buffered, but only Close() reports a failure.
+    ~OutputFile();
+    OutputFile(const OutputFile&) = delete;
+    OutputFile& operator=(const OutputFile&) = delete;
 
-    // Throw FileFault; what has been written so far stays in the file.
     void Write(std::string_view bytes);
-    // Writes what is still buffered. A file that is not closed by this may end early.
     void Close();
 
   private:
-    void Check();
+    void WritePending();
 
-    std::filesystem::path path_;
-    std::ofstream stream_;
+    File file_;
+    std::string pending_;
 };
 
 }  // namespace lindrel

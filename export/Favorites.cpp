@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "book/BookText.h"
+#include "book/File.h"
 #include "book/Files.h"
 #include "export/ExportedEntries.h"
 #include "export/Shortcut.h"

@@ -7,6 +7,7 @@
 
 #include "book/BookText.h"
 #include "book/Faults.h"
+#include "book/File.h"
 #include "book/Files.h"
 #include "import/TextLines.h"
 
@@ -33,7 +34,7 @@ std::vector<ShortcutFile> FilesOf(const std::filesystem::path& folder) {
     std::error_code error;
     std::filesystem::directory_iterator entry(folder, error);
     while (!error && entry != std::filesystem::directory_iterator()) {
-        const std::wstring name = NameOfFile(entry->path());
+        const std::wstring name = WideText(entry->path().filename());
         // What cannot be asked is taken for a file: reading it then tells what is wrong.
         std::error_code unknown;
         if (IsShortcutName(name) && !entry->is_directory(unknown))
