@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <cstring>
 
+#include "book/Characters.h"
+
 namespace lindrel {
 
 namespace {
@@ -96,24 +98,6 @@ constexpr std::uint64_t ZeroBytes(std::uint64_t word) {
 
 constexpr std::size_t LowestMarked(std::uint64_t marks) {
     return static_cast<std::size_t>(std::countr_zero(marks)) / 8;
-}
-
-constexpr bool IsLeadSurrogate(char32_t unit) {
-    return unit >= 0xD800 && unit <= 0xDBFF;
-}
-
-// Reads one character at a place of wide text and moves the place behind it. Where wide characters have 16
-// bits a surrogate pair is one character.
-char32_t NextCharacter(std::wstring_view text, std::size_t& place) {
-    const auto unit = static_cast<char32_t>(text[place++]);
-    if (sizeof(wchar_t) == 2 && IsLeadSurrogate(unit) && place < text.size()) {
-        const auto trail = static_cast<char32_t>(text[place]);
-        if (trail >= 0xDC00 && trail <= 0xDFFF) {
-            ++place;
-            return 0x10000 + ((unit - 0xD800) << 10) + (trail - 0xDC00);
-        }
-    }
-    return unit;
 }
 
 template <typename Char>

@@ -1,6 +1,7 @@
 #include "export/HtmlText.h"
 
 #include "book/BookText.h"
+#include "book/Characters.h"
 #include "book/Latin2.h"
 
 namespace lindrel {
@@ -46,25 +47,14 @@ bool AppendEscaped(std::string& html, char32_t character) {
     }
 }
 
-bool IsHighSurrogate(char32_t unit) {
-    return unit >= 0xD800 && unit <= 0xDBFF;
-}
-bool IsLowSurrogate(char32_t unit) {
-    return unit >= 0xDC00 && unit <= 0xDFFF;
-}
-
 }  // namespace
 
 std::string HtmlText(std::wstring_view text) {
     constexpr char32_t kReplacement = 0xFFFD;
     std::string html;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        auto character = static_cast<char32_t>(text[i]);
-        if (IsHighSurrogate(character) && i + 1 < text.size() &&
-            IsLowSurrogate(static_cast<char32_t>(text[i + 1])))
-            character = 0x10000 + ((character - 0xD800) << 10) + (static_cast<char32_t>(text[++i]) - 0xDC00);
-        else if (IsHighSurrogate(character) || IsLowSurrogate(character))
-            character = kReplacement;
+    for (std::size_t place = 0; place < text.size();) {
+        char32_t character = NextCharacter(text, place);
+        if (IsSurrogate(character)) character = kReplacement;
         if (!AppendEscaped(html, character)) AppendCharacter(html, character);
     }
     return html;

@@ -38,6 +38,9 @@ TEST(BookTextTest, ForeignCharactersAreFoundAndBecomeOneMarkEach) {
     EXPECT_EQ(FirstForeignCharacter(L"ő\U0001F600"), L"\U0001F600");
     EXPECT_EQ(ToBookText(L"a\U0001F600b中"), "a?b?");
     EXPECT_EQ(FirstForeignCharacter(L"õ"), L"õ");  // no best fit to ő
+    const std::wstring pair = {static_cast<wchar_t>(0xD83D), static_cast<wchar_t>(0xDE00)};
+    EXPECT_EQ(FirstForeignCharacter(L"ő" + pair), pair);
+    EXPECT_EQ(ToBookText(L"a" + pair + L"b"), "a?b");
 }
 
 TEST(BookTextTest, LowerCaseKnowsTheWholeRepertoire) {
