@@ -146,6 +146,10 @@ char LowerCase(char byte) {
     return static_cast<char>(kLower[Number(byte)]);
 }
 
+char UpperCase(char byte) {
+    return static_cast<char>(kUpper[Number(byte)]);
+}
+
 std::string LowerCase(std::string_view text) {
     std::string lower(text);
     for (char& byte : lower) byte = LowerCase(byte);
@@ -163,7 +167,7 @@ std::wstring_view Trim(std::wstring_view text) {
 CaselessNeedle::CaselessNeedle(std::string_view needle) : needle_(LowerCase(needle)) {
     if (needle_.empty()) return;
     lower_ = kOnes * Number(needle_.front());
-    upper_ = kOnes * kUpper[Number(needle_.front())];
+    upper_ = kOnes * Number(UpperCase(needle_.front()));
 }
 
 // Where a text from the place on has the first letter in one of its forms, or the text's size. Eight bytes at

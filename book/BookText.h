@@ -30,6 +30,9 @@ char32_t CharacterOf(char byte);
 char LowerCase(char byte);
 std::string LowerCase(std::string_view text);
 
+// The other way round; anything that is not a lower-case letter as it is.
+char UpperCase(char byte);
+
 // Blanks (U+0020 only, no tabs) removed from both ends.
 std::string_view Trim(std::string_view text);
 std::wstring_view Trim(std::wstring_view text);

@@ -1,6 +1,6 @@
 #include "export/Shortcut.h"
 
-#include <algorithm>
+#include <optional>
 
 #include "book/BookText.h"
 #include "book/Faults.h"
@@ -12,15 +12,10 @@ namespace {
 constexpr std::string_view kReplaced = "\\/:?";
 constexpr std::string_view kNotInFolderNames = "\\/:?*\"<>|";
 
-// Upper case of what a book can hold; anything else as it is.
-wchar_t UpperCase(wchar_t character) {
-    for (int number = 0; number < 256; ++number) {
-        const auto byte = static_cast<char>(number);
-        const char lower = LowerCase(byte);
-        if (lower != byte && CharacterOf(lower) == static_cast<char32_t>(character))
-            return static_cast<wchar_t>(CharacterOf(byte));
-    }
-    return character;
+// Only the letters that a book can hold have an upper case here.
+wchar_t UpperCaseOfWide(wchar_t character) {
+    const std::optional<char> byte = BookByte(static_cast<char32_t>(character));
+    return byte ? static_cast<wchar_t>(CharacterOf(UpperCase(*byte))) : character;
 }
 
 }  // namespace
@@ -53,7 +48,7 @@ std::wstring DesktopPath(std::wstring_view folder) {
     constexpr std::size_t kTakenUnseen = 5;
     std::wstring path;
     for (const wchar_t character : folder) {
-        const wchar_t upper = UpperCase(character);
+        const wchar_t upper = UpperCaseOfWide(character);
         const bool goes_on = upper == L'\\' || (upper >= L'A' && upper <= L'Z');
         if (path.size() >= kTakenUnseen && !goes_on) break;
         path.push_back(upper);

@@ -49,6 +49,19 @@ TEST(BookTextTest, LowerCaseKnowsTheWholeRepertoire) {
     EXPECT_EQ(FromBookText(LowerCase(ToBookText(L"×ß÷˙µ€"))), L"×ß÷˙µ€");
 }
 
+TEST(BookTextTest, UpperCaseUndoesLowerCase) {
+    for (int number = 0; number < 256; ++number) {
+        const char byte = static_cast<char>(number);
+        EXPECT_EQ(LowerCase(UpperCase(byte)), LowerCase(byte)) << number;
+        if (LowerCase(byte) != byte) {
+            EXPECT_EQ(UpperCase(LowerCase(byte)), byte) << number;
+            EXPECT_EQ(UpperCase(byte), byte) << number;
+        }
+    }
+    EXPECT_EQ(UpperCase('\xFB'), '\xDB');  // ű
+    for (const char byte : ToBookText(L"×ß÷˙µ€1_")) EXPECT_EQ(UpperCase(byte), byte);
+}
+
 TEST(BookTextTest, ContainmentIgnoresCase) {
     const CaselessNeedle needle(ToBookText(L"űRHAJÓ"));
     EXPECT_TRUE(needle.IsIn(ToBookText(L"Az Űrhajó")));
