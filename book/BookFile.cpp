@@ -53,7 +53,7 @@ class BookReader {
     BookReader(const Book& old, std::vector<char> bytes) {
         book_.names_ = old.names_;
         book_.counts_ = old.counts_;
-        const long long lines = CountLines(std::string_view(bytes.data(), bytes.size()));
+        const long long lines = CountLines({bytes.data(), bytes.size()});
         const long long estimate = EstimatedEntries(lines);
         if (estimate < 0) throw MalformedBook(L"A fájl túl rövid: tizenkét kategória sem fér bele.", 0);
         if (estimate > kMostEntries)
@@ -131,11 +131,6 @@ long long CountLines(std::string_view bytes) {
         at = found == nullptr ? end : static_cast<const char*>(found) + 1;
     }
     return lines;
-}
-
-long long CountLines(const std::filesystem::path& path) {
-    const std::vector<char> bytes = ReadFileBytes(path);
-    return CountLines(std::string_view(bytes.data(), bytes.size()));
 }
 
 bool LoadBook(Book& book, std::vector<char> bytes) {

@@ -29,8 +29,6 @@ class MalformedBook : public std::exception {
 
 // Lines of a text: a last line without a break counts, a break at the very end adds none.
 long long CountLines(std::string_view bytes);
-// The same for a file. Throws FileFault when it cannot be read.
-long long CountLines(const std::filesystem::path& path);
 
 // Replaces names, counts, starts and entries by those of the file and clears the check marks. Returns whether
 // there were exactly twelve headers; with another number the book is what could be read: categories never

@@ -100,13 +100,6 @@ constexpr std::size_t LowestMarked(std::uint64_t marks) {
     return static_cast<std::size_t>(std::countr_zero(marks)) / 8;
 }
 
-template <typename Char>
-std::basic_string_view<Char> TrimBlanks(std::basic_string_view<Char> text) {
-    const auto first = text.find_first_not_of(Char{' '});
-    if (first == std::basic_string_view<Char>::npos) return {};
-    return text.substr(first, text.find_last_not_of(Char{' '}) - first + 1);
-}
-
 }  // namespace
 
 char32_t CharacterOf(char byte) {
@@ -156,12 +149,10 @@ std::string LowerCase(std::string_view text) {
     return lower;
 }
 
-std::string_view Trim(std::string_view text) {
-    return TrimBlanks(text);
-}
-
 std::wstring_view Trim(std::wstring_view text) {
-    return TrimBlanks(text);
+    const auto first = text.find_first_not_of(L' ');
+    if (first == std::wstring_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(L' ') - first + 1);
 }
 
 CaselessNeedle::CaselessNeedle(std::string_view needle) : needle_(LowerCase(needle)) {

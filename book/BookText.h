@@ -34,7 +34,6 @@ std::string LowerCase(std::string_view text);
 char UpperCase(char byte);
 
 // Blanks (U+0020 only, no tabs) removed from both ends.
-std::string_view Trim(std::string_view text);
 std::wstring_view Trim(std::wstring_view text);
 
 // Whether a text contains another, letter case aside. An empty needle is contained in everything. Made once

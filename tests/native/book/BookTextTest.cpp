@@ -119,7 +119,7 @@ TEST(BookTextTest, EveryLetterIsFoundInBothItsForms) {
 TEST(BookTextTest, TrimmingRemovesBlanksOnly) {
     EXPECT_EQ(Trim(L"  a b  "), L"a b");
     EXPECT_EQ(Trim(L"   "), L"");
-    EXPECT_EQ(Trim("\ta "), "\ta");
+    EXPECT_EQ(Trim(L"\ta "), L"\ta");
 }
 
 TEST(BookTextTest, FileNamesArePathsAfterTheLastBackslash) {
