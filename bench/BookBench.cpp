@@ -6,13 +6,20 @@
 #include <unistd.h>
 
 #include <cstring>
+#include <filesystem>
 #include <memory>
 #include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
 
 #include "bench/SampleBook.h"
+#include "book/Book.h"
 #include "book/BookFile.h"
 #include "book/BookText.h"
+#include "book/EntrySequence.h"
 #include "book/Files.h"
+#include "book/PerCategory.h"
 
 namespace lindrel::bench {
 namespace {

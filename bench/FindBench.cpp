@@ -3,8 +3,11 @@
 #include <benchmark/benchmark.h>
 
 #include <cstring>
+#include <string_view>
+#include <vector>
 
 #include "bench/SampleBook.h"
+#include "book/Book.h"
 #include "find/EntrySearch.h"
 
 namespace lindrel::bench {

@@ -4,12 +4,18 @@
 #include <fcntl.h>
 #include <spawn.h>
 #include <sys/wait.h>
-#include <unistd.h>
 
 #include <array>
+#include <cstddef>
+#include <filesystem>
+#include <new>
 #include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
 
 #include "bench/SampleBook.h"
+#include "book/Book.h"
 #include "book/Files.h"
 #include "import/HtmlLinks.h"
 #include "import/PageText.h"

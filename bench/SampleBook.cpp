@@ -3,8 +3,13 @@
 #include <unistd.h>
 
 #include <array>
+#include <cstddef>
+#include <string_view>
+#include <system_error>
+#include <vector>
 
 #include "book/BookFile.h"
+#include "book/PerCategory.h"
 
 namespace lindrel::bench {
 

@@ -1,6 +1,9 @@
 #include "book/Book.h"
 
 #include <algorithm>
+#include <cstddef>
+
+#include "book/Faults.h"
 
 namespace lindrel {
 

@@ -1,10 +1,12 @@
 #include "book/BookFile.h"
 
-#include <algorithm>
+#include <cstdint>
 #include <cstring>
 #include <utility>
 
+#include "book/EntrySequence.h"
 #include "book/Files.h"
+#include "book/PerCategory.h"
 
 namespace lindrel {
 

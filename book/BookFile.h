@@ -4,10 +4,12 @@
 // Because nothing is escaped, a name or an address that begins with "#" comes back as a category header.
 #pragma once
 
+#include <exception>
 #include <filesystem>
-#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "book/Book.h"
 

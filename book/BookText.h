@@ -3,6 +3,7 @@
 // the result does not depend on the machine's code page and nothing is ever replaced by a "best fit".
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>

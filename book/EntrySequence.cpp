@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
+
+#include "book/Faults.h"
 
 namespace lindrel {
 

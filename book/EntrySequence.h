@@ -5,12 +5,8 @@
 
 #include <cstddef>
 #include <memory>
-#include <span>
-#include <string>
 #include <string_view>
 #include <vector>
-
-#include "book/Faults.h"
 
 namespace lindrel {
 

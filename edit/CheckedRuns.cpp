@@ -1,5 +1,7 @@
 #include "edit/CheckedRuns.h"
 
+#include <cstddef>
+#include <string>
 #include <utility>
 
 namespace lindrel {

@@ -1,11 +1,16 @@
 #include "export/Favorites.h"
 
 #include <string>
+#include <string_view>
+#include <system_error>
+#include <utility>
 #include <vector>
 
 #include "book/BookText.h"
+#include "book/Faults.h"
 #include "book/File.h"
 #include "book/Files.h"
+#include "book/PerCategory.h"
 #include "export/ExportedEntries.h"
 #include "export/Shortcut.h"
 

@@ -1,9 +1,11 @@
 #include "export/HtmlPage.h"
 
-#include <utility>
+#include <cstddef>
 
 #include "Version.h"
 #include "book/BookText.h"
+#include "book/Faults.h"
+#include "book/PerCategory.h"
 #include "export/ExportedEntries.h"
 #include "export/HtmlText.h"
 

@@ -1,5 +1,8 @@
 #include "export/HtmlText.h"
 
+#include <cstddef>
+#include <optional>
+
 #include "book/BookText.h"
 #include "book/Characters.h"
 #include "book/Latin2.h"

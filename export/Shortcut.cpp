@@ -1,5 +1,6 @@
 #include "export/Shortcut.h"
 
+#include <cstddef>
 #include <optional>
 
 #include "book/BookText.h"

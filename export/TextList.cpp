@@ -1,7 +1,12 @@
 #include "export/TextList.h"
 
+#include <cstddef>
 #include <string>
+#include <string_view>
+#include <vector>
 
+#include "book/Faults.h"
+#include "book/PerCategory.h"
 #include "export/ExportedEntries.h"
 
 namespace lindrel {

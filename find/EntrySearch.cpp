@@ -1,8 +1,11 @@
 #include "find/EntrySearch.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <optional>
 #include <string>
+
+#include "book/PerCategory.h"
 
 namespace lindrel {
 

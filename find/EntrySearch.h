@@ -10,6 +10,7 @@
 
 #include "book/Book.h"
 #include "book/BookText.h"
+#include "book/EntrySequence.h"
 
 namespace lindrel {
 

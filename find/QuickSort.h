@@ -1,6 +1,7 @@
 // Sorting in place between two indices.
 #pragma once
 
+#include <cstddef>
 #include <span>
 #include <utility>
 

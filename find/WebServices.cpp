@@ -1,5 +1,7 @@
 #include "find/WebServices.h"
 
+#include <cstddef>
+
 #include "book/Faults.h"
 
 namespace lindrel {

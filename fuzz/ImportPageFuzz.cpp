@@ -3,8 +3,10 @@
 
 #include <cstdlib>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "book/Book.h"
 #include "book/BookText.h"
 #include "book/Faults.h"
 #include "import/HtmlLinks.h"

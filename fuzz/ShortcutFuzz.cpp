@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <string>
+#include <string_view>
 
 #include "book/Faults.h"
 #include "export/Shortcut.h"

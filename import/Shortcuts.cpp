@@ -1,8 +1,11 @@
 #include "import/Shortcuts.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <string>
+#include <system_error>
 #include <utility>
 
 #include "book/BookText.h"

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 namespace lindrel {
 
 // Values print as themselves when a comparison fails.

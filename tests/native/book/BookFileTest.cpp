@@ -4,9 +4,16 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <fstream>
+#include <filesystem>
+#include <iterator>
+#include <string>
+#include <vector>
 
+#include "book/Book.h"
+#include "book/CheckMarks.h"
+#include "book/Faults.h"
 #include "book/Files.h"
+#include "book/PerCategory.h"
 
 namespace lindrel {
 namespace {

@@ -3,12 +3,17 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
+#include <cstddef>
 #include <random>
 #include <set>
+#include <string>
+#include <vector>
 
 #include "book/Book.h"
 #include "book/BookFile.h"
+#include "book/PerCategory.h"
 #include "edit/CheckedRuns.h"
 
 namespace lindrel {

@@ -2,7 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <string>
+#include <vector>
+
 #include "book/BookFile.h"
+#include "book/Faults.h"
+#include "book/PerCategory.h"
 #include "edit/CheckedRuns.h"
 
 namespace lindrel {

@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include "book/Files.h"
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
 
 namespace lindrel {
 namespace {
@@ -120,14 +123,6 @@ TEST(BookTextTest, TrimmingRemovesBlanksOnly) {
     EXPECT_EQ(Trim(L"  a b  "), L"a b");
     EXPECT_EQ(Trim(L"   "), L"");
     EXPECT_EQ(Trim(L"\ta "), L"\ta");
-}
-
-TEST(BookTextTest, FileNamesArePathsAfterTheLastBackslash) {
-    EXPECT_EQ(FileNameOf(L"C:\\mappa\\ sajat.lnd "), L"sajat.lnd");
-    EXPECT_EQ(FileNameOf(L"C:\\m\\a.lnd"), L"a.lnd");
-    EXPECT_EQ(FileNameOf(L" a.lnd"), L"a.lnd");
-    EXPECT_EQ(FileNameOf(L"C:\\mappa\\"), L"");
-    EXPECT_EQ(FileNameOf(L""), L"");
 }
 
 }  // namespace

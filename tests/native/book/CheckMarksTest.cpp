@@ -2,6 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <vector>
+
+#include "book/Faults.h"
+
 namespace lindrel {
 namespace {
 

@@ -4,6 +4,8 @@
 
 #include <new>
 #include <stdexcept>
+#include <string>
+#include <utility>
 
 namespace lindrel {
 namespace {

@@ -2,11 +2,16 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <cerrno>
+#include <cstdlib>
 #include <cstring>
+#include <filesystem>
 #include <functional>
+#include <stdexcept>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "book/Faults.h"
 #include "book/File.h"
@@ -100,6 +105,14 @@ TEST_F(FilesTest, AReplacementThatFailsLeavesNoTemporaryFile) {
     std::filesystem::create_directory(in_the_way);
     EXPECT_EQ(FaultOf([&] { ReplaceFileBytes(in_the_way, "x"); }), Expected(in_the_way, EISDIR));
     EXPECT_EQ(NamesThere(), std::vector<std::string>{"mappa"});
+}
+
+TEST_F(FilesTest, FileNamesArePathsAfterTheLastBackslash) {
+    EXPECT_EQ(FileNameOf(L"C:\\mappa\\ sajat.lnd "), L"sajat.lnd");
+    EXPECT_EQ(FileNameOf(L"C:\\m\\a.lnd"), L"a.lnd");
+    EXPECT_EQ(FileNameOf(L" a.lnd"), L"a.lnd");
+    EXPECT_EQ(FileNameOf(L"C:\\mappa\\"), L"");
+    EXPECT_EQ(FileNameOf(L""), L"");
 }
 
 }  // namespace

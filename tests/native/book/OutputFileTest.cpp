@@ -3,7 +3,10 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <filesystem>
 #include <functional>
+#include <string>
+#include <vector>
 
 #include "book/Faults.h"
 #include "book/Files.h"

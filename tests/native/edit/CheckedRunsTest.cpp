@@ -2,7 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <set>
+#include <string>
+#include <vector>
+
+#include "book/Book.h"
 
 namespace lindrel {
 

@@ -3,8 +3,16 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <cstdint>
+#include <filesystem>
 #include <map>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
 
+#include "book/Book.h"
+#include "book/Faults.h"
 #include "book/Files.h"
 #include "export/Favorites.h"
 #include "export/HtmlPage.h"

@@ -5,9 +5,12 @@
 
 #include <array>
 #include <cstdio>
+#include <filesystem>
 #include <string>
+#include <string_view>
 #include <vector>
 
+#include "book/Book.h"
 #include "book/BookText.h"
 #include "export/HtmlPage.h"
 #include "tests/native/export/Browser.h"

@@ -2,6 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
+
+#include "book/Book.h"
+#include "tests/native/export/Browser.h"
 #include "tests/native/export/HostilePage.h"
 
 namespace lindrel::testing {

@@ -3,7 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
+#include <string>
+#include <vector>
 
+#include "book/Book.h"
+#include "book/Files.h"
+#include "export/HtmlPage.h"
+#include "tests/native/export/Browser.h"
 #include "tests/native/export/HostilePage.h"
 
 namespace lindrel::testing {

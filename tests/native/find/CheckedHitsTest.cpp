@@ -3,6 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
+
+#include "book/Book.h"
+#include "book/CheckMarks.h"
+#include "book/EntrySequence.h"
+#include "book/PerCategory.h"
 
 namespace lindrel {
 namespace {

@@ -1,9 +1,16 @@
-#include "book/BookText.h"
 #include "find/EntrySearch.h"
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "book/Book.h"
+#include "book/BookText.h"
+#include "book/EntrySequence.h"
 
 namespace lindrel {
 namespace {

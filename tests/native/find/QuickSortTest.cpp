@@ -3,8 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <span>
 #include <string>
 #include <vector>
+
+#include "book/Faults.h"
 
 namespace lindrel {
 namespace {

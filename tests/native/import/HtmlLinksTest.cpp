@@ -2,8 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <ostream>
 #include <string>
+#include <string_view>
+#include <vector>
 
+#include "book/Book.h"
 #include "book/Faults.h"
 #include "export/HtmlPage.h"
 
@@ -84,9 +89,8 @@ TEST(HtmlLinksTest, AddressesWithoutQuotationMarksAreNotFound) {
 TEST(HtmlLinksTest, PagesOfThisProgramsOwnExportHoldNone) {
     Book book;
     book.SetCategoryName(3, "<a href=\"http://kategoria.hu\">K</a>");
-    book.AddEntry(
-        3, {{"H\xEDrek", "http://hirek.hu/"},
-            {"<a href=\"http://nev.hu\">N\xE9v</a>", "http://lap.hu/?a=\"b\"&c=<a href=\"x\">"}});
+    book.AddEntry(3, {{"H\xEDrek", "http://hirek.hu/"},
+                      {"<a href=\"http://nev.hu\">N\xE9v</a>", "http://lap.hu/?a=\"b\"&c=<a href=\"x\">"}});
     book.Marks.Save(3, {1, 2});
     PageStyle style;
     style.Title = L"<a href=\"http://cim.hu\">C</a>";

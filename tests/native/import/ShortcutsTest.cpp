@@ -1,8 +1,16 @@
 #include "import/Shortcuts.h"
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
+#include <cstdlib>
+#include <filesystem>
+#include <ostream>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "book/Book.h"
 #include "book/Faults.h"
 #include "book/Files.h"
 #include "export/Shortcut.h"
