@@ -72,12 +72,11 @@ void Book::DeleteEntry(int category, int position, int count) {
 
 void Book::MoveEntry(int source, int offset, int destination) {
     if (offset < 0 || offset >= counts_(source)) throw RangeFault();
-    static_cast<void>(counts_(destination));
+    const int behind = starts_(destination) + counts_(destination);
     if (source == destination) throw ArgumentFault();
 
     const int from = starts_(source) + offset;
     const AddressEntry moved = entries_.At(from);
-    const int behind = starts_(destination) + counts_(destination);
     const int to = source > destination ? behind : behind - 1;
     // A book loaded with too few headers may count entries that it does not have.
     if (to < 1 || to > entries_.Size()) throw RangeFault();

@@ -79,9 +79,9 @@ class Book {
     // Removes `count` entries of a category from the 1-based position on. Throws RangeFault when they do not
     // all lie in the category.
     void DeleteEntry(int category, int position, int count);
-    // Takes the entry at a 0-based (intended, unlike DeleteEntry) offset of a category and appends it to
-    // another one. Sets the marks' CheckedCount to 0. Throws RangeFault for an offset that the source does
-    // not have, ArgumentFault when source and destination are the same.
+    // Moves the entry at an offset of a category, 0-based unlike the positions above, to the end of another
+    // one and sets Marks.CheckedCount() to 0. Throws RangeFault for an offset that the source does not have,
+    // ArgumentFault when source and destination are the same.
     void MoveEntry(int source, int offset, int destination);
 
     CheckMarks Marks;

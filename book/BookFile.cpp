@@ -112,7 +112,7 @@ class BookReader {
 
     void TakeAddress(std::string_view line) {
         book_.entries_.At(entry_).URL = line;
-        // A header between a name and its address does not break the pair (intended, see the header).
+        // Even after a header in between: books that were edited by hand have always been read this way.
         expecting_name_ = true;
     }
 

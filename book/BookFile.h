@@ -33,9 +33,9 @@ class MalformedBook : public std::exception {
 long long CountLines(std::string_view bytes);
 
 // Replaces names, counts, starts and entries by those of the file and clears the check marks. Returns whether
-// there were exactly twelve headers; with another number the book is what could be read: categories never
-// reached keep the names and counts they had (intended, users mend such files by hand). Throws MalformedBook
-// or FileFault and leaves the book as it was.
+// there were exactly twelve headers. A file with fewer is loaded as far as it goes, since users repair such
+// files by hand: the categories that it does not reach keep their names and counts. Throws MalformedBook or
+// FileFault and leaves the book as it was.
 bool LoadBook(Book& book, std::vector<char> bytes);
 bool LoadBook(Book& book, const std::filesystem::path& path);
 

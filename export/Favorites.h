@@ -7,10 +7,10 @@
 
 namespace lindrel {
 
-// Writes a file for each checked entry, in the place of one of that name, into a folder or into one folder
-// for each category inside it (created when missing). The entries' names in the book become those of the
-// files (intended; the book is not marked for that). Throws OverflowFault (see SafeFileName) before anything
-// is written, and FileFault; the book is as it was then, files already written stay.
+// Writes a file for each checked entry into a folder, or into a subfolder for each category (created if
+// missing); files of the same names are overwritten. The entries take the names of their files, so that the
+// book agrees with the folder. Throws OverflowFault (see SafeFileName) before anything is written, and
+// FileFault; the book is unchanged then, but files already written stay.
 void saveTo_fav(Book& book, const std::filesystem::path& folder, bool folder_for_each_category);
 
 }  // namespace lindrel

