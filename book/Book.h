@@ -1,9 +1,9 @@
-// The book: twelve named categories, each with an ordered run of entries, and the check marks that the
-// windows keep for it. The entries of all categories stand in one sequence, category 1's first; category c
-// owns the indices CategoryStarts(c) .. CategoryStarts(c) + CategoryCounts(c) - 1. All numbers are 1-based.
-// Counts and indices are 16-bit, so a book holds at most 32,767 entries, wherever they lie.
+// The book: twelve named categories with their entries, and the check marks of the address list. The entries
+// of all categories are stored one after the other; category c has the indices CategoryStarts(c) to
+// CategoryStarts(c) + CategoryCounts(c) - 1. Numbers are 1-based unless a comment says otherwise. Counts have
+// 16 bits, so a book holds at most 32,767 entries.
 //
-// Every routine that changes the book either does its whole work or throws and leaves the book as it was.
+// A function that throws leaves the book unchanged.
 #pragma once
 
 #include <cstdint>
@@ -27,42 +27,41 @@ struct NewEntry {
     bool operator==(const NewEntry&) const = default;
 };
 
-// A copy of one category's rows that stays readable whatever happens to the book afterwards.
+// A copy of a category's entries, which stays valid when the book changes.
 struct CategoryRows {
     std::vector<AddressEntry> Entries;
-    std::shared_ptr<const TextStore> Texts;  // keeps what the entries point to
+    std::shared_ptr<const TextStore> Texts;  // owns what the entries point to
 };
 
 class Book {
   public:
     Book();
 
-    // The names "Project1" to "Project12", no entries; the texts of the entry sequence stay until the next
-    // load.
+    // Names the categories "Project1" to "Project12" and drops all entries and check marks. The memory of the
+    // entries is kept until the next load or addition.
     void Reset();
 
     const std::string& CategoryNames(int category) const { return names_(category); }
     std::int16_t CategoryCounts(int category) const { return counts_(category); }
-    // 1..32,768: the start of an empty category behind a full book is one past the last entry.
+    // 1..32,768: an empty category at the end of a full book starts one past the last entry.
     int CategoryStarts(int category) const { return starts_(category); }
-    // Number of entries in the whole book, 0..32,767 (more only in a book loaded with too few headers).
+    // Entries in the whole book, 0..32,767; more only in a book that was loaded with too few headers.
     int EntryCount() const { return starts_(kCategories) + counts_(kCategories) - 1; }
     bool IsEmpty() const { return starts_(kCategories) == 1 && counts_(kCategories) == 0; }
 
-    // Texts of the entry at an index, 1..UpperBound(); RangeFault outside it. The views hold until the text
-    // of that entry changes or the book is replaced.
+    // The texts of an entry, as book text. The index is 1..UpperBound() (RangeFault otherwise). The views are
+    // valid until the book changes, and longer only while somebody keeps Texts().
     std::string_view SiteNames(int index) const { return entries_.At(index).SiteName; }
     std::string_view SiteURLs(int index) const { return entries_.At(index).URL; }
-    // Both texts. A copy of them stays readable whatever happens to the book while Texts() is kept.
     const AddressEntry& Entry(int index) const { return entries_.At(index); }
     std::shared_ptr<const TextStore> Texts() const { return entries_.SharedTexts(); }
-    // Size of the entry sequence. Never decide emptiness by it: a book without entries keeps one blank
-    // element, or what a larger book left behind.
+    // Number of elements that are stored. Not a test for an empty book: that may still have a blank element,
+    // or those of the book before.
     int UpperBound() const { return entries_.Size(); }
 
-    // Index of the entry at a 1-based position of a category; nothing is checked but the category.
+    // Index of the entry at a position of a category. Only the category is checked.
     int IndexOf(int category, int position) const { return starts_(category) + position - 1; }
-    // The last category whose start is not greater than the index.
+    // The category of an index: the last one that starts at or before it.
     int CategoryOf(int index) const;
     CategoryRows RowsOf(int category) const;
 
@@ -70,14 +69,14 @@ class Book {
     void SetSiteName(int index, std::string_view name);
     void SetSiteURL(int index, std::string_view url);
 
-    // The next three throw RangeFault for a category outside 1..12 or one that counts entries which the book
-    // does not have (loaded with too few headers). Whatever fault they throw, the book is as it was.
+    // The next three also throw RangeFault for a category outside 1..12, and for one that counts entries
+    // which the book does not have because it was loaded with too few headers.
 
-    // Appends entries at the end of a category, in their order. Throws OverflowFault when the book or the
-    // category would hold more than 32,767.
+    // Appends entries to a category, in their order. Throws OverflowFault if the book or the category would
+    // have more than 32,767.
     void AddEntry(int category, const std::vector<NewEntry>& entries);
-    // Removes `count` entries of a category from the 1-based position on. Throws RangeFault when they do not
-    // all lie in the category.
+    // Removes `count` entries of a category from a position on. Throws RangeFault if the category does not
+    // have them all.
     void DeleteEntry(int category, int position, int count);
     // Moves the entry at an offset of a category, 0-based unlike the positions above, to the end of another
     // one and sets Marks.CheckedCount() to 0. Throws RangeFault for an offset that the source does not have,

@@ -14,7 +14,7 @@ namespace {
 
 constexpr char kHeaderMark = '#';
 
-// Cuts a text into lines at LF or CR LF. A line break at the very end begins no further line.
+// Splits a text into lines at LF or CR LF.
 class LineReader {
   public:
     explicit LineReader(std::string_view text) : rest_(text) {}
@@ -37,7 +37,7 @@ class LineReader {
     std::string_view rest_;
 };
 
-// (lines - 12) / 2, rounded to the nearest whole number, ties to the even one: two lines for each entry.
+// Entries in a file of that many lines: half of what the twelve headers leave, rounded half to even.
 long long EstimatedEntries(long long lines) {
     const long long doubled = lines - kCategories;
     const long long floor = doubled >= 0 ? doubled / 2 : -((1 - doubled) / 2);
@@ -47,11 +47,10 @@ long long EstimatedEntries(long long lines) {
 
 }  // namespace
 
-// Builds the book of a file beside the open one, which takes it over only when it is whole.
+// Builds the book of a file in a book of its own, so that a malformed file does not affect the open one.
 class BookReader {
   public:
-    // The new book begins with the names and counts of the old one: a file with too few headers leaves them
-    // to the categories that it never reaches.
+    // Takes names and counts from the old book for categories that the file may not reach.
     BookReader(const Book& old, std::vector<char> bytes) {
         book_.names_ = old.names_;
         book_.counts_ = old.counts_;

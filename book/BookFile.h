@@ -1,7 +1,7 @@
-// The book file (*.lnd): for each category a line "#" + name, then two lines for each entry, its site name
-// and its address; Windows-1250, no escaping. Written with CR LF; read with CR LF or LF.
+// The book file (*.lnd): for each category a header line, "#" and its name, and then two lines for each
+// entry, its site name and its address. Windows-1250; written with CR LF, read with CR LF or LF.
 //
-// Because nothing is escaped, a name or an address that begins with "#" comes back as a category header.
+// There is no escaping: a name or an address that begins with "#" is read back as a header.
 #pragma once
 
 #include <exception>
@@ -15,8 +15,8 @@
 
 namespace lindrel {
 
-// A file that is no book. The message is in Hungarian and says what is wrong; the line is 1-based, 0 when the
-// fault is none of a single line.
+// A file that is not a book. The message says in Hungarian what is wrong; the line is 1-based, or 0 if it is
+// not a single line that is wrong.
 class MalformedBook : public std::exception {
   public:
     MalformedBook(std::wstring message, long long line) : message_(std::move(message)), line_(line) {}
@@ -29,26 +29,25 @@ class MalformedBook : public std::exception {
     long long line_;
 };
 
-// Lines of a text: a last line without a break counts, a break at the very end adds none.
+// The number of lines of a text. The last one may lack its line break.
 long long CountLines(std::string_view bytes);
 
-// Replaces names, counts, starts and entries by those of the file and clears the check marks. Returns whether
+// Replaces names, counts and entries by those of the file and clears the check marks. Returns whether
 // there were exactly twelve headers. A file with fewer is loaded as far as it goes, since users repair such
 // files by hand: the categories that it does not reach keep their names and counts. Throws MalformedBook or
 // FileFault and leaves the book as it was.
 bool LoadBook(Book& book, std::vector<char> bytes);
 bool LoadBook(Book& book, const std::filesystem::path& path);
 
-// The file of a book. Throws RangeFault for a book whose counts run beyond its entries.
+// The bytes of a book's file. Throws RangeFault for a book that counts more entries than it has.
 std::string SaveBook(const Book& book);
-// Writes it in one step: the old file stays untouched until the new one is whole and on the disk. Throws
-// FileFault with the system's reason; then the old file is as it was and no temporary file is left.
+// Writes the file in one step, see ReplaceFileBytes(). Throws FileFault too.
 void SaveBook(const Book& book, const std::filesystem::path& path);
 
-// Names and addresses that begin with "#": they will come back as headers.
+// Names and addresses that begin with "#" and would be read back as headers.
 struct HeaderLookalikes {
     int Count = 0;
-    std::string First;  // book text of the first one in book order
+    std::string First;  // the first one in the book, as book text
 };
 HeaderLookalikes FindHeaderLookalikes(const Book& book);
 

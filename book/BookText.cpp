@@ -12,7 +12,7 @@ namespace lindrel {
 
 namespace {
 
-// Windows-1250 from 0x80 on. 0x81, 0x83, 0x88, 0x90 and 0x98 are unused there and keep their numbers.
+// Windows-1250 from 0x80 on. The unused bytes 0x81, 0x83, 0x88, 0x90 and 0x98 keep their numbers.
 constexpr std::array<char16_t, 128> kUpperHalf = {
     0x20AC, 0x0081, 0x201A, 0x0083, 0x201E, 0x2026, 0x2020, 0x2021,  // 0x80
     0x0088, 0x2030, 0x0160, 0x2039, 0x015A, 0x0164, 0x017D, 0x0179,  // 0x88
@@ -32,7 +32,7 @@ constexpr std::array<char16_t, 128> kUpperHalf = {
     0x0159, 0x016F, 0x00FA, 0x0171, 0x00FC, 0x00FD, 0x0163, 0x02D9,  // 0xF8
 };
 
-constexpr char32_t kLastCharacter = 0x2122;  // the trade mark sign, highest of the repertoire
+constexpr char32_t kLastCharacter = 0x2122;  // the trade mark sign, the highest in Windows-1250
 
 constexpr std::uint8_t Number(char byte) {
     return static_cast<std::uint8_t>(byte);
@@ -42,7 +42,7 @@ constexpr char32_t CharacterOfNumber(std::uint8_t number) {
     return number < 0x80 ? char32_t{number} : char32_t{kUpperHalf[number - 0x80U]};
 }
 
-// Byte of each character up to the last of the repertoire; 0 means none (U+0000 itself is told apart).
+// The byte of each character up to the last one; 0 for none, so U+0000 needs a test of its own.
 constexpr auto kByteOf = [] {
     std::array<std::uint8_t, kLastCharacter + 1> table{};
     for (unsigned number = 1; number < 256; ++number)
@@ -50,7 +50,7 @@ constexpr auto kByteOf = [] {
     return table;
 }();
 
-// Lower case by character: the letters of Windows-1250 lie in ASCII, Latin-1 and Latin Extended-A.
+// The letters of Windows-1250 are in ASCII, Latin-1 and Latin Extended-A.
 constexpr char32_t LowerCharacter(char32_t c) {
     if (c >= U'A' && c <= U'Z') return c + 0x20;
     if (c >= 0xC0 && c <= 0xDE && c != 0xD7) return c + 0x20;
@@ -69,8 +69,7 @@ constexpr auto kLower = [] {
     return table;
 }();
 
-// The other way round: the capital of each letter in lower case, anything else as it is. No letter of the
-// repertoire has two capitals.
+// The inverse of kLower: no letter has two capitals.
 constexpr auto kUpper = [] {
     std::array<std::uint8_t, 256> table{};
     for (unsigned number = 0; number < 256; ++number) table[number] = static_cast<std::uint8_t>(number);
@@ -82,7 +81,7 @@ constexpr auto kUpper = [] {
 constexpr std::uint64_t kOnes = 0x0101010101010101;
 constexpr std::uint64_t kHighBits = 0x8080808080808080;
 
-// The word of the eight bytes at a place of a text, the first one in its lowest bits.
+// Eight bytes of a text, the first one in the lowest bits.
 std::uint64_t WordAt(std::string_view text, std::size_t place) {
     static_assert(std::endian::native == std::endian::little);
     std::uint64_t word = 0;
@@ -90,8 +89,7 @@ std::uint64_t WordAt(std::string_view text, std::size_t place) {
     return word;
 }
 
-// Marks the zero bytes of a word by their high bits. Above the lowest zero byte, bytes of 1 can be marked
-// too.
+// Sets the high bit of each zero byte. Above the lowest one, bytes of 1 may be marked as well.
 constexpr std::uint64_t ZeroBytes(std::uint64_t word) {
     return (word - kOnes) & ~word & kHighBits;
 }
@@ -161,8 +159,8 @@ CaselessNeedle::CaselessNeedle(std::string_view needle) : needle_(LowerCase(need
     upper_ = kOnes * Number(UpperCase(needle_.front()));
 }
 
-// Where a text from the place on has the first letter in one of its forms, or the text's size. Eight bytes at
-// a time, the last eight overlapping those before.
+// The next place of the needle's first letter in either case, or the size of the text. Looks at eight bytes
+// at a time; the last eight may overlap those before them.
 std::size_t CaselessNeedle::NextStart(std::string_view text, std::size_t from) const noexcept {
     constexpr std::size_t kWord = sizeof(std::uint64_t);
     const auto marks = [this](std::uint64_t word) {

@@ -6,8 +6,8 @@
 
 namespace lindrel {
 
-// The character at a place (0-based, within the text); moves the place behind it. Two units that are a
-// surrogate pair are one character. A surrogate without its other half is returned as it is.
+// The character at a 0-based place within the text; the place is moved past it. A surrogate pair is one
+// character. An unpaired surrogate is returned as it is.
 char32_t NextCharacter(std::wstring_view text, std::size_t& place);
 
 constexpr bool IsSurrogate(char32_t character) {

@@ -28,7 +28,7 @@ std::string_view TextStore::Keep(std::string_view text) {
 }
 
 std::string_view TextStore::Adopt(std::vector<char> bytes) {
-    // Moving a vector keeps its buffer where it is, so views of earlier blocks hold.
+    // Moving a vector does not move its buffer, so views of earlier blocks stay valid.
     blocks_.push_back(std::move(bytes));
     return {blocks_.back().data(), blocks_.back().size()};
 }
@@ -79,7 +79,7 @@ void EntrySequence::Remove(int index, int count) {
     if (index < 1 || count < 0 || index - 1 > Size() - count) throw RangeFault();
     const auto first = static_cast<std::size_t>(index - 1);
     const auto removed = static_cast<std::size_t>(count);
-    // A gap behind the run grows over it from behind, so only what lies between is moved.
+    // A gap after the run is extended backwards over it; only what is between them has to be moved.
     MoveGapTo(gap_ >= first + removed ? first + removed : first);
     if (gap_ == first + removed) gap_ = first;
     gap_length_ += removed;

@@ -1,6 +1,6 @@
-// The entries of a book in one sequence, as a gap buffer: the free room stands where entries were last added
-// or removed, so that a command which removes thousands of runs one by one touches each entry once, not once
-// for each run. The texts live in a store that only grows; entries are views into it and cheap to copy.
+// The entries of a book, in a gap buffer: the free slots are where entries were last added or removed, so
+// that removing thousands of runs of entries one by one moves each entry only once. The texts are in a store
+// that only grows; entries are views into it and cheap to copy.
 #pragma once
 
 #include <cstddef>
@@ -10,18 +10,18 @@
 
 namespace lindrel {
 
-// Holds texts at fixed places for as long as somebody keeps the store.
+// Owns texts, which stay at the same address for as long as the store exists.
 class TextStore {
   public:
-    // Copies the text in and returns the view of the copy.
+    // Copies a text into the store and returns a view of the copy.
     std::string_view Keep(std::string_view text);
-    // Takes over a whole buffer (a book file's bytes) and returns the view of it.
+    // Takes over a buffer, such as the bytes of a book file, and returns a view of it.
     std::string_view Adopt(std::vector<char> bytes);
 
   private:
     std::vector<std::vector<char>> blocks_;
-    std::size_t room_ = 0;  // bytes left of the last block that Keep() made
-    char* next_ = nullptr;
+    char* next_ = nullptr;  // free bytes of the last block that Keep() made
+    std::size_t room_ = 0;  // their number
 };
 
 struct AddressEntry {
@@ -43,10 +43,10 @@ class EntrySequence {
     void Insert(int index, int count);
     // Removes `count` elements from the 1-based index on.
     void Remove(int index, int count);
-    // Throws everything away and starts with `count` blank elements and an empty store.
+    // Drops everything and starts again with `count` blank elements and an empty store.
     void Recreate(int count);
 
-    // The elements index .. index + count - 1, copied out.
+    // Copies of `count` elements from the 1-based index on.
     std::vector<AddressEntry> Copy(int index, int count) const;
 
     TextStore& Texts() { return *texts_; }
@@ -57,8 +57,8 @@ class EntrySequence {
     void MoveGapTo(std::size_t slot);
 
     std::vector<AddressEntry> slots_;
-    std::size_t gap_ = 0;         // first slot of the gap
-    std::size_t gap_length_ = 0;  // its length in slots
+    std::size_t gap_ = 0;  // first slot of the gap
+    std::size_t gap_length_ = 0;
     std::shared_ptr<TextStore> texts_ = std::make_shared<TextStore>();
 };
 

@@ -15,7 +15,7 @@ Fault CurrentFault() {
     } catch (const std::bad_alloc&) {
         return MemoryFault();
     } catch (const std::length_error&) {
-        return MemoryFault();  // a file larger than any text may be
+        return MemoryFault();  // a file is larger than any buffer can be
     } catch (...) {
         return {51, L"Belső hiba"};
     }

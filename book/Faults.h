@@ -1,6 +1,6 @@
-// Faults: what a routine throws when it is handed something it cannot work with. A routine that throws one
-// has changed nothing. A fault that no command handles ends the program with the run-time error report,
-// which shows Number() and Meaning(), after offering to save the book.
+// Faults: the exceptions that functions throw when they cannot do what they were asked for. Unless its header
+// says otherwise, a function that throws one has changed nothing. If no command handles a fault, the program
+// shows Number() and Meaning() in the run-time error report, offers to save the book, and ends.
 #pragma once
 
 #include <exception>
@@ -15,7 +15,7 @@ class Fault : public std::exception {
 
     // The number that the report shows; each kind of fault has one.
     int Number() const noexcept { return number_; }
-    // What it means, in Hungarian, without a full stop.
+    // What went wrong, in Hungarian, without a full stop.
     const std::wstring& Meaning() const noexcept { return meaning_; }
     const char* what() const noexcept override { return "Lindrel fault"; }
 
@@ -24,25 +24,25 @@ class Fault : public std::exception {
     std::wstring meaning_;
 };
 
-// A call that makes no sense with the values given, such as text cut at a place before its start.
+// An argument that makes no sense.
 class ArgumentFault : public Fault {
   public:
     ArgumentFault() : Fault(5, L"Érvénytelen eljáráshívás vagy argumentum") {}
 };
 
-// A count or an index beyond what its 8 or 16 bits hold.
+// A count or an index that does not fit into its 8 or 16 bits.
 class OverflowFault : public Fault {
   public:
     OverflowFault() : Fault(6, L"Túlcsordulás") {}
 };
 
-// A category, position or index outside the bounds it has.
+// A category, position or index that is out of bounds.
 class RangeFault : public Fault {
   public:
     RangeFault() : Fault(9, L"Az index a tartományon kívül esik") {}
 };
 
-// Memory that the system does not give.
+// Not enough memory.
 class MemoryFault : public Fault {
   public:
     MemoryFault() : Fault(7, L"Elfogyott a memória") {}
@@ -54,8 +54,8 @@ class EndOfFileFault : public Fault {
     EndOfFileFault() : Fault(62, L"Olvasás a fájl vége után") {}
 };
 
-// A file or folder that cannot be opened, created, read or written. Meaning() is the system's own reason,
-// or in short what could not be done.
+// A file or folder that cannot be opened, created, read or written. Meaning() is the system's reason for a
+// file, and for a folder what could not be done.
 class FileFault : public Fault {
   public:
     FileFault(std::wstring path, std::wstring reason)
@@ -66,9 +66,9 @@ class FileFault : public Fault {
     std::wstring path_;
 };
 
-// What the exception being handled is to the user: of a fault its own number and meaning (with the path
-// before it, when it has one), of any other exception those of missing memory or of an error of the program
-// itself. Only to be called while an exception is handled.
+// The exception being handled, as it is reported to the user: a fault with its number and meaning (after the
+// path if it has one), any other exception as missing memory or as an internal error. To be called in a catch
+// clause only.
 Fault CurrentFault();
 
 }  // namespace lindrel

@@ -1,4 +1,4 @@
-// Whole files in and out.
+// Reading and writing whole files.
 #pragma once
 
 #include <filesystem>
@@ -8,19 +8,18 @@
 
 namespace lindrel {
 
-// All bytes of a file. Throws FileFault.
+// The bytes of a file. Throws FileFault.
 std::vector<char> ReadFileBytes(const std::filesystem::path& path);
 
-// Creates or overwrites a file. Throws FileFault; a partly written file may stay.
+// Creates or overwrites a file. Throws FileFault and may leave an incomplete file.
 void WriteFileBytes(const std::filesystem::path& path, std::string_view bytes);
 
-// Puts a new file in the place of an old one in one step: written beside it, flushed to the disk, then
-// renamed. Throws FileFault with the system's reason (a read-only file is never replaced); then the old file
-// is as it was and no temporary file is left.
+// Creates a file or replaces it in one step: writes a temporary file next to it, flushes that to the disk and
+// renames it. Never replaces a read-only file. Throws FileFault and leaves the old file unchanged and no
+// temporary file.
 void ReplaceFileBytes(const std::filesystem::path& path, std::string_view bytes);
 
-// The part of a path after its last backslash, without blanks at its ends; without a backslash the whole
-// path.
+// The part of a path after its last backslash (or all of it), without blanks at its ends.
 std::wstring FileNameOf(std::wstring_view path);
 
 }  // namespace lindrel

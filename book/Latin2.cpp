@@ -10,7 +10,7 @@ namespace lindrel {
 
 namespace {
 
-// The two rows in which ISO 8859-2 and Windows-1250 differ; from C0 on they are the same.
+// The characters A0 to BF, where ISO 8859-2 differs from Windows-1250. From C0 on they are the same.
 constexpr unsigned kFirst = 0xA0;
 constexpr std::array<char16_t, 32> kRows = {0x00A0, 0x0104, 0x02D8, 0x0141, 0x00A4, 0x013D, 0x015A, 0x00A7,
                                             0x00A8, 0x0160, 0x015E, 0x0164, 0x0179, 0x00AD, 0x017D, 0x017B,

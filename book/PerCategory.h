@@ -1,4 +1,4 @@
-// The twelve categories of a book, numbered from 1, and a value for each of them.
+// The twelve categories of a book, and a container with a value for each.
 #pragma once
 
 #include <array>
@@ -10,7 +10,7 @@ namespace lindrel {
 
 inline constexpr int kCategories = 12;
 
-// Values of the twelve categories, indexed 1..12. Throws RangeFault for any other index.
+// Indexed 1..12; throws RangeFault for any other index.
 template <typename T>
 class PerCategory {
   public:

@@ -21,7 +21,7 @@ std::vector<RowRun> CheckedRuns(int rows, const std::function<bool(int)>& is_che
     return runs;
 }
 
-// Both work on a copy, so that a fault at a later run leaves the book whole.
+// Both work on a copy, so that the book is unchanged if a later run is refused.
 
 void DeleteRuns(Book& book, int category, const std::vector<RowRun>& runs) {
     Book rest = book;

@@ -6,7 +6,7 @@ namespace lindrel {
 
 namespace {
 
-// A blank for each line end: CR LF, CR or LF.
+// The text with a blank for each line break (CR LF, CR or LF).
 std::wstring OneLine(std::wstring_view text) {
     std::wstring line;
     wchar_t before = 0;

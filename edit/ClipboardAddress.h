@@ -7,9 +7,9 @@
 
 namespace lindrel {
 
-// The address in what the clipboard holds: a text with "http:", "www.", "ftp:" or "@" anywhere in it, in
-// either letter case, without the blanks around it and completed by "http://" or "mailto:" where that is
-// missing. Nothing when it holds none of these. Line breaks count as blanks, for the field has one line.
+// The address in a text from the clipboard, or nothing if the text has none of "http:", "https:", "www.",
+// "ftp:" and "@" in it (in either case). The address is the whole text without blanks at its ends, with line
+// breaks replaced by blanks and with "http://" or "mailto:" put in front where it is missing.
 std::optional<std::wstring> AddressFromClipboard(std::wstring_view text);
 
 }  // namespace lindrel

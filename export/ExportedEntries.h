@@ -1,4 +1,5 @@
-// Which entries an export takes: those checked when their category's tab was left, in the order of the list.
+// The entries that are exported: those that were checked when their category was last left, in the order of
+// the list.
 #pragma once
 
 #include <cstdint>
@@ -13,7 +14,7 @@ inline bool IsExported(const Book& book, int category) {
     return book.Marks.SavedCheckCounts(category) > 0;
 }
 
-// Indices, in the book, of a category's entries to export. Only for a category that IsExported().
+// The indices in the book of a category's entries to export.
 inline std::vector<int> ExportedEntries(const Book& book, int category) {
     std::vector<int> indices;
     for (const std::int16_t position : book.Marks.SavedCheckLists(category))

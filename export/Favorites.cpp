@@ -24,7 +24,7 @@ struct ShortcutToWrite {
     std::filesystem::path Folder;
 };
 
-// Book text as a path, in whatever encoding this system has for them.
+// Book text as a path, in the encoding that the system uses for paths.
 std::filesystem::path PathOf(std::string_view text) {
     std::u32string characters;
     for (const char byte : text) characters.push_back(CharacterOf(byte));

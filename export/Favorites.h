@@ -1,4 +1,4 @@
-// The export as a folder of Internet shortcut files.
+// Export to Internet shortcut files.
 #pragma once
 
 #include <filesystem>

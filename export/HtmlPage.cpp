@@ -14,7 +14,7 @@ namespace lindrel {
 namespace {
 
 constexpr std::size_t kMostFields = 6;
-constexpr std::size_t kHeadLine = 5;  // the fragment that only themes have
+constexpr std::size_t kHeadLine = 5;  // the fragment that only a theme has
 constexpr std::string_view kOpenRow = "<tr><td>";
 
 bool ContainsRow(std::string_view fragment) {

@@ -18,15 +18,14 @@ void AppendReference(std::string& html, char32_t character) {
 }
 
 void AppendCharacter(std::string& html, char32_t character) {
-    // Bytes 80 to 9F must not be references: browsers take the numbers of those for characters of
-    // Windows-1252.
+    // Bytes 80 to 9F must not become references: browsers take those numbers for Windows-1252.
     if (const auto byte = Latin2Byte(character))
         html.push_back(*byte);
     else
         AppendReference(html, character);
 }
 
-// False for a character that needs no escape.
+// Returns false for a character that needs no escape.
 bool AppendEscaped(std::string& html, char32_t character) {
     switch (character) {
         case U'&':
@@ -42,7 +41,7 @@ bool AppendEscaped(std::string& html, char32_t character) {
             html += "&quot;";
             return true;
         case U'\r':
-            // As it stands it would be a line feed to a browser.
+            // Unescaped, a browser would read it as a line feed.
             AppendReference(html, character);
             return true;
         default:

@@ -1,4 +1,4 @@
-// Text of an exported page: ISO 8859-2 bytes, with numeric references for the characters that this lacks.
+// The text of an exported page: ISO 8859-2, with numeric references for other characters.
 #pragma once
 
 #include <string>
@@ -10,11 +10,11 @@ namespace lindrel {
 std::string HtmlText(std::wstring_view text);
 std::string HtmlText(std::string_view book_text);
 
-// An address as the value of an attribute without quotation marks: blanks and whatever else would end it are
-// references too.
+// An address as an attribute value without quotation marks: blanks and other characters that would end it
+// become references.
 std::string HtmlAddress(std::string_view book_text);
 
-// HTML that passes through; only its characters are brought into the page's encoding.
+// HTML that is not escaped, only encoded like the page.
 std::string HtmlFragment(std::string_view book_text);
 
 }  // namespace lindrel

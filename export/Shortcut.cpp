@@ -13,7 +13,7 @@ namespace {
 constexpr std::string_view kReplaced = "\\/:?";
 constexpr std::string_view kNotInFolderNames = "\\/:?*\"<>|";
 
-// Only the letters that a book can hold have an upper case here.
+// Characters that a book cannot hold stay as they are.
 wchar_t UpperCaseOfWide(wchar_t character) {
     const std::optional<char> byte = BookByte(static_cast<char32_t>(character));
     return byte ? static_cast<wchar_t>(CharacterOf(UpperCase(*byte))) : character;

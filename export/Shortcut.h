@@ -1,4 +1,4 @@
-// Internet shortcut files (*.url): their content and their names.
+// The content and the names of Internet shortcut files (*.url).
 #pragma once
 
 #include <string>
@@ -6,7 +6,7 @@
 
 namespace lindrel {
 
-// The file for an address (book text): two lines, the second without a line end.
+// The file for an address (book text): two lines, without a line break at the end.
 std::string ShortcutFile(std::string_view url);
 
 // Replaces each backslash, slash, colon and question mark by "_". Other characters that are invalid in file
@@ -17,8 +17,8 @@ void MakeShortcutFileName(std::string& name);
 // to be replaced: users know the export to refuse such names.
 void SafeFileName(std::string& name);
 
-// A category's name as a folder: "_" for every character that a folder name cannot hold, and for a full stop
-// or a blank at its end.
+// The folder name for a category: "_" replaces every character that is invalid in folder names, and a full
+// stop or a blank at the end.
 std::string SafeFolderName(std::string_view name);
 
 // The folder for shortcuts on the desktop: that of the desktop in upper case, up to the first character from

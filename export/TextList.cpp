@@ -13,12 +13,12 @@ namespace lindrel {
 
 namespace {
 
-// Book text: division signs, a degree sign.
+// Division signs and a degree sign, as book text.
 constexpr std::string_view kHeaderStart = "\xF7\xF7\xF7\xF7\xF7< ";
 constexpr std::string_view kNameStart = "\xB0 ";
 constexpr std::string_view kAddressStart = "  ";
 constexpr std::string_view kLineEnd = "\r\n";
-// Name and dashes together, so that all headers are of one length.
+// Length of the name with the dashes after it. All headers have the same length.
 constexpr std::size_t kHeaderRest = 120;
 
 }  // namespace

@@ -1,4 +1,4 @@
-// The export as a plain text list: a header line for each category, two lines for each entry.
+// Export to a text file: a header line for each category, and two lines for each entry.
 #pragma once
 
 #include "book/Book.h"
@@ -7,7 +7,7 @@
 namespace lindrel {
 
 // Writes the checked entries in Windows-1250 with CR LF. Throws ArgumentFault at a category whose name is
-// longer than 120 characters; what stands before its header has been written then.
+// longer than 120 characters; the categories before it have been written then.
 void WriteTextList(const Book& book, const ByteSink& out);
 
 }  // namespace lindrel

@@ -3,6 +3,7 @@
 namespace lindrel {
 
 void DeleteEntries(Book& book, const std::vector<int>& indices) {
+    // From the last one on, so that the other indices stay valid.
     for (auto index = indices.rbegin(); index != indices.rend(); ++index) {
         const int category = book.CategoryOf(*index);
         book.DeleteEntry(category, *index - book.CategoryStarts(category) + 1, 1);

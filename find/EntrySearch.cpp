@@ -16,19 +16,19 @@ constexpr std::size_t kBehindScheme = 4;
 constexpr std::size_t kBehindWebHost = 11;
 const CaselessNeedle web_host_needle(kWebHost);
 
-// Nothing when the text holds a character that no name or address can hold.
+// Nothing if the text has a character that no name or address can have.
 std::optional<CaselessNeedle> NeedleOf(std::wstring_view typed) {
     if (FirstForeignCharacter(typed)) return std::nullopt;
     return CaselessNeedle(ToBookText(typed));
 }
 
-// Asks each entry of the book for its place among the hits.
+// The entries of the book that `accepts` returns true for.
 template <typename Accepts>
 Hits Collect(const Book& book, const Accepts& accepts) {
     Hits hits{.Items = {}, .Texts = book.Texts()};
-    // A book that was loaded with too few headers may count entries that it does not have.
+    // A book that was loaded with too few headers may count more entries than it has.
     const int last = std::min(book.EntryCount(), book.UpperBound());
-    // Only what is used of it costs anything.
+    // Avoids copying the hits again and again. The memory costs nothing until it is used.
     hits.Items.reserve(static_cast<std::size_t>(last));
     int category = 1;
     for (int i = 1; i <= last; ++i) {

@@ -1,6 +1,6 @@
-// Searching the book: all categories at once for the find dialog, and one category step by step for the
-// search box. Only site names are searched; letter case aside, so that "ű" finds "Ű". What the user types may
-// hold characters that no book has; then nothing is found.
+// Searching the book: in all categories for the find dialog, and step by step in one category for the search
+// box. Only site names are searched, case-insensitively also for accented letters. Text with characters that
+// a book cannot hold is not found.
 #pragma once
 
 #include <cstdint>
@@ -14,7 +14,7 @@
 
 namespace lindrel {
 
-// An entry that a search found. Its index names it for as long as no entry is added, moved or deleted.
+// An entry that was found. Its index is valid until an entry is added, moved or deleted.
 struct Hit {
     int Index = 0;     // in the book, 1-based
     int Category = 0;  // 1..12
@@ -22,22 +22,22 @@ struct Hit {
     bool operator==(const Hit&) const = default;
 };
 
-// The hits of one search, in book order. They stay readable whatever happens to the book afterwards.
+// The hits of a search, in the order of the book. They stay valid when the book changes.
 struct Hits {
     std::vector<Hit> Items;
-    std::shared_ptr<const TextStore> Texts;  // keeps what the entries point to
+    std::shared_ptr<const TextStore> Texts;  // owns what the entries point to
 };
 
-// The entries whose site name contains `what` and, unless `ending` is empty, whose address carries the ending
-// (typed without its dot). Empty `what` is in every name.
+// The entries whose site name contains `what` (any name, if that is empty) and whose address carries the
+// ending, which is given without its dot and may be empty.
 Hits FindEntries(const Book& book, std::wstring_view what, std::wstring_view ending);
 
 // Whether an address contains an ending (with its dot) after its scheme, or after "http://www." if it begins
 // with "http://www". The path is searched too: users find pages by endings in it.
 bool CarriesEnding(std::string_view url, const CaselessNeedle& ending);
 
-// One step of the search in a category: looks from the 0-based position on and sets it behind the first entry
-// whose name contains the text, so that it is that entry's 1-based position; 0 when there is none.
+// One step of the search in a category: finds the first entry after a position whose name contains the text,
+// and sets the position (1-based) to it, or to 0 if there is none. Start with position 0.
 void FindInCategory(const Book& book, std::wstring_view text, int category, std::int16_t& position);
 
 }  // namespace lindrel

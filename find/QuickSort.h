@@ -1,4 +1,4 @@
-// Sorting in place between two indices.
+// Sorting part of a sequence in place.
 #pragma once
 
 #include <cstddef>
@@ -9,9 +9,9 @@
 
 namespace lindrel {
 
-// Sorts the values low..high (0-based, both included) into ascending order by their "<"; equal values may
-// change places. Nothing happens without values or when high is not greater than low. Throws RangeFault, and
-// has changed nothing, for indices beyond the values.
+// Sorts the values at low..high (0-based, inclusive) into ascending order by "<"; equal values may change
+// places. Does nothing if there are no values or if high <= low. Throws RangeFault, before changing anything,
+// for indices out of bounds.
 template <typename Value>
 void QuickSort(std::span<Value> values, int low, int high) {
     if (values.empty() || high <= low) return;

@@ -1,4 +1,4 @@
-// The search services on the internet that the search box offers: the one place that knows their addresses.
+// The web search services of the search box, with their addresses.
 #pragma once
 
 #include <array>
@@ -8,11 +8,11 @@
 namespace lindrel {
 
 struct WebService {
-    std::wstring_view Name;    // as the user chooses it
-    std::wstring_view Prefix;  // what stands before the words searched for
+    std::wstring_view Name;    // in the drop-down list
+    std::wstring_view Prefix;  // the address up to the words searched for
 };
 
-// By their place in the choice. The first, empty one means: search the book.
+// In the order of the drop-down list. The first, empty one stands for a search in the book.
 inline constexpr std::array<WebService, 6> kWebServices{{
     {L"", L""},
     {L"AltaVista", L"https://search.yahoo.com/search?fr=altavista&p="},

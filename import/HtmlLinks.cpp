@@ -29,7 +29,7 @@ bool BeginsCaseless(std::string_view text, std::string_view lower) {
                                                      [](char a, char b) { return a == AsciiLower(b); });
 }
 
-// How far a search for the anchor may go on when a byte stands under its last place (Horspool's table).
+// By how much a search for the anchor may advance if this byte is in its last place (Horspool's algorithm).
 constexpr auto kStep = [] {
     std::array<std::uint8_t, 256> steps{};
     steps.fill(static_cast<std::uint8_t>(kAnchor.size()));
@@ -40,7 +40,7 @@ constexpr auto kStep = [] {
     return steps;
 }();
 
-// Place of the next anchor in either case. No line end can be inside it.
+// The place of the next anchor, in either case, or kNowhere.
 std::size_t FindAnchor(std::string_view page, std::size_t from) {
     constexpr std::size_t kLast = kAnchor.size() - 1;
     for (std::size_t at = from; at + kLast < page.size();) {
@@ -57,18 +57,18 @@ std::size_t FindClosing(std::string_view line) {
     return kNowhere;
 }
 
-// Counters that hold no more than 255.
+// For counters of 8 bits.
 std::size_t CheckedShortCount(std::size_t count) {
     if (count > std::numeric_limits<std::uint8_t>::max()) throw OverflowFault();
     return count;
 }
 
-// Cuts a page into the chunks of its anchors: from the address to the closing tag.
+// Finds the chunks of a page: the texts of its anchors, from the address to the closing tag.
 class AnchorScanner {
   public:
     explicit AnchorScanner(std::string_view page) : page_(page) {}
 
-    // The next chunk; it holds until the next call. Throws EndOfFileFault for an anchor that is not closed.
+    // The next chunk, valid until the next call. Throws EndOfFileFault for an anchor that is not closed.
     std::optional<std::string_view> Next() {
         const std::size_t anchor = FindAnchor(page_, place_);
         if (anchor == kNowhere) return std::nullopt;
@@ -102,8 +102,8 @@ class AnchorScanner {
     }
 
     std::string_view page_;
-    std::size_t place_ = 0;     // where the search goes on
-    std::size_t line_end_ = 0;  // of the last line that was looked at
+    std::size_t place_ = 0;     // where the search continues
+    std::size_t line_end_ = 0;  // of the last line that was read
     std::string chunk_;
 };
 

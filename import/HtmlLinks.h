@@ -12,29 +12,29 @@
 namespace lindrel {
 
 enum class LinkChoice {
-    Online,  // links with "://" from their third character on
+    Online,  // links with "://" in or after their third character
     All,
 };
 
-// The links of a page (book text, lines end in CR LF, LF or CR), in its order. Names and addresses are in
-// lower case where they stand on the line on which their anchor begins, and as written on the lines after it.
+// The links of a page (book text; lines end in CR LF, LF or CR), in their order. Names and addresses are in
+// lower case as far as they are on the line where the anchor begins, and unchanged on the lines after it.
 // Throws
-//   OverflowFault   an address or a link's text too long for the reader's counters (see StageLink and
-//                   CleanLinkText), or more than 32,766 links;
-//   EndOfFileFault  an anchor that is not closed;
-//   ArgumentFault   an address without closing quotation mark.
+//   OverflowFault   for an address or a text that is too long (see StageLink and CleanLinkText), and for more
+//   than
+//                   32,766 links,
+//   EndOfFileFault  for an anchor that is not closed,
+//   ArgumentFault   for an address without a closing quotation mark.
 std::vector<NewEntry> LinksOfPage(std::string_view page, LinkChoice choice);
 
-// Stores a link as element `number` - 1; `number` counts from 1. The chunk is the text of an anchor from its
-// address on: the address goes to the first quotation mark, the name's raw text begins behind the first ">"
-// after that (without one it is the whole chunk). Throws ArgumentFault without a quotation mark,
-// OverflowFault when it stands behind the 255th character, and what CleanLinkText throws; nothing is stored
-// then.
+// Stores the link with the 1-based `number` as the last one of `staged`. The chunk is the text of an anchor
+// from its address on: the address ends at the first quotation mark, and the text of the link begins after
+// the next ">". Throws ArgumentFault if there is no quotation mark, OverflowFault if it is not among the
+// first 255 characters, and what CleanLinkText throws; nothing is stored then.
 void StageLink(std::vector<NewEntry>& staged, std::string_view chunk, std::int16_t number);
 
-// Makes a site name of the raw text of a link: what stands between its last opening and its first closing
-// tag, at most 55 characters of it. A text with a tag but no closing one becomes "ismeretlen". Throws
-// OverflowFault when the first closing tag begins behind the 255th character.
+// Turns the text of a link into a site name: what is between the last opening and the first closing tag, cut
+// to 55 characters. A text that has a tag but no closing one becomes "ismeretlen". Throws OverflowFault if
+// the first closing tag does not begin among the first 255 characters.
 void CleanLinkText(std::string_view& text);
 
 }  // namespace lindrel

@@ -21,7 +21,7 @@ constexpr bool IsAscii(char byte) {
     return static_cast<unsigned char>(byte) < 0x80;
 }
 
-// Eight bytes at once, for the long stretches of ASCII that pages are made of.
+// Pages are mostly ASCII, which is read in blocks of eight bytes.
 using Block = std::uint64_t;
 
 bool BeginsWithAsciiBlock(std::string_view bytes, Block& block) {
@@ -36,7 +36,7 @@ struct Utf8Character {
     std::size_t Length;  // in bytes
 };
 
-// The character at the start of the bytes, which is not ASCII; nothing when they are no UTF-8.
+// The character at the start of the bytes, which is not ASCII, or nothing if they are not UTF-8.
 std::optional<Utf8Character> FirstUtf8Character(std::string_view bytes) {
     const auto lead = static_cast<unsigned char>(bytes.front());
     const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
@@ -70,7 +70,8 @@ bool IsUtf8BeyondAscii(std::string_view bytes) {
     return beyond;
 }
 
-// The value of name = value at the start of a text, without its quotes; empty when there is no "=".
+// The value in a text that begins after the name of an attribute, without quotation marks; empty if there is
+// no "=".
 std::string_view ValueAfterName(std::string_view text) {
     constexpr std::string_view kBlanks = " \t\r\n\f";
     constexpr std::string_view kEnds = " \t\r\n\f\"';>/?";
@@ -86,7 +87,7 @@ std::string_view ValueAfterName(std::string_view text) {
     return text.substr(0, text.find_first_of(kEnds));
 }
 
-// The encoding that a tag of the page's head names with an attribute, both in lower case; empty for none.
+// The value of an attribute in a tag of the head, or empty. Tag and attribute are given in lower case.
 std::string_view DeclaredIn(std::string_view head, std::string_view tag, std::string_view attribute) {
     for (std::size_t start = head.find(tag); start != std::string_view::npos;
          start = head.find(tag, start + 1)) {
@@ -116,7 +117,7 @@ std::optional<PageEncoding> DeclaredEncoding(std::string_view page) {
     return std::nullopt;
 }
 
-// Book text is never longer than UTF-8, so it is written over the bytes that were read already.
+// Converts in place, since book text is never longer than UTF-8.
 void FromUtf8(std::vector<char>& page) {
     std::string_view rest(page.data(), page.size());
     if (rest.starts_with(kUtf8Mark)) rest.remove_prefix(kUtf8Mark.size());
@@ -140,7 +141,7 @@ void FromUtf8(std::vector<char>& page) {
 
 void FromLatin2(std::vector<char>& page) {
     for (char& byte : page) {
-        // The control characters below are never meant: such pages hold dashes and quotes of Windows-1250.
+        // Pages have dashes and quotes of Windows-1250 below it, never control characters of ISO 8859-2.
         constexpr unsigned char kFirstCharacter = 0xA0;
         if (static_cast<unsigned char>(byte) < kFirstCharacter) continue;
         byte = BookByte(Latin2Character(byte)).value_or('?');

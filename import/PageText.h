@@ -1,4 +1,4 @@
-// The text of a web page: book text of bytes in whatever encoding the page is in.
+// Conversion of web pages to book text.
 #pragma once
 
 #include <string_view>
@@ -8,13 +8,13 @@ namespace lindrel {
 
 enum class PageEncoding { Utf8, Latin2, Windows1250 };
 
-// The encoding of a page, by what is surest first: a UTF-8 mark at its start, a declared UTF-8, bytes that
-// are valid UTF-8 and not all ASCII, a declared ISO 8859-2; anything else is Windows-1250. A declaration is
-// looked for in the first 4 KB: a META tag's charset or an XML declaration's encoding.
+// Guesses the encoding of a page. The first that applies: a UTF-8 mark, a declaration of UTF-8, content that
+// is valid UTF-8 and not just ASCII, a declaration of ISO 8859-2; otherwise it is Windows-1250. Declarations
+// are the charset of a META tag and the encoding of an XML declaration in the first 4 KB.
 PageEncoding EncodingOfPage(std::string_view page);
 
-// Book text of a page, without the mark. Characters that a book cannot hold, and bytes that are no UTF-8 in a
-// page that is, become "?" one by one.
+// A page as book text, without the mark. Each character that a book cannot hold becomes a "?", and so does
+// each byte that is not UTF-8 in a UTF-8 page.
 std::vector<char> BookTextOfPage(std::vector<char> page);
 
 }  // namespace lindrel

@@ -18,7 +18,7 @@ namespace lindrel {
 
 namespace {
 
-// Length of ".url": the extension is cut by length, so its case does not matter.
+// Length of ".url", in any case.
 constexpr std::size_t kExtensionLength = 4;
 
 bool IsShortcutName(const std::wstring& name) {
@@ -27,18 +27,18 @@ bool IsShortcutName(const std::wstring& name) {
 }
 
 struct ShortcutFile {
-    std::string Name;  // book text of its name
+    std::string Name;  // as book text
     std::filesystem::path Path;
 };
 
 std::vector<ShortcutFile> FilesOf(const std::filesystem::path& folder) {
     std::vector<ShortcutFile> files;
-    // A folder that may not be looked into has no files. One that breaks off has no knowing how many.
+    // A folder that cannot be opened counts as empty; one that cannot be read to its end may hide files.
     std::error_code error;
     std::filesystem::directory_iterator entry(folder, error);
     while (!error && entry != std::filesystem::directory_iterator()) {
         const std::wstring name = WideText(entry->path().filename());
-        // What cannot be asked is taken for a file: reading it then tells what is wrong.
+        // If this fails, it is taken for a file, so that reading it reports the reason.
         std::error_code unknown;
         if (IsShortcutName(name) && !entry->is_directory(unknown))
             files.push_back({ToBookText(name), entry->path()});

@@ -1,5 +1,4 @@
-// Internet shortcut files (*.url) that are read: those of this program's own export, and others as far as
-// they are like them.
+// Import of Internet shortcut files (*.url), those of this program and similar ones.
 #pragma once
 
 #include <filesystem>
@@ -10,18 +9,16 @@
 
 namespace lindrel {
 
-// The address in a shortcut file, its bytes as they stand, taken for book text: what is behind the first
-// "URL=" (in either case) of its second line, whatever section that is in. A second line without one loses
-// its first three characters, and the rest is the address. Lines end in CR LF, LF or CR. Throws
-// EndOfFileFault for a file of fewer than two lines, ArgumentFault for a second line of fewer than three
-// characters.
+// The address in a shortcut file, taken as book text: what follows the first "URL=" (in either case) on the
+// second line, in whichever section that is. If there is no "URL=", the first three characters of the line
+// are dropped instead. Lines end in CR LF, LF or CR. Throws EndOfFileFault for a file of fewer than two
+// lines, ArgumentFault for a second line of fewer than three characters.
 std::string_view ShortcutAddress(std::string_view file);
 
-// The shortcut files of a folder, ordered by name with letter case aside, as entries: the file's name without
-// its last four characters, in book text (Windows-1250) with "?" for each character that a book cannot hold,
-// and its address. Empty when there are none, and for a folder that cannot be listed. Throws what
-// ShortcutAddress throws, FileFault for a file that cannot be read and for a folder whose listing breaks off,
-// and OverflowFault for more than 255 files.
+// The shortcut files of a folder as entries, sorted case-insensitively by name. Site names are file names
+// without their last four characters, with "?" for each character that a book cannot hold. Empty if there are
+// none or if the folder cannot be opened. Throws FileFault for a file that cannot be read or a folder that
+// cannot be read to its end, OverflowFault for more than 255 files, and what ShortcutAddress throws.
 std::vector<NewEntry> ShortcutsOfFolder(const std::filesystem::path& folder);
 
 }  // namespace lindrel

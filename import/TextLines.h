@@ -1,5 +1,5 @@
-// Lines of text files that other programs wrote: CR LF, LF or CR alone end a line. A line end at the very end
-// of the text begins no further line.
+// The lines of text files from other programs, ended by CR LF, LF or CR. A line break at the end of the text
+// does not begin another line.
 #pragma once
 
 #include <algorithm>
@@ -8,9 +8,8 @@
 
 namespace lindrel {
 
-// Place of the end of the line that a place (0..size) is on: its CR or LF, or the text's size. Looks no
-// further than some bytes behind it, so that a page whose lines end with CR alone is not searched to its end
-// for each line.
+// The end of the line at a place (0..size): its CR or LF, or the end of the text. Searches in blocks, so that
+// a page which has only CR is not searched to its end for an LF on every line.
 inline std::size_t EndOfLine(std::string_view text, std::size_t from) {
     constexpr std::size_t kBlock = 256;
     for (; from < text.size(); from += kBlock) {
@@ -22,7 +21,7 @@ inline std::size_t EndOfLine(std::string_view text, std::size_t from) {
     return text.size();
 }
 
-// Place behind the line end that stands at a place; the text's size at its end.
+// The start of the line after a line end.
 inline std::size_t BehindLineEnd(std::string_view text, std::size_t end) {
     const std::size_t length = text.substr(end, 2) == "\r\n" ? 2 : 1;
     return std::min(end + length, text.size());

@@ -1,4 +1,4 @@
-// What the shell and an icon in the notification area tell each other: numbers and texts of fixed sizes.
+// The numbers and texts that the shell and an icon in the notification area exchange.
 #pragma once
 
 #include <array>
@@ -13,21 +13,22 @@ enum class TrayEvent { None, MouseMove, MouseDown, MouseUp, DblClick };
 
 struct TrayMouse {
     TrayEvent Event = TrayEvent::None;
-    std::int16_t Button = 0;  // 1 left, 2 right; 0 for the events that name none
+    std::int16_t Button = 0;  // 1 left, 2 right, 0 for events without a button
     bool operator==(const TrayMouse&) const = default;
 };
 
-// The event that a mouse message stands for; None for those that the icon ignores, the middle button's too.
+// The event for the number of a mouse message; None for those that the icon ignores, such as the middle
+// button.
 TrayMouse TrayMouseOf(std::uint64_t message);
 
-// Length of the field that the shell keeps a tool tip in.
+// Size of the shell's field for a tool tip, in bytes.
 inline constexpr std::size_t kTipLength = 64;
 
-// A tool tip as the shell's record holds it: the text and a NUL, then blanks; a text of 64 bytes or more is
-// cut off and has no NUL. Text and field are in the machine's ANSI code page.
+// A tool tip as the shell's field: the text, a NUL and blanks, or the text cut off without a NUL. Both are in
+// the ANSI code page of the machine.
 std::array<char, kTipLength> TipField(std::string_view tip);
 
-// An icon's identifier, 1..65535, from a random number in [0, 1).
+// An identifier for an icon, 1..65535, from a random number in [0, 1).
 std::uint32_t TrayIdentifier(double random);
 
 }  // namespace lindrel
