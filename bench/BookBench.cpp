@@ -1,5 +1,4 @@
-// The largest book: loading, saving, changing and searching it, each beside what the machine needs for the
-// same bytes.
+// Loading, saving, changing and searching the largest book.
 
 #include <benchmark/benchmark.h>
 #include <fcntl.h>
@@ -88,7 +87,7 @@ void Save(benchmark::State& state) {
 }
 BENCHMARK(Save)->Unit(benchmark::kMillisecond)->UseRealTime();
 
-// Floor of adding at the front: move all entries one place on, and back.
+// Floor of adding at the front: move all entries by one place, and back.
 void FloorMoveAllEntries(benchmark::State& state) {
     std::vector<AddressEntry> entries(kMostEntries);
     for (auto _ : state) {
@@ -111,14 +110,15 @@ void AddEntryAtTheFront(benchmark::State& state) {
     };
     for (auto _ : state) {
         add_and_remove(1);
-        // Work at the far end, so that the next addition at the front pays for all entries behind it again.
+        // Moves the free slots to the end, so that the next addition at the front has to move all entries
+        // again.
         add_and_remove(kCategories);
     }
     state.SetLabel("FloorMoveAllEntries");
 }
 BENCHMARK(AddEntryAtTheFront)->Unit(benchmark::kMicrosecond);
 
-// Every second entry, one by one.
+// Deletes them one by one.
 void DeleteEverySecondEntry(benchmark::State& state) {
     for (auto _ : state) {
         state.PauseTiming();

@@ -1,4 +1,4 @@
-// Searching the largest book, hits collected, beside a look at the same bytes.
+// Searching the largest book and collecting the hits.
 
 #include <benchmark/benchmark.h>
 
@@ -18,7 +18,7 @@ const Book& LargestBook() {
     return book;
 }
 
-// Floor of searching: the machine's own search for one byte in every name.
+// Floor of searching: memchr() for one byte in every name.
 void FloorByteInEveryName(benchmark::State& state) {
     const Book& book = LargestBook();
     for (auto _ : state) {

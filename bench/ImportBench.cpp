@@ -1,4 +1,4 @@
-// Importing a large saved web page, beside a search for the same links with grep over the same file.
+// Importing a large web page.
 
 #include <benchmark/benchmark.h>
 #include <fcntl.h>
@@ -28,7 +28,7 @@ namespace {
 constexpr int kLinks = 16384;
 constexpr std::size_t kBytes = 5U << 20U;
 
-// A page of about 5 MB in UTF-8: links between paragraphs, each on a line of its own.
+// A page of about 5 MB in UTF-8, with paragraphs between the links.
 std::string LargePage() {
     constexpr std::string_view kParagraph =
         "<p class=\"leiras\">Műsorok, hírek, időjárás: minden egy helyen.</p>\r\n";
@@ -66,7 +66,8 @@ const std::filesystem::path& AnsiPage() {
     return path;
 }
 
-// The addresses with grep, written to a file: what goes to the null device is not searched for.
+// Floor of importing: grep for the links. It writes to a file, since it stops at the first match when it
+// writes to the null device.
 void FloorGrep(benchmark::State& state) {
     const std::string path = AnsiPage().string();
     posix_spawn_file_actions_t actions;

@@ -15,7 +15,7 @@ namespace lindrel::bench {
 
 namespace {
 
-// Repeatable on every machine, unlike the standard library's distributions.
+// The same numbers everywhere, unlike those of the standard library's distributions.
 class Dice {
   public:
     std::size_t Roll(std::size_t sides) {
@@ -27,7 +27,7 @@ class Dice {
     unsigned long long state_ = 32767;
 };
 
-// Book text.
+// As book text.
 constexpr std::array<std::string_view, 16> kWords = {"k\xF6nyvt\xE1r",
                                                      "m\xFBsor",
                                                      "h\xEDrek",

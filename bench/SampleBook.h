@@ -1,5 +1,5 @@
-// The largest book that there can be, made up the same way on every run: 32,767 entries in twelve categories,
-// names of Hungarian words, 2.5 MB as a file.
+// The largest possible book, the same in every run: 32,767 entries in twelve categories, with names of
+// Hungarian words. Its file has 2.5 MB.
 #pragma once
 
 #include <filesystem>
@@ -13,7 +13,7 @@ Book MakeLargestBook();
 // The bytes of its file.
 const std::string& LargestBookFile();
 
-// A file in a folder of this process's own, removed at the end of the process.
+// A path in a temporary folder that is removed when the process ends.
 std::filesystem::path TemporaryFile(const std::string& name);
 
 }  // namespace lindrel::bench

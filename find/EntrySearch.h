@@ -32,8 +32,9 @@ struct Hits {
 // ending, which is given without its dot and may be empty.
 Hits FindEntries(const Book& book, std::wstring_view what, std::wstring_view ending);
 
-// Whether an address contains an ending (with its dot) after its scheme, or after "http://www." if it begins
-// with "http://www". The path is searched too: users find pages by endings in it.
+// Whether an address contains an ending (with its dot) from its fifth character on, which is past the scheme,
+// or from the twelfth on, past the dot, if it begins with "http://www". The path is searched too: users find
+// pages by it.
 bool CarriesEnding(std::string_view url, const CaselessNeedle& ending);
 
 // One step of the search in a category: finds the first entry after a position whose name contains the text,

@@ -1,5 +1,5 @@
-// The page reader on any bytes: it ends, stays in its bounds, and agrees with a second reader that is written
-// for plainness, line by line and character by character.
+// Reads any bytes as a page and compares the links with those of a second reader, which is written to be
+// simple.
 
 #include <cstdlib>
 #include <string>
@@ -89,7 +89,7 @@ std::vector<NewEntry> PlainLinks(const std::string& page, LinkChoice choice) {
     return links;
 }
 
-// Links, or the kind of the fault.
+// The links, or the number of the fault.
 template <typename Reader>
 std::pair<std::vector<NewEntry>, int> Outcome(Reader reader) {
     try {

@@ -1,4 +1,4 @@
-// The shortcut reader on any bytes, and that what the export writes comes back.
+// Reads any bytes as a shortcut file, and reads back what the export writes.
 
 #include <cstdlib>
 #include <string>
@@ -21,7 +21,7 @@ void ReadAny(std::string_view file) {
         Require(address.find_first_of("\r\n") == std::string_view::npos);
         Require(file.find(address) != std::string_view::npos);
     } catch (const EndOfFileFault&) {
-        // Fewer than two lines: no line end, or one with nothing behind it.
+        // Fewer than two lines: no line end, or nothing after it.
         const std::size_t end = file.find_first_of("\r\n");
         Require(end == std::string_view::npos || end + 1 == file.size() || file.substr(end) == "\r\n");
     } catch (const ArgumentFault&) {

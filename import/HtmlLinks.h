@@ -1,6 +1,6 @@
-// The links of a web page. This is not an HTML parser: it looks line by line for anchors that begin with a
-// href=" and end with </a. Users import the same pages again and again and must get the same entries, so the
-// odd results for unusual pages are kept as well.
+// The links of a web page. This is not an HTML parser: it looks line by line for anchors, from a href=" to
+// </a. Users import the same pages again and again and must get the same entries, so the odd results for
+// unusual pages are kept as well.
 #pragma once
 
 #include <cstdint>
@@ -18,12 +18,9 @@ enum class LinkChoice {
 
 // The links of a page (book text; lines end in CR LF, LF or CR), in their order. Names and addresses are in
 // lower case as far as they are on the line where the anchor begins, and unchanged on the lines after it.
-// Throws
-//   OverflowFault   for an address or a text that is too long (see StageLink and CleanLinkText), and for more
-//   than
-//                   32,766 links,
-//   EndOfFileFault  for an anchor that is not closed,
-//   ArgumentFault   for an address without a closing quotation mark.
+// Throws OverflowFault for an address or a text that is too long (see StageLink and CleanLinkText) and for
+// more than 32,766 links, EndOfFileFault for an anchor that is not closed, and ArgumentFault for an address
+// without a closing quotation mark.
 std::vector<NewEntry> LinksOfPage(std::string_view page, LinkChoice choice);
 
 // Stores the link with the 1-based `number` as the last one of `staged`. The chunk is the text of an anchor

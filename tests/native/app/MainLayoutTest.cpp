@@ -6,7 +6,7 @@
 
 namespace lindrel {
 
-// Values print as themselves when a comparison fails.
+// Prints values when a comparison fails.
 static void PrintTo(const Place& place, std::ostream* out) {
     *out << "{left " << place.Left << ", top " << place.Top << ", " << place.Width << " x " << place.Height
          << "}";
@@ -14,7 +14,7 @@ static void PrintTo(const Place& place, std::ostream* out) {
 
 namespace {
 
-// A frame that takes no more than the classic one: 4 pixels around, 48 for borders, title and menu together.
+// A window with a classic frame: 4 pixels on each side, and 48 for borders, title and menu together.
 MainFrame ClassicFrame(int width, int height) {
     return {.Width = width,
             .Height = height,
@@ -30,7 +30,7 @@ TEST(MainLayoutTest, AMinimisedWindowChangesNothing) {
 
 TEST(MainLayoutTest, ALowWindowGrowsFirst) {
     EXPECT_EQ(JudgeSize(9000, 500), (ResizeStep{.TooLow = true}));
-    EXPECT_EQ(JudgeSize(100, 5199), (ResizeStep{.TooLow = true}));  // its width is looked at afterwards
+    EXPECT_EQ(JudgeSize(100, 5199), (ResizeStep{.TooLow = true}));  // the width does not matter yet
 }
 
 TEST(MainLayoutTest, ANarrowWindowGrowsAndIsLaidOut) {

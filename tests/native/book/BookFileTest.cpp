@@ -34,7 +34,7 @@ Book BookOf(const std::string& text) {
     return book;
 }
 
-// The line of the fault that loading a text gives; the open book must stay as it was.
+// The line of the fault that loading a text throws. Checks that the open book does not change.
 long long FaultLine(const std::string& text) {
     Book book = BookOf("#Regi\r\nnev\r\nhttp://regi.hu\r\n" + Headers(2, 12));
     const std::string before = SaveBook(book);

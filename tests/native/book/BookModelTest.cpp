@@ -1,5 +1,4 @@
-// The book against the simplest thing that could hold the same: twelve lists. A hundred thousand random
-// steps.
+// A hundred thousand random changes to a book, compared with the same changes to twelve lists.
 
 #include <gtest/gtest.h>
 
@@ -100,7 +99,7 @@ class BookModelTest : public ::testing::Test {
         book.SetCategoryName(category, name);
         model.Names[static_cast<std::size_t>(category)] = name;
     }
-    // Check marks at random rows, then move or delete what is checked.
+    // Checks random rows, and moves or deletes them.
     void RunWalk() {
         const int category = RollCategory();
         const int destination = RollCategory();
@@ -144,7 +143,7 @@ class BookModelTest : public ::testing::Test {
         }
         ASSERT_EQ(book.EntryCount(), total);
         ASSERT_EQ(book.IsEmpty(), total == 0);
-        // A book that has held something keeps one element at least.
+        // A book that had entries once keeps at least one element.
         ASSERT_EQ(book.UpperBound(), made == 0 ? 0 : std::max(total, 1));
     }
 
@@ -157,7 +156,7 @@ class BookModelTest : public ::testing::Test {
 TEST_F(BookModelTest, AHundredThousandStepsAgreeWithTwelveLists) {
     constexpr int kSteps = 100000;
     for (int step = 1; step <= kSteps; ++step) {
-        // Books grow to a few dozen entries and are emptied again now and then.
+        // The book grows to a few dozen entries; now and then it shrinks.
         const bool shrink = model.Count() > 60 || Roll(500) == 0;
         switch (shrink ? 5 + Roll(2) : Roll(6)) {
             case 0:

@@ -159,7 +159,7 @@ TEST(BookTest, BadArgumentsAreFaultsThatChangeNothing) {
     EXPECT_EQ(NamesOf(book, 2), Texts{"c"});
 }
 
-// Loaded from a file with eleven headers: category 11 counts what it had in the book before.
+// A book loaded from a file with eleven headers: category 11 keeps the count that it had before.
 Book WithTooFewHeaders(int counted) {
     Book book;
     book.AddEntry(11, std::vector<NewEntry>(static_cast<std::size_t>(counted), {"old", "http://old"}));

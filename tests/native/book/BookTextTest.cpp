@@ -10,7 +10,7 @@
 namespace lindrel {
 namespace {
 
-// The upper half of the code page, written out as text; "?" marks the five bytes that it leaves unused.
+// The upper half of the code page as text, with "?" for the five unused bytes.
 constexpr std::wstring_view kUpperHalf =
     L"€?‚?„…†‡?‰Š‹ŚŤŽŹ?‘’“”•–—?™š›śťžź"
     L"\u00A0ˇ˘Ł¤Ą¦§¨©Ş«¬\u00AD®Ż°±˛ł´µ¶·¸ąş»Ľ˝ľż"
@@ -78,13 +78,13 @@ TEST(BookTextTest, ContainmentIgnoresCase) {
     EXPECT_FALSE(ContainsCaseless(L"", L"a"));
 }
 
-// What the search must find, looked for letter by letter.
+// The same search, written to be simple.
 std::size_t PlainFind(const std::string& text, const std::string& needle, std::size_t from) {
     return from > text.size() ? std::string::npos : LowerCase(text).find(LowerCase(needle), from);
 }
 
 TEST(BookTextTest, ContainmentIsFoundAtEveryPlaceOfTextsOfEveryLength) {
-    // Few different letters, so that there are many near misses; neighbours of "a" and of "A" among them.
+    // Few different letters make many near misses. "`", "@" and "B" are next to "a" and "A".
     constexpr char kLetters[] = "aA`b@B\xFB\xDB\xFA\xFC";
     unsigned dice = 1;
     const auto letters = [&](std::size_t length) {

@@ -16,7 +16,7 @@ std::vector<char32_t> CharactersOf(std::wstring_view text) {
     return characters;
 }
 
-// Text of units, surrogates among them, wherever wide characters have 16 or more bits.
+// Text of these units. A literal cannot have unpaired surrogates.
 std::wstring Units(const std::vector<unsigned>& units) {
     std::wstring text;
     for (const unsigned unit : units) text.push_back(static_cast<wchar_t>(unit));

@@ -19,7 +19,7 @@
 namespace lindrel {
 namespace {
 
-// Path and reason of the fault that a call throws.
+// The path and the reason of the fault that a call throws.
 using PathAndReason = std::pair<std::wstring, std::wstring>;
 PathAndReason FaultOf(const std::function<void()>& call) {
     try {

@@ -58,7 +58,7 @@ TEST_F(OutputFileTest, AnUnfinishedFileKeepsWhatWasWritten) {
     EXPECT_EQ(Read(), "as far as it went");
 }
 
-// The system's reason in the fault that a call throws.
+// The reason in the fault that a call throws.
 std::wstring ReasonOf(const std::function<void()>& call) {
     try {
         call();

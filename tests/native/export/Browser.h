@@ -1,4 +1,4 @@
-// A real browser without a window, which shows what it makes of an exported page.
+// A real browser, without a window, that reports what is on an exported page.
 #pragma once
 
 #include <sys/wait.h>
@@ -18,16 +18,16 @@
 
 namespace lindrel::testing {
 
-// What a page is to the one who opens it. Texts are UTF-8, percent-encoded as encodeURIComponent does.
+// What the browser finds on a page. Texts are UTF-8, percent-encoded like those of encodeURIComponent.
 struct PageInBrowser {
     std::string Title;
     std::vector<std::string> Links;  // "address,text"
     std::string Elements;            // "A 3 BODY 1 ..."
-    std::string Handlers;            // names of attributes that would run something
-    std::string Ran;                 // what window.ran holds: set by nothing but markup that got through
+    std::string Handlers;            // names of attributes with scripts
+    std::string Ran;                 // the value of window.ran, which only a script on the page can set
 };
 
-// Runs a probe inside the page. Each browser has a profile of its own in a folder that is removed at the end.
+// Adds a script to the page that reports what is on it. Each browser has its own temporary profile.
 class Browser {
   public:
     Browser() {

@@ -1,4 +1,4 @@
-// The three writers, to the byte.
+// The exporters, byte by byte.
 
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -235,7 +235,7 @@ TEST_F(ExportTest, TheDesktopsPathEndsAtTheFirstOtherCharacter) {
         {L"C:\\users\\anna2\\Desktop", L"C:\\USERS\\ANNA"},
         {L"C:\\users\\a.b\\Desktop", L"C:\\USERS\\A"},
         {L"C:\\users\\Őri\\Asztal", L"C:\\USERS\\"},
-        {L"C:\\Űr asztal", L"C:\\ŰR"},  // the first five characters are not looked at
+        {L"C:\\Űr asztal", L"C:\\ŰR"},  // the first five may be anything
         {L"D:\\1 x", L"D:\\1 X"},
         {L"C:\\ab", L"C:\\AB"},
         {L"C:\\", L"C:\\"},

@@ -1,4 +1,4 @@
-// A page whose names, title and addresses try to be markup, and what a browser must make of it.
+// A page whose names, title and addresses try to become markup, and how a browser must show it.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -17,7 +17,7 @@
 
 namespace lindrel::testing {
 
-// UTF-8 of a character, percent-encoded unless encodeURIComponent leaves it alone.
+// A character as encodeURIComponent writes it.
 inline std::string Encoded(char32_t character) {
     constexpr std::string_view kPlain =
         "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-_.!~*'()";

@@ -1,4 +1,4 @@
-// Exported pages in a real browser: they hold the exported links, exactly, and run nothing.
+// Exported pages in a real browser have exactly the exported links and run no scripts.
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-// The themes that are shipped.
+// The themes that come with the program.
 
 #include <gtest/gtest.h>
 
@@ -52,7 +52,7 @@ TEST_P(ShippedThemeTest, GivesAllSixFragmentsForAPhoneToo) {
     EXPECT_NE(parts[5].find("<html lang=\"hu\">"), std::string::npos);
     EXPECT_NE(parts[5].find("<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">"),
               std::string::npos);
-    // Plain ASCII reads the same in every encoding of an editor.
+    // ASCII looks the same in an editor with any encoding.
     for (const std::string& part : parts)
         EXPECT_TRUE(std::all_of(part.begin(), part.end(), [](char byte) { return byte > 0; }));
 }

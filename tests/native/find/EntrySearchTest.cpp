@@ -15,7 +15,7 @@
 namespace lindrel {
 namespace {
 
-// Names and addresses in wide text; the book's own form is not readable in a source file.
+// Names and addresses as wide text, which is easier to read here than book text.
 using Row = std::pair<std::wstring, std::wstring>;
 
 void Add(Book& book, int category, const std::vector<Row>& rows) {
@@ -93,11 +93,11 @@ TEST(EntrySearchTest, WhatNoBookCanHoldFindsNothingNotEvenQuestionMarks) {
 TEST(EntrySearchTest, EmptyBooksHaveNoHits) {
     Book book;
     EXPECT_EQ(IndicesOf(FindEntries(book, L"", L"")), std::vector<int>{});
-    // The last deletion leaves one blank element behind, which is no entry.
+    // Deleting the last entry leaves a blank element, which is not an entry.
     Add(book, 3, {{L"Egy", L"http://egy.hu"}});
     book.DeleteEntry(3, 1, 1);
     EXPECT_EQ(IndicesOf(FindEntries(book, L"", L"")), std::vector<int>{});
-    // So does an emptied book.
+    // The same after a reset.
     Add(book, 3, {{L"Egy", L"http://egy.hu"}, {L"Kettő", L"http://ketto.hu"}});
     book.Reset();
     EXPECT_EQ(IndicesOf(FindEntries(book, L"", L"")), std::vector<int>{});
@@ -129,24 +129,24 @@ TEST(EntrySearchTest, TheEndingRule) {
         {"HTTP://INDEX.HU", ".hu", true},
         {"http://www.index.hu", ".hu", true},
         {"HTTP://WWW.INDEX.HU", ".hu", true},
-        // The host behind "www." may begin like the ending.
+        // A host after "www." that begins like the ending.
         {"http://www.hungary.com", ".hu", false},
         {"http://www.hungary.hu", ".hu", true},
         {"HTTP://WWW.HUNGARY.COM", ".hu", false},
         {"http://www.hu", ".hu", false},
         {"http://www.com.hu", ".com", false},
         {"http://www.a.hu", ".hu", true},
-        // Any host that begins with "www" counts as one with its dot; the search starts at the same place.
+        // The search starts at the same place for any host that begins with "www".
         {"http://www2.hu", ".hu", true},
         {"http://www.", ".hu", false},
         {"http://www", ".hu", false},
-        // Only "http" is known to have "www."; elsewhere the host may match.
+        // "www." is skipped only after "http://", so the host may match.
         {"https://www.hungary.com", ".hu", true},
         {"ftp://www.hungary.com", ".hu", true},
         {"www.hungary.com", ".hu", false},
         {"http://hungary.com", ".hu", false},
         {"http://x.hungary.com", ".hu", true},
-        // One-letter hosts, and places around the fifth character, where the search starts.
+        // One-letter hosts, and endings around the fifth character, where the search starts.
         {"http://x.hu/lap", ".hu", true},
         {"a.hu", ".hu", false},
         {"abc.hu", ".hu", false},
@@ -157,7 +157,7 @@ TEST(EntrySearchTest, TheEndingRule) {
         {"http://www.pelda.com/lap.hu", ".hu", true},
         {"http://pelda.human.org", ".hu", true},
         {"mailto:valaki@pelda.hu", ".hu", true},
-        // Endings of several parts and of accented letters.
+        // Endings of several parts or with accented letters.
         {"http://bolt.co.uk/", ".co.uk", true},
         {"http://bolt.uk/", ".co.uk", false},
         {"http://pelda.\xD5", ".\xF5", true},
@@ -168,7 +168,7 @@ TEST(EntrySearchTest, TheEndingRule) {
             << tried.url << " and " << tried.ending;
 }
 
-// Steps of a search, one after the other, from the position that the last left behind.
+// The positions after successive steps of a search.
 std::vector<int> Steps(const Book& book, std::wstring_view text, int category, int steps) {
     std::vector<int> positions;
     std::int16_t position = 0;
@@ -207,7 +207,7 @@ TEST(EntrySearchTest, AStepGoesOnFromWhereAnotherCategoryWasLeft) {
     EXPECT_EQ(position, 3);
     FindInCategory(book, L"műsor", 2, position);
     EXPECT_EQ(position, 4);
-    // Behind the end of a shorter one there is nothing.
+    // The third category ends before that position.
     FindInCategory(book, L"műsor", 3, position);
     EXPECT_EQ(position, 0);
 }

@@ -30,7 +30,7 @@ Links Online(std::string_view page) {
     return LinksOfPage(page, LinkChoice::Online);
 }
 
-// Book text of a link's raw text, cleaned.
+// A link's text after cleaning.
 std::string Cleaned(std::string_view text) {
     CleanLinkText(text);
     return std::string(text);
@@ -71,7 +71,7 @@ TEST(HtmlLinksTest, OnlineMeansAProtocolFromTheThirdCharacterOnAnywhereInTheChun
 TEST(HtmlLinksTest, TagsAroundTheNameAreRemoved) {
     EXPECT_EQ(All("<a href=\"x\"><b>H\xEDrek</b></a>"), (Links{{"h\xEDrek", "x"}}));
     EXPECT_EQ(All("<a href=\"x\"><font size=2><b>H\xEDrek</b></font></a>"), (Links{{"h\xEDrek", "x"}}));
-    // Only what stands before the first closing tag and behind the last opening one is the name.
+    // The name is between the last opening tag and the first closing one.
     EXPECT_EQ(All("<a href=\"x\">els\xF5 <b>m\xE1sodik</b> harmadik</a>"), (Links{{"m\xE1sodik", "x"}}));
 }
 
@@ -132,10 +132,10 @@ TEST(HtmlLinksTest, ALineThatBeginsWithTheClosingTagDoesNotClose) {
 }
 
 TEST(HtmlLinksTest, AClosingLineIsTakenToOneCharacterBehindTheTag) {
-    // The chunk is  1 N</ax : without ">" behind the quotation mark the whole chunk is the raw text.
+    // The chunk is  1" N</ax  and all of it is the text, because there is no ">" in it.
     EXPECT_EQ(All("<a href=\"1\"\nN</axyz>\n"), (Links{{"1\" N", "1"}}));
     EXPECT_EQ(All("<a href=\"1\">Egy\nN</a"), (Links{{"egy N", "1"}}));
-    // Here that character is the ">", and no text stands behind it.
+    // Here the character after the tag is the ">", with no text after it.
     EXPECT_EQ(All("<a href=\"1\"\nN</a>\n"), (Links{{"", "1"}}));
 }
 
@@ -171,7 +171,7 @@ TEST(HtmlLinksTest, AnAnchorOverManyShortLinesOfALargePage) {
     EXPECT_THROW(Online(page), EndOfFileFault);
     page += "</a>\r<a href=\"http://ket.hu\">Kett\xF5</a>";
     EXPECT_EQ(Online(page), (Links{{"kett\xF5", "http://ket.hu"}}));
-    // As a link its text would be too long.
+    // The first anchor is too long to be a link.
     EXPECT_THROW(All(page), OverflowFault);
 }
 
@@ -185,7 +185,7 @@ TEST(HtmlLinksTest, AnAnchorLeftOpenIsReadingPastTheEnd) {
          {"<a href=\"", "<a href=\"x\">n", "<a href=\"x\">n\r\n", "<a href=\"x\">n\r\n\r\n<a href=\"y\">\r\n",
           "<a href=\"1\">Egy</a>\n<a href=\"2\">Kett\xF5"})
         EXPECT_THROW(All(page), EndOfFileFault);
-    // Also where the link would have been skipped.
+    // Even if the link would have been skipped.
     EXPECT_THROW(Online("<a href=\"x\">n"), EndOfFileFault);
 }
 
@@ -205,7 +205,7 @@ TEST(HtmlLinksTest, AClosingTagBehindThe255thCharacterOfTheTextOverflows) {
     const auto page = [](std::size_t length) { return "<a href=\"x\">" + Times(length, 'n') + "</b></a>"; };
     EXPECT_EQ(All(page(254)), (Links{{Times(55, 'n'), "x"}}));
     EXPECT_THROW(All(page(255)), OverflowFault);
-    // Without any tag the text may be as long as it likes.
+    // Text without tags may have any length.
     EXPECT_EQ(All("<a href=\"x\">" + Times(70000, 'n') + "</a>"), (Links{{Times(55, 'n'), "x"}}));
 }
 

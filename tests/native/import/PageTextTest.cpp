@@ -84,11 +84,11 @@ TEST(PageTextTest, BrokenBytesOfDeclaredUtf8BecomeQuestionMarksOneByOne) {
         return TextOf(head + std::string(bytes)).substr(head.size());
     };
     EXPECT_EQ(text("a\xE1z"), "a?z");                       // a byte of Windows-1250
-    EXPECT_EQ(text("\xE2\x82z\xC5\x91"), "??z\xF5");        // a character cut short
+    EXPECT_EQ(text("\xE2\x82z\xC5\x91"), "??z\xF5");        // an incomplete character
     EXPECT_EQ(text("\xC5"), "?");                           // at the end of the page
-    EXPECT_EQ(text("\xC0\xAF\xE0\x80\xAF"), "?????");       // longer than need be
+    EXPECT_EQ(text("\xC0\xAF\xE0\x80\xAF"), "?????");       // overlong forms
     EXPECT_EQ(text("\xED\xA0\xBD"), "???");                 // half a surrogate pair
-    EXPECT_EQ(text("\xF4\x90\x80\x80\xF5\x80"), "??????");  // behind the last character
+    EXPECT_EQ(text("\xF4\x90\x80\x80\xF5\x80"), "??????");  // beyond the last character
     EXPECT_EQ(text("\x80\xBF\xFF"), "???");                 // trail bytes alone
     EXPECT_EQ(text("\xC2\x80\xC2\x81"), "?\x81");           // a control character, an unused byte value
 }

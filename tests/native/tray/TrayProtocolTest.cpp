@@ -31,7 +31,7 @@ TEST(TrayProtocolTest, EveryOtherNumberIsNoEvent) {
         if (message >= 512 && message <= 518) continue;
         ASSERT_EQ(TrayMouseOf(message), TrayMouse{}) << message;
     }
-    // The number fills the whole parameter; a place of a pointer whose lower half happens to be one is none.
+    // All bits of the parameter count, not just the lower ones.
     EXPECT_EQ(TrayMouseOf((20ull << 16) | 513), TrayMouse{});
     EXPECT_EQ(TrayMouseOf((1ull << 32) | 513), TrayMouse{});
 }
