@@ -43,29 +43,29 @@ void Book::SetSiteURL(int index, std::string_view url) {
 
 void Book::AddEntry(int category, const std::vector<NewEntry>& entries) {
     const int place = starts_(category) + counts_(category);
-    const bool was_empty = IsEmpty();
-    const int room = std::max(0, kMostEntries - (was_empty ? 0 : EntryCount()));
+    const int room = std::max(0, kMostEntries - (IsEmpty() ? 0 : EntryCount()));
     if (entries.size() > static_cast<std::size_t>(room)) throw OverflowFault();
     const int added = static_cast<int>(entries.size());
     if (counts_(category) > kMostEntries - added) throw OverflowFault();
 
-    if (was_empty)
-        entries_.Recreate(added);
-    else
-        entries_.Insert(place, added);
-    for (int j = 0; j < added; ++j) {
-        const NewEntry& entry = entries[static_cast<std::size_t>(j)];
-        entries_.At(place + j) = {entries_.Texts().Keep(entry.SiteName), entries_.Texts().Keep(entry.URL)};
-    }
+    if (IsEmpty()) entries_.Recreate(0);
+    // The texts first: if memory runs out, the book is still unchanged.
+    std::vector<AddressEntry> kept;
+    kept.reserve(entries.size());
+    for (const NewEntry& entry : entries)
+        kept.push_back({entries_.Texts().Keep(entry.SiteName), entries_.Texts().Keep(entry.URL)});
+    entries_.Insert(place, kept);
     counts_(category) = static_cast<std::int16_t>(counts_(category) + added);
     for (int k = category + 1; k <= kCategories; ++k) starts_(k) += added;
 }
 
 void Book::DeleteEntry(int category, int position, int count) {
     if (position < 1 || count < 0 || position - 1 > counts_(category) - count) throw RangeFault();
-    const bool everything = count == entries_.Size();
-    entries_.Remove(IndexOf(category, position), count);
-    if (everything) entries_.Recreate(1);
+    const int index = IndexOf(category, position);
+    if (index == 1 && count == entries_.Size())
+        entries_.Recreate(1);
+    else
+        entries_.Remove(index, count);
     for (int k = category + 1; k <= kCategories; ++k) starts_(k) -= count;
     counts_(category) = static_cast<std::int16_t>(counts_(category) - count);
 }
@@ -81,8 +81,7 @@ void Book::MoveEntry(int source, int offset, int destination) {
     // A book loaded with too few headers may count entries that it does not have.
     if (to < 1 || to > entries_.Size()) throw RangeFault();
     entries_.Remove(from, 1);
-    entries_.Insert(to, 1);
-    entries_.At(to) = moved;
+    entries_.Insert(to, {&moved, 1});
 
     counts_(source) = static_cast<std::int16_t>(counts_(source) - 1);
     counts_(destination) = static_cast<std::int16_t>(counts_(destination) + 1);

@@ -54,25 +54,26 @@ void EntrySequence::MoveGapTo(std::size_t slot) {
     gap_ = slot;
 }
 
-void EntrySequence::Insert(int index, int count) {
-    if (index < 1 || index > Size() + 1 || count < 0) throw RangeFault();
-    const auto needed = static_cast<std::size_t>(count);
-    if (needed > gap_length_) {
-        const std::size_t used = slots_.size() - gap_length_;
-        std::vector<AddressEntry> larger;
-        larger.reserve(used + needed + used / 2);
-        larger.assign(slots_.begin(), slots_.begin() + static_cast<std::ptrdiff_t>(gap_));
-        larger.resize(larger.capacity() - (used - gap_));
-        const std::size_t gap_end = larger.size();
-        larger.insert(larger.end(), slots_.begin() + static_cast<std::ptrdiff_t>(gap_ + gap_length_),
-                      slots_.end());
-        slots_.swap(larger);
-        gap_length_ = gap_end - gap_;
-    }
+void EntrySequence::EnlargeGap(std::size_t needed) {
+    const auto at = [this](std::size_t n) { return slots_.begin() + static_cast<std::ptrdiff_t>(n); };
+    const std::size_t used = slots_.size() - gap_length_;
+    std::vector<AddressEntry> larger;
+    larger.reserve(used + needed + used / 2);
+    larger.assign(slots_.begin(), at(gap_));
+    larger.resize(larger.capacity() - (used - gap_));
+    const std::size_t gap_end = larger.size();
+    larger.insert(larger.end(), at(gap_ + gap_length_), slots_.end());
+    slots_.swap(larger);
+    gap_length_ = gap_end - gap_;
+}
+
+void EntrySequence::Insert(int index, std::span<const AddressEntry> entries) {
+    if (index < 1 || index > Size() + 1) throw RangeFault();
+    if (entries.size() > gap_length_) EnlargeGap(entries.size());
     MoveGapTo(static_cast<std::size_t>(index - 1));
-    std::fill_n(slots_.begin() + static_cast<std::ptrdiff_t>(gap_), count, AddressEntry{});
-    gap_ += needed;
-    gap_length_ -= needed;
+    std::copy(entries.begin(), entries.end(), slots_.begin() + static_cast<std::ptrdiff_t>(gap_));
+    gap_ += entries.size();
+    gap_length_ -= entries.size();
 }
 
 void EntrySequence::Remove(int index, int count) {

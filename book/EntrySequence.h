@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -39,8 +40,8 @@ class EntrySequence {
     const AddressEntry& At(int index) const;
     AddressEntry& At(int index);
 
-    // Puts `count` blank elements before the 1-based index (1..Size() + 1).
-    void Insert(int index, int count);
+    // Puts the entries, whose texts must be in the store, before the 1-based index (1..Size() + 1).
+    void Insert(int index, std::span<const AddressEntry> entries);
     // Removes `count` elements from the 1-based index on.
     void Remove(int index, int count);
     // Drops everything and starts again with `count` blank elements and an empty store.
@@ -55,6 +56,7 @@ class EntrySequence {
   private:
     std::size_t SlotOf(int index) const;
     void MoveGapTo(std::size_t slot);
+    void EnlargeGap(std::size_t needed);
 
     std::vector<AddressEntry> slots_;
     std::size_t gap_ = 0;  // first slot of the gap
