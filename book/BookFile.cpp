@@ -1,7 +1,8 @@
 #include "book/BookFile.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <utility>
 
 #include "book/EntrySequence.h"
@@ -21,14 +22,9 @@ class LineReader {
 
     bool Next(std::string_view& line) {
         if (rest_.empty()) return false;
-        const void* const found = std::memchr(rest_.data(), '\n', rest_.size());
-        if (found == nullptr) {
-            line = std::exchange(rest_, {});
-        } else {
-            const auto length = static_cast<std::size_t>(static_cast<const char*>(found) - rest_.data());
-            line = rest_.substr(0, length);
-            rest_.remove_prefix(length + 1);
-        }
+        const std::size_t length = std::min(rest_.find('\n'), rest_.size());
+        line = rest_.substr(0, length);
+        rest_.remove_prefix(std::min(length + 1, rest_.size()));
         if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
         return true;
     }
@@ -126,12 +122,8 @@ class BookReader {
 };
 
 long long CountLines(std::string_view bytes) {
-    long long lines = 0;
-    for (const char *at = bytes.data(), *end = at + bytes.size(); at != end; ++lines) {
-        const void* const found = std::memchr(at, '\n', static_cast<std::size_t>(end - at));
-        at = found == nullptr ? end : static_cast<const char*>(found) + 1;
-    }
-    return lines;
+    const bool last_is_open = !bytes.empty() && bytes.back() != '\n';
+    return std::count(bytes.begin(), bytes.end(), '\n') + (last_is_open ? 1 : 0);
 }
 
 bool LoadBook(Book& book, std::vector<char> bytes) {
