@@ -13,8 +13,15 @@ namespace lindrel {
 
 namespace {
 
-constexpr std::size_t kMostFields = 6;
-constexpr std::size_t kHeadLine = 5;  // the fragment that only a theme has
+enum FragmentIndex : std::size_t {
+    kOpenTable,
+    kBeforeName,
+    kAfterName,
+    kOpenInnerTable,
+    kBeforeClosing,
+    kHeadLine
+};
+constexpr std::size_t kMostFragments = kHeadLine + 1;
 constexpr std::string_view kOpenRow = "<tr><td>";
 
 bool ContainsRow(std::string_view fragment) {
@@ -27,12 +34,13 @@ class PageWriter {
         : book_(book), style_(style), out_(out) {
         for (const std::string& part : style.ThemeParts) parts_.push_back(HtmlFragment(part));
         // WriteCategory() opens a row too. Exported pages have always had both.
-        if (!ContainsRow(parts_.at(3))) parts_.at(3).append("\r\n").append(kOpenRow);
+        std::string& open_inner = parts_.at(kOpenInnerTable);
+        if (!ContainsRow(open_inner)) open_inner.append("\r\n").append(kOpenRow);
     }
 
     void Write() {
         WriteHead();
-        Line(parts_.at(0));
+        Line(parts_.at(kOpenTable));
         for (int c = 1; c <= kCategories; ++c)
             if (IsExported(book_, c)) WriteCategory(c);
         Text("</TABLE><BR><BR><BR></BODY></HTML>");
@@ -60,14 +68,14 @@ class PageWriter {
     }
 
     void WriteCategory(int category) {
-        Line(parts_.at(1) + HtmlText(book_.CategoryNames(category)) + parts_.at(2));
+        Line(parts_.at(kBeforeName) + HtmlText(book_.CategoryNames(category)) + parts_.at(kAfterName));
         Line("</TD></TR>");
         Line("<TR><TD>");
-        Line(parts_.at(3) + "\r\n" + std::string(kOpenRow));
+        Line(parts_.at(kOpenInnerTable) + "\r\n" + std::string(kOpenRow));
         for (const int e : ExportedEntries(book_, category))
             Line("<A HREF=" + HtmlAddress(book_.SiteURLs(e)) + ">" + HtmlText(book_.SiteNames(e)) +
                  "</A><BR>");
-        Line(parts_.at(4) + "</td></tr></table></TD></TR>");
+        Line(parts_.at(kBeforeClosing) + "</td></tr></table></TD></TR>");
     }
 
     const Book& book_;
@@ -91,7 +99,7 @@ Fragments DefaultThemeParts() {
 Fragments ApplyTheme(Fragments parts, std::string_view theme_file) {
     std::size_t field = 0;
     for (std::size_t end = theme_file.find('^'); end != std::string_view::npos; end = theme_file.find('^')) {
-        if (field == kMostFields) throw RangeFault();
+        if (field == kMostFragments) throw RangeFault();
         if (field == parts.size()) parts.emplace_back();
         parts.at(field) = theme_file.substr(0, end);
         theme_file.remove_prefix(end + 1);

@@ -11,11 +11,6 @@ namespace lindrel {
 
 namespace {
 
-constexpr std::string_view kWebHost = "http://www";
-constexpr std::size_t kBehindScheme = 4;
-constexpr std::size_t kBehindWebHost = 11;
-const CaselessNeedle web_host_needle(kWebHost);
-
 // Nothing if the text has a character that no name or address can have.
 std::optional<CaselessNeedle> NeedleOf(std::wstring_view typed) {
     if (FirstForeignCharacter(typed)) return std::nullopt;
@@ -42,8 +37,12 @@ Hits Collect(const Book& book, const Accepts& accepts) {
 }  // namespace
 
 bool CarriesEnding(std::string_view url, const CaselessNeedle& ending) {
-    const bool on_web_host = web_host_needle.IsIn(url.substr(0, kWebHost.size()));
-    return ending.FindIn(url, on_web_host ? kBehindWebHost : kBehindScheme) != std::string_view::npos;
+    constexpr std::string_view kWebHost = "http://www";
+    constexpr std::size_t kAfterWebHost = kWebHost.size() + 1;
+    constexpr std::size_t kAfterScheme = 4;
+    static const CaselessNeedle web_host(kWebHost);
+    const bool on_web_host = web_host.IsIn(url.substr(0, kWebHost.size()));
+    return ending.FindIn(url, on_web_host ? kAfterWebHost : kAfterScheme) != std::string_view::npos;
 }
 
 Hits FindEntries(const Book& book, std::wstring_view what, std::wstring_view ending) {

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdint>
-#include <limits>
 #include <string>
 #include <system_error>
 #include <utility>
@@ -20,6 +18,8 @@ namespace {
 
 // Length of ".url", in any case.
 constexpr std::size_t kExtensionLength = 4;
+// Users know that larger folders are refused, and split them.
+constexpr std::size_t kMostShortcuts = 255;
 
 bool IsShortcutName(const std::wstring& name) {
     return name.size() >= kExtensionLength &&
@@ -69,14 +69,11 @@ std::string_view ShortcutAddress(std::string_view file) {
 
 std::vector<NewEntry> ShortcutsOfFolder(const std::filesystem::path& folder) {
     std::vector<NewEntry> staged;
-    std::uint8_t count = 0;
     for (const ShortcutFile& file : FilesOf(folder)) {
         const std::vector<char> bytes = ReadFileBytes(file.Path);
         const std::string_view address = ShortcutAddress({bytes.data(), bytes.size()});
         staged.push_back({file.Name.substr(0, file.Name.size() - kExtensionLength), std::string(address)});
-        // An 8-bit counter: users know that a folder may hold 255 shortcuts.
-        if (count == std::numeric_limits<std::uint8_t>::max()) throw OverflowFault();
-        ++count;
+        if (staged.size() > kMostShortcuts) throw OverflowFault();
     }
     return staged;
 }

@@ -4,22 +4,38 @@
 
 namespace lindrel {
 
+namespace {
+
+constexpr std::int16_t kLeft = 1;
+constexpr std::int16_t kRight = 2;
+
+// The numbers of WM_MOUSEMOVE to WM_RBUTTONDBLCLK.
+enum MouseMessage : std::uint64_t {
+    kMouseMove = 512,
+    kLeftButtonDown,
+    kLeftButtonUp,
+    kLeftDoubleClick,
+    kRightButtonDown,
+    kRightButtonUp,
+    kRightDoubleClick
+};
+
+}  // namespace
+
 TrayMouse TrayMouseOf(std::uint64_t message) {
-    constexpr std::int16_t kLeft = 1;
-    constexpr std::int16_t kRight = 2;
     switch (message) {
-        case 512:
+        case kMouseMove:
             return {TrayEvent::MouseMove, 0};
-        case 513:
+        case kLeftButtonDown:
             return {TrayEvent::MouseDown, kLeft};
-        case 514:
+        case kLeftButtonUp:
             return {TrayEvent::MouseUp, kLeft};
-        case 516:
+        case kRightButtonDown:
             return {TrayEvent::MouseDown, kRight};
-        case 517:
+        case kRightButtonUp:
             return {TrayEvent::MouseUp, kRight};
-        case 515:
-        case 518:
+        case kLeftDoubleClick:
+        case kRightDoubleClick:
             return {TrayEvent::DblClick, 0};
         default:
             return {};
