@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <filesystem>
 #include <iterator>
@@ -14,6 +13,7 @@
 #include "book/Faults.h"
 #include "book/Files.h"
 #include "book/PerCategory.h"
+#include "tests/native/support/TemporaryFolder.h"
 
 namespace lindrel {
 namespace {
@@ -170,14 +170,11 @@ TEST(BookFileTest, TheLargestBookIsSavedAndOpenedAgain) {
 
 class BookFileOnDiskTest : public ::testing::Test {
   protected:
-    BookFileOnDiskTest() { std::filesystem::create_directories(folder); }
-    ~BookFileOnDiskTest() override { std::filesystem::remove_all(folder); }
     int FilesThere() const {
         return static_cast<int>(std::distance(std::filesystem::directory_iterator(folder), {}));
     }
-    std::filesystem::path folder = std::filesystem::temp_directory_path() /
-                                   ("lindrel-" + std::to_string(getpid()) + "-" +
-                                    ::testing::UnitTest::GetInstance()->current_test_info()->name());
+    const testing::TemporaryFolder temporary;
+    const std::filesystem::path folder = temporary.Path();
 };
 
 TEST_F(BookFileOnDiskTest, ReplacesTheOldFileInOneStep) {
@@ -186,8 +183,7 @@ TEST_F(BookFileOnDiskTest, ReplacesTheOldFileInOneStep) {
     SaveBook(Book(), path);
     Book loaded;
     EXPECT_TRUE(LoadBook(loaded, path));
-    const std::vector<char> bytes = ReadFileBytes(path);
-    EXPECT_EQ(CountLines({bytes.data(), bytes.size()}), 12);
+    EXPECT_EQ(CountLines(testing::ContentOf(path)), 12);
     EXPECT_EQ(FilesThere(), 1);
 }
 

@@ -4,17 +4,16 @@
 #include <sys/stat.h>
 
 #include <cerrno>
-#include <cstdlib>
 #include <cstring>
 #include <filesystem>
 #include <functional>
-#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "book/Faults.h"
 #include "book/File.h"
+#include "tests/native/support/TemporaryFolder.h"
 
 namespace lindrel {
 namespace {
@@ -37,18 +36,6 @@ PathAndReason Expected(const std::filesystem::path& path, int error) {
 
 class FilesTest : public ::testing::Test {
   protected:
-    FilesTest() {
-        std::string pattern = (std::filesystem::temp_directory_path() / "lindrel-XXXXXX").string();
-        if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no temporary folder");
-        folder = pattern;
-        file = folder / "t\u0171z.lnd";
-        missing = folder / "nincs" / "t\u0171z.lnd";
-    }
-    ~FilesTest() override { std::filesystem::remove_all(folder); }
-    std::string Content() const {
-        const std::vector<char> bytes = ReadFileBytes(file);
-        return {bytes.begin(), bytes.end()};
-    }
     std::vector<std::string> NamesThere() const {
         std::vector<std::string> names;
         for (const auto& entry : std::filesystem::directory_iterator(folder))
@@ -56,9 +43,10 @@ class FilesTest : public ::testing::Test {
         return names;
     }
 
-    std::filesystem::path folder;
-    std::filesystem::path file;
-    std::filesystem::path missing;
+    const testing::TemporaryFolder temporary;
+    const std::filesystem::path folder = temporary.Path();
+    const std::filesystem::path file = folder / "t\u0171z.lnd";
+    const std::filesystem::path missing = folder / "nincs" / "t\u0171z.lnd";
 };
 
 TEST_F(FilesTest, BytesComeBackAsTheyWereWritten) {
@@ -66,9 +54,9 @@ TEST_F(FilesTest, BytesComeBackAsTheyWereWritten) {
     for (int number = 0; number < 300000; ++number) bytes += static_cast<char>(number);
     for (const std::string& written : {bytes, std::string("\0\r\n\x1A", 4), std::string()}) {
         WriteFileBytes(file, written);
-        EXPECT_EQ(Content(), written);
+        EXPECT_EQ(testing::ContentOf(file), written);
         ReplaceFileBytes(file, written + "!");
-        EXPECT_EQ(Content(), written + "!");
+        EXPECT_EQ(testing::ContentOf(file), written + "!");
     }
     EXPECT_EQ(NamesThere(), std::vector<std::string>{"t\u0171z.lnd"});
 }
@@ -77,9 +65,8 @@ TEST_F(FilesTest, AFileIsReplacedAsAWhole) {
     WriteFileBytes(file, "old");
     std::filesystem::create_hard_link(file, folder / "same.lnd");
     ReplaceFileBytes(file, "new");
-    EXPECT_EQ(Content(), "new");
-    const std::vector<char> old = ReadFileBytes(folder / "same.lnd");
-    EXPECT_EQ(std::string(old.begin(), old.end()), "old");
+    EXPECT_EQ(testing::ContentOf(file), "new");
+    EXPECT_EQ(testing::ContentOf(folder / "same.lnd"), "old");
 }
 
 TEST_F(FilesTest, AReplacedFileKeepsItsPermissions) {

@@ -1,30 +1,22 @@
 #include "book/OutputFile.h"
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <filesystem>
 #include <functional>
 #include <string>
-#include <vector>
 
 #include "book/Faults.h"
 #include "book/Files.h"
+#include "tests/native/support/TemporaryFolder.h"
 
 namespace lindrel {
 namespace {
 
 class OutputFileTest : public ::testing::Test {
   protected:
-    OutputFileTest() { std::filesystem::create_directories(folder); }
-    ~OutputFileTest() override { std::filesystem::remove_all(folder); }
-    std::string Read() const {
-        const std::vector<char> bytes = ReadFileBytes(path);
-        return {bytes.begin(), bytes.end()};
-    }
-
-    const std::filesystem::path folder =
-        std::filesystem::temp_directory_path() / ("lindrel-output-" + std::to_string(getpid()));
+    const testing::TemporaryFolder temporary;
+    const std::filesystem::path folder = temporary.Path();
     const std::filesystem::path path = folder / "lista.txt";
 };
 
@@ -39,7 +31,7 @@ TEST_F(OutputFileTest, KeepsPiecesInTheirOrder) {
     const std::string large(200000, '\xE1');
     file.Write(large);
     file.Close();
-    EXPECT_EQ(Read(), expected + large);
+    EXPECT_EQ(testing::ContentOf(path), expected + large);
 }
 
 TEST_F(OutputFileTest, ReplacesWhatWasThere) {
@@ -47,7 +39,7 @@ TEST_F(OutputFileTest, ReplacesWhatWasThere) {
     OutputFile file(path);
     file.Write("short");
     file.Close();
-    EXPECT_EQ(Read(), "short");
+    EXPECT_EQ(testing::ContentOf(path), "short");
 }
 
 TEST_F(OutputFileTest, AnUnfinishedFileKeepsWhatWasWritten) {
@@ -55,7 +47,7 @@ TEST_F(OutputFileTest, AnUnfinishedFileKeepsWhatWasWritten) {
         OutputFile file(path);
         file.Write("as far as it went");
     }
-    EXPECT_EQ(Read(), "as far as it went");
+    EXPECT_EQ(testing::ContentOf(path), "as far as it went");
 }
 
 // The reason in the fault that a call throws.

@@ -6,15 +6,14 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
-#include <cstdlib>
 #include <filesystem>
 #include <stdexcept>
 #include <string>
 #include <string_view>
-#include <system_error>
 #include <vector>
 
 #include "book/Files.h"
+#include "tests/native/support/TemporaryFolder.h"
 
 namespace lindrel::testing {
 
@@ -30,18 +29,6 @@ struct PageInBrowser {
 // Adds a script to the page that reports what is on it. Each browser has its own temporary profile.
 class Browser {
   public:
-    Browser() {
-        std::string name = (std::filesystem::temp_directory_path() / "lindrel-browser-XXXXXX").string();
-        if (::mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
-        folder_ = name;
-    }
-    ~Browser() {
-        std::error_code error;
-        std::filesystem::remove_all(folder_, error);
-    }
-    Browser(const Browser&) = delete;
-    Browser& operator=(const Browser&) = delete;
-
     PageInBrowser Open(std::string_view page) const {
         constexpr std::string_view kProbe = R"(<script id=probe>
             const texts = encodeURIComponent, probe = document.getElementById('probe'), counts = {}, handlers = [];
@@ -58,7 +45,7 @@ class Browser {
                             handlers.join(' '), String(window.ran)];
             document.documentElement.textContent = '[[' + report.join('|') + ']]';
             </script>)";
-        const std::filesystem::path file = folder_ / "page.htm";
+        const std::filesystem::path file = folder_.Path() / "page.htm";
         WriteFileBytes(file, std::string(page) + std::string(kProbe));
         const std::string report = Between(Run("--dump-dom 'file://" + file.string() + "'"), "[[", "]]");
         PageInBrowser found;
@@ -76,7 +63,8 @@ class Browser {
         const std::string command =
             "timeout -k 5 100 chromium --headless --no-sandbox --disable-gpu "
             "--disable-dev-shm-usage --user-data-dir='" +
-            (folder_ / "profile").string() + "' " + arguments + " 2>'" + (folder_ / "log").string() + "'";
+            (folder_.Path() / "profile").string() + "' " + arguments + " 2>'" +
+            (folder_.Path() / "log").string() + "'";
         std::FILE* const pipe = ::popen(command.c_str(), "r");
         if (pipe == nullptr) throw std::runtime_error("no shell");
         std::string output;
@@ -106,7 +94,7 @@ class Browser {
         return text.substr(start + left.size(), end - start - left.size());
     }
 
-    std::filesystem::path folder_;
+    TemporaryFolder folder_;
 };
 
 }  // namespace lindrel::testing

@@ -1,7 +1,6 @@
 // The exporters, byte by byte.
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <cstdint>
 #include <filesystem>
@@ -13,12 +12,12 @@
 
 #include "book/Book.h"
 #include "book/Faults.h"
-#include "book/Files.h"
 #include "export/Favorites.h"
 #include "export/HtmlPage.h"
 #include "export/HtmlText.h"
 #include "export/Shortcut.h"
 #include "export/TextList.h"
+#include "tests/native/support/TemporaryFolder.h"
 
 namespace lindrel {
 namespace {
@@ -246,20 +245,15 @@ TEST_F(ExportTest, TheDesktopsPathEndsAtTheFirstOtherCharacter) {
 
 class FavoritesTest : public ExportTest {
   protected:
-    FavoritesTest() { std::filesystem::create_directories(folder); }
-    ~FavoritesTest() override { std::filesystem::remove_all(folder); }
     std::map<std::string, std::string> Files() const {
         std::map<std::string, std::string> files;
         for (const auto& entry : std::filesystem::recursive_directory_iterator(folder))
-            if (entry.is_regular_file()) {
-                const std::vector<char> bytes = ReadFileBytes(entry.path());
-                files[entry.path().lexically_relative(folder).string()] = {bytes.begin(), bytes.end()};
-            }
+            if (entry.is_regular_file())
+                files[entry.path().lexically_relative(folder).string()] = testing::ContentOf(entry.path());
         return files;
     }
-    std::filesystem::path folder = std::filesystem::temp_directory_path() /
-                                   ("lindrel-" + std::to_string(getpid()) + "-" +
-                                    ::testing::UnitTest::GetInstance()->current_test_info()->name());
+    const testing::TemporaryFolder temporary;
+    const std::filesystem::path folder = temporary.Path();
 };
 
 TEST_F(FavoritesTest, AllFilesGoIntoOneFolderAndTheNamesIntoTheBook) {

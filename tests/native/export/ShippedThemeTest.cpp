@@ -8,10 +8,10 @@
 #include <vector>
 
 #include "book/Book.h"
-#include "book/Files.h"
 #include "export/HtmlPage.h"
 #include "tests/native/export/Browser.h"
 #include "tests/native/export/HostilePage.h"
+#include "tests/native/support/TemporaryFolder.h"
 
 namespace lindrel::testing {
 namespace {
@@ -31,9 +31,8 @@ std::vector<std::string> ThemeNames() {
 class ShippedThemeTest : public ::testing::TestWithParam<std::string> {
   protected:
     static PageStyle Style() {
-        const std::vector<char> bytes = ReadFileBytes(StylesFolder() / (GetParam() + ".aut"));
         PageStyle style;
-        style.ThemeParts = ApplyTheme(style.ThemeParts, {bytes.data(), bytes.size()});
+        style.ThemeParts = ApplyTheme(style.ThemeParts, ContentOf(StylesFolder() / (GetParam() + ".aut")));
         style.ThemeApplied = true;
         return style;
     }

@@ -2,10 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <ostream>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,6 +12,7 @@
 #include "book/Faults.h"
 #include "book/Files.h"
 #include "export/Shortcut.h"
+#include "tests/native/support/TemporaryFolder.h"
 
 namespace lindrel {
 
@@ -27,17 +26,12 @@ using Entries = std::vector<NewEntry>;
 
 class ShortcutsTest : public ::testing::Test {
   protected:
-    ShortcutsTest() {
-        std::string pattern = (std::filesystem::temp_directory_path() / "lindrel-XXXXXX").string();
-        if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no temporary folder");
-        folder = pattern;
-    }
-    ~ShortcutsTest() override { std::filesystem::remove_all(folder); }
     void Write(const std::string& name, const std::string& address) const {
         WriteFileBytes(folder / name, ShortcutFile(address));
     }
 
-    std::filesystem::path folder;
+    const testing::TemporaryFolder temporary;
+    const std::filesystem::path folder = temporary.Path();
 };
 
 TEST_F(ShortcutsTest, TheAddressStandsBehindTheKeyOfTheSecondLine) {
