@@ -4,7 +4,6 @@
 
 #include "app/MenuCommands.h"
 #include "app/PlaceControls.h"
-#include "controls/PendingFault.h"
 #include "resources/resource.h"
 
 namespace lindrel {
@@ -15,19 +14,6 @@ constexpr wchar_t kWindowClass[] = L"frmStart";
 constexpr int kDesignedWidth = 11400;
 constexpr int kDesignedHeight = 7500;
 
-void RegisterWindowClass(HINSTANCE instance, WNDPROC procedure) {
-    WNDCLASSEXW description{};
-    description.cbSize = sizeof description;
-    description.lpfnWndProc = procedure;
-    description.hInstance = instance;
-    description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-    description.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
-    description.lpszMenuName = MAKEINTRESOURCEW(IDR_frmStart);
-    description.lpszClassName = kWindowClass;
-    // Fails when the class is there already; then it is this one.
-    static_cast<void>(RegisterClassExW(&description));
-}
-
 void MoveTo(HWND window, const RECT& place) {
     SetWindowPos(window, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
                  SWP_NOZORDER | SWP_NOACTIVATE);
@@ -37,44 +23,18 @@ void MoveTo(HWND window, const RECT& place) {
 
 frmStart::frmStart(HINSTANCE instance) : instance_(instance) {}
 
-frmStart::~frmStart() {
-    // Still there only when a fault ends the program.
-    if (handle_ != nullptr) DestroyWindow(handle_);
-}
-
 void frmStart::Show(int show) {
-    RegisterWindowClass(instance_, &frmStart::Procedure);
     shortcuts_ = LoadAcceleratorsW(instance_, MAKEINTRESOURCEW(IDR_frmStart));
-    const HWND window = CreateWindowExW(WS_EX_CONTROLPARENT, kWindowClass, nullptr,
-                                        WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, CW_USEDEFAULT, CW_USEDEFAULT,
-                                        CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr, instance_, this);
-    ThrowPendingFault();
-    if (window == nullptr || shortcuts_ == nullptr) throw std::bad_alloc();
-    ShowWindow(window, show);
-    UpdateWindow(window);
-}
-
-frmStart* frmStart::FromWindow(HWND window) {
-    return reinterpret_cast<frmStart*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-}
-
-LRESULT CALLBACK frmStart::Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
-    if (message == WM_NCCREATE) {
-        auto* const form =
-            static_cast<frmStart*>(reinterpret_cast<const CREATESTRUCTW*>(lparam)->lpCreateParams);
-        form->handle_ = window;
-        SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(form));
-    }
-    frmStart* const form = FromWindow(window);
-    if (form == nullptr) return DefWindowProcW(window, message, wparam, lparam);
-    if (message == WM_NCDESTROY) {
-        SetWindowLongPtrW(window, GWLP_USERDATA, 0);
-        form->handle_ = nullptr;
-        return DefWindowProcW(window, message, wparam, lparam);
-    }
-    // A window whose making failed must not come to be.
-    const LRESULT otherwise = message == WM_CREATE ? -1 : 0;
-    return Guarded<LRESULT>(otherwise, [&] { return form->OnMessage(message, wparam, lparam); });
+    if (shortcuts_ == nullptr) throw std::bad_alloc();
+    WNDCLASSEXW description{};
+    description.hInstance = instance_;
+    description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+    description.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
+    description.lpszMenuName = MAKEINTRESOURCEW(IDR_frmStart);
+    description.lpszClassName = kWindowClass;
+    Create(description, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT);
+    ShowWindow(Handle(), show);
+    UpdateWindow(Handle());
 }
 
 LRESULT frmStart::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
@@ -86,11 +46,11 @@ LRESULT frmStart::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
             Form_Resize();
             return 0;
         case WM_GETMINMAXINFO:
-            LimitSize(*reinterpret_cast<MINMAXINFO*>(lparam), DpiOf(handle_));
+            LimitSize(*reinterpret_cast<MINMAXINFO*>(lparam), DpiOf(Handle()));
             return 0;
         case WM_DPICHANGED:
             ApplyResolution();
-            MoveTo(handle_, *reinterpret_cast<const RECT*>(lparam));
+            MoveTo(Handle(), *reinterpret_cast<const RECT*>(lparam));
             Form_Resize();
             return 0;
         case WM_SETTINGCHANGE:
@@ -98,11 +58,11 @@ LRESULT frmStart::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
         case WM_THEMECHANGED:
             ApplyResolution();
             Form_Resize();
-            return DefWindowProcW(handle_, message, wparam, lparam);
+            return DefWindowProcW(Handle(), message, wparam, lparam);
         case WM_QUERYENDSESSION:
             return OfferToSave(SaveQuestion::Closing) != SaveAnswer::CalledOff ? TRUE : FALSE;
         case WM_CLOSE:
-            if (OfferToSave(SaveQuestion::Closing) != SaveAnswer::CalledOff) DestroyWindow(handle_);
+            if (OfferToSave(SaveQuestion::Closing) != SaveAnswer::CalledOff) DestroyWindow(Handle());
             return 0;
         case WM_DESTROY:
             Form_Unload();
@@ -131,7 +91,7 @@ LRESULT frmStart::OnControlMessage(UINT message, WPARAM wparam, LPARAM lparam) {
         case WM_NOTIFY:
             return OnNotify(*reinterpret_cast<const NMHDR*>(lparam));
         default:
-            return DefWindowProcW(handle_, message, wparam, lparam);
+            return DefWindowProcW(Handle(), message, wparam, lparam);
     }
 }
 
@@ -168,7 +128,7 @@ LRESULT frmStart::OnNotify(const NMHDR& header) {
 void frmStart::Form_Load() {
     CreateControls();
     ApplyResolution();
-    SetWindowPos(handle_, nullptr, 0, 0, PixelsOf(kDesignedWidth, dpi_), PixelsOf(kDesignedHeight, dpi_),
+    SetWindowPos(Handle(), nullptr, 0, 0, PixelsOf(kDesignedWidth, dpi_), PixelsOf(kDesignedHeight, dpi_),
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     file_menu_.ResetBook();
     open_.CurrentCategory = 1;
@@ -177,7 +137,7 @@ void frmStart::Form_Load() {
 
 void frmStart::EnableCommand(int id, bool enabled) const {
     const UINT state = enabled ? MF_ENABLED : MF_GRAYED;
-    EnableMenuItem(GetMenu(handle_), static_cast<UINT>(id), MF_BYCOMMAND | state);
+    EnableMenuItem(GetMenu(Handle()), static_cast<UINT>(id), MF_BYCOMMAND | state);
     toolbar_.Update();
 }
 

@@ -9,8 +9,6 @@
 // The file menu has a class of its own.
 #pragma once
 
-#include <cstdint>
-
 #include "app/BookView.h"
 #include "app/EntryFields.h"
 #include "app/FileMenu.h"
@@ -19,23 +17,21 @@
 #include "book/OpenBook.h"
 #include "controls/CommonDialog.h"
 #include "controls/Display.h"
+#include "controls/OwnWindow.h"
 #include "controls/Picture.h"
 #include "controls/ReturnedFocus.h"
-#include "controls/Windows.h"
 #include "tray/TrayArea.h"
 
 namespace lindrel {
 
-class frmStart {
+class frmStart : public OwnWindow {
   public:
     explicit frmStart(HINSTANCE instance);
-    ~frmStart();
+    // The window is still there only when a fault ends the program.
+    ~frmStart() override { Destroy(); }
 
     // Makes and shows the window. Throws std::bad_alloc when the system cannot.
     void Show(int show);
-    HWND Handle() const { return handle_; }
-    // The form of a main window's handle.
-    static frmStart* FromWindow(HWND window);
     // Shortcuts and keyboard navigation; true when the message is done with.
     bool PreTranslate(MSG& message);
 
@@ -47,8 +43,7 @@ class frmStart {
     void EnableCommand(int id, bool enabled) const;
 
   private:
-    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
-    LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam);
+    LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
     LRESULT OnControlMessage(UINT message, WPARAM wparam, LPARAM lparam);
     void OnCommand(int id, int event);
     LRESULT OnNotify(const NMHDR& header);
@@ -82,7 +77,6 @@ class frmStart {
     void mnuAbout_Click();
 
     HINSTANCE instance_;
-    HWND handle_ = nullptr;
     HACCEL shortcuts_ = nullptr;
     bool loaded_ = false;  // Form_Load did all its work
     UINT dpi_ = USER_DEFAULT_SCREEN_DPI;

@@ -20,13 +20,13 @@ namespace lindrel {
 
 void frmStart::mnuKat_Click() {
     frmEditKats dialog(open_);
-    dialog.ShowModal(handle_);
+    dialog.ShowModal(Handle());
     if (dialog.Renamed()) view_.UpdateTabCaptions();
 }
 
 void frmStart::mnuAdd_Click() {
     view_.SaveCheckMarks(open_.CurrentCategory);
-    frmAdd(open_).ShowModal(handle_);
+    frmAdd(open_).ShowModal(Handle());
     if (open_.ResultTag.empty()) return;
     // The row at the same place is selected again, not the new one: the user goes on where he was.
     const int position = view_.SelectedRow();
@@ -39,7 +39,7 @@ void frmStart::mnuAdd_Click() {
 void frmStart::mnuEdit_Click() {
     if (view_.SelectedRow() == 0) return;
     view_.SaveCheckMarks(open_.CurrentCategory);
-    frmEditRec(open_, [this] { return view_.SelectedRow(); }).ShowModal(handle_);
+    frmEditRec(open_, [this] { return view_.SelectedRow(); }).ShowModal(Handle());
     if (open_.ResultTag.empty()) return;
     int position = view_.SelectedRow();
     view_.FillAddressList(open_.CurrentCategory);
@@ -56,11 +56,11 @@ void frmStart::mnuEdit_Click() {
 void frmStart::mnuFind_Click() {
     // Category 12 is not looked at: users know the command to refuse a book whose entries are all there.
     if (open_.TheBook.CategoryStarts(kCategories) == 1) {
-        MsgBox(handle_, L"Az adatbázisban még nincsenek címek");
+        MsgBox(Handle(), L"Az adatbázisban még nincsenek címek");
         return;
     }
     view_.SaveCheckMarks(open_.CurrentCategory);
-    frmFind(open_).ShowModal(handle_);
+    frmFind(open_).ShowModal(Handle());
     view_.FillAddressList(open_.CurrentCategory);
     view_.RestoreCheckMarks(open_.CurrentCategory);
 }
@@ -69,7 +69,7 @@ void frmStart::mnuMove_Click() {
     const bool something_chosen = open_.TheBook.Marks.CheckedCount() != 0 || fields_.HasAddress();
     if (!something_chosen || view_.RowCount() == 0) return;
     frmMove dialog(open_, view_.SelectedRow(), view_.CheckedRows());
-    dialog.ShowModal(handle_);
+    dialog.ShowModal(Handle());
     if (dialog.Moved()) view_.FillAddressList(open_.CurrentCategory);
 }
 
@@ -80,10 +80,10 @@ void frmStart::mnuDel_Click() {
     if (checked == 0 && (!fields_.HasAddress() || view_.SelectedRow() == 0)) return;
 
     if (checked != 0) {
-        if (!MayDeleteChecked(handle_, checked)) return;
+        if (!MayDeleteChecked(Handle(), checked)) return;
         DeleteRuns(open_.TheBook, open_.CurrentCategory, view_.CheckedRows());
     } else {
-        if (!MayDeleteSelected(handle_)) return;
+        if (!MayDeleteSelected(Handle())) return;
         open_.TheBook.DeleteEntry(open_.CurrentCategory, view_.SelectedRow(), 1);
     }
     open_.TheBook.Marks.SetCheckedCount(0);
@@ -108,11 +108,11 @@ void frmStart::mnuToDesktop_Click() {
     const int entry = book.IndexOf(open_.CurrentCategory, position);
     const std::wstring question =
         L"Létrehozzam a < " + FromBookText(book.SiteNames(entry)) + L" > cím parancsikonját az Asztalon ?";
-    if (MsgBox(handle_, question, MB_OKCANCEL | MB_ICONQUESTION) != IDOK) return;
+    if (MsgBox(Handle(), question, MB_OKCANCEL | MB_ICONQUESTION) != IDOK) return;
 
     const std::optional<std::wstring> desktop = ShellFolder(CSIDL_DESKTOPDIRECTORY);
     if (!desktop) {
-        MsgBox(handle_, kNotCreated, MB_OK | MB_ICONEXCLAMATION, kErrorTitle);
+        MsgBox(Handle(), kNotCreated, MB_OK | MB_ICONEXCLAMATION, kErrorTitle);
         return;
     }
     // The name changes in the book too, but not in the list, and the book is not marked: the file bears it
@@ -124,7 +124,7 @@ void frmStart::mnuToDesktop_Click() {
         WriteFileBytes(DesktopPath(*desktop) + L"\\" + FromBookText(name) + L".url",
                        ShortcutFile(book.SiteURLs(entry)));
     } catch (const FileFault&) {
-        MsgBox(handle_, kNotCreated, MB_OK | MB_ICONEXCLAMATION, kErrorTitle);
+        MsgBox(Handle(), kNotCreated, MB_OK | MB_ICONEXCLAMATION, kErrorTitle);
     }
 }
 

@@ -12,7 +12,7 @@ namespace lindrel {
 void frmStart::mnuHelp_Click() {
     constexpr std::int16_t kHelpOfTheProgram = 1;
     if (!FileIsThere(HelpFilePath(kHelpOfTheProgram))) {
-        MsgBox(handle_, L"Nem találom az lnd.chm fájlt", MB_OK, kErrorTitle);
+        MsgBox(Handle(), L"Nem találom az lnd.chm fájlt", MB_OK, kErrorTitle);
         return;
     }
     ShowHelp(kHelpOfTheProgram, L"main");
@@ -23,7 +23,7 @@ void frmStart::mnuGoHome_Click() {
 }
 
 void frmStart::mnuAbout_Click() {
-    frmAbout().ShowModal(handle_);
+    frmAbout().ShowModal(Handle());
 }
 
 }  // namespace lindrel

@@ -11,7 +11,7 @@ namespace lindrel {
 void frmStart::mnuImport_Click() {
     view_.SaveCheckMarks(open_.CurrentCategory);
     frmImport dialog(open_, CommonDialog1);
-    dialog.ShowModal(handle_);
+    dialog.ShowModal(Handle());
     if (dialog.Imported()) view_.FillAddressList(open_.CurrentCategory);
     view_.RestoreCheckMarks(open_.CurrentCategory);
 }
@@ -22,12 +22,12 @@ void frmStart::mnuExport_Click() {
     for (int c = 1; c <= kCategories; ++c)
         something_checked = something_checked || IsExported(open_.TheBook, c);
     if (!something_checked) {
-        MsgBox(handle_,
+        MsgBox(Handle(),
                L"Kérem jelölje be (pipazza ki) az exportálni kívánt címeket /akár több kategóriából is/.",
                MB_OK, L"Nincsenek kijelölve címek");
         return;
     }
-    frmExport(open_, CommonDialog1).ShowModal(handle_);
+    frmExport(open_, CommonDialog1).ShowModal(Handle());
 }
 
 void frmStart::mnuGoto_Click() {

@@ -7,14 +7,14 @@
 namespace lindrel {
 
 void frmStart::mnuGridLines_Click() {
-    const HMENU menu = GetMenu(handle_);
+    const HMENU menu = GetMenu(Handle());
     const bool shown = (GetMenuState(menu, ID_mnuGridLines, MF_BYCOMMAND) & MF_CHECKED) == 0;
     CheckMenuItem(menu, ID_mnuGridLines, shown ? MF_CHECKED : MF_UNCHECKED);
     view_.ShowGridLines(shown);
 }
 
 void frmStart::mnuTray_Click() {
-    ShowWindow(handle_, SW_HIDE);
+    ShowWindow(Handle(), SW_HIDE);
     TrayArea.SetToolTip(kApplicationTitle);
     TrayArea.SetVisible(true);
     // Without an icon there would be no way back.
@@ -22,9 +22,9 @@ void frmStart::mnuTray_Click() {
 }
 
 void frmStart::LeaveTray() {
-    ShowWindow(handle_, SW_SHOW);
+    ShowWindow(Handle(), SW_SHOW);
     // Refused while another program keeps the front; the window is there all the same.
-    static_cast<void>(SetForegroundWindow(handle_));
+    static_cast<void>(SetForegroundWindow(Handle()));
     TrayArea.SetVisible(false);
 }
 

@@ -11,23 +11,24 @@ namespace lindrel {
 
 // In tab order.
 void frmStart::CreateControls() {
-    toolbar_.Create(handle_);
-    view_.Create(handle_);
+    toolbar_.Create(Handle());
+    view_.Create(Handle());
     view_.Filled = [this](bool has_rows) { EnableCommand(ID_mnuToDesktop, has_rows); };
-    fields_.Create(handle_);
-    search_box_.Create(handle_);
+    fields_.Create(Handle());
+    search_box_.Create(Handle());
     search_box_.Found = [this](int position) { view_.SelectRow(position); };
-    file_menu_.Attach(handle_);
-    TrayArea.Place(handle_);
+    file_menu_.Attach(Handle());
+    TrayArea.Place(Handle());
     // Either button brings the window back.
     TrayArea.MouseDown = [this](std::int16_t&) { LeaveTray(); };
 }
 
 // Fonts and what is measured in pixels, when the window is made and whenever screen or settings change.
 void frmStart::ApplyResolution() {
-    dpi_ = DpiOf(handle_);
+    dpi_ = DpiOf(Handle());
     Font font(MessageFont(dpi_));
-    for (HWND child = GetWindow(handle_, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
+    for (HWND child = GetWindow(Handle(), GW_CHILD); child != nullptr;
+         child = GetWindow(child, GW_HWNDNEXT)) {
         SendMessageW(child, WM_SETFONT, reinterpret_cast<WPARAM>(font.Handle()), TRUE);
         SendMessageW(child, WM_SYSCOLORCHANGE, 0, 0);  // common controls hear of new colours only from here
     }
@@ -45,8 +46,8 @@ void frmStart::ShowIcons() {
     Picture large_icon(instance_, IDI_frmStart, GetSystemMetricsForDpi(SM_CXICON, dpi_));
     Picture small_icon(instance_, IDI_frmStart, small_size);
     Picture tray_icon(instance_, IDI_TrayArea, small_size);
-    SendMessageW(handle_, WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(large_icon.Handle()));
-    SendMessageW(handle_, WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(small_icon.Handle()));
+    SendMessageW(Handle(), WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(large_icon.Handle()));
+    SendMessageW(Handle(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(small_icon.Handle()));
     TrayArea.SetIcon(tray_icon.Handle());
     large_icon_ = std::move(large_icon);
     small_icon_ = std::move(small_icon);
@@ -55,11 +56,11 @@ void frmStart::ShowIcons() {
 
 void frmStart::Form_Resize() {
     RECT outer{};
-    if (IsIconic(handle_) || !GetWindowRect(handle_, &outer)) return;
+    if (IsIconic(Handle()) || !GetWindowRect(Handle(), &outer)) return;
     const int width = outer.right - outer.left;
     const int height = outer.bottom - outer.top;
     const auto resize = [this](int new_width, int new_height) {
-        return SetWindowPos(handle_, nullptr, 0, 0, new_width, new_height,
+        return SetWindowPos(Handle(), nullptr, 0, 0, new_width, new_height,
                             SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     };
     const ResizeStep step = JudgeSize(TwipsOf(width, dpi_), TwipsOf(height, dpi_));
@@ -73,8 +74,8 @@ void frmStart::Form_Resize() {
 
     const int status_bar_height = view_.DockStatusBar();
     RECT client{};
-    GetClientRect(handle_, &client);
-    PlaceControls(handle_,
+    GetClientRect(Handle(), &client);
+    PlaceControls(Handle(),
                   LayOut({.Width = TwipsOf(width, dpi_),
                           .Height = TwipsOf(height, dpi_),
                           .ClientWidth = TwipsOf(client.right, dpi_),
@@ -91,24 +92,24 @@ void frmStart::OnActivate(WPARAM state) {
         return;
     }
     const HWND focus = GetFocus();
-    if (focus != nullptr && IsChild(handle_, focus)) remembered_focus_ = focus;
+    if (focus != nullptr && IsChild(Handle(), focus)) remembered_focus_ = focus;
 }
 
 void frmStart::RestoreFocus() const {
-    if (GetActiveWindow() != handle_ && GetActiveWindow() != nullptr) return;
-    if (remembered_focus_ != nullptr && IsChild(handle_, remembered_focus_))
+    if (GetActiveWindow() != Handle() && GetActiveWindow() != nullptr) return;
+    if (remembered_focus_ != nullptr && IsChild(Handle(), remembered_focus_))
         SetFocus(remembered_focus_);
     else
         view_.SetFocus();
 }
 
 bool frmStart::PreTranslate(MSG& message) {
-    if (handle_ == nullptr || (message.hwnd != handle_ && !IsChild(handle_, message.hwnd))) return false;
+    if (Handle() == nullptr || (message.hwnd != Handle() && !IsChild(Handle(), message.hwnd))) return false;
     // In the search box Del edits the text; everywhere else the menus' shortcuts win.
     const bool editing_search = message.message == WM_KEYDOWN && message.wParam == VK_DELETE &&
-                                message.hwnd == GetDlgItem(handle_, ID_frmStart_txtFind);
-    if (!editing_search && TranslateAcceleratorW(handle_, shortcuts_, &message) != 0) return true;
-    return IsDialogMessageW(handle_, &message) != FALSE;
+                                message.hwnd == GetDlgItem(Handle(), ID_frmStart_txtFind);
+    if (!editing_search && TranslateAcceleratorW(Handle(), shortcuts_, &message) != 0) return true;
+    return IsDialogMessageW(Handle(), &message) != FALSE;
 }
 
 }  // namespace lindrel

@@ -3,6 +3,7 @@
 #include <cwchar>
 
 #include "book/BookText.h"
+#include "book/Characters.h"
 #include "controls/MsgBox.h"
 
 namespace lindrel {
@@ -10,10 +11,9 @@ namespace lindrel {
 namespace {
 
 // "U+0151", also of a surrogate pair.
-std::wstring CodeOf(const std::wstring& character) {
-    const auto unit = [&](std::size_t i) { return static_cast<unsigned long>(character[i]); };
-    const unsigned long code =
-        character.size() == 2 ? 0x10000 + ((unit(0) - 0xD800) << 10) + (unit(1) - 0xDC00) : unit(0);
+std::wstring CodeOf(std::wstring_view character) {
+    std::size_t place = 0;
+    const auto code = static_cast<unsigned long>(NextCharacter(character, place));
     wchar_t text[16];
     const int length = std::swprintf(text, 16, L"U+%04lX", code);
     return {text, static_cast<std::size_t>(length)};

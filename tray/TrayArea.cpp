@@ -1,11 +1,9 @@
 #include "tray/TrayArea.h"
 
 #include <algorithm>
-#include <new>
 
 #include "book/BookText.h"
 #include "controls/Display.h"
-#include "controls/PendingFault.h"
 #include "tray/TrayProtocol.h"
 
 namespace lindrel {
@@ -45,27 +43,14 @@ std::string ShellText(std::wstring_view text) {
 
 }  // namespace
 
-TrayArea::~TrayArea() {
-    // Already gone when the owner was closed.
-    if (handle_ != nullptr) DestroyWindow(handle_);
-}
-
 void TrayArea::Place(HWND owner, Environment environment) {
     WNDCLASSEXW description{};
-    description.cbSize = sizeof description;
-    description.lpfnWndProc = &TrayArea::Procedure;
     description.hInstance = GetModuleHandleW(nullptr);
     description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     description.lpszClassName = kWindowClass;
-    // Fails when the class is there already; then it is this one.
-    static_cast<void>(RegisterClassExW(&description));
-
     environment_ = environment;
-    const DWORD style = WS_CHILD | (environment == Environment::Design ? WS_VISIBLE : 0u);
-    const HWND window =
-        CreateWindowExW(0, kWindowClass, L"", style, 0, 0, 0, 0, owner, nullptr, description.hInstance, this);
-    ThrowPendingFault();
-    if (window == nullptr) throw std::bad_alloc();
+    const DWORD visible = environment == Environment::Design ? WS_VISIBLE : 0u;
+    Create(description, WS_CHILD | visible, 0, owner);
     // The shell's broadcasts reach no child windows: the control hears them at its owner.
     owner_.Attach(owner, [this](UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
         // Under its old identifier, so that a taskbar that still has the icon refuses it.
@@ -73,30 +58,13 @@ void TrayArea::Place(HWND owner, Environment environment) {
         return std::nullopt;
     });
     record_.cbSize = kRecordSize;
-    record_.hWnd = window;
+    record_.hWnd = Handle();
     // For a shell with fewer rights than the program. Without it the icon misses a new taskbar, no more.
     static_cast<void>(ChangeWindowMessageFilterEx(owner, TaskbarCreated(), MSGFLT_ALLOW, nullptr));
     Resize();
 }
 
-LRESULT CALLBACK TrayArea::Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
-    if (message == WM_NCCREATE) {
-        auto* const made =
-            static_cast<TrayArea*>(reinterpret_cast<const CREATESTRUCTW*>(lparam)->lpCreateParams);
-        made->handle_ = window;
-        SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(made));
-    }
-    auto* const control = reinterpret_cast<TrayArea*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-    if (control == nullptr) return DefWindowProcW(window, message, wparam, lparam);
-    if (message == WM_NCDESTROY) {
-        SetWindowLongPtrW(window, GWLP_USERDATA, 0);
-        control->handle_ = nullptr;
-        return DefWindowProcW(window, message, wparam, lparam);
-    }
-    return Guarded<LRESULT>(0, [&] { return control->Handle(message, wparam, lparam); });
-}
-
-LRESULT TrayArea::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
+LRESULT TrayArea::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
     switch (message) {
         case kCallbackMessage:
             Decode(lparam);
@@ -111,7 +79,7 @@ LRESULT TrayArea::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
             RemoveIcon();
             return 0;
         default:
-            return DefWindowProcW(handle_, message, wparam, lparam);
+            return DefWindowProcW(Handle(), message, wparam, lparam);
     }
 }
 
@@ -136,25 +104,25 @@ void TrayArea::Decode(LPARAM mouse_message) {
 }
 
 SIZE TrayArea::PictureSize() const {
-    const UINT dpi = DpiOf(handle_);
+    const UINT dpi = DpiOf(Handle());
     return {GetSystemMetricsForDpi(SM_CXSMICON, dpi), GetSystemMetricsForDpi(SM_CYSMICON, dpi)};
 }
 
 void TrayArea::Resize() {
     const SIZE size = PictureSize();
     resizing_ = true;
-    SetWindowPos(handle_, nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    SetWindowPos(Handle(), nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     resizing_ = false;
 }
 
 void TrayArea::PaintPicture() const {
     PAINTSTRUCT paint{};
-    const HDC canvas = BeginPaint(handle_, &paint);
+    const HDC canvas = BeginPaint(Handle(), &paint);
     if (canvas == nullptr) return;
     const SIZE size = PictureSize();
     DrawIconEx(canvas, 0, 0, LoadIconW(nullptr, IDI_APPLICATION), size.cx, size.cy, 0,
                GetSysColorBrush(COLOR_BTNFACE), DI_NORMAL);
-    EndPaint(handle_, &paint);
+    EndPaint(Handle(), &paint);
 }
 
 void TrayArea::SetIcon(Picture New_Icon) {
@@ -184,7 +152,7 @@ void TrayArea::SetVisible(bool New_Visible) {
     properties_.Visible = New_Visible;
     if (!New_Visible) {
         RemoveIcon();
-    } else if (handle_ != nullptr && environment_ == Environment::Running) {
+    } else if (Handle() != nullptr && environment_ == Environment::Running) {
         record_.uID = TrayIdentifier(std::uniform_real_distribution<double>(0.0, 1.0)(random_));
         AddIcon();
     }

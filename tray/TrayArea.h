@@ -10,14 +10,14 @@
 #include <string>
 #include <string_view>
 
+#include "controls/OwnWindow.h"
 #include "controls/Subclass.h"
-#include "controls/Windows.h"
 // After the others: it needs them.
 #include <shellapi.h>
 
 namespace lindrel {
 
-class TrayArea {
+class TrayArea : public OwnWindow {
   public:
     enum class Environment { Running, Design };
 
@@ -35,16 +35,12 @@ class TrayArea {
 
     TrayArea() = default;
     // Removes the icon. So does the destruction of the owner.
-    ~TrayArea();
-    TrayArea(const TrayArea&) = delete;
-    TrayArea& operator=(const TrayArea&) = delete;
+    ~TrayArea() override { Destroy(); }
 
     // Makes the control's own window, a child of its owner; once, before an icon can be shown. The owner is a
     // main window of the same thread and holds one such control. Throws std::bad_alloc when the system
     // cannot; then there is no control.
     void Place(HWND owner, Environment environment = Environment::Running);
-    // The control's own window; null before it is placed and after its owner is destroyed.
-    HWND Handle() const { return handle_; }
 
     // Stores what was saved, as it is: nothing appears until Visible is set.
     void ReadProperties(const Properties& saved) { properties_ = saved; }
@@ -72,8 +68,7 @@ class TrayArea {
     std::function<void()> DblClick;
 
   private:
-    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
-    LRESULT Handle(UINT message, WPARAM wparam, LPARAM lparam);
+    LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
     void Decode(LPARAM mouse_message);
     void Resize();
     void PaintPicture() const;
@@ -89,7 +84,6 @@ class TrayArea {
     NOTIFYICONDATAA record_{};
     std::mt19937 random_{std::random_device{}()};
     Environment environment_ = Environment::Running;
-    HWND handle_ = nullptr;
     bool added_ = false;     // the shell was told to show the icon
     bool taken_ = false;     // and did
     bool resizing_ = false;  // by the control itself

@@ -49,9 +49,9 @@ class HTMLHelpTest : public ::testing::Test {
         return std::filesystem::path(program).replace_filename(L"lnd.chm").wstring();
     }
     static void RemoveHelpFile() {
-        // Usually there is neither.
-        static_cast<void>(DeleteFileW(InProgramFolder().c_str()));
-        static_cast<void>(RemoveDirectoryW(InProgramFolder().c_str()));
+        // Usually there is neither file nor folder of that name.
+        DeleteFileW(InProgramFolder().c_str());
+        RemoveDirectoryW(InProgramFolder().c_str());
     }
     static void PutHelpFile() {
         const HANDLE file = CreateFileW(InProgramFolder().c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,

@@ -107,7 +107,7 @@ void Program::OnUi(const std::function<void(frmStart&)>& code) const {
     std::exception_ptr thrown;
     const std::function<void()> guarded = [&] {
         try {
-            code(*frmStart::FromWindow(main_));
+            code(static_cast<frmStart&>(*OwnWindow::FromWindow(main_)));
         } catch (...) {
             thrown = std::current_exception();
         }
