@@ -18,10 +18,10 @@ class PictureButton : public Control {
 
     // Shows an icon of the resources at a size in pixels. Throws std::bad_alloc when there is none.
     void SetPicture(int icon_id, int size);
-    void Draw(const DRAWITEMSTRUCT& item) const;
 
   private:
     std::optional<LRESULT> OnMessage(UINT message, LPARAM lparam);
+    void Draw(const DRAWITEMSTRUCT& item) const;
     // The picture stays as it is while the mouse holds the button; only the border tells.
     void MouseDown() const { ShowBorder(true); }
     void MouseUp() const { ShowBorder(false); }
