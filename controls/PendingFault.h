@@ -22,13 +22,5 @@ Result Guarded(Result otherwise, Handler&& handler) noexcept {
         return otherwise;
     }
 }
-template <typename Handler>
-void Guarded(Handler&& handler) noexcept {
-    try {
-        std::forward<Handler>(handler)();
-    } catch (...) {
-        KeepPendingFault();
-    }
-}
 
 }  // namespace lindrel
