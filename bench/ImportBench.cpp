@@ -8,7 +8,6 @@
 #include <array>
 #include <cstddef>
 #include <filesystem>
-#include <new>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -71,11 +70,11 @@ const std::filesystem::path& AnsiPage() {
 void FloorGrep(benchmark::State& state) {
     const std::string path = AnsiPage().string();
     posix_spawn_file_actions_t actions;
-    if (posix_spawn_file_actions_init(&actions) != 0) throw std::bad_alloc();
     const std::string output = TemporaryFile("found.txt").string();
-    if (posix_spawn_file_actions_addopen(&actions, 1, output.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600) !=
-        0)
-        throw std::bad_alloc();
+    if (posix_spawn_file_actions_init(&actions) != 0 ||
+        posix_spawn_file_actions_addopen(&actions, 1, output.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600) !=
+            0)
+        throw std::runtime_error("grep cannot be started");
     std::array<std::string, 5> arguments = {"env", "LC_ALL=C", "grep", "-o", "a href=\"[^\"]*\""};
     std::array<char*, 7> list{};
     for (std::size_t i = 0; i < arguments.size(); ++i) list.at(i) = arguments.at(i).data();
