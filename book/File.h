@@ -32,8 +32,8 @@ class File {
     // In bytes.
     std::size_t Size() const;
     // Fills the buffer and returns the number of bytes read, which is smaller only at the end of the file.
-    std::size_t Read(std::span<char> buffer) const;
-    void Write(std::string_view bytes) const;
+    std::size_t Read(std::span<char> buffer);
+    void Write(std::string_view bytes);
     void Close();
     // Flushes the temporary file to the disk, closes it and moves it to the path in one step, so that there
     // is always either the old file or the complete new one.

@@ -75,7 +75,7 @@ std::size_t File::Size() const {
     return static_cast<std::size_t>(status.st_size);
 }
 
-std::size_t File::Read(std::span<char> buffer) const {
+std::size_t File::Read(std::span<char> buffer) {
     std::size_t done = 0;
     while (done < buffer.size()) {
         const ssize_t got = ::read(Native(handle_), buffer.data() + done, buffer.size() - done);
@@ -87,7 +87,7 @@ std::size_t File::Read(std::span<char> buffer) const {
     return done;
 }
 
-void File::Write(std::string_view bytes) const {
+void File::Write(std::string_view bytes) {
     while (!bytes.empty()) {
         const ssize_t put = ::write(Native(handle_), bytes.data(), bytes.size());
         if (put < 0 && errno == EINTR) continue;

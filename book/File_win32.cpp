@@ -86,7 +86,7 @@ std::size_t File::Size() const {
     return static_cast<std::size_t>(size.QuadPart);
 }
 
-std::size_t File::Read(std::span<char> buffer) const {
+std::size_t File::Read(std::span<char> buffer) {
     std::size_t done = 0;
     while (done < buffer.size()) {
         DWORD got = 0;
@@ -98,7 +98,7 @@ std::size_t File::Read(std::span<char> buffer) const {
     return done;
 }
 
-void File::Write(std::string_view bytes) const {
+void File::Write(std::string_view bytes) {
     while (!bytes.empty()) {
         DWORD put = 0;
         const auto wanted = static_cast<DWORD>(std::min(bytes.size(), kMostBytesAtOnce));

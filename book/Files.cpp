@@ -6,7 +6,7 @@
 namespace lindrel {
 
 std::vector<char> ReadFileBytes(const std::filesystem::path& path) {
-    const File file = File::ForReading(path);
+    File file = File::ForReading(path);
     std::vector<char> bytes(file.Size());
     bytes.resize(file.Read(bytes));
     return bytes;

@@ -120,50 +120,51 @@ struct EndingCase {
     bool carries;
 };
 
+constexpr EndingCase kEndingCases[] = {
+    // Plain hosts.
+    {"http://index.hu", ".hu", true},
+    {"http://index.hu/", ".hu", true},
+    {"http://index.com", ".hu", false},
+    {"HTTP://INDEX.HU", ".hu", true},
+    {"http://www.index.hu", ".hu", true},
+    {"HTTP://WWW.INDEX.HU", ".hu", true},
+    // A host after "www." that begins like the ending.
+    {"http://www.hungary.com", ".hu", false},
+    {"http://www.hungary.hu", ".hu", true},
+    {"HTTP://WWW.HUNGARY.COM", ".hu", false},
+    {"http://www.hu", ".hu", false},
+    {"http://www.com.hu", ".com", false},
+    {"http://www.a.hu", ".hu", true},
+    // The search starts at the same place for any host that begins with "www".
+    {"http://www2.hu", ".hu", true},
+    {"http://www.", ".hu", false},
+    {"http://www", ".hu", false},
+    // "www." is skipped only after "http://", so the host may match.
+    {"https://www.hungary.com", ".hu", true},
+    {"ftp://www.hungary.com", ".hu", true},
+    {"www.hungary.com", ".hu", false},
+    {"http://hungary.com", ".hu", false},
+    {"http://x.hungary.com", ".hu", true},
+    // One-letter hosts, and endings around the fifth character, where the search starts.
+    {"http://x.hu/lap", ".hu", true},
+    {"a.hu", ".hu", false},
+    {"abc.hu", ".hu", false},
+    {"abcd.hu", ".hu", true},
+    {"abcde.hu", ".hu", true},
+    // An ending in the path or within a longer word.
+    {"http://pelda.com/lap.hu/index.html", ".hu", true},
+    {"http://www.pelda.com/lap.hu", ".hu", true},
+    {"http://pelda.human.org", ".hu", true},
+    {"mailto:valaki@pelda.hu", ".hu", true},
+    // Endings of several parts or with accented letters.
+    {"http://bolt.co.uk/", ".co.uk", true},
+    {"http://bolt.uk/", ".co.uk", false},
+    {"http://pelda.\xD5", ".\xF5", true},
+    {"", ".hu", false},
+};
+
 TEST(EntrySearchTest, TheEndingRule) {
-    const EndingCase cases[] = {
-        // Plain hosts.
-        {"http://index.hu", ".hu", true},
-        {"http://index.hu/", ".hu", true},
-        {"http://index.com", ".hu", false},
-        {"HTTP://INDEX.HU", ".hu", true},
-        {"http://www.index.hu", ".hu", true},
-        {"HTTP://WWW.INDEX.HU", ".hu", true},
-        // A host after "www." that begins like the ending.
-        {"http://www.hungary.com", ".hu", false},
-        {"http://www.hungary.hu", ".hu", true},
-        {"HTTP://WWW.HUNGARY.COM", ".hu", false},
-        {"http://www.hu", ".hu", false},
-        {"http://www.com.hu", ".com", false},
-        {"http://www.a.hu", ".hu", true},
-        // The search starts at the same place for any host that begins with "www".
-        {"http://www2.hu", ".hu", true},
-        {"http://www.", ".hu", false},
-        {"http://www", ".hu", false},
-        // "www." is skipped only after "http://", so the host may match.
-        {"https://www.hungary.com", ".hu", true},
-        {"ftp://www.hungary.com", ".hu", true},
-        {"www.hungary.com", ".hu", false},
-        {"http://hungary.com", ".hu", false},
-        {"http://x.hungary.com", ".hu", true},
-        // One-letter hosts, and endings around the fifth character, where the search starts.
-        {"http://x.hu/lap", ".hu", true},
-        {"a.hu", ".hu", false},
-        {"abc.hu", ".hu", false},
-        {"abcd.hu", ".hu", true},
-        {"abcde.hu", ".hu", true},
-        // An ending in the path or within a longer word.
-        {"http://pelda.com/lap.hu/index.html", ".hu", true},
-        {"http://www.pelda.com/lap.hu", ".hu", true},
-        {"http://pelda.human.org", ".hu", true},
-        {"mailto:valaki@pelda.hu", ".hu", true},
-        // Endings of several parts or with accented letters.
-        {"http://bolt.co.uk/", ".co.uk", true},
-        {"http://bolt.uk/", ".co.uk", false},
-        {"http://pelda.\xD5", ".\xF5", true},
-        {"", ".hu", false},
-    };
-    for (const EndingCase& tried : cases)
+    for (const EndingCase& tried : kEndingCases)
         EXPECT_EQ(CarriesEnding(tried.url, CaselessNeedle(tried.ending)), tried.carries)
             << tried.url << " and " << tried.ending;
 }

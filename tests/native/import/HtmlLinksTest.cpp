@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
-#include <ostream>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,13 +10,9 @@
 #include "book/Book.h"
 #include "book/Faults.h"
 #include "export/HtmlPage.h"
+#include "tests/native/support/PrintEntry.h"
 
 namespace lindrel {
-
-static void PrintTo(const NewEntry& entry, std::ostream* out) {
-    *out << "{\"" << entry.SiteName << "\", \"" << entry.URL << "\"}";
-}
-
 namespace {
 
 using Links = std::vector<NewEntry>;

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <ostream>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,14 +11,10 @@
 #include "book/Faults.h"
 #include "book/Files.h"
 #include "export/Shortcut.h"
+#include "tests/native/support/PrintEntry.h"
 #include "tests/native/support/TemporaryFolder.h"
 
 namespace lindrel {
-
-static void PrintTo(const NewEntry& entry, std::ostream* out) {
-    *out << "{\"" << entry.SiteName << "\", \"" << entry.URL << "\"}";
-}
-
 namespace {
 
 using Entries = std::vector<NewEntry>;
