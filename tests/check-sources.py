@@ -18,7 +18,6 @@ LONGEST_TEST_FILE = 500
 LONGER_FILES = {}  # file: why it may be longer
 
 LONGEST_FUNCTION = 40
-LONGEST_TEST_FUNCTION = 50  # tables of cases
 
 FIXED_WAIT = re.compile(r"\b([Ss]leep(_for|_until|Ex)?|(u|nano)sleep)[ \t]*\(|^[ \t]*sleep[ \t]+[0-9.]")
 SWITCHED_OFF = re.compile(r"\bDISABLED_|GTEST_SKIP")
@@ -189,9 +188,8 @@ def functions_are_short():
     for function in found.stdout.splitlines():
         end, start, file, name = function.split("\t")
         length = int(end or start) - int(start) + 1
-        limit = LONGEST_TEST_FUNCTION if folder_of(file) == "tests" else LONGEST_FUNCTION
-        if length > limit:
-            yield file, int(start), f"{name} has {length} lines; {limit} are the limit"
+        if length > LONGEST_FUNCTION:
+            yield file, int(start), f"{name} has {length} lines; {LONGEST_FUNCTION} are the limit"
 
 
 def files_are_short():
