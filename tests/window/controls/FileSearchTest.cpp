@@ -11,7 +11,7 @@ namespace {
 using Names = std::vector<std::wstring>;
 
 int closed = 0;
-const auto find_close = &FindClose;
+BOOL(WINAPI* find_close)(HANDLE) = nullptr;
 
 BOOL WINAPI CountClosing(HANDLE search) {
     ++closed;
@@ -52,6 +52,7 @@ TEST_F(FileSearchTest, StopsWhenTheVisitorHasSeenEnough) {
 
 TEST_F(FileSearchTest, AVisitorThatThrowsLeavesNoSearchOpen) {
     closed = 0;
+    find_close = &FindClose;
     {
         const ReplacedImport counting(&FindClose, &CountClosing);
         EXPECT_THROW(
