@@ -118,7 +118,7 @@ void BookView::ShowCheckedCount() const {
 
 void BookView::SaveCheckMarks(int category) {
     std::vector<std::int16_t> positions;
-    // Most lists have no check mark, and then need no walk.
+    // Usually nothing is checked and there is nothing to look for.
     const bool any = open_.TheBook.Marks.CheckedCount() != 0;
     for (int position = 1; any && position <= ListURLs.Count(); ++position)
         if (ListURLs.IsChecked(position)) positions.push_back(static_cast<std::int16_t>(position));
@@ -161,7 +161,7 @@ void BookView::ListURLs_ItemCheck(int position) {
     marks.SetCheckedCount(marks.CheckedCount() + (ListURLs.IsChecked(position) ? 1 : -1));
     ShowCheckedCount();
     if (position != ListURLs.Selected()) return;
-    // The space bar walks down the list, checking.
+    // So the space bar checks one row after the other.
     if (position != ListURLs.Count()) {
         ListURLs.Select(position + 1);
         ListURLs.EnsureVisible(position + 1);

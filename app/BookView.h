@@ -21,7 +21,7 @@ class BookView {
     // Makes the controls on a window, in their tab order. Throws std::bad_alloc when the system cannot.
     void Create(HWND window);
     void ApplyResolution(UINT dpi);
-    // Places the status bar at the window's foot and returns its height in pixels.
+    // Places the status bar at the bottom of the window and returns its height in pixels.
     int DockStatusBar() const;
     // WM_NOTIFY and WM_COMMAND of the window. True when the command is one of the tabs'.
     LRESULT Notify(const NMHDR& header);

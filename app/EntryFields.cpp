@@ -7,7 +7,7 @@
 
 namespace lindrel {
 
-// A label stands just before its field, so that screen readers name the field by it.
+// Screen readers name a field by the label just before it.
 void EntryFields::Create(HWND window) {
     window_ = window;
     constexpr DWORD kField = WS_TABSTOP | ES_AUTOHSCROLL | ES_READONLY;

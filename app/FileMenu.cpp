@@ -14,7 +14,7 @@ namespace {
 
 constexpr wchar_t kLoadErrorTitle[] = L"Hiba a beolvasásnál";
 
-// No blank after the dash: so the title has always been.
+// No blank after the dash, as users know the title.
 std::wstring TitleOf(const std::wstring& path) {
     return L"Lindrel -" + FileNameOf(path);
 }
@@ -40,7 +40,7 @@ void FileMenu::ResetBook() {
     open_.Modified = false;
     open_.OpenedFile.clear();
     view_.ShowEmptyBook();
-    SetTitle(L"Lindrel ");  // with its blank: so the title has always been
+    SetTitle(L"Lindrel ");  // with a blank at its end, as users know it
 }
 
 void FileMenu::ResetAfterOffer() {
@@ -48,7 +48,7 @@ void FileMenu::ResetAfterOffer() {
 }
 
 void FileMenu::mnuOpen_Click() {
-    // After Yes the command stops; the user chooses Open again.
+    // Yes saves and opens nothing: the user chooses Open again, as ever.
     if (OfferToSave(SaveQuestion::Command) == SaveAnswer::NotSaved) OpenChosenBook();
 }
 
@@ -72,12 +72,12 @@ void FileMenu::mnuSave_Click() {
 }
 
 void FileMenu::mnuSaveAs_Click() {
-    // Category 12 is not looked at: users know the command to do nothing for a book whose entries are all
-    // there.
+    // Category 12 is ignored: for a book with entries only there the command has never done anything.
     if (open_.TheBook.CategoryStarts(kCategories) == 1) return;
     int answer = IDYES;
     do {
-        // The chosen path is the book's at once, even when overwriting is then refused: later saves go there.
+        // The path is the book's from now on, even when the user then refuses to overwrite: later saves go
+        // there.
         if (!ChooseBookFile(false)) return;
         answer = IDYES;
         if (FileIsThere(open_.OpenedFile))
@@ -116,7 +116,7 @@ bool FileMenu::ChooseBookFile(bool open) {
                 CommonDialog1.ShowSave(window_);
         } while (open && !FileExists(window_, CommonDialog1.FileName));
     } catch (const Fault&) {
-        return false;  // cancelled, or not to be shown at all
+        return false;  // cancelled, or the dialog could not be shown
     }
     open_.OpenedFile = CommonDialog1.FileName;
     return true;
@@ -162,7 +162,7 @@ void FileMenu::SaveUnderNewName() {
     if (SaveBook(open_.OpenedFile)) SetTitle(TitleOf(open_.OpenedFile));
 }
 
-// A name or address that begins with "#" was written as it stands and will come back as a category's name.
+// Names and addresses are saved as they stand, so one that begins with "#" comes back as a category's name.
 void FileMenu::WarnOfHeaderLookalikes() const {
     const HeaderLookalikes found = FindHeaderLookalikes(open_.TheBook);
     if (found.Count == 0) return;

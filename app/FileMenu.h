@@ -15,7 +15,7 @@ enum class SaveQuestion { Command, Closing };
 // What came of the question.
 enum class SaveAnswer {
     NotSaved,   // there was nothing to save, or the user does not want it saved
-    Saved,      // the user said yes; so also when the save dialog was then cancelled, which loses the changes
+    Saved,      // the user said Yes, even when the save dialog was then cancelled and the changes are lost
     CalledOff,  // the user cancelled, or the book could not be written: what asked must not go on
 };
 
@@ -24,7 +24,7 @@ class FileMenu {
     FileMenu(OpenBook& open, BookView& view, CommonDialog& file_dialog)
         : open_(open), view_(view), CommonDialog1(file_dialog) {}
 
-    // The window whose title names the book's file and which owns the boxes.
+    // The window that bears the title and owns the boxes.
     void Attach(HWND window) { window_ = window; }
     // WM_COMMAND of the window. True when the id is that of one of these commands.
     bool OnCommand(int id);
@@ -44,7 +44,7 @@ class FileMenu {
 
     void ResetAfterOffer();
     void OpenChosenBook();
-    // Shows the open or save dialog and keeps the picked path in OpenedFile. Whether one was picked.
+    // Shows the open or save dialog. Returns whether a file was picked; OpenedFile is its path then.
     bool ChooseBookFile(bool open);
     // Reads a book, sets the title and clears Modified. On failure tells why, changes nothing and returns
     // false.
@@ -52,7 +52,7 @@ class FileMenu {
     // Writes the book, clears Modified and tells the user. On failure tells why, changes nothing and returns
     // false.
     bool SaveBook(const std::wstring& path);
-    // The same for the path that the user has just chosen, which the title then names.
+    // Saves to the path that the user has just chosen, and shows its name in the title.
     void SaveUnderNewName();
     void WarnOfHeaderLookalikes() const;
     void SetTitle(const std::wstring& title) const;

@@ -7,7 +7,7 @@ namespace lindrel {
 
 namespace {
 
-// A drop-down list's height counts the list as well; the system sets that of the closed box.
+// The height of a combo box includes its list; the system chooses that of the closed box.
 constexpr int kHeightOfFindersWithList = 3000;
 
 Place Inside(const Place& frame, Place place) {

@@ -1,4 +1,4 @@
-// Brings the main window's layout to the screen.
+// Puts the main window's layout on the screen.
 #pragma once
 
 #include "app/MainLayout.h"

@@ -14,7 +14,7 @@ namespace lindrel {
 
 namespace {
 
-// The shell's folder and address services want it.
+// COM, which the shell needs to open folders and addresses.
 class ComApartment {
   public:
     ComApartment()
@@ -64,7 +64,7 @@ int RunProgram(HINSTANCE instance, int show) {
                    MB_OK | MB_ICONERROR);
             form.OfferToSave(SaveQuestion::Closing);
         } catch (...) {
-            // A second fault while the first is reported has nobody left to hear it.
+            // A second fault while the first is reported: there is nobody left to tell.
         }
         return 1;
     }

@@ -5,9 +5,9 @@
 
 namespace lindrel {
 
-// Opens the main window on this thread and runs its message loop until it is closed. Returns the process's
-// exit code: 0, or 1 when a fault that no command handles ended the program. Then the run-time error report
-// was shown and, with unsaved changes, the offer to save them. `show` is a SW_ value.
+// Opens the main window on this thread and runs its message loop until the window is closed. Returns the exit
+// code: 0, or 1 after a fault that no command handled, which was reported and followed by the offer to save
+// what was unsaved. `show` is a SW_ value.
 int RunProgram(HINSTANCE instance, int show);
 
 }  // namespace lindrel

@@ -16,7 +16,7 @@ void SearchBox::Create(HWND window) {
                                         ID_frmStart_cmbFinders));
     for (const WebService& service : kWebServices) cmbFinders.Add(service.Name);
     cmbFinders.Select(0);
-    // Names the next field to screen readers only: who sees the frame and the picture needs no more words.
+    // Names the next field for screen readers; on the screen, frame and picture say enough.
     Control(CreateControl(window, WC_STATICW, L"keresett szöveg", SS_LEFT, ID_frmStart_lblFind)).Show(false);
     txtFind = TextBox(CreateControl(window, WC_EDITW, L"", WS_TABSTOP | ES_AUTOHSCROLL, ID_frmStart_txtFind,
                                     WS_EX_CLIENTEDGE));
@@ -75,7 +75,7 @@ void SearchBox::txtFind_KeyPress(wchar_t KeyAscii) {
     if (KeyAscii == kEnter) Image1_Click();
 }
 
-// Nothing else starts the search anew: after a tab change it goes on at the old place.
+// Only a new text starts the search anew. After a tab change it goes on at the old place, as users know it.
 void SearchBox::txtFind_Change() {
     FindPosition = 0;
 }
@@ -86,7 +86,7 @@ void SearchBox::txtFind_GotFocus() const {
 
 std::optional<LRESULT> SearchBox::OnTextMessage(UINT message, WPARAM wparam, LPARAM lparam) {
     if (message == WM_CHAR) txtFind_KeyPress(static_cast<wchar_t>(wparam));
-    // The keyboard navigation of the window must not take Enter for itself.
+    // Or the keyboard navigation of the window would take Enter.
     const auto* const asked = reinterpret_cast<const MSG*>(lparam);
     if (message == WM_GETDLGCODE && asked != nullptr && asked->wParam == VK_RETURN)
         return text_messages_.Default(message, wparam, lparam) | DLGC_WANTMESSAGE;

@@ -27,7 +27,7 @@ class SearchBox {
     bool OnCommand(int id, int event);
     bool HasFocus() const { return txtFind.HasFocus(); }
 
-    // The next hit is the row at this 1-based position of the shown category.
+    // A hit: the row at this 1-based position of the shown category.
     std::function<void(int position)> Found;
 
   private:

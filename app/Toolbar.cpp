@@ -30,7 +30,7 @@ constexpr ToolbarButton kButtons[] = {
 constexpr int kButtonCount = static_cast<int>(std::size(kButtons));
 constexpr int kButtonWithMenu = 5;
 constexpr int kTwipsOfPicture = 360;
-// Pixels around a picture, those of the system.
+// Padding around a picture in pixels, as the system has it.
 constexpr int kPaddingX = 7;
 constexpr int kPaddingY = 6;
 
@@ -62,7 +62,7 @@ void Toolbar::Create(HWND window) {
     const HWND toolbar = toolbar_.Handle();
     SendMessageW(toolbar, TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON), 0);
     SendMessageW(toolbar, TB_SETEXTENDEDSTYLE, 0, TBSTYLE_EX_DRAWDDARROWS);
-    // The names are not drawn; screen readers and tool tips have them.
+    // The names are for tool tips and screen readers; none are drawn.
     SendMessageW(toolbar, TB_SETMAXTEXTROWS, 0, 0);
     AddButtons();
     RemoveTipOfFirstButton();
@@ -100,9 +100,9 @@ void Toolbar::ApplyResolution(UINT dpi) {
     const HWND toolbar = toolbar_.Handle();
     SendMessageW(toolbar, TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(pictures.Handle()));
     SendMessageW(toolbar, TB_SETDISABLEDIMAGELIST, 0, reinterpret_cast<LPARAM>(disabled_pictures.Handle()));
-    // Buttons grow with their pictures by themselves, but do not shrink.
+    // By themselves, buttons grow with their pictures but do not shrink.
     SendMessageW(toolbar, TB_SETBUTTONSIZE, 0, MAKELPARAM(size + kPaddingX, size + kPaddingY));
-    // Only now may the old pictures go.
+    // The old pictures were in use until now.
     ImageList1 = std::move(pictures);
     disabled_pictures_ = std::move(disabled_pictures);
 }
@@ -136,7 +136,7 @@ void Toolbar::Notify(const NMHDR& header) const {
 
 void Toolbar::FillTip(const NMTBGETINFOTIPW& tip) {
     const int position = PositionOf(tip.iItem);
-    // pszText is the toolbar's buffer, ours to write to.
+    // pszText points to the toolbar's own buffer.
     if (position > 1 && IsButton(position))
         lstrcpynW(tip.pszText, kButtons[position - 1].Name, tip.cchTextMax);
 }

@@ -142,8 +142,8 @@ void frmStart::EnableCommand(int id, bool enabled) const {
 }
 
 void frmStart::Form_Unload() const {
-    // A window that could not be made has no loop to end: the quit would take the report of the failure with
-    // it.
+    // A window that could not be made has no message loop to end; the quit message would swallow the report
+    // of the failure.
     if (loaded_) PostQuitMessage(0);
 }
 

@@ -27,7 +27,7 @@ namespace lindrel {
 class frmStart : public OwnWindow {
   public:
     explicit frmStart(HINSTANCE instance);
-    // The window is still there only when a fault ends the program.
+    // Destroys the window, which is still there only when a fault ends the program.
     ~frmStart() override { Destroy(); }
 
     // Makes and shows the window. Throws std::bad_alloc when the system cannot.

@@ -28,7 +28,7 @@ void frmStart::mnuAdd_Click() {
     view_.SaveCheckMarks(open_.CurrentCategory);
     frmAdd(open_).ShowModal(Handle());
     if (open_.ResultTag.empty()) return;
-    // The row at the same place is selected again, not the new one: the user goes on where he was.
+    // Selects the row at the same place, not the new one: the user goes on from there.
     const int position = view_.SelectedRow();
     open_.ResultTag.clear();
     view_.FillAddressList(open_.CurrentCategory);
@@ -54,7 +54,7 @@ void frmStart::mnuEdit_Click() {
 }
 
 void frmStart::mnuFind_Click() {
-    // Category 12 is not looked at: users know the command to refuse a book whose entries are all there.
+    // Category 12 is ignored: the command has always refused a book with entries only there.
     if (open_.TheBook.CategoryStarts(kCategories) == 1) {
         MsgBox(Handle(), L"Az adatbázisban még nincsenek címek");
         return;
@@ -74,7 +74,7 @@ void frmStart::mnuMove_Click() {
 }
 
 void frmStart::mnuDel_Click() {
-    // There the Del key is for the text.
+    // In the search box the Del key deletes text.
     if (search_box_.HasFocus()) return;
     const int checked = open_.TheBook.Marks.CheckedCount();
     if (checked == 0 && (!fields_.HasAddress() || view_.SelectedRow() == 0)) return;
@@ -94,8 +94,7 @@ void frmStart::mnuDel_Click() {
 }
 
 void frmStart::mnuSelectAll_Click() {
-    // Category 12 is not looked at: users know the command to do nothing for a book whose entries are all
-    // there.
+    // Category 12 is ignored: for a book with entries only there the command has never done anything.
     if (open_.TheBook.CategoryStarts(kCategories) == 1) return;
     view_.SetAllChecks(open_.TheBook.Marks.CheckedCount() == 0);
 }
@@ -115,8 +114,8 @@ void frmStart::mnuToDesktop_Click() {
         MsgBox(Handle(), kNotCreated, MB_OK | MB_ICONEXCLAMATION, kErrorTitle);
         return;
     }
-    // The name changes in the book too, but not in the list, and the book is not marked: the file bears it
-    // so.
+    // The entry takes the name of its file. Neither the list nor Modified shows it: users have never been
+    // asked to save because of a shortcut.
     std::string name(book.SiteNames(entry));
     MakeShortcutFileName(name);
     book.SetSiteName(entry, name);

@@ -23,14 +23,15 @@ void frmStart::CreateControls() {
     TrayArea.MouseDown = [this](std::int16_t&) { LeaveTray(); };
 }
 
-// Fonts and what is measured in pixels, when the window is made and whenever screen or settings change.
+// All that depends on the resolution: when the window is made, and when screen or settings change.
 void frmStart::ApplyResolution() {
     dpi_ = DpiOf(Handle());
     Font font(MessageFont(dpi_));
     for (HWND child = GetWindow(Handle(), GW_CHILD); child != nullptr;
          child = GetWindow(child, GW_HWNDNEXT)) {
         SendMessageW(child, WM_SETFONT, reinterpret_cast<WPARAM>(font.Handle()), TRUE);
-        SendMessageW(child, WM_SYSCOLORCHANGE, 0, 0);  // common controls hear of new colours only from here
+        SendMessageW(child, WM_SYSCOLORCHANGE, 0,
+                     0);  // common controls learn of new colours from their parent
     }
     font_ = std::move(font);
     ShowIcons();
@@ -40,7 +41,7 @@ void frmStart::ApplyResolution() {
     search_box_.ApplyResolution(dpi_);
 }
 
-// The icons shown until now are given back only afterwards.
+// The old icons are in use until the new ones are set.
 void frmStart::ShowIcons() {
     const int small_size = GetSystemMetricsForDpi(SM_CXSMICON, dpi_);
     Picture large_icon(instance_, IDI_frmStart, GetSystemMetricsForDpi(SM_CXICON, dpi_));
@@ -69,7 +70,7 @@ void frmStart::Form_Resize() {
         resize(width, PixelsAtLeast(kLeastHeight, dpi_));
         return;
     }
-    // The wider window raises a resize of its own, which lays out before this call returns.
+    // Widening raises another WM_SIZE, which has laid out the window when this call returns.
     if (step.TooNarrow && resize(PixelsAtLeast(kLeastWidth, dpi_), height)) return;
 
     const int status_bar_height = view_.DockStatusBar();
@@ -84,7 +85,7 @@ void frmStart::Form_Resize() {
                   dpi_);
 }
 
-// The control with the focus is remembered while a dialog or another program is in front.
+// Remembers which control has the focus while a dialog or another program is in front.
 void frmStart::OnActivate(WPARAM state) {
     returned_focus_.OnActivate(state);
     if (LOWORD(state) != WA_INACTIVE) {

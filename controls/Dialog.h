@@ -3,13 +3,13 @@
 //
 //     class frmMove : public Dialog {
 //       public:
-//         explicit frmMove(frmStart& main) : Dialog(IDD_frmMove), main_(main) {}
+//         explicit frmMove(OpenBook& open) : Dialog(IDD_frmMove), open_(open) {}
 //       private:
 //         void Form_Load() override;
 //         void OnCommand(int id, int event) override;   // only dispatches: case ID_frmMove_cmdOk:
-//         cmdOk_Click();
+//         void cmdOk_Click();
 //     };
-//     frmMove(main).ShowModal(owner);
+//     frmMove(open).ShowModal(owner);
 #pragma once
 
 #include <string>

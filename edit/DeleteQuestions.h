@@ -1,5 +1,5 @@
-// What the user is asked before entries are deleted. Each question has its own buttons, OK and Cancel or Yes
-// and No: hands that know them press the right key unread.
+// The questions before entries are deleted. One has OK and Cancel, the other Yes and No: users press the keys
+// of each by habit.
 #pragma once
 
 #include "controls/Windows.h"

@@ -28,7 +28,8 @@ class EntryDialog : public Dialog {
 
     // The twelve names, with the shown category chosen.
     void FillCategories() const;
-    // Whether name and address can be stored. If not, tells why and puts the focus where the user goes on.
+    // Whether name and address can be stored. If not, tells why and puts the focus where the user can mend
+    // it.
     bool FieldsAreGood() const;
     // Name and address exactly as typed.
     NewEntry TypedEntry() const;

@@ -40,7 +40,7 @@ void frmAdd::OnCommand(int id, int event) {
 }
 
 void frmAdd::txtURL_GotFocus() const {
-    // Behind any address that has not been typed yet; the text box clamps it to the end.
+    // Past the end of the default text; the text box clamps it.
     constexpr int kBehindTheText = 121;
     if (ClipboardUsed)
         txtURL().SelectAll();
@@ -48,7 +48,7 @@ void frmAdd::txtURL_GotFocus() const {
         txtURL().Select(kBehindTheText, 0);
 }
 
-// Only the bare beginnings are exchanged; an address that has been typed stays.
+// Swaps only the bare prefixes; a typed address stays.
 void frmAdd::cmdEmail_Click() const {
     const std::wstring address = txtURL().Text();
     if (address == kBareWebAddress)

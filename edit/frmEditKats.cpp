@@ -37,7 +37,7 @@ void frmEditKats::OnCommand(int id, int) {
 void frmEditKats::cmdOK_Click() {
     for (int k = 1; k <= kCategories; ++k)
         if (!FitsBook(*this, txtKateg(k))) return;
-    // Names are the user's own: they may be empty or equal.
+    // Any other name is good: it may be empty, or equal to another.
     for (int k = 1; k <= kCategories; ++k) open_.TheBook.SetCategoryName(k, ToBookText(Text(txtKateg(k))));
     open_.Modified = true;
     renamed_ = true;

@@ -40,7 +40,7 @@ void frmEditRec::cmdOk_Click() {
     const int chosen = ChosenCategory();
     if (chosen != OriginalCategory) {
         book.MoveEntry(OriginalCategory, Position() - 1, chosen);
-        // The remembered positions would be those of other entries now.
+        // The saved positions would now mean other entries.
         book.Marks.Forget(OriginalCategory);
     }
     OpenedBook().Modified = true;

@@ -1,4 +1,4 @@
-// Changes the entry that is selected in the main window's list, and moves it when another category is chosen.
+// Changes the selected entry, and moves it when another category is chosen.
 #pragma once
 
 #include <cstdint>

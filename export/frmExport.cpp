@@ -89,7 +89,7 @@ void frmExport::cmbType_Click() {
     for (const int id : kFavoritesFrame) Get<Control>(id).Show(kind == Favorites);
 }
 
-// The colours too, whatever theme is named: until its text or the focus changes, it has no say.
+// The colours too, whatever theme is named: it has no say until its text or the focus changes.
 void frmExport::SetPageOptionsEnabled(bool disable) const {
     for (const int id : kPageFrame) Get<Control>(id).Enable(!disable);
 }
@@ -102,14 +102,14 @@ void frmExport::OnTheme(int event) const {
     if (event == CBN_KILLFOCUS) cmbTheme_LostFocus();
 }
 
-// A theme, once named, decides the colours.
+// A theme that is named decides the colours.
 void frmExport::cmbTheme_Change(const std::wstring& theme) const {
     constexpr std::size_t kShortestTheme = 5;
     for (const int id : {ID_frmExport_optColor_0, ID_frmExport_optColor_1})
         Get<Control>(id).Enable(theme.size() < kShortestTheme);
 }
 
-// For a text that came without a change being told.
+// For a text that changed without a notification.
 void frmExport::cmbTheme_LostFocus() const {
     cmbTheme_Change(Text(ID_frmExport_cmbTheme));
 }
@@ -142,12 +142,12 @@ void frmExport::cmdOK_Click() {
 }
 
 bool frmExport::Export(Kind kind) {
-    // The faults of this one are not caught: they end in the run-time error report.
+    // Faults of this kind have always ended in the run-time error report.
     if (kind == Favorites) return ExportToFavorites();
     try {
         return ExportToFile(kind);
     } catch (const Fault& fault) {
-        // A failure while writing closes the dialog without a message.
+        // A failure to write has always closed the dialog without a message.
         if (fault.Number() != kDialogCancelled) Unload();
         return false;
     }
@@ -174,7 +174,7 @@ bool frmExport::ChooseFile(std::wstring& path) {
                   L"Figyelem: már van ilyen fájl!") == IDOK;
 }
 
-// A line of the list stands for the category of the same rank among those with checked entries.
+// The lines of the list stand for the categories with checked entries, in their order.
 void frmExport::DropCategoriesNotChosen() {
     const auto lstSource = Get<ListBox>(ID_frmExport_lstSource);
     int line = 0;
@@ -182,7 +182,7 @@ void frmExport::DropCategoriesNotChosen() {
         if (IsExported(open_.TheBook, c) && !lstSource.IsSelected(line++)) open_.TheBook.Marks.Forget(c);
 }
 
-// The categories not chosen stay dropped when the choice of the folder is cancelled.
+// The categories that were not chosen stay dropped, even when the user then cancels.
 bool frmExport::ExportToFavorites() {
     DropCategoriesNotChosen();
     frmSelectFavoritDir picker(FavoritesPath());
@@ -211,7 +211,7 @@ PageStyle frmExport::ReadTheme() const {
     PageStyle style;
     const std::wstring theme = Text(ID_frmExport_cmbTheme);
     if (theme.size() > kTooShortForATheme) {
-        std::error_code error;  // a name that no file can have is not there either
+        std::error_code error;  // a path that no file can have does not exist either
         if (std::filesystem::is_regular_file(theme, error)) {
             const std::vector<char> bytes = ReadFileBytes(theme);
             style.ThemeParts = ApplyTheme(DefaultThemeParts(), {bytes.data(), bytes.size()});

@@ -39,7 +39,7 @@ void frmFind::Form_Load() {
                                  {ID_frmFind_Command2, Growth::Stays, Growth::Moves},
                                  {ID_frmFind_Command3, Growth::Stays, Growth::Moves},
                                  {ID_frmFind_cmdDel, Growth::Moves, Growth::Moves}});
-    // Half as high again as the smallest, so that there is room for hits.
+    // Opens larger than its smallest size, to show some hits.
     RECT window{};
     GetWindowRect(Handle(), &window);
     const int width = window.right - window.left;
@@ -58,7 +58,7 @@ void frmFind::LoadList() {
 }
 
 void frmFind::ApplyResolution(UINT dpi) {
-    // A frame that can be resized shows an icon: the program's.
+    // A resizable frame shows an icon.
     Picture icon(GetModuleHandleW(nullptr), IDI_frmStart, GetSystemMetricsForDpi(SM_CXSMICON, dpi));
     SendMessageW(Handle(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon.Handle()));
     icon_ = std::move(icon);
@@ -69,7 +69,7 @@ void frmFind::ApplyResolution(UINT dpi) {
     SizeColumns();
 }
 
-// Names take two thirds of the list, categories the rest, beside the scroll bar that many hits bring.
+// Names take two thirds of the list, categories the rest; there is room for a scroll bar.
 void frmFind::SizeColumns() {
     RECT list{};
     if (!GetWindowRect(ListView.Handle(), &list)) return;
@@ -94,8 +94,7 @@ bool frmFind::OnMessage(UINT message, WPARAM wparam, LPARAM lparam, LRESULT&) {
             anchors_.LimitSize(*reinterpret_cast<MINMAXINFO*>(lparam));
             return true;
         case WM_DPICHANGED:
-            // The dialog manager scales window and controls after this; the resize that it causes then places
-            // the controls anew.
+            // The dialog manager scales window and controls after this; the WM_SIZE that follows places them.
             anchors_.ChangeResolution(LOWORD(wparam));
             return false;
         default:
@@ -129,7 +128,7 @@ LRESULT frmFind::OnNotify(const NMHDR& header) {
 }
 
 bool frmFind::PreTranslate(const MSG& message) {
-    // Taken before they become characters, which the list would look for among its rows.
+    // Before they become characters, which the list would search for.
     return message.message == WM_KEYDOWN && message.hwnd == ListView.Handle() &&
            ListView_KeyDown(message.wParam);
 }
@@ -147,7 +146,7 @@ bool frmFind::ListView_KeyDown(WPARAM key) {
             DeleteSelectedHit();
             return true;
         case VK_RETURN:
-            // Not the default button's: a new search would take the check marks away.
+            // Else it would press the default button, and a new search clears the check marks.
             ListView_DblClick();
             return true;
         default:
@@ -167,7 +166,7 @@ void frmFind::cmdFind_Click() {
                                                      : open_.TheBook.CategoryNames(hit.Category));
     });
     Get<Control>(ID_frmFind_lblSum_1).SetText(std::to_wstring(ListView.Count()));
-    // The hit whose address stood there is no longer selected, and perhaps deleted.
+    // The hit whose address was shown is no longer selected, and may be gone.
     ShowAddress(L"");
     CheckedHits = 0;
 }
@@ -187,8 +186,7 @@ void frmFind::ListView_Click() {
 }
 
 void frmFind::ListView_DblClick() const {
-    // What the shell answers shows by itself: the browser opens or not.
-    if (const Hit* const hit = SelectedHit()) static_cast<void>(OpenAddress(FromBookText(hit->Entry.URL)));
+    if (const Hit* const hit = SelectedHit()) OpenAddress(FromBookText(hit->Entry.URL));
 }
 
 void frmFind::ListView_ItemCheck(int row) {

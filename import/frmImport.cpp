@@ -2,7 +2,6 @@
 
 #include <exception>
 #include <filesystem>
-#include <utility>
 
 #include "book/Files.h"
 #include "controls/BookField.h"
@@ -47,7 +46,7 @@ void frmImport::OnCommand(int id, int) {
     }
 }
 
-// The menu opens as soon as the mouse goes down, like any menu; by the keyboard the button is clicked.
+// The mouse opens the menu when it goes down, as with any menu; the keyboard clicks the button.
 bool frmImport::PreTranslate(const MSG& message) {
     const bool pressed = message.message == WM_LBUTTONDOWN || message.message == WM_LBUTTONDBLCLK;
     if (!pressed || message.hwnd != Item(ID_frmImport_Label2)) return false;
@@ -71,7 +70,7 @@ void frmImport::Label2_MouseDown() {
 
 void frmImport::cmdOK_Click() {
     constexpr wchar_t kFailed[] = L"Az importálás nem sikerült.";
-    // The faults of the folder import are not caught: they end in the run-time error report.
+    // Faults of the folder import have always ended in the run-time error report.
     if (!Get<CheckBox>(ID_frmImport_from_0).IsChecked()) return ImportFavoritesFolder();
 
     file_dialog_.Filter = L"weblapok (*.htm)|*.htm";
@@ -87,8 +86,8 @@ void frmImport::cmdOK_Click() {
     } catch (const EndOfFileFault&) {
         MsgBox(Handle(), kFailed, MB_OK, L"Hibás a weblap");
     } catch (const std::exception&) {
-        // The cancelled file dialog, a page that cannot be read or is too large for the memory, an address
-        // without quotation mark: no message.
+        // No message for a cancelled file dialog, a page that cannot be read or does not fit in memory, or an
+        // address without a closing quotation mark.
         return;
     }
 }
@@ -108,7 +107,7 @@ void frmImport::ImportHtmlLinks(const std::wstring& fileName) {
 void frmImport::ImportFavoritesFolder() {
     frmI_Fav picker(FavoritesPath());
     picker.ShowModal(Handle());
-    // The empty path of a cancelled choice is none either.
+    // A cancelled choice gives an empty path, which is no folder.
     std::error_code unknown;
     if (!std::filesystem::is_directory(picker.ChosenFolder(), unknown)) return;
 

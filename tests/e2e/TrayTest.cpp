@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "resources/resource.h"
 #include "tests/e2e/support/ShippedProgram.h"
 #include "tests/window/support/Program.h"
 

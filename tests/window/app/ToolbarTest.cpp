@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-
 #include "resources/resource.h"
 #include "tests/window/support/Drawn.h"
 #include "tests/window/support/Program.h"
