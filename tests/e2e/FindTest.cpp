@@ -12,11 +12,7 @@ namespace {
 
 class FindTest : public ::testing::Test {
   protected:
-    FindTest() {
-        program.Press({'O', {VK_CONTROL}});
-        program.AnswerFileDialog(book);
-        WaitUntil("the opened book", [this] { return program.Title() == L"Lindrel -minta.lnd"; });
-    }
+    FindTest() { program.OpenBook(book); }
 
     TemporaryFolder folder;
     const std::wstring book = folder.Write(L"minta.lnd", SampleBook());
@@ -24,8 +20,7 @@ class FindTest : public ::testing::Test {
 };
 
 TEST_F(FindTest, AHitThatIsCheckedIsCheckedInItsCategory) {
-    program.Press({'F', {VK_CONTROL}});
-    const DialogOnScreen dialog = WaitForDialog(program.Thread(), L"Keresés");
+    const DialogOnScreen dialog = program.OpenDialog({'F', {VK_CONTROL}}, L"Keresés");
     const auto wait_for_text = [&](int id, const std::wstring& text) {
         EXPECT_TRUE(Eventually([&] { return dialog.Text(id) == text; })) << "control " << id;
     };
@@ -45,8 +40,8 @@ TEST_F(FindTest, AHitThatIsCheckedIsCheckedInItsCategory) {
 
     WaitUntil("the main window's list", [this] { return program.StatusPanel(3) == L"bejelölve 0"; });
     EXPECT_EQ(program.CheckedRows(), std::vector<int>{});
-    program.Press({VK_TAB, {VK_CONTROL}});
-    WaitUntil("the weather's tab", [this] { return program.StatusPanel(3) == L"bejelölve 1"; });
+    program.PressUntil({VK_TAB, {VK_CONTROL}}, "the weather's tab",
+                       [this] { return program.StatusPanel(3) == L"bejelölve 1"; });
     EXPECT_EQ(program.SelectedTab(), 2);
     EXPECT_EQ(program.CheckedRows(), std::vector<int>{2});
     EXPECT_EQ(program.Cell(2, 0), L"Időkép");

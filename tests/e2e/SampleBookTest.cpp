@@ -15,12 +15,8 @@ namespace {
 
 class SampleBookTest : public ::testing::Test {
   protected:
-    // Opens a copy of the sample book with the keyboard.
-    void Open() const {
-        program.Press({'O', {VK_CONTROL}});
-        program.AnswerFileDialog(book);
-        WaitUntil("the opened book", [this] { return program.Title() == L"Lindrel -minta.lnd"; });
-    }
+    // Opens a copy of the sample book.
+    void Open() const { program.OpenBook(book); }
     void ExpectStatus(const std::wstring& first, const std::wstring& second,
                       const std::wstring& third) const {
         EXPECT_TRUE(Eventually([&] {
@@ -56,8 +52,8 @@ TEST_F(SampleBookTest, EachTabIsReachedByTheKeyboardAndShowsItsEntries) {
         EXPECT_EQ(program.SelectedTab(), tab);
         EXPECT_EQ(program.RowCount(), rows);
         EXPECT_EQ(program.SelectedRow(), 0);
-        program.Press({VK_TAB, {VK_CONTROL}});
-        WaitUntil("the next tab", [&] { return program.SelectedTab() == tab % 12 + 1; });
+        program.PressUntil({VK_TAB, {VK_CONTROL}}, "the next tab",
+                           [&] { return program.SelectedTab() == tab % 12 + 1; });
     }
 }
 
@@ -115,11 +111,11 @@ TEST_F(SampleBookTest, SavesUnderAnotherNameToTheByteAndCloses) {
 TEST_F(SampleBookTest, AddsAnEntryByKeysAloneAndIsAskedAboutItAtTheEnd) {
     Open();
     const int rows = program.RowCount();
-    program.Press({'A', {VK_CONTROL}});
-    const DialogOnScreen add = WaitForDialog(program.Thread(), L"Új oldal hozzáadása");
-    WaitUntil("the dialog in front", [&] { return GetForegroundWindow() == add.Handle(); });
+    const DialogOnScreen add = program.OpenDialog({'A', {VK_CONTROL}}, L"Új oldal hozzáadása");
     program.Type(L"Árvíztűrő");
+    WaitUntil("the typed name", [&] { return add.Text(ID_frmAdd_txtDesc) == L"Árvíztűrő"; });
     program.Press({'U', {VK_MENU}});  // the access key of the address
+    WaitUntil("the address", [&] { return add.Focus() == ID_frmAdd_txtURL; });
     program.Press({'A', {VK_CONTROL}});
     program.Type(L"http://arviz.hu/");
     program.Press({VK_RETURN});

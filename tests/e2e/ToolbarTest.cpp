@@ -15,15 +15,6 @@ class ToolbarTest : public ::testing::Test {
         const RECT button = program.ToolbarButton(position);
         program.Click(program.Control(ID_frmStart_Toolbar), {button.left + 12, button.top + 12});
     }
-    // The popup menu that is open, or none.
-    HWND OpenMenu() const {
-        for (const HWND window : WindowsOf(program.Thread())) {
-            wchar_t name[32]{};
-            if (GetClassNameW(window, name, 32) != 0 && std::wstring(name) == L"#32768") return window;
-        }
-        return nullptr;
-    }
-
     TemporaryFolder folder;
     const std::wstring book = folder.Write(L"minta.lnd", SampleBook());
     ShippedProgram program;
@@ -44,10 +35,10 @@ TEST_F(ToolbarTest, OpensAndChecksAllAndStartsAnew) {
 TEST_F(ToolbarTest, TheArrowOfExportOpensAMenuWhoseEntriesDoNothing) {
     const RECT button = program.ToolbarButton(5);
     program.Click(program.Control(ID_frmStart_Toolbar), {button.right - 4, button.top + 12});
-    WaitUntil("the menu", [this] { return OpenMenu() != nullptr; });
+    WaitUntil("the menu", [this] { return program.PoppedUpMenu() != nullptr; });
     program.Press({VK_DOWN});
     program.Press({VK_RETURN});
-    WaitUntil("the menu's end", [this] { return OpenMenu() == nullptr; });
+    WaitUntil("the menu's end", [this] { return program.PoppedUpMenu() == nullptr; });
     // The program is ready for the next command, so the entry has done all that it does.
     program.Press({'O', {VK_CONTROL}});
     EXPECT_EQ(program.FileDialog().Title(), L"File megnyitása");

@@ -28,9 +28,7 @@ TEST(TrayTest, EitherButtonOnTheIconBringsTheWindowBack) {
     const TemporaryFolder folder;
     const std::wstring book = folder.Write(L"minta.lnd", SampleBook());
     const ShippedProgram program;
-    program.Press({'O', {VK_CONTROL}});
-    program.AnswerFileDialog(book);
-    WaitUntil("the opened book", [&] { return program.Title() == L"Lindrel -minta.lnd"; });
+    program.OpenBook(book);
     program.Press({VK_DOWN});
     WaitUntil("the first row", [&] { return program.SelectedRow() == 1; });
     RECT place{};

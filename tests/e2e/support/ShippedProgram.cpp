@@ -3,6 +3,8 @@
 #include <commctrl.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <chrono>
 #include <stdexcept>
 
 #include "book/Files.h"
@@ -11,6 +13,9 @@
 namespace lindrel::testing {
 
 namespace {
+
+// How long a user waits for an effect before pressing a key again.
+constexpr std::chrono::seconds kPatience{5};
 
 void Demand(bool good, const char* what) {
     if (!good) throw std::runtime_error(what);
@@ -136,18 +141,59 @@ void ShippedProgram::Press(const Stroke& stroke) const {
     Send(std::move(inputs));
 }
 
-void ShippedProgram::OpenMenu(WORD key) const {
-    // Alt can be lost on a window that has just come back to the front; then a user would press it again.
-    WaitUntil("the open menu", [&] {
-        Press({key, {VK_MENU}});
-        return Eventually(
-            [this] {
-                GUITHREADINFO info{};
-                info.cbSize = sizeof info;
-                return GetGUIThreadInfo(thread_id_, &info) && (info.flags & GUI_INMENUMODE) != 0;
-            },
-            std::chrono::seconds(5));
+void ShippedProgram::PressUntil(const Stroke& stroke, const std::string& what,
+                                const std::function<bool()>& effect) const {
+    WaitUntil(what, [&] {
+        Press(stroke);
+        return Eventually(effect, kPatience);
     });
+}
+
+void ShippedProgram::OpenMenu(WORD key) const {
+    // Menus follow a pointer that rests on the menu bar, where a click may have left it.
+    Demand(SetCursorPos(GetSystemMetrics(SM_CXSCREEN) - 1, GetSystemMetrics(SM_CYSCREEN) - 1) != FALSE,
+           "the mouse pointer");
+    WaitUntil("the open menu", [&] {
+        // Where the letter was pressed without its Alt, Alt alone has highlighted the menu bar.
+        if (IsInMenuBar()) Press({VK_ESCAPE});
+        Press({key, {VK_MENU}});
+        return Eventually([this] { return PoppedUpMenu() != nullptr; }, kPatience);
+    });
+}
+
+bool ShippedProgram::IsInMenuBar() const {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    return GetGUIThreadInfo(thread_id_, &info) && (info.flags & GUI_INMENUMODE) != 0;
+}
+
+HWND ShippedProgram::PoppedUpMenu() const {
+    for (const HWND window : WindowsOf(thread_id_)) {
+        wchar_t name[32]{};
+        if (GetClassNameW(window, name, 32) != 0 && std::wstring(name) == L"#32768") return window;
+    }
+    return nullptr;
+}
+
+DialogOnScreen ShippedProgram::OpenDialog(const Stroke& stroke, const std::wstring& caption) const {
+    PressUntil(stroke, "the dialog", [&] {
+        const std::vector<HWND> windows = WindowsOf(thread_id_);
+        return std::any_of(windows.begin(), windows.end(),
+                           [&](HWND window) { return DialogOnScreen(window).Caption() == caption; });
+    });
+    const DialogOnScreen dialog = WaitForDialog(thread_id_, caption);
+    WaitUntil("the dialog in front", [&] { return GetForegroundWindow() == dialog.Handle(); });
+    return dialog;
+}
+
+void ShippedProgram::OpenBook(const std::wstring& path) const {
+    PressUntil({'O', {VK_CONTROL}}, "the file dialog", [this] {
+        const std::vector<HWND> windows = WindowsOf(thread_id_);
+        return std::any_of(windows.begin(), windows.end(), &IsFileDialog);
+    });
+    AnswerFileDialog(path);
+    const std::wstring title = L"Lindrel -" + path.substr(path.rfind(L'\\') + 1);
+    WaitUntil("the opened book", [&] { return Title() == title; });
 }
 
 void ShippedProgram::Type(const std::wstring& text) const {

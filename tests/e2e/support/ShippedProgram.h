@@ -2,6 +2,7 @@
 // system's input, looked at from outside. Nothing of the program is linked in but the ids of its controls.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -34,8 +35,17 @@ class ShippedProgram {
 
     // Real input to whatever is in front; `Press` and `Type` first wait until that is the program's.
     void Press(const Stroke& stroke) const;
+    // For a stroke with a held key, which a window that has just come to the front can miss: presses it
+    // again, as a user would, until it has its effect.
+    void PressUntil(const Stroke& stroke, const std::string& what, const std::function<bool()>& effect) const;
     // Opens a menu of the menu bar by its access key, and waits until it is open.
     void OpenMenu(WORD key) const;
+    // The menu that has popped up; null while there is none.
+    HWND PoppedUpMenu() const;
+    // Opens a dialog, and waits until it is in front.
+    DialogOnScreen OpenDialog(const Stroke& stroke, const std::wstring& caption) const;
+    // Opens a book by the keyboard.
+    void OpenBook(const std::wstring& path) const;
     void Type(const std::wstring& text) const;
     // At a place of a window's client area.
     void Click(HWND window, POINT place, bool right = false) const;
@@ -68,6 +78,7 @@ class ShippedProgram {
 
   private:
     void WaitUntilInFront() const;
+    bool IsInMenuBar() const;
     RECT LabelOf(int row) const;  // client coordinates
 
     PROCESS_INFORMATION process_{};
