@@ -213,11 +213,15 @@ std::pair<int, int> DialogOnScreen::Selection(int id) const {
 }
 
 int DialogOnScreen::Focus() const {
-    GUITHREADINFO info{};
-    info.cbSize = sizeof info;
-    if (!GetGUIThreadInfo(GetWindowThreadProcessId(dialog_, nullptr), &info) || info.hwndFocus == nullptr)
-        return 0;
-    return GetDlgCtrlID(info.hwndFocus);
+    HWND focus = nullptr;
+    // While a window comes to the front the window manager can leave nobody with the focus for a moment.
+    Eventually([&] {
+        GUITHREADINFO info{};
+        info.cbSize = sizeof info;
+        if (GetGUIThreadInfo(GetWindowThreadProcessId(dialog_, nullptr), &info)) focus = info.hwndFocus;
+        return focus != nullptr;
+    });
+    return focus != nullptr ? GetDlgCtrlID(focus) : 0;
 }
 
 LOGFONTW DialogOnScreen::Font(int id) const {

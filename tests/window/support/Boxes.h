@@ -53,7 +53,7 @@ class DialogOnScreen {
     bool IsShown(int id) const;
     // First and last character (0-based, the last excluded) of what is selected in a text box.
     std::pair<int, int> Selection(int id) const;
-    // Id of the control that has the focus in the dialog's thread, 0 for none.
+    // Id of the control that has the focus in the dialog's thread; waits until one has, 0 when none gets it.
     int Focus() const;
     // The description of a control's font.
     LOGFONTW Font(int id) const;
