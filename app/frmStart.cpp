@@ -27,8 +27,6 @@ void frmStart::Show(int show) {
     shortcuts_ = LoadAcceleratorsW(instance_, MAKEINTRESOURCEW(IDR_frmStart));
     if (shortcuts_ == nullptr) throw std::bad_alloc();
     WNDCLASSEXW description{};
-    description.hInstance = instance_;
-    description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     description.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
     description.lpszMenuName = MAKEINTRESOURCEW(IDR_frmStart);
     description.lpszClassName = kWindowClass;

@@ -9,6 +9,8 @@ namespace lindrel {
 void OwnWindow::Create(WNDCLASSEXW description, DWORD style, DWORD extended_style, HWND parent) {
     description.cbSize = sizeof description;
     description.lpfnWndProc = &OwnWindow::Procedure;
+    description.hInstance = GetModuleHandleW(nullptr);
+    description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     // Fails when the class is there already; then it is this one.
     static_cast<void>(RegisterClassExW(&description));
     const HWND window = CreateWindowExW(extended_style, description.lpszClassName, nullptr, style,

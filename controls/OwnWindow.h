@@ -21,9 +21,10 @@ class OwnWindow {
     // The window must be gone: the derived class calls Destroy() in its own destructor.
     virtual ~OwnWindow() = default;
 
-    // Makes the window, without a title and without a size of its own. Of `description`, size and procedure
-    // are filled in here; the class is registered when it is not there yet. Throws what OnMessage threw
-    // meanwhile, and std::bad_alloc when the system cannot; then there is no window.
+    // Makes the window, without a title and without a size of its own. `description` names the class, its
+    // background and its menu; the rest is filled in. The class is registered when it is not there yet.
+    // Throws what OnMessage threw meanwhile, and std::bad_alloc when the system cannot; then there is no
+    // window.
     void Create(WNDCLASSEXW description, DWORD style, DWORD extended_style = 0, HWND parent = nullptr);
     void Destroy();
 

@@ -45,8 +45,6 @@ std::string ShellText(std::wstring_view text) {
 
 void TrayArea::Place(HWND owner, Environment environment) {
     WNDCLASSEXW description{};
-    description.hInstance = GetModuleHandleW(nullptr);
-    description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     description.lpszClassName = kWindowClass;
     environment_ = environment;
     const DWORD visible = environment == Environment::Design ? WS_VISIBLE : 0u;

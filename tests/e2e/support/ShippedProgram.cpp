@@ -95,10 +95,8 @@ ShippedProgram::ShippedProgram() {
         Demand(attempt < 3, "the program cannot be started");
     thread_id_ = process_.dwThreadId;
     WaitUntil("the main window", [this] {
-        for (const HWND window : WindowsOf(thread_id_)) {
-            wchar_t name[32]{};
-            if (GetClassNameW(window, name, 32) != 0 && std::wstring(name) == L"frmStart") main_ = window;
-        }
+        for (const HWND window : WindowsOf(thread_id_))
+            if (ClassOf(window) == L"frmStart") main_ = window;
         return main_ != nullptr;
     });
     Demand(WaitForInputIdle(process_.hProcess, 20000) == 0, "the program does not come to rest");
@@ -165,14 +163,6 @@ bool ShippedProgram::IsInMenuBar() const {
     GUITHREADINFO info{};
     info.cbSize = sizeof info;
     return GetGUIThreadInfo(thread_id_, &info) && (info.flags & GUI_INMENUMODE) != 0;
-}
-
-HWND ShippedProgram::PoppedUpMenu() const {
-    for (const HWND window : WindowsOf(thread_id_)) {
-        wchar_t name[32]{};
-        if (GetClassNameW(window, name, 32) != 0 && std::wstring(name) == L"#32768") return window;
-    }
-    return nullptr;
 }
 
 DialogOnScreen ShippedProgram::OpenDialog(const Stroke& stroke, const std::wstring& caption) const {

@@ -41,7 +41,7 @@ class ShippedProgram {
     // Opens a menu of the menu bar by its access key, and waits until it is open.
     void OpenMenu(WORD key) const;
     // The menu that has popped up; null while there is none.
-    HWND PoppedUpMenu() const;
+    HWND PoppedUpMenu() const { return testing::PoppedUpMenu(thread_id_); }
     // Opens a dialog, and waits until it is in front.
     DialogOnScreen OpenDialog(const Stroke& stroke, const std::wstring& caption) const;
     // Opens a book by the keyboard.

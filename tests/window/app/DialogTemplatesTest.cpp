@@ -42,11 +42,6 @@ class DialogTemplatesTest : public ::testing::Test {
             children.push_back(child);
         return children;
     }
-    static std::wstring ClassOf(HWND window) {
-        wchar_t name[64] = L"";
-        GetClassNameW(window, name, 64);
-        return name;
-    }
     static LONG_PTR StyleOf(HWND window) { return GetWindowLongPtrW(window, GWL_STYLE); }
     static bool IsFrame(HWND window) {
         return ClassOf(window) == L"Button" && (StyleOf(window) & BS_TYPEMASK) == BS_GROUPBOX;

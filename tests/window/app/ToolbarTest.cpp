@@ -42,11 +42,7 @@ class ToolbarTest : public ::testing::Test {
     HWND OpenMenu() const {
         HWND menu = nullptr;
         WaitUntil("the drop-down menu", [&] {
-            for (const HWND window : WindowsOf(program.Thread())) {
-                wchar_t name[32] = L"";
-                GetClassNameW(window, name, 32);
-                if (std::wstring(name) == L"#32768") menu = window;
-            }
+            menu = PoppedUpMenu(program.Thread());
             return menu != nullptr;
         });
         return menu;

@@ -11,11 +11,7 @@ class PopupMenu {
   public:
     explicit PopupMenu(DWORD thread) {
         WaitUntil("a popup menu", [&] {
-            for (const HWND window : WindowsOf(thread)) {
-                wchar_t name[16] = L"";
-                GetClassNameW(window, name, 16);
-                if (std::wstring(name) == L"#32768") window_ = window;
-            }
+            window_ = PoppedUpMenu(thread);
             return window_ != nullptr;
         });
         constexpr UINT kGetMenu = 0x01E1;  // MN_GETHMENU

@@ -17,12 +17,6 @@ namespace {
 
 constexpr wchar_t kDialogClass[] = L"#32770";
 
-std::wstring ClassOf(HWND window) {
-    wchar_t name[64] = L"";
-    GetClassNameW(window, name, 64);
-    return name;
-}
-
 std::vector<HWND> ChildrenOf(HWND parent) {
     std::vector<HWND> children;
     for (HWND child = GetWindow(parent, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT))
@@ -92,6 +86,18 @@ bool IsMessageBox(HWND window) {
         has_button = true;
     }
     return has_button;
+}
+
+std::wstring ClassOf(HWND window) {
+    wchar_t name[64] = L"";
+    GetClassNameW(window, name, 64);
+    return name;
+}
+
+HWND PoppedUpMenu(DWORD thread) {
+    for (const HWND window : WindowsOf(thread))
+        if (ClassOf(window) == L"#32768") return window;
+    return nullptr;
 }
 
 bool IsFileDialog(HWND window) {

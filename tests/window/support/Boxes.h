@@ -92,6 +92,9 @@ BoxOnScreen WaitForBox(DWORD thread);
 DialogOnScreen WaitForDialog(DWORD thread, const std::wstring& caption);
 FileDialogOnScreen WaitForFileDialog(DWORD thread);
 
+std::wstring ClassOf(HWND window);
+// The menu that has popped up in a thread; null while there is none.
+HWND PoppedUpMenu(DWORD thread);
 bool IsMessageBox(HWND window);
 bool IsFileDialog(HWND window);
 

@@ -67,11 +67,8 @@ Program::Program() {
     WaitUntil("the program's thread", [&] { return ear != nullptr; });
     ear_ = ear;
     WaitUntil("the main window", [this] {
-        for (const HWND window : WindowsOf(thread_id_)) {
-            wchar_t name[32] = L"";
-            GetClassNameW(window, name, 32);
-            if (std::wstring(name) == L"frmStart") main_ = window;
-        }
+        for (const HWND window : WindowsOf(thread_id_))
+            if (ClassOf(window) == L"frmStart") main_ = window;
         return main_ != nullptr;
     });
     Settle();
@@ -228,12 +225,9 @@ void Program::LeaveAndComeBack() const {
 }
 
 bool Program::NothingIsOpen() const {
-    for (const HWND window : WindowsOf(thread_id_)) {
-        wchar_t name[32] = L"";
-        GetClassNameW(window, name, 32);
-        if (std::wstring(name) == L"#32770") return false;
-    }
-    return true;
+    const std::vector<HWND> windows = WindowsOf(thread_id_);
+    return std::none_of(windows.begin(), windows.end(),
+                        [](HWND window) { return ClassOf(window) == L"#32770"; });
 }
 
 void Program::Close() const {
