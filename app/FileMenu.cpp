@@ -6,6 +6,7 @@
 #include "book/Files.h"
 #include "controls/MsgBox.h"
 #include "controls/Shell.h"
+#include "controls/WaitCursor.h"
 #include "resources/resource.h"
 
 namespace lindrel {
@@ -13,6 +14,7 @@ namespace lindrel {
 namespace {
 
 constexpr wchar_t kLoadErrorTitle[] = L"Hiba a beolvasásnál";
+constexpr wchar_t kWarningTitle[] = L"Figyelem";
 
 // No blank after the dash, as users know the title.
 std::wstring TitleOf(const std::wstring& path) {
@@ -39,6 +41,7 @@ void FileMenu::ResetBook() {
     open_.TheBook.Reset();
     open_.Modified = false;
     open_.OpenedFile.clear();
+    known_file_.clear();
     view_.ShowEmptyBook();
     SetTitle(L"Lindrel ");  // with a blank at its end, as users know it
 }
@@ -54,7 +57,7 @@ void FileMenu::mnuOpen_Click() {
 
 void FileMenu::OpenChosenBook() {
     const std::wstring before = open_.OpenedFile;
-    if (!ChooseBookFile(true)) return;
+    if (!ChooseBookFile(Choice::Open)) return;
     if (!LoadBook(open_.OpenedFile)) {
         open_.OpenedFile = before;
         return;
@@ -65,27 +68,29 @@ void FileMenu::OpenChosenBook() {
 
 void FileMenu::mnuSave_Click() {
     if (!open_.Modified) return;
-    if (!open_.OpenedFile.empty())
+    if (open_.OpenedFile.empty()) {
+        if (ChooseBookFile(Choice::FirstSave)) SaveUnderNewName({});
+    } else {
         SaveBook(open_.OpenedFile);
-    else if (ChooseBookFile(false))
-        SaveUnderNewName();
+    }
 }
 
 void FileMenu::mnuSaveAs_Click() {
     // Category 12 is ignored: for a book with entries only there the command has never done anything.
     if (open_.TheBook.CategoryStarts(kCategories) == 1) return;
+    const std::wstring before = open_.OpenedFile;
     int answer = IDYES;
     do {
         // The path is the book's from now on, even when the user then refuses to overwrite: later saves go
         // there.
-        if (!ChooseBookFile(false)) return;
+        if (!ChooseBookFile(Choice::SaveAs)) return;
         answer = IDYES;
         if (FileIsThere(open_.OpenedFile))
             answer =
                 MsgBox(window_, L"A " + open_.OpenedFile + L" már létezik.\r\nFelülírjam a már létező fájlt?",
                        MB_YESNOCANCEL | MB_ICONQUESTION);
     } while (answer == IDNO);
-    if (answer == IDYES) SaveUnderNewName();
+    if (answer == IDYES) SaveUnderNewName(before);
 }
 
 void FileMenu::mnuExit_Click() {
@@ -99,11 +104,15 @@ SaveAnswer FileMenu::OfferToSave(SaveQuestion question) {
         MsgBox(window_, L"Kívánja menteni a módosításokat ?", MB_YESNOCANCEL | MB_ICONQUESTION, title);
     if (answer == IDCANCEL) return SaveAnswer::CalledOff;
     if (answer != IDYES) return SaveAnswer::NotSaved;
-    if (open_.OpenedFile.empty() && !ChooseBookFile(false)) return SaveAnswer::Saved;
-    return SaveBook(open_.OpenedFile) ? SaveAnswer::Saved : SaveAnswer::CalledOff;
+    const std::wstring before = open_.OpenedFile;
+    if (before.empty() && !ChooseBookFile(Choice::FirstSave)) return SaveAnswer::Saved;
+    if (SaveBook(open_.OpenedFile)) return SaveAnswer::Saved;
+    open_.OpenedFile = before;
+    return SaveAnswer::CalledOff;
 }
 
-bool FileMenu::ChooseBookFile(bool open) {
+bool FileMenu::ChooseBookFile(Choice choice) {
+    const bool open = choice == Choice::Open;
     CommonDialog1.InitDir = ProgramFolder() + L"\\";  // a drive alone would mean its current folder
     CommonDialog1.DefaultExt = L"lnd";
     CommonDialog1.FileName = open ? L"" : FileNameOf(open_.OpenedFile);
@@ -113,7 +122,9 @@ bool FileMenu::ChooseBookFile(bool open) {
             if (open)
                 CommonDialog1.ShowOpen(window_);
             else
-                CommonDialog1.ShowSave(window_);
+                CommonDialog1.ShowSave(window_, choice == Choice::FirstSave
+                                                    ? CommonDialog::Existing::AskToOverwrite
+                                                    : CommonDialog::Existing::Accept);
         } while (open && !FileExists(window_, CommonDialog1.FileName));
     } catch (const Fault&) {
         return false;  // cancelled, or the dialog could not be shown
@@ -123,8 +134,11 @@ bool FileMenu::ChooseBookFile(bool open) {
 }
 
 bool FileMenu::LoadBook(const std::wstring& path) {
+    // Before the file is read, so that a change in between is not missed.
+    const std::optional<FileState> state = StateOf(path);
     bool all_categories = true;
     try {
+        const WaitCursor hourglass;
         all_categories = lindrel::LoadBook(open_.TheBook, std::filesystem::path(path));
     } catch (const MalformedBook& malformed) {
         MsgBox(window_, TextOf(malformed), MB_OK | MB_ICONERROR, kLoadErrorTitle);
@@ -133,6 +147,8 @@ bool FileMenu::LoadBook(const std::wstring& path) {
         MsgBox(window_, CurrentFault().Meaning(), MB_OK | MB_ICONERROR, kLoadErrorTitle);
         return false;
     }
+    known_file_ = path;
+    known_state_ = state;
     SetTitle(TitleOf(path));
     if (!all_categories)
         MsgBox(window_, L"Nem sikerült beolvasni az összes kategóriát", MB_OK | MB_ICONERROR,
@@ -143,7 +159,9 @@ bool FileMenu::LoadBook(const std::wstring& path) {
 }
 
 bool FileMenu::SaveBook(const std::wstring& path) {
+    if (!MayReplace(path)) return false;
     try {
+        const WaitCursor hourglass;
         lindrel::SaveBook(open_.TheBook, std::filesystem::path(path));
     } catch (const FileFault&) {
         MsgBox(window_, CurrentFault().Meaning(), MB_OK | MB_ICONERROR, kErrorTitle);
@@ -152,14 +170,30 @@ bool FileMenu::SaveBook(const std::wstring& path) {
         MsgBox(window_, path + L"\r\n" + CurrentFault().Meaning(), MB_OK | MB_ICONERROR, kErrorTitle);
         return false;
     }
+    known_file_ = path;
+    known_state_ = StateOf(path);
     open_.Modified = false;
     MsgBox(window_, L"Elmentve : " + open_.OpenedFile);
     WarnOfHeaderLookalikes();
     return true;
 }
 
-void FileMenu::SaveUnderNewName() {
-    if (SaveBook(open_.OpenedFile)) SetTitle(TitleOf(open_.OpenedFile));
+bool FileMenu::MayReplace(const std::wstring& path) const {
+    if (path != known_file_) return true;
+    const std::optional<FileState> now = StateOf(path);
+    if (!now || now == known_state_) return true;
+    return MsgBox(window_,
+                  path +
+                      L"\r\n\r\nEzt a fájlt egy másik program megváltoztatta, mióta a könyvet megnyitotta "
+                      L"vagy elmentette.\r\nFelülírjam a másik program változtatásait?",
+                  MB_YESNO | MB_ICONWARNING | MB_DEFBUTTON2, kWarningTitle) == IDYES;
+}
+
+void FileMenu::SaveUnderNewName(const std::wstring& before) {
+    if (SaveBook(open_.OpenedFile))
+        SetTitle(TitleOf(open_.OpenedFile));
+    else
+        open_.OpenedFile = before;
 }
 
 // Names and addresses are saved as they stand, so one that begins with "#" comes back as a category's name.
@@ -171,7 +205,7 @@ void FileMenu::WarnOfHeaderLookalikes() const {
                L" olyan név vagy cím van, amely „#” jellel kezdődik. A következő megnyitáskor ezek "
                L"kategórianévként jönnek vissza. Az első:\r\n\r\n" +
                FromBookText(found.First),
-           MB_OK | MB_ICONWARNING, L"Figyelem");
+           MB_OK | MB_ICONWARNING, kWarningTitle);
 }
 
 void FileMenu::SetTitle(const std::wstring& title) const {

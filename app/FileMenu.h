@@ -1,9 +1,11 @@
 // The commands of the file menu that open, save and close the book, and the question whether to save it.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "app/BookView.h"
+#include "book/File.h"
 #include "book/OpenBook.h"
 #include "controls/CommonDialog.h"
 
@@ -44,16 +46,22 @@ class FileMenu {
 
     void ResetAfterOffer();
     void OpenChosenBook();
-    // Shows the open or save dialog. Returns whether a file was picked; OpenedFile is its path then.
-    bool ChooseBookFile(bool open);
+    // What the file dialog is shown for. The first save of a book may meet another file of that name, and
+    // then it is the dialog that asks; Save As asks by itself.
+    enum class Choice { Open, FirstSave, SaveAs };
+    // Returns whether a file was picked; OpenedFile is its path then.
+    bool ChooseBookFile(Choice choice);
     // Reads a book, sets the title and clears Modified. On failure tells why, changes nothing and returns
     // false.
     bool LoadBook(const std::wstring& path);
     // Writes the book, clears Modified and tells the user. On failure tells why, changes nothing and returns
-    // false.
+    // false, as it does when the user does not want to replace what another program has written.
     bool SaveBook(const std::wstring& path);
-    // Saves to the path that the user has just chosen, and shows its name in the title.
-    void SaveUnderNewName();
+    // False when another program has changed the book's file and the user wants to keep that.
+    bool MayReplace(const std::wstring& path) const;
+    // Saves to the path that the user has just chosen, and shows its name in the title. When that fails the
+    // book belongs to the path before, so that the next save does not run into the same wall.
+    void SaveUnderNewName(const std::wstring& before);
     void WarnOfHeaderLookalikes() const;
     void SetTitle(const std::wstring& title) const;
 
@@ -61,6 +69,9 @@ class FileMenu {
     BookView& view_;
     CommonDialog& CommonDialog1;
     HWND window_ = nullptr;
+    // The file that the book was read from or written to last, as it was then.
+    std::wstring known_file_;
+    std::optional<FileState> known_state_;
 };
 
 }  // namespace lindrel

@@ -1,10 +1,11 @@
-// An open file. Everything in the core that depends on the operating system is in File_win32.cpp and
-// File_posix.cpp. All functions throw FileFault with the path and the system's reason.
+// Files of the disk, open or not. Everything in the core that depends on the operating system is in
+// File_win32.cpp and File_posix.cpp.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -14,14 +15,36 @@ namespace lindrel {
 // A path as text for the user.
 std::wstring WideText(const std::filesystem::path& path);
 
+// What tells whether another program has changed a file since: its size in bytes, the time of its last change
+// in the system's units, and which file of the disk it is.
+struct FileState {
+    std::uint64_t Size = 0;
+    std::uint64_t Time = 0;
+    std::uint64_t Volume = 0;
+    std::uint64_t Index = 0;
+    friend bool operator==(const FileState&, const FileState&) = default;
+};
+
+// Nothing when there is no file, or it cannot be looked at. Does not throw.
+std::optional<FileState> StateOf(const std::filesystem::path& path);
+
+// An open file. All functions throw FileFault with the path and the system's reason. Paths may be longer than
+// 260 characters. Opening, replacing and removing a file that another program holds is tried for up to two
+// seconds (kFilePatience). On Windows a device, such as "nul.lnd", is refused, so that nothing vanishes
+// there.
 class File {
   public:
-    // Opens an existing file. Other programs may read it at the same time.
+    // Opens an existing file, which other programs may go on writing, renaming or deleting.
     static File ForReading(const std::filesystem::path& path);
     // Creates a file, or empties an existing one. Other programs may read it at the same time.
     static File ForWriting(const std::filesystem::path& path);
-    // Creates a temporary file next to `path`; Replace() moves it there. Refuses to replace a read-only file.
-    // There need not be a file at `path`.
+    // Creates a temporary file; Replace() puts it in the place of the file at `path`, which need not exist.
+    // Refuses to replace a folder, a read-only file or a link that leads nowhere. A symbolic link stays, and
+    // the file that it leads to is replaced.
+    //
+    // The temporary file stands in the folder of the file and has a name made from its name, always the same
+    // and short, so that every file that can be opened can be replaced. One that a killed program has left is
+    // taken over; as long as another program writes it, this one waits.
     static File ForReplacing(const std::filesystem::path& path);
 
     // Closes the file if it is still open, and removes a temporary file that was not moved. Does not throw.
@@ -29,21 +52,25 @@ class File {
     File(const File&) = delete;
     File& operator=(const File&) = delete;
 
-    // In bytes.
+    // In bytes, at most PTRDIFF_MAX.
     std::size_t Size() const;
     // Fills the buffer and returns the number of bytes read, which is smaller only at the end of the file.
     std::size_t Read(std::span<char> buffer);
     void Write(std::string_view bytes);
     void Close();
     // Flushes the temporary file to the disk, closes it and moves it to the path in one step, so that there
-    // is always either the old file or the complete new one.
+    // is always either the old file or the complete new one. The new one takes over what the old one had: on
+    // Windows attributes and access list, elsewhere the mode bits. Other names of the old file (hard links)
+    // keep the old content.
     void Replace();
 
   private:
-    File(std::filesystem::path path, std::intptr_t handle, std::filesystem::path temporary = {});
+    File(std::filesystem::path path, std::intptr_t handle, std::filesystem::path target = {},
+         std::filesystem::path temporary = {});
 
-    std::filesystem::path path_;
-    std::intptr_t handle_;             // the system's handle, -1 when closed
+    std::filesystem::path path_;  // as the caller knows it, for faults
+    std::intptr_t handle_;        // the system's handle, -1 when closed
+    std::filesystem::path target_;
     std::filesystem::path temporary_;  // empty when there is none to remove
 };
 

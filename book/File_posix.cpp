@@ -1,4 +1,5 @@
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -6,11 +7,14 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <optional>
 #include <string>
 #include <utility>
 
 #include "book/Faults.h"
 #include "book/File.h"
+#include "book/Patience.h"
+#include "book/TemporaryName.h"
 
 namespace lindrel {
 
@@ -30,11 +34,63 @@ int Native(std::intptr_t handle) {
     return static_cast<int>(handle);
 }
 
-// The permissions of the old file, so that the new one is neither more private nor more public.
-mode_t ModeFor(const std::filesystem::path& path) {
-    constexpr mode_t kDefaultMode = 0644;
+// The file that a symbolic link leads to; any other path as it is.
+std::filesystem::path BehindLinks(const std::filesystem::path& path) {
+    struct stat status {};
+    if (::lstat(path.c_str(), &status) != 0 || !S_ISLNK(status.st_mode)) return path;
+    char* const real = ::realpath(path.c_str(), nullptr);
+    if (real == nullptr) Fail(path);
+    const std::filesystem::path target = real;
+    std::free(real);
+    return target;
+}
+
+// The mode bits for the file that replaces the one at a path. Where there is none, the user's mask decides.
+std::optional<mode_t> ModeOfReplaced(const std::filesystem::path& path, const std::filesystem::path& target) {
     struct stat old {};
-    return ::stat(path.c_str(), &old) == 0 ? old.st_mode & 07777 : kDefaultMode;
+    if (::stat(target.c_str(), &old) != 0) return std::nullopt;
+    errno = S_ISDIR(old.st_mode) ? EISDIR : EINVAL;
+    if (!S_ISREG(old.st_mode)) Fail(path);
+    errno = EACCES;  // root may write any file, but does not want to write a read-only book
+    if ((old.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0 || ::access(target.c_str(), W_OK) != 0) Fail(path);
+    return old.st_mode & 07777;
+}
+
+// Whether an open file still has that name, and not only another that was made there since.
+bool StandsAt(const std::filesystem::path& path, int handle) {
+    struct stat open {};
+    struct stat there {};
+    return ::fstat(handle, &open) == 0 && ::lstat(path.c_str(), &there) == 0 && open.st_dev == there.st_dev &&
+           open.st_ino == there.st_ino;
+}
+
+bool Lock(int handle) {
+    return ::flock(handle, LOCK_EX | LOCK_NB) == 0;
+}
+
+// Removes a temporary file that no living program has locked.
+void RemoveLeftover(const std::filesystem::path& path) {
+    const int handle = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
+    if (handle < 0) return;
+    if (Lock(handle) && StandsAt(path, handle)) ::unlink(path.c_str());
+    ::close(handle);
+}
+
+// Returns -1 and sets errno when that fails. Whoever writes the file holds a lock on it.
+int CreateTemporary(const std::filesystem::path& path, mode_t mode) {
+    Patience patience(kFilePatience);
+    do {
+        const int handle = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
+        if (handle >= 0) {
+            if (Lock(handle) && StandsAt(path, handle)) return handle;
+            ::close(handle);  // taken for a leftover before it was locked
+            continue;
+        }
+        if (errno != EEXIST) return -1;
+        RemoveLeftover(path);
+        errno = EEXIST;
+    } while (patience.Pause());
+    return -1;
 }
 
 }  // namespace
@@ -45,8 +101,19 @@ std::wstring WideText(const std::filesystem::path& path) {
     return {characters.begin(), characters.end()};
 }
 
-File::File(std::filesystem::path path, std::intptr_t handle, std::filesystem::path temporary)
-    : path_(std::move(path)), handle_(handle), temporary_(std::move(temporary)) {}
+std::optional<FileState> StateOf(const std::filesystem::path& path) {
+    struct stat status {};
+    if (::stat(path.c_str(), &status) != 0) return std::nullopt;
+    constexpr std::uint64_t kNanoseconds = 1'000'000'000;
+    return FileState{static_cast<std::uint64_t>(status.st_size),
+                     static_cast<std::uint64_t>(status.st_mtim.tv_sec) * kNanoseconds +
+                         static_cast<std::uint64_t>(status.st_mtim.tv_nsec),
+                     status.st_dev, status.st_ino};
+}
+
+File::File(std::filesystem::path path, std::intptr_t handle, std::filesystem::path target,
+           std::filesystem::path temporary)
+    : path_(std::move(path)), handle_(handle), target_(std::move(target)), temporary_(std::move(temporary)) {}
 
 File File::ForReading(const std::filesystem::path& path) {
     return {path, Opened(path, ::open(path.c_str(), O_RDONLY | O_CLOEXEC))};
@@ -57,11 +124,11 @@ File File::ForWriting(const std::filesystem::path& path) {
 }
 
 File File::ForReplacing(const std::filesystem::path& path) {
-    const bool exists = ::access(path.c_str(), F_OK) == 0;
-    if (exists && ::access(path.c_str(), W_OK) != 0) Fail(path);
-    std::string temporary = path.string() + ".XXXXXX";
-    const int handle = Opened(path, ::mkostemp(temporary.data(), O_CLOEXEC));
-    return {path, handle, temporary};
+    const std::filesystem::path target = BehindLinks(path);
+    const mode_t mode = ModeOfReplaced(path, target).value_or(0666);
+    const std::filesystem::path temporary =
+        target.parent_path() / TemporaryName<char>(target.filename().native());
+    return {path, Opened(path, CreateTemporary(temporary, mode)), target, temporary};
 }
 
 File::~File() {
@@ -101,11 +168,14 @@ void File::Close() {
 }
 
 void File::Replace() {
-    if (::fchmod(Native(handle_), ModeFor(path_)) != 0) Fail(path_);
+    const std::optional<mode_t> mode = ModeOfReplaced(path_, target_);
+    if (mode && ::fchmod(Native(handle_), *mode) != 0) Fail(path_);
     if (::fsync(Native(handle_)) != 0) Fail(path_);
-    Close();
-    if (::rename(temporary_.c_str(), path_.c_str()) != 0) Fail(path_);
+    if (::rename(temporary_.c_str(), target_.c_str()) != 0) Fail(path_);
     temporary_.clear();
+    // Only now, since another program could take an unlocked temporary file for a leftover. All of it is on
+    // the disk, so that it does not matter how closing goes.
+    ::close(Native(std::exchange(handle_, -1)));
 }
 
 }  // namespace lindrel

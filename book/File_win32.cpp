@@ -1,11 +1,12 @@
-#include <windows.h>
-
 #include <algorithm>
+#include <cstddef>
 #include <string>
 #include <utility>
 
 #include "book/Faults.h"
 #include "book/File.h"
+#include "book/FileSystem_win32.h"
+#include "book/TemporaryName.h"
 
 namespace lindrel {
 
@@ -14,33 +15,55 @@ namespace {
 // At most this much is read or written by one call, which counts the bytes in a DWORD.
 constexpr std::size_t kMostBytesAtOnce = 1U << 30;
 
-std::wstring ReasonOf(DWORD error) {
-    wchar_t* text = nullptr;
-    const DWORD length = FormatMessageW(
-        FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
-        error, 0, reinterpret_cast<wchar_t*>(&text), 0, nullptr);
-    std::wstring reason = length != 0 ? std::wstring(text, length) : L"Hibakód: " + std::to_wstring(error);
-    LocalFree(text);  // accepts a null pointer
-    reason.erase(reason.find_last_not_of(L"\r\n .") + 1);
-    return reason;
-}
-
-[[noreturn]] void Fail(const std::filesystem::path& path, DWORD error = GetLastError()) {
-    throw FileFault(WideText(path), ReasonOf(error));
-}
-
-// The handle as File keeps it: INVALID_HANDLE_VALUE is -1.
-std::intptr_t Opened(const std::filesystem::path& path, HANDLE handle) {
-    if (handle == INVALID_HANDLE_VALUE) Fail(path);
-    return reinterpret_cast<std::intptr_t>(handle);
-}
-
 HANDLE Native(std::intptr_t handle) {
     return reinterpret_cast<HANDLE>(handle);
 }
 
-HANDLE Open(const std::filesystem::path& path, DWORD access, DWORD sharing, DWORD creation) {
-    return CreateFileW(path.c_str(), access, sharing, nullptr, creation, FILE_ATTRIBUTE_NORMAL, nullptr);
+DWORD ErrorUnlessOpen(HANDLE handle) {
+    return ErrorUnless(handle != INVALID_HANDLE_VALUE);
+}
+
+// A handle to a file of the disk. INVALID_HANDLE_VALUE is -1, as File keeps it for a closed file.
+std::intptr_t Open(const std::filesystem::path& path, DWORD access, DWORD sharing, DWORD creation) {
+    const std::wstring name = SystemPath(path);
+    HANDLE handle = INVALID_HANDLE_VALUE;
+    const DWORD error = Patiently(name, [&] {
+        handle =
+            CreateFileW(name.c_str(), access, sharing, nullptr, creation, FILE_ATTRIBUTE_NORMAL, nullptr);
+        return ErrorUnlessOpen(handle);
+    });
+    if (error != ERROR_SUCCESS) Fail(path, error);
+    if (GetFileType(handle) == FILE_TYPE_DISK) return reinterpret_cast<std::intptr_t>(handle);
+    CloseHandle(handle);
+    Fail(path, ERROR_INVALID_NAME);
+}
+
+std::wstring TemporaryBeside(const std::wstring& target) {
+    const std::size_t name = target.rfind(L'\\') + 1;
+    std::wstring lower_case = target.substr(name);
+    CharLowerBuffW(lower_case.data(), static_cast<DWORD>(lower_case.size()));
+    return target.substr(0, name) + TemporaryName<wchar_t>(lower_case);
+}
+
+// Creates the file, in the place of one that a killed program has left.
+HANDLE CreateTemporary(const std::filesystem::path& path, const std::wstring& temporary) {
+    HANDLE handle = INVALID_HANDLE_VALUE;
+    const DWORD error = Patiently(temporary, [&]() -> DWORD {
+        handle = CreateFileW(temporary.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL,
+                             nullptr);
+        const DWORD result = ErrorUnlessOpen(handle);
+        if (result != ERROR_FILE_EXISTS) return result;
+        const DWORD removal = ErrorUnless(DeleteFileW(temporary.c_str()));
+        return removal == ERROR_SUCCESS ? ERROR_SHARING_VIOLATION : removal;  // free from now on: try again
+    });
+    if (error != ERROR_SUCCESS) Fail(path, error);
+    return handle;
+}
+
+// Network file systems may not know how to flush a file.
+bool IsUnknownOperation(DWORD error) {
+    return error == ERROR_INVALID_FUNCTION || error == ERROR_NOT_SUPPORTED ||
+           error == ERROR_CALL_NOT_IMPLEMENTED;
 }
 
 }  // namespace
@@ -49,40 +72,64 @@ std::wstring WideText(const std::filesystem::path& path) {
     return path.wstring();
 }
 
-File::File(std::filesystem::path path, std::intptr_t handle, std::filesystem::path temporary)
-    : path_(std::move(path)), handle_(handle), temporary_(std::move(temporary)) {}
+std::optional<FileState> StateOf(const std::filesystem::path& path) {
+    HANDLE file = INVALID_HANDLE_VALUE;
+    try {
+        file = OpenToLookAt(SystemPath(path));
+    } catch (const FileFault&) {
+        return std::nullopt;
+    }
+    if (file == INVALID_HANDLE_VALUE) return std::nullopt;
+    BY_HANDLE_FILE_INFORMATION found{};
+    const bool known = GetFileInformationByHandle(file, &found);
+    CloseHandle(file);
+    if (!known) return std::nullopt;
+    const auto joined = [](DWORD high, DWORD low) { return std::uint64_t{high} << 32U | low; };
+    return FileState{joined(found.nFileSizeHigh, found.nFileSizeLow),
+                     joined(found.ftLastWriteTime.dwHighDateTime, found.ftLastWriteTime.dwLowDateTime),
+                     found.dwVolumeSerialNumber, joined(found.nFileIndexHigh, found.nFileIndexLow)};
+}
+
+File::File(std::filesystem::path path, std::intptr_t handle, std::filesystem::path target,
+           std::filesystem::path temporary)
+    : path_(std::move(path)), handle_(handle), target_(std::move(target)), temporary_(std::move(temporary)) {}
 
 File File::ForReading(const std::filesystem::path& path) {
-    return {path, Opened(path, Open(path, GENERIC_READ, FILE_SHARE_READ, OPEN_EXISTING))};
+    constexpr DWORD kAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    return {path, Open(path, GENERIC_READ, kAll, OPEN_EXISTING)};
 }
 
 File File::ForWriting(const std::filesystem::path& path) {
-    return {path, Opened(path, Open(path, GENERIC_WRITE, FILE_SHARE_READ, CREATE_ALWAYS))};
+    // Not CREATE_ALWAYS, which fails for a hidden file.
+    const std::intptr_t handle = Open(path, GENERIC_WRITE, FILE_SHARE_READ, OPEN_ALWAYS);
+    if (const DWORD error = ErrorUnless(SetEndOfFile(Native(handle))); error != ERROR_SUCCESS) {
+        CloseHandle(Native(handle));
+        Fail(path, error);
+    }
+    return {path, handle};
 }
 
 File File::ForReplacing(const std::filesystem::path& path) {
-    const DWORD attributes = GetFileAttributesW(path.c_str());
+    const std::wstring target = BehindLinks(path);
+    const DWORD attributes = GetFileAttributesW(target.c_str());
     if (attributes != INVALID_FILE_ATTRIBUTES &&
         (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) != 0)
         Fail(path, ERROR_ACCESS_DENIED);
-    for (DWORD attempt = 0;; ++attempt) {
-        std::filesystem::path temporary = path;
-        temporary +=
-            L"." + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(attempt) + L".tmp";
-        const HANDLE handle = Open(temporary, GENERIC_WRITE, 0, CREATE_NEW);
-        if (handle == INVALID_HANDLE_VALUE && GetLastError() == ERROR_FILE_EXISTS) continue;
-        return {path, Opened(path, handle), temporary};
-    }
+    const std::wstring temporary = TemporaryBeside(target);
+    return {path, reinterpret_cast<std::intptr_t>(CreateTemporary(path, temporary)), target, temporary};
 }
 
 File::~File() {
     if (Native(handle_) != INVALID_HANDLE_VALUE) CloseHandle(Native(handle_));
-    if (!temporary_.empty()) DeleteFileW(temporary_.c_str());
+    if (temporary_.empty()) return;
+    // One that cannot be removed is taken over by the next save.
+    Patiently(temporary_.native(), [&] { return ErrorUnless(DeleteFileW(temporary_.c_str())); });
 }
 
 std::size_t File::Size() const {
     LARGE_INTEGER size{};
     if (!GetFileSizeEx(Native(handle_), &size)) Fail(path_);
+    if (size.QuadPart > PTRDIFF_MAX) Fail(path_, ERROR_FILE_TOO_LARGE);
     return static_cast<std::size_t>(size.QuadPart);
 }
 
@@ -112,11 +159,15 @@ void File::Close() {
 }
 
 void File::Replace() {
-    if (!FlushFileBuffers(Native(handle_))) Fail(path_);
+    if (!FlushFileBuffers(Native(handle_)) && !IsUnknownOperation(GetLastError())) Fail(path_);
     Close();
+    TakeOverAttributes(target_.native(), temporary_.native());
     // ReplaceFile would keep the creation time, but when it fails there may be no file at the path at all.
-    if (!MoveFileExW(temporary_.c_str(), path_.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
-        Fail(path_);
+    const DWORD error = Patiently(target_.native(), [&] {
+        return ErrorUnless(MoveFileExW(temporary_.c_str(), target_.c_str(),
+                                       MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH));
+    });
+    if (error != ERROR_SUCCESS) Fail(path_, error);
     temporary_.clear();
 }
 

@@ -14,14 +14,15 @@ constexpr std::size_t kLongestPath = 32768;
 }
 
 void CommonDialog::ShowOpen(HWND owner) {
-    Show(owner, false);
+    Show(owner, false, 0);
 }
 
-void CommonDialog::ShowSave(HWND owner) {
-    Show(owner, true);
+void CommonDialog::ShowSave(HWND owner, Existing existing) {
+    const DWORD prompt = existing == Existing::AskToOverwrite ? OFN_OVERWRITEPROMPT : 0;
+    Show(owner, true, OFN_PATHMUSTEXIST | prompt);
 }
 
-void CommonDialog::Show(HWND owner, bool save) {
+void CommonDialog::Show(HWND owner, bool save, DWORD flags) {
     std::wstring filter = Filter + L"||";
     std::replace(filter.begin(), filter.end(), L'|', L'\0');
     std::vector<wchar_t> path(kLongestPath, L'\0');
@@ -36,8 +37,7 @@ void CommonDialog::Show(HWND owner, bool save) {
     dialog.lpstrInitialDir = InitDir.empty() ? nullptr : InitDir.c_str();
     dialog.lpstrTitle = DialogTitle.c_str();
     dialog.lpstrDefExt = save && !DefaultExt.empty() ? DefaultExt.c_str() : nullptr;
-    dialog.Flags = OFN_EXPLORER | OFN_HIDEREADONLY | OFN_NOCHANGEDIR | OFN_ENABLESIZING;
-    if (save) dialog.Flags |= OFN_PATHMUSTEXIST;
+    dialog.Flags = OFN_EXPLORER | OFN_HIDEREADONLY | OFN_NOCHANGEDIR | OFN_ENABLESIZING | flags;
 
     if (!(save ? GetSaveFileNameW(&dialog) : GetOpenFileNameW(&dialog))) {
         const DWORD error = CommDlgExtendedError();

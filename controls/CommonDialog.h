@@ -23,13 +23,14 @@ class CommonDialog {
     std::wstring DefaultExt;  // appended by the save dialog when none is typed; without a dot
 
     // Show the dialog and set FileName. Throw Fault(kDialogCancelled) when the user cancels, and Fault with
-    // the system's number when the dialog fails; FileName is then as it was. They do not ask about existing
-    // or missing files; that is up to the caller.
+    // the system's number when the dialog fails; FileName is then as it was. The open dialog does not ask
+    // about missing files, and the save dialog asks about existing ones only when it is told to.
+    enum class Existing { Accept, AskToOverwrite };
     void ShowOpen(HWND owner);
-    void ShowSave(HWND owner);
+    void ShowSave(HWND owner, Existing existing);
 
   private:
-    void Show(HWND owner, bool save);
+    void Show(HWND owner, bool save, DWORD flags);
 };
 
 // Sets the filter back to that of books when it goes, also when a fault ends what it belongs to: the offer to

@@ -167,7 +167,7 @@ bool frmExport::ExportToFile(Kind kind) {
 bool frmExport::ChooseFile(std::wstring& path) {
     file_dialog_.FileName.clear();
     file_dialog_.DialogTitle = L"Exportálás";
-    file_dialog_.ShowSave(Handle());
+    file_dialog_.ShowSave(Handle(), CommonDialog::Existing::Accept);
     path = file_dialog_.FileName;
     return !FileIsThere(path) ||
            MsgBox(Handle(), L"Felülírjam a már létező állományt ?", MB_OKCANCEL | MB_ICONEXCLAMATION,
