@@ -1,0 +1,162 @@
+// Saving where it cannot be done or should not be done: devices, another book of that name, a file that
+// another program has changed.
+
+#include "tests/window/app/FileSession.h"
+
+namespace lindrel::testing {
+namespace {
+
+class FileMenuFaultsTest : public FileSession {
+  protected:
+    // The system's own words differ from version to version, so there only has to be something.
+    void ExpectFailure(const std::wstring& path) const {
+        const BoxOnScreen box = program.Box();
+        EXPECT_EQ(box.Title(), L"Hiba");
+        EXPECT_EQ(box.Text().substr(0, path.size() + 2), path + L"\r\n");
+        EXPECT_GT(box.Text().size(), path.size() + 2);
+        EXPECT_EQ(box.Icon(), BoxIcon::Error);
+        box.Press(IDOK);
+    }
+    void ExpectChangedQuestion(const std::wstring& path, int answer) const {
+        const BoxOnScreen box = program.Box();
+        EXPECT_EQ(box.Title(), L"Figyelem");
+        EXPECT_EQ(
+            box.Text(),
+            path +
+                L"\r\n\r\nEzt a fájlt egy másik program megváltoztatta, mióta a könyvet megnyitotta vagy "
+                L"elmentette.\r\nFelülírjam a másik program változtatásait?");
+        EXPECT_EQ(box.Buttons(), (std::vector<int>{IDYES, IDNO}));
+        EXPECT_EQ(box.Icon(), BoxIcon::Exclamation);
+        EXPECT_EQ(DialogOnScreen(box.Handle()).Focus(), IDNO);
+        box.Press(answer);
+    }
+    // Opens a book of one entry and changes it; returns its path.
+    std::wstring OpenAndChange() const {
+        const std::wstring path = folder.Write(L"közös.lnd", OneEntryBook("A\r\nhttp://a.hu\r\n"));
+        program.Choose(ID_mnuOpen);
+        program.FileDialog().Accept(path);
+        program.Settle();
+        Change();
+        return path;
+    }
+    static std::string TwoEntries() {
+        return OneEntryBook("A\r\nhttp://a.hu\r\nN\xE9v\r\nhttp://nev.hu\r\n");
+    }
+};
+
+TEST_F(FileMenuFaultsTest, ABookIsNotSavedToADevice) {
+    Change();
+    const MainState before = program.State();
+    for (const wchar_t* name : {L"nul.lnd", L"com1.lnd"}) {
+        const std::wstring device = folder.File(name);
+        for (const int command : {ID_mnuSave, ID_mnuSaveAs}) {
+            program.Choose(command);
+            program.FileDialog().TypeAndPressOk(device);
+            // Some systems believe that a device is a file that exists, and ask whether to overwrite it.
+            if (program.Box().Title() != L"Hiba") program.Box().Press(IDYES);
+            ExpectFailure(device);
+            ExpectState(before);
+        }
+    }
+    EXPECT_EQ(folder.Names(), std::vector<std::wstring>{});
+}
+
+TEST_F(FileMenuFaultsTest, AFailedSaveAsLeavesTheBookWithItsFile) {
+    const std::wstring path = OpenAndChange();
+    const MainState before = program.State();
+    program.Choose(ID_mnuSaveAs);
+    const std::wstring refused = folder.Write(L"zárt.lnd", "régi");
+    ASSERT_TRUE(SetFileAttributesW(refused.c_str(), FILE_ATTRIBUTE_READONLY));
+    program.FileDialog().Accept(refused);
+    program.Box().Press(IDYES);
+    ExpectFailure(refused);
+    ExpectState(before);
+    ASSERT_TRUE(SetFileAttributesW(refused.c_str(), FILE_ATTRIBUTE_NORMAL));
+    program.Choose(ID_mnuSave);
+    ExpectSaved(path);
+    EXPECT_EQ(TemporaryFolder::Read(path), TwoEntries());
+    EXPECT_EQ(TemporaryFolder::Read(refused), "régi");
+}
+
+TEST_F(FileMenuFaultsTest, TheFirstSaveAsksBeforeItOverwritesAnotherBook) {
+    Change();
+    const std::wstring path = folder.Write(L"van.lnd", "régi");
+    const auto refuse = [&] {
+        const FileDialogOnScreen dialog = program.FileDialog();
+        dialog.TypeAndPressOk(path);
+        program.Box().Press(IDNO);  // the dialog's own question, in the system's words
+        EXPECT_EQ(TemporaryFolder::Read(path), "régi");
+        return dialog;
+    };
+    program.Choose(ID_mnuSave);
+    refuse().Cancel();
+    ExpectState(ChangedState());
+
+    program.Choose(ID_mnuSave);
+    const FileDialogOnScreen dialog = refuse();
+    dialog.TypeAndPressOk(path);
+    program.Box().Press(IDYES);
+    ExpectSaved(path);
+    EXPECT_EQ(TemporaryFolder::Read(path), ChangedBook());
+}
+
+TEST_F(FileMenuFaultsTest, AFileThatAnotherProgramHasChangedIsAskedAbout) {
+    const std::wstring path = OpenAndChange();
+    const MainState before = program.State();
+    folder.Write(L"közös.lnd", "another program's");
+    for (const int command : {ID_mnuSave, ID_mnuNew, ID_mnuOpen, ID_mnuClose}) {
+        program.Choose(command);
+        if (command != ID_mnuSave) ExpectSaveQuestion(L"A file módosult", IDYES);
+        ExpectChangedQuestion(path, IDNO);
+        ExpectState(before);
+        EXPECT_EQ(TemporaryFolder::Read(path), "another program's");
+    }
+    program.Close();
+    ExpectSaveQuestion(L"A fájl módosult", IDYES);
+    ExpectChangedQuestion(path, IDNO);
+    ExpectState(before);
+
+    program.Choose(ID_mnuSave);
+    ExpectChangedQuestion(path, IDYES);
+    ExpectSaved(path);
+    EXPECT_EQ(TemporaryFolder::Read(path), TwoEntries());
+    // From then on it is the program's own file again.
+    Change();
+    program.Choose(ID_mnuSave);
+    ExpectSaved(path);
+}
+
+TEST_F(FileMenuFaultsTest, AChangeOfTheSameLengthIsSeenToo) {
+    const std::wstring path = OpenAndChange();
+    folder.Write(L"másik.lnd", TemporaryFolder::Read(path));
+    ASSERT_TRUE(MoveFileExW(folder.File(L"másik.lnd").c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING));
+    program.Choose(ID_mnuSave);
+    ExpectChangedQuestion(path, IDNO);
+}
+
+TEST_F(FileMenuFaultsTest, AFileThatIsGoneIsWrittenAnewWithoutAQuestion) {
+    const std::wstring path = OpenAndChange();
+    ASSERT_TRUE(DeleteFileW(path.c_str()));
+    program.Choose(ID_mnuSave);
+    ExpectSaved(path);
+    EXPECT_EQ(TemporaryFolder::Read(path), TwoEntries());
+}
+
+TEST_F(FileMenuFaultsTest, AnotherFileIsNotAskedAbout) {
+    const std::wstring path = OpenAndChange();
+    folder.Write(L"közös.lnd", "another program's");
+    // Save As has its own question, and a new book has nothing to do with the file of the one before.
+    program.Choose(ID_mnuSaveAs);
+    program.FileDialog().Accept(folder.File(L"új.lnd"));
+    ExpectSaved(folder.File(L"új.lnd"));
+    program.Run(ID_mnuNew);
+    Change();
+    program.Choose(ID_mnuSave);
+    program.FileDialog().TypeAndPressOk(path);
+    program.Box().Press(IDYES);
+    ExpectSaved(path);
+    EXPECT_EQ(TemporaryFolder::Read(path), ChangedBook());
+}
+
+}  // namespace
+}  // namespace lindrel::testing
