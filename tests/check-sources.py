@@ -79,7 +79,7 @@ def sources_of(target):
 
 
 def is_of_one_system(file):
-    return file.endswith(("_win32.cpp", "_posix.cpp"))
+    return pathlib.PurePath(file).stem.endswith(("_win32", "_posix"))
 
 
 def is_system_header(include):
@@ -138,7 +138,7 @@ def the_book_stands_alone():
             elif pathlib.PurePath(include.name).name.startswith("frm"):
                 yield file, include.line, f"book/ may not include {include.name}, a window"
             elif is_system_header(include) and not is_of_one_system(file):
-                yield file, include.line, f"only *_win32.cpp and *_posix.cpp of book/ may include <{include.name}>"
+                yield file, include.line, f"only *_win32 and *_posix of book/ may include <{include.name}>"
 
 
 def portable_sources_include_no_window():
