@@ -3,6 +3,7 @@
 #include <array>
 #include <iterator>
 #include <new>
+#include <numeric>
 #include <utility>
 
 #include "controls/CreateControl.h"
@@ -46,10 +47,10 @@ constexpr bool IsButton(int position) {
     return position >= 1 && position <= kButtonCount;
 }
 
-std::array<int, kButtonCount> PicturesFrom(int first_id) {
+PictureList Pictures(int size, PictureLook look) {
     std::array<int, kButtonCount> ids{};
-    for (int i = 0; i < kButtonCount; ++i) ids.at(static_cast<std::size_t>(i)) = first_id + i;
-    return ids;
+    std::iota(ids.begin(), ids.end(), IDI_ImageList1_1);
+    return {GetModuleHandleW(nullptr), ids, size, look};
 }
 
 }  // namespace
@@ -93,25 +94,33 @@ void Toolbar::RemoveTipOfFirstButton() const {
 }
 
 void Toolbar::ApplyResolution(UINT dpi) {
-    const HINSTANCE module = GetModuleHandleW(nullptr);
     const int size = PixelsOf(kTwipsOfPicture, dpi);
-    PictureList pictures(module, PicturesFrom(IDI_ImageList1_1), size);
-    PictureList disabled_pictures(module, PicturesFrom(IDI_ImageList1_Disabled_1), size);
+    PictureList pictures = Pictures(size, PictureLook::Enabled);
     const HWND toolbar = toolbar_.Handle();
     SendMessageW(toolbar, TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(pictures.Handle()));
-    SendMessageW(toolbar, TB_SETDISABLEDIMAGELIST, 0, reinterpret_cast<LPARAM>(disabled_pictures.Handle()));
+    SendMessageW(toolbar, TB_SETDISABLEDIMAGELIST, 0, 0);
     // By themselves, buttons grow with their pictures but do not shrink.
     SendMessageW(toolbar, TB_SETBUTTONSIZE, 0, MAKELPARAM(size + kPaddingX, size + kPaddingY));
     // The old pictures were in use until now.
     ImageList1 = std::move(pictures);
-    disabled_pictures_ = std::move(disabled_pictures);
+    disabled_pictures_ = {};
+    picture_size_ = size;
+    Update();
 }
 
-void Toolbar::Update() const {
+void Toolbar::MakeDisabledPictures() {
+    if (disabled_pictures_.Handle() != nullptr) return;
+    disabled_pictures_ = Pictures(picture_size_, PictureLook::Disabled);
+    SendMessageW(toolbar_.Handle(), TB_SETDISABLEDIMAGELIST, 0,
+                 reinterpret_cast<LPARAM>(disabled_pictures_.Handle()));
+}
+
+void Toolbar::Update() {
     const HMENU menu = GetMenu(window_);
     for (int position = 1; position <= kButtonCount; ++position) {
         const UINT state =
             GetMenuState(menu, static_cast<UINT>(kButtons[position - 1].Command), MF_BYCOMMAND);
+        if ((state & MF_GRAYED) != 0) MakeDisabledPictures();
         SendMessageW(toolbar_.Handle(), TB_ENABLEBUTTON, static_cast<WPARAM>(IdOfButton(position)),
                      MAKELPARAM((state & MF_GRAYED) == 0, 0));
     }

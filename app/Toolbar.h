@@ -15,7 +15,7 @@ class Toolbar {
     // then.
     void ApplyResolution(UINT dpi);
     // Looks at the menu bar anew.
-    void Update() const;
+    void Update();
 
     // WM_COMMAND and WM_NOTIFY of the window. True when the id is that of a button.
     bool OnCommand(int id) const;
@@ -24,6 +24,7 @@ class Toolbar {
   private:
     void AddButtons() const;
     void RemoveTipOfFirstButton() const;
+    void MakeDisabledPictures();
     // Buttons are numbered from 1.
     void ButtonClick(int Button) const;
     void ButtonDropDown(int Button) const;
@@ -31,7 +32,9 @@ class Toolbar {
 
     HWND window_ = nullptr;
     Control toolbar_;
-    PictureList ImageList1, disabled_pictures_;
+    PictureList ImageList1;
+    PictureList disabled_pictures_;  // made when a button is disabled for the first time
+    int picture_size_ = 0;           // in pixels
 };
 
 }  // namespace lindrel

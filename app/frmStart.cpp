@@ -133,7 +133,7 @@ void frmStart::Form_Load() {
     loaded_ = true;
 }
 
-void frmStart::EnableCommand(int id, bool enabled) const {
+void frmStart::EnableCommand(int id, bool enabled) {
     const UINT state = enabled ? MF_ENABLED : MF_GRAYED;
     EnableMenuItem(GetMenu(Handle()), static_cast<UINT>(id), MF_BYCOMMAND | state);
     toolbar_.Update();

@@ -40,7 +40,7 @@ class frmStart : public OwnWindow {
     const CommonDialog& FileDialog() const { return CommonDialog1; }
     SaveAnswer OfferToSave(SaveQuestion question) { return file_menu_.OfferToSave(question); }
     // Of the menu bar and, with it, of the toolbar.
-    void EnableCommand(int id, bool enabled) const;
+    void EnableCommand(int id, bool enabled);
 
   private:
     LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;

@@ -24,15 +24,20 @@ class Picture {
     Owned<HICON> handle_;
 };
 
+// How a list shows its pictures. Those of disabled buttons are grey and faint.
+enum class PictureLook { Enabled, Disabled };
+
 // Pictures of one size, for controls that show several. Destroyed with its owner.
 class PictureList {
   public:
     PictureList() = default;
     // The icons of the resources in the given order. Throws std::bad_alloc when one is missing.
-    PictureList(HINSTANCE instance, std::span<const int> ids, int size);
+    PictureList(HINSTANCE instance, std::span<const int> ids, int size, PictureLook look);
     HIMAGELIST Handle() const { return handle_.get(); }
 
   private:
+    void AddDisabled(HICON icon, int size);
+
     Owned<HIMAGELIST> handle_;
 };
 

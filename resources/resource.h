@@ -13,7 +13,7 @@
 #define IDI_TrayArea 102
 #define IDI_picGo 103
 #define IDI_Image1 104
-/* Of the toolbar's buttons, and their disabled looks. */
+/* Of the toolbar's buttons. */
 #define IDI_ImageList1_1 111
 #define IDI_ImageList1_2 112
 #define IDI_ImageList1_3 113
@@ -24,16 +24,6 @@
 #define IDI_ImageList1_8 118
 #define IDI_ImageList1_9 119
 #define IDI_ImageList1_10 120
-#define IDI_ImageList1_Disabled_1 131
-#define IDI_ImageList1_Disabled_2 132
-#define IDI_ImageList1_Disabled_3 133
-#define IDI_ImageList1_Disabled_4 134
-#define IDI_ImageList1_Disabled_5 135
-#define IDI_ImageList1_Disabled_6 136
-#define IDI_ImageList1_Disabled_7 137
-#define IDI_ImageList1_Disabled_8 138
-#define IDI_ImageList1_Disabled_9 139
-#define IDI_ImageList1_Disabled_10 140
 
 /* The main window. */
 #define ID_frmStart_TabStrip1 1001

@@ -22,6 +22,7 @@ LONGEST_FUNCTION = 40
 FIXED_WAIT = re.compile(r"\b([Ss]leep(_for|_until|Ex)?|(u|nano)sleep)[ \t]*\(|^[ \t]*sleep[ \t]+[0-9.]")
 SWITCHED_OFF = re.compile(r"\bDISABLED_|GTEST_SKIP")
 SUITE = re.compile(r"TEST(?:_F|_P)?\((\w+)")
+CASE = re.compile(r"TEST(?:_F|_P)?\((\w+),\s+(\w+)")
 INCLUDE = re.compile(r'\s*#\s*include\s+([<"])([^>"]+)')
 LITERAL = re.compile(r'"(?:[^"\\]|\\.)*"')
 DROPPED_RESULT = "static_cast<void>"
@@ -123,6 +124,17 @@ def suites_bear_their_files_names():
                 yield file, number, f"the suite {suite[1]} does not bear the file's name"
 
 
+def faults_name_tests_that_exist():
+    table = "docs/FAULTS.md"
+    tests = set()
+    for file in files("tests", ".cpp"):
+        tests |= {".".join(names) for names in CASE.findall((ROOT / file).read_text(encoding="utf-8"))}
+    for number, line in enumerate(lines(table), 1):
+        for name in re.findall(r"`(\w+Test\.\w+)`", line):
+            if name not in tests:
+                yield table, number, f"there is no test {name}"
+
+
 def nobody_includes_the_app():
     for file in cpp_files():
         for include in includes(file):
@@ -216,7 +228,7 @@ def nothing_is_called_intended():
 
 RULES = [
     no_fixed_waits, no_test_is_switched_off, every_source_is_built, suites_bear_their_files_names,
-    nobody_includes_the_app, the_book_stands_alone, portable_sources_include_no_window, folders_have_no_cycle,
+    faults_name_tests_that_exist, nobody_includes_the_app, the_book_stands_alone, portable_sources_include_no_window, folders_have_no_cycle,
     functions_are_short, files_are_short, dropped_results_say_why, nothing_is_called_intended,
 ]
 

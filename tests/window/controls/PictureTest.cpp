@@ -27,8 +27,6 @@ std::vector<int> Ids(int first, int last) {
     return ids;
 }
 
-const std::vector<int> kSizes{16, 20, 24, 30, 32, 36, 48, 256};
-
 // Sides of the pictures that an icon of the resources holds.
 std::vector<int> SizesIn(int id) {
     const HRSRC found = FindResourceW(nullptr, MAKEINTRESOURCEW(id), RT_GROUP_ICON);
@@ -55,14 +53,13 @@ std::vector<COLORREF> Painted(HICON icon, int size) {
     });
 }
 
-TEST(PictureTest, EveryPictureIsThereInAllSizes) {
-    for (const int id : {IDI_frmStart, IDI_TrayArea, IDI_picGo, IDI_Image1})
-        EXPECT_EQ(SizesIn(id), kSizes) << id;
-    for (const int id : Ids(IDI_ImageList1_1, IDI_ImageList1_10)) EXPECT_EQ(SizesIn(id), kSizes) << id;
-    // The disabled looks are for the toolbar only.
-    const std::vector<int> screen_sizes(kSizes.begin(), kSizes.end() - 1);
-    for (const int id : Ids(IDI_ImageList1_Disabled_1, IDI_ImageList1_Disabled_10))
-        EXPECT_EQ(SizesIn(id), screen_sizes) << id;
+TEST(PictureTest, EveryPictureIsThereInTheSizesOfItsPlace) {
+    EXPECT_EQ(SizesIn(IDI_frmStart), (std::vector<int>{16, 20, 24, 32, 40, 48, 64, 256}));
+    for (const int id : {IDI_TrayArea, IDI_Image1})
+        EXPECT_EQ(SizesIn(id), (std::vector<int>{16, 20, 24, 32})) << id;
+    std::vector<int> larger = Ids(IDI_ImageList1_1, IDI_ImageList1_10);
+    larger.push_back(IDI_picGo);
+    for (const int id : larger) EXPECT_EQ(SizesIn(id), (std::vector<int>{24, 30, 36, 48})) << id;
 }
 
 TEST(PictureTest, HasTheSizeThatWasAskedForAlsoOneThatWasNotDrawn) {
@@ -82,7 +79,6 @@ TEST(PictureTest, HasTheSizeThatWasAskedForAlsoOneThatWasNotDrawn) {
 TEST(PictureTest, NoTwoPicturesLookAlikeAndNoneIsBlank) {
     std::vector<int> ids{IDI_frmStart, IDI_TrayArea, IDI_picGo, IDI_Image1};
     for (const int id : Ids(IDI_ImageList1_1, IDI_ImageList1_10)) ids.push_back(id);
-    for (const int id : Ids(IDI_ImageList1_Disabled_1, IDI_ImageList1_Disabled_10)) ids.push_back(id);
     for (const int size : {16, 24, 32}) {
         std::set<std::vector<COLORREF>> looks{
             std::vector<COLORREF>(static_cast<std::size_t>(size * size), RGB(255, 255, 255))};
@@ -91,20 +87,41 @@ TEST(PictureTest, NoTwoPicturesLookAlikeAndNoneIsBlank) {
     }
 }
 
-TEST(PictureTest, DisabledLooksHaveNoColour) {
+// What a list shows of its picture at a position (0-based) on a white ground.
+std::vector<COLORREF> PaintedFrom(const PictureList& list, int position, int size) {
+    return Drawn(size, [&](HDC canvas) {
+        const RECT all{0, 0, size, size};
+        FillRect(canvas, &all, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
+        EXPECT_TRUE(ImageList_Draw(list.Handle(), position, canvas, 0, 0, ILD_TRANSPARENT));
+    });
+}
+
+TEST(PictureTest, DisabledLooksAreGreyAndFaintAndLookLikeTheirPictures) {
     constexpr int kSize = 24;
-    for (const int id : Ids(IDI_ImageList1_Disabled_1, IDI_ImageList1_Disabled_10))
-        for (const COLORREF pixel : Painted(Picture(Instance(), id, kSize).Handle(), kSize)) {
-            EXPECT_EQ(GetRValue(pixel), GetGValue(pixel)) << id;
-            EXPECT_EQ(GetGValue(pixel), GetBValue(pixel)) << id;
+    const std::vector<int> ids = Ids(IDI_ImageList1_1, IDI_ImageList1_10);
+    const PictureList enabled(Instance(), ids, kSize, PictureLook::Enabled);
+    const PictureList disabled(Instance(), ids, kSize, PictureLook::Disabled);
+    ASSERT_EQ(ImageList_GetImageCount(disabled.Handle()), 10);
+    for (int i = 0; i < 10; ++i) {
+        const std::vector<COLORREF> bright = PaintedFrom(enabled, i, kSize);
+        const std::vector<COLORREF> faint = PaintedFrom(disabled, i, kSize);
+        for (std::size_t at = 0; at < faint.size(); ++at) {
+            // On white, four tenths of a colour's darkness are left.
+            const double brightness =
+                (GetRValue(bright[at]) * 54 + GetGValue(bright[at]) * 183 + GetBValue(bright[at]) * 19) /
+                256.0;
+            EXPECT_NEAR(GetRValue(faint[at]), 255 - (255 - brightness) * 0.4, 3) << i << " at " << at;
+            EXPECT_EQ(GetRValue(faint[at]), GetGValue(faint[at])) << i;
+            EXPECT_EQ(GetGValue(faint[at]), GetBValue(faint[at])) << i;
         }
+    }
 }
 
 TEST(PictureTest, WhatIsNotInTheResourcesIsAnError) {
     constexpr int kNoIcon = 9999;
     EXPECT_THROW(Picture(Instance(), kNoIcon, 16), std::bad_alloc);
     constexpr std::array<int, 2> kIds{IDI_frmStart, kNoIcon};
-    EXPECT_THROW(PictureList(Instance(), kIds, 16), std::bad_alloc);
+    EXPECT_THROW(PictureList(Instance(), kIds, 16, PictureLook::Enabled), std::bad_alloc);
 }
 
 TEST(PictureTest, MovesTheIconAlong) {
@@ -119,7 +136,7 @@ TEST(PictureTest, MovesTheIconAlong) {
 
 TEST(PictureTest, AListHoldsThePicturesInTheirOrder) {
     constexpr std::array<int, 2> kIds{IDI_ImageList1_1, IDI_ImageList1_2};
-    const PictureList list(Instance(), kIds, 24);
+    const PictureList list(Instance(), kIds, 24, PictureLook::Enabled);
     ASSERT_EQ(ImageList_GetImageCount(list.Handle()), 2);
     for (int i = 0; i < 2; ++i) {
         const HICON icon = ImageList_GetIcon(list.Handle(), i, ILD_NORMAL);
