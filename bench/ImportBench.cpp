@@ -16,6 +16,7 @@
 #include "bench/SampleBook.h"
 #include "book/Book.h"
 #include "book/Files.h"
+#include "import/DecodedText.h"
 #include "import/HtmlLinks.h"
 #include "import/PageText.h"
 
@@ -58,8 +59,7 @@ const std::filesystem::path& AnsiPage() {
     static const std::filesystem::path path = [] {
         const std::filesystem::path file = TemporaryFile("ansi.htm");
         const std::string utf8 = LargePage();
-        const std::vector<char> ansi = BookTextOfPage({utf8.begin(), utf8.end()});
-        WriteFileBytes(file, {ansi.data(), ansi.size()});
+        WriteFileBytes(file, DecodedText(utf8, TextEncoding::Utf8).Text());
         return file;
     }();
     return path;
@@ -93,9 +93,9 @@ BENCHMARK(FloorGrep)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void Import(benchmark::State& state, const std::filesystem::path& path) {
     for (auto _ : state) {
-        const std::vector<char> page = BookTextOfPage(ReadFileBytes(path));
+        const TextFile page = TextOfPage(ReadFileBytes(path));
         Book book;
-        book.AddEntry(1, LinksOfPage({page.data(), page.size()}, LinkChoice::Online));
+        book.AddEntry(1, LinksOfPage(page.Text(), page.Encoding, LinkChoice::Online));
         if (book.EntryCount() != kLinks) throw std::runtime_error("links are missing");
     }
     state.SetLabel("FloorGrep");

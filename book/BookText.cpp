@@ -2,11 +2,10 @@
 
 #include <algorithm>
 #include <array>
-#include <bit>
 #include <cstdint>
-#include <cstring>
 
 #include "book/Characters.h"
+#include "book/Words.h"
 
 namespace lindrel {
 
@@ -79,23 +78,10 @@ constexpr auto kUpper = [] {
 }();
 
 constexpr std::uint64_t kOnes = 0x0101010101010101;
-constexpr std::uint64_t kHighBits = 0x8080808080808080;
-
-// Eight bytes of a text, the first one in the lowest bits.
-std::uint64_t WordAt(std::string_view text, std::size_t place) {
-    static_assert(std::endian::native == std::endian::little);
-    std::uint64_t word = 0;
-    std::memcpy(&word, text.data() + place, sizeof word);
-    return word;
-}
 
 // Sets the high bit of each zero byte. Above the lowest one, bytes of 1 may be marked as well.
 constexpr std::uint64_t ZeroBytes(std::uint64_t word) {
     return (word - kOnes) & ~word & kHighBits;
-}
-
-constexpr std::size_t LowestMarked(std::uint64_t marks) {
-    return static_cast<std::size_t>(std::countr_zero(marks)) / 8;
 }
 
 }  // namespace
@@ -162,22 +148,21 @@ CaselessNeedle::CaselessNeedle(std::string_view needle) : needle_(LowerCase(need
 // The next place of the needle's first letter in either case, or the size of the text. Looks at eight bytes
 // at a time; the last eight may overlap those before them.
 std::size_t CaselessNeedle::NextStart(std::string_view text, std::size_t from) const noexcept {
-    constexpr std::size_t kWord = sizeof(std::uint64_t);
     const auto marks = [this](std::uint64_t word) {
         return ZeroBytes(word ^ lower_) | ZeroBytes(word ^ upper_);
     };
-    if (text.size() < kWord) {
+    if (text.size() < kWordBytes) {
         const auto is_first = [this](char byte) { return LowerCase(byte) == needle_.front(); };
         const auto rest = text.substr(std::min(from, text.size()));
         return static_cast<std::size_t>(std::find_if(rest.begin(), rest.end(), is_first) - text.begin());
     }
     std::size_t place = from;
-    for (; place + kWord <= text.size(); place += kWord)
+    for (; place + kWordBytes <= text.size(); place += kWordBytes)
         if (const std::uint64_t found = marks(WordAt(text, place)); found != 0)
             return place + LowestMarked(found);
     if (place >= text.size()) return text.size();
-    const std::size_t seen = place + kWord - text.size();
-    const std::uint64_t found = marks(WordAt(text, text.size() - kWord)) >> (8 * seen);
+    const std::size_t seen = place + kWordBytes - text.size();
+    const std::uint64_t found = marks(WordAt(text, text.size() - kWordBytes)) >> (8 * seen);
     return found == 0 ? text.size() : place + LowestMarked(found);
 }
 

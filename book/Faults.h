@@ -60,6 +60,8 @@ class FileFault : public Fault {
   public:
     FileFault(std::wstring path, std::wstring reason)
         : Fault(75, std::move(reason)), path_(std::move(path)) {}
+    // Another fault, which a file has caused: the report names the file and keeps number and meaning.
+    FileFault(std::wstring path, const Fault& cause) : Fault(cause), path_(std::move(path)) {}
     const std::wstring& Path() const noexcept { return path_; }
 
   private:
@@ -70,5 +72,17 @@ class FileFault : public Fault {
 // path if it has one), any other exception as missing memory or as an internal error. To be called in a catch
 // clause only.
 Fault CurrentFault();
+
+// Runs the handler of a file. What it throws leaves as a FileFault with that path.
+template <typename Handler>
+auto NamingTheFile(const std::wstring& path, Handler&& handler) {
+    try {
+        return std::forward<Handler>(handler)();
+    } catch (const FileFault& fault) {
+        throw FileFault(path, fault);
+    } catch (...) {
+        throw FileFault(path, CurrentFault());
+    }
+}
 
 }  // namespace lindrel

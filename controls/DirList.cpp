@@ -7,6 +7,7 @@
 #include <new>
 #include <vector>
 
+#include "book/Folder.h"
 #include "controls/FileSearch.h"
 
 namespace lindrel {
@@ -71,10 +72,9 @@ bool HasFolders(const std::wstring& path) {
     return has;
 }
 
-bool FolderIsThere(const std::wstring& path) {
+bool IsFolderThere(const std::wstring& path) {
     const WithoutDiskBoxes quiet;
-    const DWORD attributes = GetFileAttributesW(path.c_str());
-    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+    return FolderIsThere(path);
 }
 
 // Index of the system's picture of a folder, closed or open.
@@ -175,7 +175,7 @@ HTREEITEM DirList::ChildNamed(HTREEITEM parent, const std::wstring& name) const 
 // The item of a folder that the tree may not show yet; nullptr when there is no such folder.
 HTREEITEM DirList::Reach(HTREEITEM parent, const std::wstring& name, const std::wstring& path) const {
     HTREEITEM item = ChildNamed(parent, name);
-    if (item == nullptr && FolderIsThere(path)) {
+    if (item == nullptr && IsFolderThere(path)) {
         item = Add(parent, name, parent == TVI_ROOT ? TVI_LAST : TVI_SORT);
         TVITEMW opener{};
         opener.mask = TVIF_CHILDREN;

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <memory>
 
+#include "book/Folder.h"
+
 namespace lindrel {
 
 namespace {
@@ -15,7 +17,7 @@ struct CloseSearch {
 
 void VisitMatches(const std::wstring& pattern, const std::function<bool(const WIN32_FIND_DATAW&)>& visitor) {
     WIN32_FIND_DATAW found{};
-    const HANDLE search = FindFirstFileW(pattern.c_str(), &found);
+    const HANDLE search = FindFirstFileW(LongPath(pattern).c_str(), &found);
     if (search == INVALID_HANDLE_VALUE) return;
     const std::unique_ptr<void, CloseSearch> owner(search);
     while (visitor(found) && FindNextFileW(search, &found)) {

@@ -10,7 +10,8 @@
 namespace lindrel {
 
 // Hands what a path with wildcards in its last part finds, "." and ".." too, to a visitor until that returns
-// false. The order is the file system's. What cannot be read has nothing in it.
+// false. The path may be longer than 260 characters. The order is the file system's. What cannot be read has
+// nothing in it.
 void VisitMatches(const std::wstring& pattern, const std::function<bool(const WIN32_FIND_DATAW&)>& visitor);
 
 inline bool IsFolder(const WIN32_FIND_DATAW& found) {

@@ -5,8 +5,10 @@
 #include <string_view>
 
 #include "book/Faults.h"
+#include "book/Utf8.h"
 #include "export/Shortcut.h"
 #include "import/Shortcuts.h"
+#include "import/TextFile.h"
 
 namespace lindrel {
 namespace {
@@ -15,25 +17,31 @@ void Require(bool good) {
     if (!good) std::abort();
 }
 
-void ReadAny(std::string_view file) {
+std::string AddressIn(std::string_view file) {
+    return ShortcutAddress({file.begin(), file.end()});
+}
+
+void ReadAny(std::string_view bytes) {
+    const TextFile file = TextFileOf({bytes.begin(), bytes.end()});
+    const std::string_view text = file.Text();
     try {
-        const std::string_view address = ShortcutAddress(file);
+        const std::string address = AddressIn(bytes);
         Require(address.find_first_of("\r\n") == std::string_view::npos);
-        Require(file.find(address) != std::string_view::npos);
+        Require(file.Encoding != TextEncoding::Windows1250 || text.find(address) != std::string_view::npos);
     } catch (const EndOfFileFault&) {
         // Fewer than two lines: no line end, or nothing after it.
-        const std::size_t end = file.find_first_of("\r\n");
-        Require(end == std::string_view::npos || end + 1 == file.size() || file.substr(end) == "\r\n");
+        const std::size_t end = text.find_first_of("\r\n");
+        Require(end == std::string_view::npos || end + 1 == text.size() || text.substr(end) == "\r\n");
     } catch (const ArgumentFault&) {
         // Fewer than three characters on the second line.
-        Require(file.find_first_of("\r\n") != std::string_view::npos);
+        Require(text.find_first_of("\r\n") != std::string_view::npos);
     }
 }
 
+// An address whose bytes happen to be UTF-8 is taken for that.
 void ReadOwn(std::string_view address) {
-    if (address.find_first_of("\r\n") != std::string_view::npos) return;
-    const std::string file = ShortcutFile(address);
-    Require(ShortcutAddress(file) == address);
+    if (address.find_first_of("\r\n") != std::string_view::npos || IsUtf8BeyondAscii(address)) return;
+    Require(AddressIn(ShortcutFile(address)) == address);
 }
 
 }  // namespace

@@ -4,10 +4,8 @@
 #include <array>
 #include <cstddef>
 #include <limits>
-#include <optional>
 #include <string>
 
-#include "book/BookText.h"
 #include "book/Faults.h"
 #include "import/TextLines.h"
 
@@ -63,25 +61,29 @@ std::size_t CheckedShortCount(std::size_t count) {
     return count;
 }
 
-// Finds the chunks of a page: the texts of its anchors, from the address to the closing tag.
+// Finds the chunks of a page: the texts of its anchors, from the address to the closing tag. Only they are
+// decoded, since all that the search looks for is ASCII.
 class AnchorScanner {
   public:
-    explicit AnchorScanner(std::string_view page) : page_(page) {}
+    AnchorScanner(std::string_view page, TextEncoding encoding) : page_(page), encoding_(encoding) {}
 
-    // The next chunk, valid until the next call. Throws EndOfFileFault for an anchor that is not closed.
-    std::optional<std::string_view> Next() {
+    // The next chunk, valid until the next call; nullptr at the end. Throws EndOfFileFault for an anchor that
+    // is not closed.
+    const DecodedText* Next() {
         const std::size_t anchor = FindAnchor(page_, place_);
-        if (anchor == kNowhere) return std::nullopt;
+        if (anchor == kNowhere) return nullptr;
         if (anchor >= line_end_) line_end_ = EndOfLine(page_, anchor);
         const std::size_t start = anchor + kAnchor.size();
         const std::string_view rest = page_.substr(start, line_end_ - start);
         const std::size_t closing = FindClosing(rest);
-        chunk_ = LowerCase(rest.substr(0, closing));
+        chunk_.Clear();
+        chunk_.Append(rest.substr(0, closing), encoding_);
+        chunk_.MakeLowerCase();
         if (closing != kNowhere)
             place_ = start + closing;
         else
             AppendFollowingLines();
-        return chunk_;
+        return &chunk_;
     }
 
   private:
@@ -95,16 +97,23 @@ class AnchorScanner {
             const std::size_t closing = FindClosing(line);
             // A closing tag at the start of a line does not count.
             closed = closing != kNowhere && closing != 0;
-            chunk_.push_back(' ');
-            chunk_.append(closed ? line.substr(0, closing + kClosing.size() + 1) : line);
+            chunk_.Append(" ", encoding_);
+            chunk_.Append(closed ? ThroughClosing(line, closing) : line, encoding_);
         }
         place_ = line_end_;
     }
 
+    // A line to one character behind the closing tag.
+    std::string_view ThroughClosing(std::string_view line, std::size_t closing) const {
+        const std::size_t end = closing + kClosing.size();
+        return line.substr(0, end + FirstCharacterLength(line.substr(end), encoding_));
+    }
+
     std::string_view page_;
+    TextEncoding encoding_;
     std::size_t place_ = 0;     // where the search continues
     std::size_t line_end_ = 0;  // of the last line that was read
-    std::string chunk_;
+    DecodedText chunk_;
 };
 
 bool IsOnline(std::string_view chunk) {
@@ -114,12 +123,12 @@ bool IsOnline(std::string_view chunk) {
 
 }  // namespace
 
-std::vector<NewEntry> LinksOfPage(std::string_view page, LinkChoice choice) {
+std::vector<NewEntry> LinksOfPage(std::string_view page, TextEncoding encoding, LinkChoice choice) {
     std::vector<NewEntry> staged;
     std::int16_t number = 1;
-    AnchorScanner anchors(page);
-    for (auto chunk = anchors.Next(); chunk; chunk = anchors.Next()) {
-        if (choice == LinkChoice::Online && !IsOnline(*chunk)) continue;
+    AnchorScanner anchors(page, encoding);
+    while (const DecodedText* const chunk = anchors.Next()) {
+        if (choice == LinkChoice::Online && !IsOnline(chunk->Text())) continue;
         StageLink(staged, *chunk, number);
         // The counter is one ahead of the links, so the last one that it could count is refused.
         if (number == std::numeric_limits<std::int16_t>::max()) throw OverflowFault();
@@ -128,16 +137,17 @@ std::vector<NewEntry> LinksOfPage(std::string_view page, LinkChoice choice) {
     return staged;
 }
 
-void StageLink(std::vector<NewEntry>& staged, std::string_view chunk, std::int16_t number) {
+void StageLink(std::vector<NewEntry>& staged, const DecodedText& chunk, std::int16_t number) {
     if (number < 1) throw RangeFault();
-    const std::size_t quote = chunk.find('"');
+    const std::string_view text = chunk.Text();
+    const std::size_t quote = text.find('"');
     if (quote == kNowhere) throw ArgumentFault();
     CheckedShortCount(quote + 1);
     // Without a ">" the name is made of the whole chunk: npos + 1 is 0.
-    std::string_view name = chunk.substr(chunk.find('>', quote) + 1);
+    std::string_view name = text.substr(text.find('>', quote) + 1);
     CleanLinkText(name);
     staged.resize(static_cast<std::size_t>(number));
-    staged.back() = {std::string(name), std::string(chunk.substr(0, quote))};
+    staged.back() = {std::string(name), chunk.Address(0, quote)};
 }
 
 void CleanLinkText(std::string_view& text) {

@@ -1,20 +1,16 @@
-// Conversion of web pages to book text.
+// Web pages as text.
 #pragma once
 
-#include <string_view>
 #include <vector>
+
+#include "import/TextFile.h"
 
 namespace lindrel {
 
-enum class PageEncoding { Utf8, Latin2, Windows1250 };
-
-// Guesses the encoding of a page. The first that applies: a UTF-8 mark, a declaration of UTF-8, content that
-// is valid UTF-8 and not just ASCII, a declaration of ISO 8859-2; otherwise it is Windows-1250. Declarations
-// are the charset of a META tag and the encoding of an XML declaration in the first 4 KB.
-PageEncoding EncodingOfPage(std::string_view page);
-
-// A page as book text, without the mark. Each character that a book cannot hold becomes a "?", and so does
-// each byte that is not UTF-8 in a UTF-8 page.
-std::vector<char> BookTextOfPage(std::vector<char> page);
+// The text of a page. Its encoding is a guess; the first that applies: a UTF-16 or UTF-8 mark, a declaration
+// of UTF-8, content that is valid UTF-8 and not just ASCII, a declaration of ISO 8859-2; otherwise it is
+// Windows-1250. A page without a mark that declares UTF-16 is in that if the declaration itself is, and says
+// nothing otherwise. Declarations count in the first 4 KB, by any of the names that browsers know.
+TextFile TextOfPage(std::vector<char> page);
 
 }  // namespace lindrel

@@ -2,14 +2,14 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <string>
-#include <system_error>
 #include <utility>
 
 #include "book/BookText.h"
 #include "book/Faults.h"
 #include "book/File.h"
 #include "book/Files.h"
+#include "book/Folder.h"
+#include "import/DecodedText.h"
 #include "import/TextLines.h"
 
 namespace lindrel {
@@ -28,53 +28,47 @@ bool IsShortcutName(const std::wstring& name) {
 
 struct ShortcutFile {
     std::string Name;  // as book text
-    std::filesystem::path Path;
+    std::filesystem::path FileName;
 };
 
 std::vector<ShortcutFile> FilesOf(const std::filesystem::path& folder) {
     std::vector<ShortcutFile> files;
-    // A folder that cannot be opened counts as empty; one that cannot be read to its end may hide files.
-    std::error_code error;
-    std::filesystem::directory_iterator entry(folder, error);
-    while (!error && entry != std::filesystem::directory_iterator()) {
-        const std::wstring name = WideText(entry->path().filename());
-        // If this fails, it is taken for a file, so that reading it reports the reason.
-        std::error_code unknown;
-        if (IsShortcutName(name) && !entry->is_directory(unknown))
-            files.push_back({ToBookText(name), entry->path()});
-        entry.increment(error);
-        if (error) throw FileFault(WideText(folder), L"A mappa nem olvasható végig");
-    }
+    for (const std::filesystem::path& file : FilesIn(folder))
+        if (const std::wstring name = WideText(file); IsShortcutName(name))
+            files.push_back({ToBookText(name), file});
     std::sort(files.begin(), files.end(), [](const ShortcutFile& a, const ShortcutFile& b) {
-        return std::pair(LowerCase(a.Name), a.Path) < std::pair(LowerCase(b.Name), b.Path);
+        return std::pair(LowerCase(a.Name), a.FileName) < std::pair(LowerCase(b.Name), b.FileName);
     });
     return files;
 }
 
 }  // namespace
 
-std::string_view ShortcutAddress(std::string_view file) {
-    const std::size_t second = BehindLineEnd(file, EndOfLine(file, 0));
-    if (second == file.size()) throw EndOfFileFault();
-    const std::string_view line = file.substr(second, EndOfLine(file, second) - second);
+std::string ShortcutAddress(std::vector<char> bytes) {
+    const TextFile file = TextFileOf(std::move(bytes));
+    const std::string_view text = file.Text();
+    const std::size_t second = BehindLineEnd(text, EndOfLine(text, 0));
+    if (second == text.size()) throw EndOfFileFault();
+    const DecodedText line(text.substr(second, EndOfLine(text, second) - second), file.Encoding);
 
     static const CaselessNeedle key("URL=");
-    const std::size_t found = key.FindIn(line);
+    const std::size_t found = key.FindIn(line.Text());
     // Without the key three characters are lost: shortcuts of other programs have always been imported like
     // that.
     const std::size_t behind_key = found == std::string_view::npos ? 3 : found + 4;
-    if (line.size() < behind_key) throw ArgumentFault();
-    return line.substr(behind_key);
+    if (line.Text().size() < behind_key) throw ArgumentFault();
+    return line.Address(behind_key, line.Text().size());
 }
 
 std::vector<NewEntry> ShortcutsOfFolder(const std::filesystem::path& folder) {
     std::vector<NewEntry> staged;
-    for (const ShortcutFile& file : FilesOf(folder)) {
-        const std::vector<char> bytes = ReadFileBytes(file.Path);
-        const std::string_view address = ShortcutAddress({bytes.data(), bytes.size()});
-        staged.push_back({file.Name.substr(0, file.Name.size() - kExtensionLength), std::string(address)});
-        if (staged.size() > kMostShortcuts) throw OverflowFault();
-    }
+    const std::filesystem::path exact = ExactPath(folder);
+    for (const ShortcutFile& file : FilesOf(folder))
+        NamingTheFile(WideText(folder / file.FileName), [&] {
+            std::string address = ShortcutAddress(ReadFileBytes(exact / file.FileName));
+            if (staged.size() == kMostShortcuts) throw OverflowFault();
+            staged.push_back({file.Name.substr(0, file.Name.size() - kExtensionLength), std::move(address)});
+        });
     return staged;
 }
 

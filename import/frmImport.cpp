@@ -1,9 +1,9 @@
 #include "import/frmImport.h"
 
 #include <exception>
-#include <filesystem>
 
 #include "book/Files.h"
+#include "book/Folder.h"
 #include "controls/BookField.h"
 #include "controls/MsgBox.h"
 #include "controls/PopupMenu.h"
@@ -73,7 +73,7 @@ void frmImport::cmdOK_Click() {
     // Faults of the folder import have always ended in the run-time error report.
     if (!Get<CheckBox>(ID_frmImport_from_0).IsChecked()) return ImportFavoritesFolder();
 
-    file_dialog_.Filter = L"weblapok (*.htm)|*.htm";
+    file_dialog_.Filter = L"weblapok (*.htm)|*.htm;*.html";
     file_dialog_.DialogTitle = L"Válasszon ki egy weblapot";
     file_dialog_.FileName.clear();
     try {
@@ -96,8 +96,8 @@ void frmImport::ImportHtmlLinks(const std::wstring& fileName) {
     std::vector<NewEntry> links;
     {
         const WaitCursor hourglass;
-        const std::vector<char> page = BookTextOfPage(ReadFileBytes(fileName));
-        links = LinksOfPage({page.data(), page.size()}, choice_);
+        const TextFile page = TextOfPage(ReadFileBytes(fileName));
+        links = LinksOfPage(page.Text(), page.Encoding, choice_);
     }
     AddToChosenCategory(links);
     ShowResult(links.size());
@@ -108,8 +108,7 @@ void frmImport::ImportFavoritesFolder() {
     frmI_Fav picker(FavoritesPath());
     picker.ShowModal(Handle());
     // A cancelled choice gives an empty path, which is no folder.
-    std::error_code unknown;
-    if (!std::filesystem::is_directory(picker.ChosenFolder(), unknown)) return;
+    if (!FolderIsThere(picker.ChosenFolder())) return;
 
     const std::vector<NewEntry> entries = ShortcutsOfFolder(picker.ChosenFolder());
     if (entries.empty()) {

@@ -33,5 +33,24 @@ TEST(FaultsTest, EveryExceptionIsAFaultToTheUser) {
     EXPECT_EQ(Report(std::logic_error("never")), Expected(51, L"Belső hiba"));
 }
 
+TEST(FaultsTest, WhatAFileCausesIsReportedWithItsPath) {
+    using Expected = std::pair<int, std::wstring>;
+    const auto report = [](auto exception) {
+        try {
+            NamingTheFile(L"C:\\a.url", [&] { throw exception; });
+        } catch (const FileFault& fault) {
+            EXPECT_EQ(fault.Path(), L"C:\\a.url");
+            return Report(fault);
+        }
+        return Expected(0, L"");
+    };
+    EXPECT_EQ(report(EndOfFileFault()), Expected(62, L"C:\\a.url\r\nOlvasás a fájl vége után"));
+    EXPECT_EQ(report(std::bad_alloc()), Expected(7, L"C:\\a.url\r\nElfogyott a memória"));
+    // The path is the one that the user knows.
+    EXPECT_EQ(report(FileFault(L"\\\\?\\C:\\a.url", L"A hozzáférés megtagadva")),
+              Expected(75, L"C:\\a.url\r\nA hozzáférés megtagadva"));
+    EXPECT_EQ(NamingTheFile(L"C:\\a.url", [] { return 5; }), 5);
+}
+
 }  // namespace
 }  // namespace lindrel

@@ -17,12 +17,16 @@ namespace {
 
 using Links = std::vector<NewEntry>;
 
-Links All(std::string_view page) {
-    return LinksOfPage(page, LinkChoice::All);
+Links All(std::string_view page, TextEncoding encoding = TextEncoding::Windows1250) {
+    return LinksOfPage(page, encoding, LinkChoice::All);
 }
 
 Links Online(std::string_view page) {
-    return LinksOfPage(page, LinkChoice::Online);
+    return LinksOfPage(page, TextEncoding::Windows1250, LinkChoice::Online);
+}
+
+DecodedText Chunk(std::string_view text) {
+    return DecodedText(text, TextEncoding::Windows1250);
 }
 
 // A link's text after cleaning.
@@ -236,14 +240,58 @@ TEST(HtmlLinksTest, CleansByTheLastOpeningAndTheFirstClosingTag) {
     EXPECT_EQ(Cleaned("<b></b>"), "");
 }
 
+TEST(HtmlLinksTest, WhatABookLacksIsPercentEncodedInAnAddressAndAQuestionMarkInAName) {
+    // The first line is in lower case with all that its address has; letters that a book lacks keep theirs.
+    EXPECT_EQ(All("<A HREF=\"HTTP://\u043F\u0440.\u0420\u0444/\u0150?q=\u03A9\">\u041F\u0151 \u0150</A>",
+                  TextEncoding::Utf8),
+              (Links{{"?\xF5 \xF5", "http://%d0%bf%d1%80.%d0%a0%d1%84/\xF5?q=%ce%a9"}}));
+    EXPECT_EQ(All("<a href=\"/\u043F\nLAP/\u0420\">N\u00C9V \u0420</a\u0420>", TextEncoding::Utf8),
+              (Links{{"N\xC9V ?", "/%d0%bf LAP/%D0%A0"}}));
+    EXPECT_EQ(All("<a href=\"?a=?&b=\U0001F600\">?\U0001F600</a>", TextEncoding::Utf8),
+              (Links{{"??", "?a=?&b=%f0%9f%98%80"}}));
+    // Each link has its own.
+    EXPECT_EQ(All("<a href=\"\u0420\">1</a><a href=\"?\">2</a>", TextEncoding::Utf8),
+              (Links{{"1", "%d0%a0"}, {"2", "?"}}));
+}
+
+TEST(HtmlLinksTest, TheLimitsCountCharactersOfThePage) {
+    const auto times = [](std::size_t count, const std::string& character) {
+        std::string text;
+        for (std::size_t i = 0; i < count; ++i) text += character;
+        return text;
+    };
+    const auto page = [&](std::size_t address, std::size_t name) {
+        return "<a href=\"" + times(address, "\u0440") + "\"><b>" + times(name, "\u0151") + "</b></a>";
+    };
+    EXPECT_EQ(All(page(254, 251), TextEncoding::Utf8), (Links{{Times(55, '\xF5'), times(254, "%d1%80")}}));
+    EXPECT_THROW(All(page(255, 1), TextEncoding::Utf8), OverflowFault);
+    EXPECT_THROW(All(page(1, 252), TextEncoding::Utf8), OverflowFault);
+}
+
+TEST(HtmlLinksTest, ALineClosesOneCharacterBehindTheTagHoweverManyBytesThatHas) {
+    // The name is all of the chunk, and the character behind the tag in it is cut off with the tag.
+    EXPECT_EQ(All("<a href=\"1\"\nN</a\u0151>\n", TextEncoding::Utf8), (Links{{"1\" N", "1"}}));
+    EXPECT_EQ(All("<a href=\"1\">Egy\nN</a\u0151\n<a href=\"2\">x</a>", TextEncoding::Utf8),
+              (Links{{"egy N", "1"}, {"x", "2"}}));
+}
+
+TEST(HtmlLinksTest, BytesThatAreNotUtf8AreQuestionMarksInNameAndAddress) {
+    EXPECT_EQ(All("<a href=\"\xE1\xC5\">\xE2\x82</a>", TextEncoding::Utf8), (Links{{"??", "??"}}));
+}
+
+TEST(HtmlLinksTest, APageInIso8859Dash2) {
+    EXPECT_EQ(All("<A HREF=\"\xA9\xB9\">\xA5\xE1 \x84</A>", TextEncoding::Latin2),
+              (Links{{"\xBE\xE1 \x84", "\x9A\x9A"}}));
+}
+
 TEST(HtmlLinksTest, StagesUnderTheNumberAndLeavesTheOthers) {
     Links staged{{"egy", "1"}};
-    StageLink(staged, "2\">kett\xF5", 2);
+    StageLink(staged, Chunk("2\">kett\xF5"), 2);
     EXPECT_EQ(staged, (Links{{"egy", "1"}, {"kett\xF5", "2"}}));
-    EXPECT_THROW(StageLink(staged, "idez\xF5jel n\xE9lk\xFCl", 3), ArgumentFault);
-    EXPECT_THROW(StageLink(staged, Times(255, 'u') + "\">n", 3), OverflowFault);
-    EXPECT_THROW(StageLink(staged, "3\">" + Times(255, 'n') + "</b>", 3), OverflowFault);
-    EXPECT_THROW(StageLink(staged, "3\">n", 0), RangeFault);
+    EXPECT_THROW(StageLink(staged, Chunk("idez\xF5jel n\xE9lk\xFCl"), 3), ArgumentFault);
+    EXPECT_THROW(StageLink(staged, Chunk(Times(255, 'u') + "\">n"), 3), OverflowFault);
+    EXPECT_THROW(StageLink(staged, Chunk("3\">" + Times(255, 'n') + "</b>"), 3), OverflowFault);
+    EXPECT_THROW(StageLink(staged, Chunk("3\">n"), 0), RangeFault);
     EXPECT_EQ(staged, (Links{{"egy", "1"}, {"kett\xF5", "2"}}));
 }
 

@@ -8,15 +8,31 @@
 #include <utility>
 #include <vector>
 
+#include "book/BookText.h"
+#include "book/Utf8.h"
+#include "import/DecodedText.h"
+#include "tests/native/support/AnyText.h"
+
 namespace lindrel {
 namespace {
 
 std::string TextOf(std::string_view page) {
-    const std::vector<char> text = BookTextOfPage({page.begin(), page.end()});
-    return {text.begin(), text.end()};
+    const TextFile text = TextOfPage({page.begin(), page.end()});
+    return std::string(DecodedText(text.Text(), text.Encoding).Text());
 }
 
-constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
+TextEncoding EncodingOf(std::string_view page) {
+    return TextOfPage({page.begin(), page.end()}).Encoding;
+}
+
+// ASCII as UTF-16.
+std::string Wide(std::string_view ascii, ByteOrder order) {
+    std::string bytes;
+    for (const char byte : ascii)
+        bytes.append(order == ByteOrder::BigEndian ? std::string{'\0', byte} : std::string{byte, '\0'});
+    return bytes;
+}
+
 constexpr std::string_view kUtf8 =
     "\xC3\x81rv\xC3\xADzt\xC5\xB1r\xC5\x91 \xE2\x80\x9Et\xC3\xBCk\xC3\xB6r\xE2\x80\x9D";
 constexpr std::string_view kBook = "\xC1rv\xEDzt\xFBr\xF5 \x84t\xFCk\xF6r\x94";
@@ -36,46 +52,68 @@ TEST(PageTextTest, Utf8IsKnownByItsMarkItsDeclarationOrItsBytes) {
 
 TEST(PageTextTest, AnythingElseIsWindows1250) {
     EXPECT_EQ(TextOf(kBook), kBook);
-    EXPECT_EQ(EncodingOfPage(kBook), PageEncoding::Windows1250);
-    EXPECT_EQ(EncodingOfPage("<meta charset=iso-8859-1>\xE1"), PageEncoding::Windows1250);
-    EXPECT_EQ(EncodingOfPage("<meta charset=windows-1250>\xE1"), PageEncoding::Windows1250);
+    EXPECT_EQ(EncodingOf(kBook), TextEncoding::Windows1250);
+    EXPECT_EQ(EncodingOf("<meta charset=iso-8859-1>\xE1"), TextEncoding::Windows1250);
+    EXPECT_EQ(EncodingOf("<meta charset=windows-1250>\xE1"), TextEncoding::Windows1250);
 }
 
-TEST(PageTextTest, DeclarationsAreFoundHoweverTheyAreWritten) {
-    const auto encoding = [](std::string_view head) { return EncodingOfPage(std::string(head) + "\xE1"); };
-    for (const std::string_view head :
-         {"<META HTTP-EQUIV=\"Content-Type\" CONTENT=\"text/html; charset=UTF-8\">",
-          "<meta charset='utf-8'/>", "<meta charset = \" Utf8 \">",
-          "<meta name=charset content=x><meta\ncharset=utf-8 >",
-          "<?xml version=\"1.0\" encoding=\"utf-8\"?>"})
-        EXPECT_EQ(encoding(head), PageEncoding::Utf8) << head;
-    for (const std::string_view head :
-         {"<meta http-equiv=\"Content-Type\" content=\"text/html; charset=ISO-8859-2\">",
-          "<META content='text/html;charset=iso8859-2;x'>", "<meta charset=Latin2>",
-          "<?xml version='1.0' encoding='iso-8859-2' ?>"})
-        EXPECT_EQ(encoding(head), PageEncoding::Latin2) << head;
-    for (const std::string_view head :
-         {"charset=utf-8", "<p charset=utf-8>", "<meta name=a> charset=utf-8", "<meta charset",
-          "<meta charset=", "<meta charset=utf-80>", "<meta charset=utf-16>", "<metacharset>"})
-        EXPECT_EQ(encoding(head), PageEncoding::Windows1250) << head;
+TEST(PageTextTest, EveryNameThatBrowsersKnowIsKnown) {
+    const auto encoding = [](std::string_view name) {
+        return EncodingOf("<meta charset=\"" + std::string(name) + "\">\xE1");
+    };
+    for (const std::string_view name :
+         {"utf-8", "utf8", "unicode-1-1-utf-8", "unicode11utf8", "unicode20utf8", "x-unicode20utf8", "UTF-8"})
+        EXPECT_EQ(encoding(name), TextEncoding::Utf8) << name;
+    for (const std::string_view name :
+         {"iso-8859-2", "iso8859-2", "iso88592", "iso_8859-2", "iso_8859-2:1987", "iso-ir-101", "latin2",
+          "l2", "csisolatin2", "ISO-8859-2"})
+        EXPECT_EQ(encoding(name), TextEncoding::Latin2) << name;
+    // Bytes in which these names can be read are not UTF-16.
+    for (const std::string_view name :
+         {"windows-1250", "cp1250", "x-cp1250", "utf-16", "utf-16le", "utf-16be", "unicode", "unicodefeff",
+          "unicodefffe", "csunicode", "ucs-2", "iso-10646-ucs-2", "iso-8859-1", "utf-80", "utf", ""})
+        EXPECT_EQ(encoding(name), TextEncoding::Windows1250) << name;
+}
+
+TEST(PageTextTest, Utf16IsKnownByItsMark) {
+    const std::string little =
+        std::string("\xFF\xFE") + Wide("<meta charset=iso-8859-2>", ByteOrder::LittleEndian);
+    EXPECT_EQ(TextOf(little + "\x51\x01\x91\x21"), "<meta charset=iso-8859-2>\xF5?");
+    const std::string big = std::string("\xFE\xFF") + Wide("<a href=\"x\">", ByteOrder::BigEndian);
+    EXPECT_EQ(TextOf(big + "\x01\x51\x01\x71"), "<a href=\"x\">\xF5\xFB");
+    EXPECT_EQ(TextOf("\xFF\xFE"), "");
+    EXPECT_EQ(TextOf("\xFF\xFE\x51"), "?");
+}
+
+TEST(PageTextTest, Utf16WithoutAMarkIsKnownByADeclarationInIt) {
+    for (const ByteOrder order : {ByteOrder::LittleEndian, ByteOrder::BigEndian})
+        for (const std::string_view name : {"utf-16", "utf-16le", "UTF-16BE", "unicode", "ucs-2"}) {
+            const std::string page = "<html><meta charset=" + std::string(name) + "><a href=\"x\">";
+            EXPECT_EQ(TextOf(Wide(page, order)), page);
+        }
+    for (const std::string_view page :
+         {"<meta charset=utf-8>", "<p>utf-16", "<!--<meta charset=utf-16>-->"}) {
+        const std::string wide = Wide(page, ByteOrder::LittleEndian);
+        EXPECT_EQ(TextOf(wide), wide);
+    }
 }
 
 TEST(PageTextTest, ADeclarationFarFromTheTopDoesNotCount) {
     const std::string declaration = "<meta charset=utf-8>";
     const std::string bytes = "\xE1";
-    EXPECT_EQ(EncodingOfPage(std::string(4096 - declaration.size(), ' ') + declaration + bytes),
-              PageEncoding::Utf8);
-    EXPECT_EQ(EncodingOfPage(std::string(4096, ' ') + declaration + bytes), PageEncoding::Windows1250);
+    EXPECT_EQ(EncodingOf(std::string(4096 - declaration.size(), ' ') + declaration + bytes),
+              TextEncoding::Utf8);
+    EXPECT_EQ(EncodingOf(std::string(4096, ' ') + declaration + bytes), TextEncoding::Windows1250);
 }
 
 TEST(PageTextTest, AMarkWinsThenDeclaredUtf8ThenValidBytesThenLatin2) {
     const std::string latin2 = "<meta charset=iso-8859-2>";
     const std::string utf8 = "<meta charset=utf-8>";
-    EXPECT_EQ(EncodingOfPage(std::string(kUtf8Mark) + latin2 + "\xE1"), PageEncoding::Utf8);
-    EXPECT_EQ(EncodingOfPage(utf8 + "\xE1"), PageEncoding::Utf8);
-    EXPECT_EQ(EncodingOfPage(latin2 + std::string(kUtf8)), PageEncoding::Utf8);
-    EXPECT_EQ(EncodingOfPage(latin2 + "\xE1"), PageEncoding::Latin2);
-    EXPECT_EQ(EncodingOfPage(latin2), PageEncoding::Latin2);
+    EXPECT_EQ(EncodingOf(std::string(kUtf8Mark) + latin2 + "\xE1"), TextEncoding::Utf8);
+    EXPECT_EQ(EncodingOf(utf8 + "\xE1"), TextEncoding::Utf8);
+    EXPECT_EQ(EncodingOf(latin2 + std::string(kUtf8)), TextEncoding::Utf8);
+    EXPECT_EQ(EncodingOf(latin2 + "\xE1"), TextEncoding::Latin2);
+    EXPECT_EQ(EncodingOf(latin2), TextEncoding::Latin2);
 }
 
 TEST(PageTextTest, BrokenBytesOfDeclaredUtf8BecomeQuestionMarksOneByOne) {
@@ -116,6 +154,21 @@ TEST(PageTextTest, LongPagesAreReadWholeWhereverTheyLeaveAscii) {
         const std::string ascii(length, 'a');
         EXPECT_EQ(TextOf(ascii + "\xC5\x91" + ascii), ascii + "\xF5" + ascii);
         EXPECT_EQ(TextOf(ascii + "\xF5" + ascii), ascii + "\xF5" + ascii);
+    }
+}
+
+// Any text comes back from a page in any encoding that has its characters.
+TEST(PageTextTest, AnyTextComesBackFromAnyEncoding) {
+    testing::Dice dice;
+    for (int round = 0; round < 2000; ++round) {
+        std::u32string text;
+        for (std::size_t i = dice.Roll(40); i > 0; --i) text += testing::AnyCharacter(dice);
+        std::string expected;
+        for (const char32_t character : text) expected.push_back(BookByte(character).value_or('?'));
+        EXPECT_EQ(TextOf(testing::Utf16(U'\uFEFF' + text, ByteOrder::LittleEndian)), expected);
+        EXPECT_EQ(TextOf(testing::Utf16(U'\uFEFF' + text, ByteOrder::BigEndian)), expected);
+        EXPECT_EQ(TextOf(testing::Utf8(U'\uFEFF' + text)), expected);
+        EXPECT_EQ(TextOf("<meta charset=utf8>" + testing::Utf8(text)), "<meta charset=utf8>" + expected);
     }
 }
 

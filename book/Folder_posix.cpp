@@ -1,0 +1,42 @@
+#include <system_error>
+
+#include "book/Faults.h"
+#include "book/File.h"
+#include "book/Folder.h"
+
+namespace lindrel {
+
+std::filesystem::path ExactPath(const std::filesystem::path& path) {
+    return path;
+}
+
+std::filesystem::path LongPath(const std::filesystem::path& path) {
+    return path;
+}
+
+std::vector<std::filesystem::path> FilesIn(const std::filesystem::path& folder) {
+    std::vector<std::filesystem::path> names;
+    std::error_code error;
+    std::filesystem::directory_iterator entry(folder, error);
+    while (!error && entry != std::filesystem::directory_iterator()) {
+        // If this fails, it is taken for a file, so that reading it reports the reason.
+        std::error_code unknown;
+        if (!entry->is_directory(unknown)) names.push_back(entry->path().filename());
+        entry.increment(error);
+        if (error) throw FileFault(WideText(folder), L"A mappa nem olvasható végig");
+    }
+    return names;
+}
+
+bool FolderIsThere(const std::filesystem::path& folder) {
+    std::error_code unknown;
+    return std::filesystem::is_directory(folder, unknown);
+}
+
+void CreateFolder(const std::filesystem::path& folder) {
+    std::error_code error;
+    std::filesystem::create_directory(folder, error);
+    if (error && !FolderIsThere(folder)) throw FileFault(WideText(folder), L"A mappa nem hozható létre");
+}
+
+}  // namespace lindrel
