@@ -2,7 +2,6 @@
 
 #include <string>
 #include <string_view>
-#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -10,6 +9,7 @@
 #include "book/Faults.h"
 #include "book/File.h"
 #include "book/Files.h"
+#include "book/Folder.h"
 #include "book/PerCategory.h"
 #include "export/ExportedEntries.h"
 #include "export/Shortcut.h"
@@ -40,19 +40,11 @@ std::vector<ShortcutToWrite> PlanShortcuts(const Book& book, const std::filesyst
             folder_for_each_category ? folder / PathOf(SafeFolderName(book.CategoryNames(c))) : folder;
         for (const int e : ExportedEntries(book, c)) {
             std::string name(book.SiteNames(e));
-            SafeFileName(name);
+            NamingTheFile(WideText(target / PathOf(name + ".url")), [&] { SafeFileName(name); });
             plan.push_back({e, std::move(name), target});
         }
     }
     return plan;
-}
-
-void CreateFolder(const std::filesystem::path& folder) {
-    std::error_code error;
-    std::filesystem::create_directory(folder, error);
-    std::error_code unknown;
-    if (error && !std::filesystem::is_directory(folder, unknown))
-        throw FileFault(WideText(folder), L"A mappa nem hozható létre");
 }
 
 }  // namespace

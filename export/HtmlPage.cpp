@@ -1,6 +1,7 @@
 #include "export/HtmlPage.h"
 
 #include <cstddef>
+#include <initializer_list>
 
 #include "Version.h"
 #include "book/BookText.h"
@@ -32,7 +33,7 @@ class PageWriter {
   public:
     PageWriter(const Book& book, const PageStyle& style, const ByteSink& out)
         : book_(book), style_(style), out_(out) {
-        for (const std::string& part : style.ThemeParts) parts_.push_back(HtmlFragment(part));
+        for (const std::string& part : style.ThemeParts) AppendHtmlFragment(parts_.emplace_back(), part);
         // WriteCategory() opens a row too. Exported pages have always had both.
         std::string& open_inner = parts_.at(kOpenInnerTable);
         if (!ContainsRow(open_inner)) open_inner.append("\r\n").append(kOpenRow);
@@ -40,48 +41,64 @@ class PageWriter {
 
     void Write() {
         WriteHead();
-        Line(parts_.at(kOpenTable));
+        Line({parts_.at(kOpenTable)});
         for (int c = 1; c <= kCategories; ++c)
             if (IsExported(book_, c)) WriteCategory(c);
-        Text("</TABLE><BR><BR><BR></BODY></HTML>");
+        Text({"</TABLE><BR><BR><BR></BODY></HTML>"});
+        HandOut();
     }
 
   private:
-    void Text(std::string_view text) { out_(text); }
-    void Line(std::string_view text) { out_(std::string(text) + "\r\n"); }
+    void Text(std::initializer_list<std::string_view> pieces) {
+        for (const std::string_view piece : pieces) page_.append(piece);
+    }
+    void Line(std::initializer_list<std::string_view> pieces) {
+        Text(pieces);
+        page_.append("\r\n");
+    }
+    void HandOut() {
+        out_(page_);
+        page_.clear();
+    }
 
     void WriteHead() {
         // Programs that read exported pages know this head by its single slashes, missing quotation marks and
         // mixed case.
-        Line(R"(<!DOCTYPE HTML PUBLIC "-/W3C/DTD HTML 4.0 Transitional/EN">)");
-        Line("<html><head>");
-        if (parts_.size() > kHeadLine) Line(parts_[kHeadLine]);
-        Line("<TITLE>" + HtmlText(style_.Title) + "</TITLE>");
-        Line("<meta http-equiv=Content-Type content=text/html; charset=iso-8859-2>");
-        Line(R"(<META NAME="GENERATOR" content="Lindrel - )" LINDREL_HOME_PAGE R"(">)");
-        if (!style_.ThemeApplied) Line(R"(<BASEFONT FACE="Arial,Helvetica">)");
-        Text("</HEAD><BODY ");
+        Line({R"(<!DOCTYPE HTML PUBLIC "-/W3C/DTD HTML 4.0 Transitional/EN">)"});
+        Line({"<html><head>"});
+        if (parts_.size() > kHeadLine) Line({parts_[kHeadLine]});
+        page_.append("<TITLE>");
+        AppendHtmlText(page_, style_.Title).append("</TITLE>\r\n");
+        Line({"<meta http-equiv=Content-Type content=text/html; charset=iso-8859-2>"});
+        Line({R"(<META NAME="GENERATOR" content="Lindrel - )" LINDREL_HOME_PAGE R"(">)"});
+        if (!style_.ThemeApplied) Line({R"(<BASEFONT FACE="Arial,Helvetica">)"});
+        Text({"</HEAD><BODY "});
         if (!style_.ThemeApplied)
-            Text("BGCOLOR=" + style_.Background + R"( link="#725E50" vlink="#990000" alink="#ff0000" text=)" +
-                 style_.Text);
-        Line("><BR><BR>");
+            Text({"BGCOLOR=", style_.Background, R"( link="#725E50" vlink="#990000" alink="#ff0000" text=)",
+                  style_.Text});
+        Line({"><BR><BR>"});
     }
 
     void WriteCategory(int category) {
-        Line(parts_.at(kBeforeName) + HtmlText(book_.CategoryNames(category)) + parts_.at(kAfterName));
-        Line("</TD></TR>");
-        Line("<TR><TD>");
-        Line(parts_.at(kOpenInnerTable) + "\r\n" + std::string(kOpenRow));
-        for (const int e : ExportedEntries(book_, category))
-            Line("<A HREF=" + HtmlAddress(book_.SiteURLs(e)) + ">" + HtmlText(book_.SiteNames(e)) +
-                 "</A><BR>");
-        Line(parts_.at(kBeforeClosing) + "</td></tr></table></TD></TR>");
+        page_.append(parts_.at(kBeforeName));
+        AppendHtmlText(page_, book_.CategoryNames(category)).append(parts_.at(kAfterName)).append("\r\n");
+        Line({"</TD></TR>"});
+        Line({"<TR><TD>"});
+        Line({parts_.at(kOpenInnerTable), "\r\n", kOpenRow});
+        for (const int e : ExportedEntries(book_, category)) {
+            page_.append("<A HREF=");
+            AppendHtmlAddress(page_, book_.SiteURLs(e)).append(">");
+            AppendHtmlText(page_, book_.SiteNames(e)).append("</A><BR>\r\n");
+        }
+        Line({parts_.at(kBeforeClosing), "</td></tr></table></TD></TR>"});
+        HandOut();
     }
 
     const Book& book_;
     const PageStyle& style_;
     const ByteSink& out_;
     Fragments parts_;
+    std::string page_;  // what has not been handed out yet
 };
 
 }  // namespace

@@ -1,88 +1,125 @@
 #include "export/HtmlText.h"
 
+#include <algorithm>
+#include <array>
 #include <cstddef>
 #include <optional>
 
 #include "book/BookText.h"
 #include "book/Characters.h"
 #include "book/Latin2.h"
+#include "book/Utf8.h"
 
 namespace lindrel {
 
 namespace {
 
-constexpr std::string_view kEndsAnAddress = " \t\n\f'`";
-
-void AppendReference(std::string& html, char32_t character) {
-    html.append("&#").append(std::to_string(static_cast<unsigned long>(character))).append(";");
+std::string Reference(char32_t character) {
+    return "&#" + std::to_string(static_cast<unsigned long>(character)) + ";";
 }
 
-void AppendCharacter(std::string& html, char32_t character) {
+// The four ways in which a byte of book text can be written.
+
+std::string InFragment(char byte) {
     // Bytes 80 to 9F must not become references: browsers take those numbers for Windows-1252.
-    if (const auto byte = Latin2Byte(character))
-        html.push_back(*byte);
-    else
-        AppendReference(html, character);
+    const char32_t character = CharacterOf(byte);
+    const std::optional<char> encoded = Latin2Byte(character);
+    return encoded ? std::string(1, *encoded) : Reference(character);
 }
 
-// Returns false for a character that needs no escape.
-bool AppendEscaped(std::string& html, char32_t character) {
-    switch (character) {
-        case U'&':
-            html += "&amp;";
-            return true;
-        case U'<':
-            html += "&lt;";
-            return true;
-        case U'>':
-            html += "&gt;";
-            return true;
-        case U'"':
-            html += "&quot;";
-            return true;
-        case U'\r':
+std::string InText(char byte) {
+    switch (byte) {
+        case '&':
+            return "&amp;";
+        case '<':
+            return "&lt;";
+        case '>':
+            return "&gt;";
+        case '"':
+            return "&quot;";
+        case '\r':
             // Unescaped, a browser would read it as a line feed.
-            AppendReference(html, character);
-            return true;
+            return Reference(U'\r');
         default:
-            return false;
+            return InFragment(byte);
     }
+}
+
+std::string InAddress(char byte) {
+    constexpr std::string_view kEndsAnAddress = " \t\n\f'`";
+    return kEndsAnAddress.find(byte) != std::string_view::npos ? Reference(CharacterOf(byte)) : InText(byte);
+}
+
+std::string InQuery(char byte) {
+    return static_cast<unsigned char>(byte) < 0x80 ? InAddress(byte) : PercentEncoded(CharacterOf(byte));
+}
+
+// One of these ways for all bytes. What stays as it is, nearly everything, is appended in one piece.
+class Encoder {
+  public:
+    explicit Encoder(std::string (*encode)(char byte)) {
+        for (std::size_t number = 0; number < encoded_.size(); ++number) {
+            const char byte = static_cast<char>(number);
+            encoded_[number] = encode(byte);
+            same_[number] = encoded_[number] == std::string(1, byte);
+        }
+    }
+
+    std::string& Append(std::string& page, std::string_view text) const {
+        while (!text.empty()) {
+            const auto other = std::find_if_not(text.begin(), text.end(), [this](char byte) {
+                return same_[static_cast<unsigned char>(byte)];
+            });
+            page.append(text.begin(), other);
+            text.remove_prefix(static_cast<std::size_t>(other - text.begin()));
+            if (text.empty()) break;
+            page.append(encoded_[static_cast<unsigned char>(text.front())]);
+            text.remove_prefix(1);
+        }
+        return page;
+    }
+
+  private:
+    std::array<std::string, 256> encoded_;
+    std::array<bool, 256> same_{};
+};
+
+const Encoder& TextEncoder() {
+    static const Encoder encoder(&InText);
+    return encoder;
 }
 
 }  // namespace
 
-std::string HtmlText(std::wstring_view text) {
+std::string& AppendHtmlText(std::string& page, std::wstring_view text) {
     constexpr char32_t kReplacement = 0xFFFD;
-    std::string html;
     for (std::size_t place = 0; place < text.size();) {
-        char32_t character = NextCharacter(text, place);
-        if (IsSurrogate(character)) character = kReplacement;
-        if (!AppendEscaped(html, character)) AppendCharacter(html, character);
-    }
-    return html;
-}
-
-std::string HtmlText(std::string_view book_text) {
-    return HtmlText(FromBookText(book_text));
-}
-
-std::string HtmlAddress(std::string_view book_text) {
-    std::string html;
-    for (const char byte : book_text) {
-        const char32_t character = CharacterOf(byte);
-        if (AppendEscaped(html, character)) continue;
-        if (kEndsAnAddress.find(byte) != std::string_view::npos)
-            AppendReference(html, character);
+        const char32_t character = NextCharacter(text, place);
+        if (const std::optional<char> byte = BookByte(character))
+            TextEncoder().Append(page, {&*byte, 1});
         else
-            AppendCharacter(html, character);
+            page.append(Reference(IsSurrogate(character) ? kReplacement : character));
     }
-    return html;
+    return page;
 }
 
-std::string HtmlFragment(std::string_view book_text) {
-    std::string html;
-    for (const char byte : book_text) AppendCharacter(html, CharacterOf(byte));
-    return html;
+std::string& AppendHtmlText(std::string& page, std::string_view book_text) {
+    return TextEncoder().Append(page, book_text);
+}
+
+std::string& AppendHtmlAddress(std::string& page, std::string_view book_text) {
+    static const Encoder address(&InAddress);
+    static const Encoder query(&InQuery);
+    const std::string_view whole = book_text.substr(0, book_text.find('#'));
+    const std::size_t path = std::min(whole.find('?'), whole.size());
+    address.Append(page, whole.substr(0, path));
+    query.Append(page, whole.substr(path));
+    return address.Append(page, book_text.substr(whole.size()));
+}
+
+std::string& AppendHtmlFragment(std::string& page, std::string_view book_text) {
+    static const Encoder fragment(&InFragment);
+    return fragment.Append(page, book_text);
 }
 
 }  // namespace lindrel

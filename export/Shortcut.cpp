@@ -1,5 +1,7 @@
 #include "export/Shortcut.h"
 
+#include <algorithm>
+#include <array>
 #include <cstddef>
 #include <optional>
 
@@ -17,6 +19,16 @@ constexpr std::string_view kNotInFolderNames = "\\/:?*\"<>|";
 wchar_t UpperCaseOfWide(wchar_t character) {
     const std::optional<char> byte = BookByte(static_cast<char32_t>(character));
     return byte ? static_cast<wchar_t>(CharacterOf(UpperCase(*byte))) : character;
+}
+
+// Whether Windows finds a device under a name, whatever extension it has. Blanks behind the name do not help.
+bool IsDeviceName(std::string_view base) {
+    constexpr std::array<std::string_view, 6> kDevices = {"aux", "con", "conin$", "conout$", "nul", "prn"};
+    const std::string name = LowerCase(base.substr(0, base.find_last_not_of(' ') + 1));
+    if (std::find(kDevices.begin(), kDevices.end(), name) != kDevices.end()) return true;
+    constexpr std::size_t kPortLength = 4;  // "com1"
+    return name.size() == kPortLength && (name.starts_with("com") || name.starts_with("lpt")) &&
+           name.back() >= '0' && name.back() <= '9';
 }
 
 }  // namespace
@@ -41,7 +53,10 @@ std::string SafeFolderName(std::string_view name) {
     for (char& byte : safe)
         if (kNotInFolderNames.find(byte) != std::string_view::npos || static_cast<unsigned char>(byte) < ' ')
             byte = '_';
-    if (!safe.empty() && (safe.back() == '.' || safe.back() == ' ')) safe.back() = '_';
+    // Windows drops them.
+    if (safe.ends_with('.') || safe.ends_with(' ')) safe.push_back('_');
+    const std::size_t base = std::min(safe.find('.'), safe.size());
+    if (IsDeviceName(safe.substr(0, base))) safe.insert(base, 1, '_');
     return safe;
 }
 

@@ -17,8 +17,8 @@ void MakeShortcutFileName(std::string& name);
 // to be replaced: users know the export to refuse such names.
 void SafeFileName(std::string& name);
 
-// The folder name for a category: "_" replaces every character that is invalid in folder names, and a full
-// stop or a blank at the end.
+// The folder name for a category: "_" replaces every character that is invalid in folder names, and stands
+// behind a full stop or a blank at the end and behind a name that Windows keeps for a device, such as NUL.
 std::string SafeFolderName(std::string_view name);
 
 // The folder for shortcuts on the desktop: that of the desktop in upper case, up to the first character from

@@ -11,16 +11,35 @@
 #include <vector>
 
 #include "book/Book.h"
+#include "book/BookText.h"
 #include "book/Faults.h"
+#include "book/File.h"
+#include "book/Latin2.h"
 #include "export/Favorites.h"
 #include "export/HtmlPage.h"
 #include "export/HtmlText.h"
 #include "export/Shortcut.h"
 #include "export/TextList.h"
+#include "tests/native/support/AnyText.h"
 #include "tests/native/support/TemporaryFolder.h"
 
 namespace lindrel {
 namespace {
+
+std::string HtmlText(auto text) {
+    std::string page;
+    return AppendHtmlText(page, text);
+}
+
+std::string HtmlAddress(std::string_view text) {
+    std::string page;
+    return AppendHtmlAddress(page, text);
+}
+
+std::string HtmlFragment(std::string_view text) {
+    std::string page;
+    return AppendHtmlFragment(page, text);
+}
 
 class ExportTest : public ::testing::Test {
   protected:
@@ -177,22 +196,80 @@ TEST_F(ExportTest, AThemeWithoutFieldsKeepsTheDefaultsAndASeventhFieldIsAFault) 
 
 TEST_F(ExportTest, NothingOfAnEntryIsMarkup) {
     book.SetSiteName(book.IndexOf(2, 1), "\"><script>alert(1)</script> & 'x' \x84 \xA5");
-    book.SetSiteURL(book.IndexOf(2, 1), "http://a.hu/?q=1&copy=2 3\t\"'<>`\x96\xB9");
+    book.SetSiteURL(book.IndexOf(2, 1), "http://a.hu/\x96\xB9?q=1&copy=2 3\t\"'<>`");
     EXPECT_EQ(HtmlText(book.SiteNames(book.IndexOf(2, 1))),
               "&quot;&gt;&lt;script&gt;alert(1)&lt;/script&gt; &amp; 'x' &#8222; \xA1");
     EXPECT_EQ(HtmlAddress(book.SiteURLs(book.IndexOf(2, 1))),
-              "http://a.hu/?q=1&amp;copy=2&#32;3&#9;&quot;&#39;&lt;&gt;&#96;&#8211;\xB1");
+              "http://a.hu/&#8211;\xB1?q=1&amp;copy=2&#32;3&#9;&quot;&#39;&lt;&gt;&#96;");
 }
 
 TEST_F(ExportTest, PlainTextIsWrittenAsItStandsAndTheRestAsReferences) {
-    EXPECT_EQ(HtmlText(L"árvíztűrő ŐŰ"), "\xE1rv\xEDzt\xFBr\xF5 \xD5\xDB");
-    EXPECT_EQ(HtmlText(L"Ω ☺ \x81\r\n"), "&#937; &#9786; \x81&#13;\n");
+    EXPECT_EQ(HtmlText(std::wstring_view(L"árvíztűrő ŐŰ")), "\xE1rv\xEDzt\xFBr\xF5 \xD5\xDB");
+    EXPECT_EQ(HtmlText(std::wstring_view(L"Ω ☺ \x81\r\n")), "&#937; &#9786; \x81&#13;\n");
     const std::wstring smile =
         sizeof(wchar_t) == 2 ? L"\xD83D\xDE00" : std::wstring(1, static_cast<wchar_t>(0x1F600));
-    EXPECT_EQ(HtmlText(smile), "&#128512;");
-    EXPECT_EQ(HtmlText(std::wstring(1, static_cast<wchar_t>(0xD83D))), "&#65533;");
+    EXPECT_EQ(HtmlText(std::wstring_view(smile)), "&#128512;");
+    EXPECT_EQ(HtmlText(std::wstring_view(L"\xD83D", 1)), "&#65533;");
     EXPECT_EQ(HtmlAddress("http://a.hu/~x?y=z;k#v"), "http://a.hu/~x?y=z;k#v");
     EXPECT_EQ(HtmlFragment("<p title=\"a & b\">\xE1\x8A</p>"), "<p title=\"a & b\">\xE1\xA9</p>");
+}
+
+TEST_F(ExportTest, AQueryIsPercentEncodedBeyondAscii) {
+    EXPECT_EQ(HtmlAddress("http://\xF5.hu/\xF5?\xF5=\x80&\xE1#\xF5?\xF5"),
+              "http://\xF5.hu/\xF5?%C5%91=%E2%82%AC&amp;%C3%A1#\xF5?\xF5");
+    EXPECT_EQ(HtmlAddress("#?\xF5"), "#?\xF5");
+    EXPECT_EQ(HtmlAddress("?\xF5?\x81"), "?%C5%91?%C2%81");
+    EXPECT_EQ(HtmlAddress("?%C5%91&a"), "?%C5%91&amp;a");  // what is encoded already stays
+}
+
+// Reads the references of an exported text as a browser does.
+std::u32string Decoded(std::string_view html) {
+    const std::map<std::string_view, char32_t> names = {
+        {"amp", U'&'}, {"lt", U'<'}, {"gt", U'>'}, {"quot", U'"'}};
+    std::u32string text;
+    while (!html.empty()) {
+        if (html.front() != '&') {
+            text.push_back(Latin2Character(html.front()));
+            html.remove_prefix(1);
+            continue;
+        }
+        const std::string_view name = html.substr(1, html.find(';') - 1);
+        text.push_back(name.front() == '#' ? static_cast<char32_t>(std::stoul(std::string(name.substr(1))))
+                                           : names.at(name));
+        html.remove_prefix(name.size() + 2);
+    }
+    return text;
+}
+
+std::string Unescaped(const std::u32string& address) {
+    std::string bytes;
+    for (std::size_t i = 0; i < address.size(); ++i) {
+        const bool escape = address[i] == U'%';
+        const std::u32string digits = escape ? address.substr(i + 1, 2) : U"";
+        bytes += escape ? std::string(1, static_cast<char>(std::stoi(
+                                             std::string(digits.begin(), digits.end()), nullptr, 16)))
+                        : testing::Utf8({address[i]});
+        if (escape) i += 2;
+    }
+    return bytes;
+}
+
+TEST_F(ExportTest, AnyTextComesBackFromThePage) {
+    testing::Dice dice;
+    for (int round = 0; round < 5000; ++round) {
+        std::string text;
+        std::u32string characters;
+        for (std::size_t i = dice.Roll(60); i > 0; --i) {
+            const auto byte = static_cast<char>(dice.Roll(256));
+            if (byte == '%') continue;
+            text.push_back(byte);
+            characters.push_back(CharacterOf(byte));
+        }
+        EXPECT_EQ(Decoded(HtmlText(std::string_view(text))), characters);
+        EXPECT_EQ(Decoded(HtmlText(std::wstring_view(FromBookText(text)))), characters);
+        EXPECT_EQ(Unescaped(Decoded(HtmlAddress(text))), testing::Utf8(characters));
+        EXPECT_EQ(HtmlAddress(text).find_first_of(" \t\r\n\f\"'`<>"), std::string::npos);
+    }
 }
 
 TEST_F(ExportTest, AShortcutFileHasTwoLinesAndNoEnd) {
@@ -222,9 +299,25 @@ TEST_F(ExportTest, FourCharactersAreReplacedInNames) {
 TEST_F(ExportTest, FolderNamesAreMadeSafe) {
     EXPECT_EQ(SafeFolderName("H\xEDrek"), "H\xEDrek");
     EXPECT_EQ(SafeFolderName("a\\b/c:d?e*f\"g<h>i|j\tk"), "a_b_c_d_e_f_g_h_i_j_k");
-    EXPECT_EQ(SafeFolderName("vége."), "vége_");
-    EXPECT_EQ(SafeFolderName(".. "), ".._");
+    EXPECT_EQ(SafeFolderName("vége."), "vége._");
+    EXPECT_EQ(SafeFolderName("vége "), "vége _");
+    EXPECT_EQ(SafeFolderName(".. "), ".. _");
+    EXPECT_EQ(SafeFolderName("."), "._");
+    EXPECT_EQ(SafeFolderName(" eleje .közepe"), " eleje .közepe");
     EXPECT_EQ(SafeFolderName(""), "");
+}
+
+TEST_F(ExportTest, FolderNamesAreNoDevices) {
+    for (const std::string name : {"CON", "con", "PRN", "aux", "NUL", "COM0", "COM1", "com9", "LPT1", "Lpt9",
+                                   "CONIN$", "conout$", "NUL "}) {
+        EXPECT_EQ(SafeFolderName(name + ".1"), name + "_.1");
+        EXPECT_EQ(SafeFolderName(name), name + "_");
+    }
+    EXPECT_EQ(SafeFolderName("NUL:"), "NUL_");
+    EXPECT_EQ(SafeFolderName("nul.a."), "nul_.a._");
+    for (const std::string name :
+         {"CO", "CONN", "COM", "COM10", "COMA", "LPT", "NULL", " NUL", "a.NUL", "CONIN", "AUX_"})
+        EXPECT_EQ(SafeFolderName(name), name);
 }
 
 TEST_F(ExportTest, TheDesktopsPathEndsAtTheFirstOtherCharacter) {
@@ -286,7 +379,14 @@ TEST_F(FavoritesTest, ANameThatIsTooLongLeavesBookAndFolderAsTheyWere) {
     book.SetSiteName(book.IndexOf(2, 1), "a:b");
     book.SetSiteName(book.IndexOf(2, 2), std::string(255, 'n') + ":");
     Check(2, {1, 2});
-    EXPECT_THROW(saveTo_fav(book, folder, false), OverflowFault);
+    try {
+        saveTo_fav(book, folder, false);
+        FAIL();
+    } catch (const FileFault& fault) {
+        EXPECT_EQ(fault.Number(), 6);
+        EXPECT_EQ(fault.Meaning(), L"Túlcsordulás");
+        EXPECT_EQ(fault.Path(), WideText(folder) + L"/" + std::wstring(255, L'n') + L":.url");
+    }
     EXPECT_EQ(Files(), (std::map<std::string, std::string>{}));
     EXPECT_EQ(book.SiteNames(book.IndexOf(2, 1)), "a:b");
 }
