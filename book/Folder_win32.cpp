@@ -14,22 +14,20 @@ struct CloseSearch {
     void operator()(HANDLE search) const noexcept { FindClose(search); }
 };
 
-constexpr wchar_t kExact[] = LR"(\\?\)";
-
 }  // namespace
 
 std::filesystem::path ExactPath(const std::filesystem::path& path) {
     const std::wstring plain = std::filesystem::path(path).make_preferred().native();
-    if (plain.starts_with(kExact)) return path;
+    if (plain.starts_with(LR"(\\?\)") || plain.starts_with(LR"(\\.\)")) return path;
     if (plain.starts_with(LR"(\\)")) return LR"(\\?\UNC\)" + plain.substr(2);
-    return kExact + plain;
+    const bool has_drive = plain.find(LR"(:\)") == 1;
+    return has_drive ? LR"(\\?\)" + plain : path;
 }
 
 std::filesystem::path LongPath(const std::filesystem::path& path) {
     // A new folder must leave room for a short file name in it.
     constexpr std::size_t kShortName = 12;
-    const bool is_short = path.native().size() < MAX_PATH - kShortName;
-    return is_short || path.is_relative() ? path : ExactPath(path);
+    return path.native().size() < MAX_PATH - kShortName ? path : ExactPath(path);
 }
 
 std::vector<std::filesystem::path> FilesIn(const std::filesystem::path& folder) {
@@ -48,7 +46,7 @@ std::vector<std::filesystem::path> FilesIn(const std::filesystem::path& folder) 
 }
 
 bool FolderIsThere(const std::filesystem::path& folder) {
-    const DWORD attributes = GetFileAttributesW(LongPath(folder).c_str());
+    const DWORD attributes = GetFileAttributesW(ExactPath(folder).c_str());
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 

@@ -20,10 +20,12 @@ namespace lindrel::testing {
 // What the browser finds on a page. Texts are UTF-8, percent-encoded like those of encodeURIComponent.
 struct PageInBrowser {
     std::string Title;
-    std::vector<std::string> Links;  // "address,text"
-    std::string Elements;            // "A 3 BODY 1 ..."
-    std::string Handlers;            // names of attributes with scripts
-    std::string Ran;                 // the value of window.ran, which only a script on the page can set
+    std::vector<std::string> Links;    // "address,text"
+    std::vector<std::string> Targets;  // where the links lead, in full
+    std::string Charset;
+    std::string Elements;  // "A 3 BODY 1 ..."
+    std::string Handlers;  // names of attributes with scripts
+    std::string Ran;       // the value of window.ran, which only a script on the page can set
 };
 
 // Adds a script to the page that reports what is on it. Each browser has its own temporary profile.
@@ -40,7 +42,8 @@ class Browser {
             }
             const links = [...document.querySelectorAll('a')].map(
                 a => texts(a.getAttribute('href')) + ',' + texts(a.textContent)).join(';');
-            const report = [texts(document.title), links,
+            const targets = [...document.querySelectorAll('a')].map(a => texts(a.href)).join(';');
+            const report = [texts(document.title), links, targets, document.characterSet,
                             Object.keys(counts).sort().map(tag => tag + ' ' + counts[tag]).join(' '),
                             handlers.join(' '), String(window.ran)];
             document.documentElement.textContent = '[[' + report.join('|') + ']]';
@@ -52,9 +55,11 @@ class Browser {
         const std::vector<std::string> parts = SplitAt(report, '|');
         found.Title = parts.at(0);
         found.Links = SplitAt(parts.at(1), ';');
-        found.Elements = parts.at(2);
-        found.Handlers = parts.at(3);
-        found.Ran = parts.at(4);
+        found.Targets = SplitAt(parts.at(2), ';');
+        found.Charset = parts.at(3);
+        found.Elements = parts.at(4);
+        found.Handlers = parts.at(5);
+        found.Ran = parts.at(6);
         return found;
     }
 

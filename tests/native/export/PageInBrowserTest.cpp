@@ -29,5 +29,20 @@ TEST(PageInBrowserTest, ThePageWithoutAThemeHoldsTheLinksAndRunsNothing) {
                    browser.Open(PageOf("Zene", PlainEntries(hostile.size()), DefaultStyle(), L"c\x151m")));
 }
 
+TEST(PageInBrowserTest, LinksLeadWhereTheirAddressesSay) {
+    const std::vector<NewEntry> entries = {
+        {"n", "http://a.hu/\xF5?q=\xF5 \x80&\xE1=%C5%91#\xF5"},
+        {"n", "mailto:ki@a.hu?subject=\xDBr"},
+        {"n", "http://a.hu/?\xA5?'`"},
+    };
+    const PageInBrowser page = Browser().Open(PageOf("Zene", entries, DefaultStyle(), L"c"));
+    EXPECT_EQ(page.Charset, "ISO-8859-2");
+    EXPECT_EQ(page.Targets, (std::vector<std::string>{
+                                Encoded("http://a.hu/%C5%91?q=%C5%91%20%E2%82%AC&%C3%A1=%C5%91#%C5%91"),
+                                Encoded("mailto:ki@a.hu?subject=%C5%B0r"),
+                                Encoded("http://a.hu/?%C4%84?%27`"),
+                            }));
+}
+
 }  // namespace
 }  // namespace lindrel::testing

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -43,6 +44,15 @@ TEST_P(ShippedThemeTest, HoldsTheLinksAndRunsNothing) {
     const std::vector<NewEntry> hostile = HostileEntries();
     ExpectHarmless(browser.Open(PageOf(kHostileCategory, hostile, Style(), kHostileTitle)),
                    browser.Open(PageOf("Zene", PlainEntries(hostile.size()), Style(), L"c\x151m")));
+}
+
+TEST_P(ShippedThemeTest, IsReadInItsCharset) {
+    // Browsers look for it in the first kilobyte of a page only; the style sheet is longer.
+    const std::string page = PageOf("Zene", PlainEntries(1), Style(), L"c\x151m");
+    const std::size_t declared = page.find("<html><head>\r\n<meta charset=\"iso-8859-2\">");
+    EXPECT_LT(declared, 1000u);
+    EXPECT_GT(page.find("charset=iso-8859-2"), 1024u);
+    EXPECT_EQ(Browser().Open(page).Charset, "ISO-8859-2");
 }
 
 TEST_P(ShippedThemeTest, GivesAllSixFragmentsForAPhoneToo) {

@@ -192,6 +192,15 @@ TEST_F(DesktopShortcutTest, AFileThatCannotBeCreatedIsReportedAfterTheNameHasCha
     EXPECT_EQ(program.BookBytes(), BookWith("a_b_c_d_e*f\"g<h>i|j"));
 }
 
+TEST_F(DesktopShortcutTest, ADeviceIsNoShortcutAndReported) {
+    ShowAndSelect(L"NUL");
+    const MainState before = program.State();
+    AskFor(L"NUL", IDOK);
+    ExpectNotCreated();
+    EXPECT_EQ(FilesIn(kDesktop), Files{});
+    EXPECT_EQ(program.State(), before);
+}
+
 TEST_F(DesktopShortcutTest, AFileThatIsInUseIsReportedAndKeepsItsBytes) {
     ShowAndSelect(L"a:b/c?");
     const MainState before = program.State();

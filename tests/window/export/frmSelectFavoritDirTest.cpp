@@ -7,7 +7,10 @@
 #include "book/BookText.h"
 #include "book/Faults.h"
 #include "book/Files.h"
+#include "book/Folder.h"
+#include "export/Favorites.h"
 #include "tests/window/export/ExportSession.h"
+#include "tests/window/support/DeepFolder.h"
 #include "tests/window/support/Expectations.h"
 #include "tests/window/support/FavoritesFolder.h"
 
@@ -159,7 +162,9 @@ TEST_F(frmSelectFavoritDirTest, AColonBehindThe255thCharacterEndsInTheReportAndL
         form.OpenedBook().TheBook.SetSiteName(form.OpenedBook().TheBook.IndexOf(5, 1),
                                               std::string(255, 'n') + ":");
     });
-    ExpectReport(L"Futásidejű hiba: 6\r\n\r\nTúlcsordulás.");
+    const std::wstring name = std::wstring(255, L'n') + L":.url";
+    ExpectReport(L"Futásidejű hiba: 6\r\n\r\n" + (FavoritesFolder::Path() / name).wstring() +
+                 L"\r\nTúlcsordulás.");
 }
 
 TEST_F(frmSelectFavoritDirTest, AFileThatCannotBeWrittenEndsInTheReportAndLosesNothing) {
@@ -167,6 +172,30 @@ TEST_F(frmSelectFavoritDirTest, AFileThatCannotBeWrittenEndsInTheReportAndLosesN
     const std::filesystem::path file = FavoritesFolder::Path() / L"a_b.url";
     std::filesystem::create_directory(file);
     ExpectReport(L"Futásidejű hiba: 75\r\n\r\n" + file.wstring() + L"\r\n" + ReasonNotToWrite(file) + L".");
+}
+
+TEST_F(frmSelectFavoritDirTest, AnEntryNamedLikeADeviceEndsInTheReportAndLosesNothing) {
+    program.OnUi([&](frmStart& form) {
+        form.OpenedBook().TheBook.SetSiteName(form.OpenedBook().TheBook.IndexOf(5, 1), "nul");
+    });
+    const std::filesystem::path file = FavoritesFolder::Path() / L"nul.url";
+    ExpectReport(L"Futásidejű hiba: 75\r\n\r\n" + file.wstring() + L"\r\n" + ReasonNotToWrite(file) + L".");
+    EXPECT_EQ(FilesBelow(FavoritesFolder::Path()), Files{});
+}
+
+TEST_F(frmSelectFavoritDirTest, AFolderOfAnyDepthTakesFoldersAndFiles) {
+    const DeepFolder deep(FavoritesFolder::Path() / L"Alsó");
+    program.OnUi([&](frmStart& form) {
+        Book& book = form.OpenedBook().TheBook;
+        book.SetCategoryName(5, "lpt1");
+        saveTo_fav(book, deep.Path(), true);
+    });
+    for (const auto& [name, file] : {std::pair(L"Hírek", L"Harmadik.url"), std::pair(L"lpt1_", L"a_b.url")}) {
+        const std::filesystem::path inside = ExactPath(deep.Path() / name);
+        EXPECT_EQ(FilesIn(inside).back(), file);
+        for (const auto& written : FilesIn(inside)) EXPECT_TRUE(DeleteFileW((inside / written).c_str()));
+        EXPECT_TRUE(RemoveDirectoryW(inside.c_str()));
+    }
 }
 
 TEST_F(frmSelectFavoritDirTest, ANewBookIsOfferedToBeSavedAsABook) {

@@ -3,10 +3,13 @@
 #include <filesystem>
 #include <memory>
 
+#include "book/Faults.h"
 #include "book/Files.h"
 #include "export/Favorites.h"
 #include "export/Shortcut.h"
+#include "import/Shortcuts.h"
 #include "tests/window/import/ImportSession.h"
+#include "tests/window/support/DeepFolder.h"
 #include "tests/window/support/Expectations.h"
 #include "tests/window/support/FavoritesFolder.h"
 
@@ -28,6 +31,9 @@ class frmI_FavTest : public ImportSession {
     }
     static void Write(const std::wstring& name, const std::string& bytes) {
         WriteFileBytes(FavoritesFolder::Path() / name, bytes);
+    }
+    static std::wstring PathOf(const std::wstring& name) {
+        return (FavoritesFolder::Path() / name).wstring();
     }
     // The system's own words, without the full stop.
     static std::wstring WordsOf(DWORD error) {
@@ -116,6 +122,37 @@ TEST_F(frmI_FavTest, TheExtensionIsCutByLengthWhateverItsCase) {
               (std::vector<Row>{{L"Görög ?", L"http://gorog.hu"}, {L"NAGY", L"http://alap.hu"}}));
 }
 
+TEST_F(frmI_FavTest, AFolderOfAnyDepthIsReadWhateverItAndItsFilesAreCalled) {
+    const DeepFolder deep(FavoritesFolder::Path() / L"Alsó");
+    deep.Write(L"Műsor.url", ShortcutFile("http://musor.hu"));
+    deep.Write(L"nul.url", ShortcutFile("http://nul.hu"));
+    const DialogOnScreen dialog = Open();
+    dialog.Pick(ID_frmImport_cmbKateg, 2);
+    const DialogOnScreen picker = OpenPicker(dialog);
+    DescendTo(program, picker.Control(ID_frmI_Fav_Dir1), L"Lindrel próba");
+    DescendTo(program, picker.Control(ID_frmI_Fav_Dir1), L"Alsó");
+    for (const std::wstring& name : DeepFolder::Names())
+        DescendTo(program, picker.Control(ID_frmI_Fav_Dir1), name);
+    picker.ClickAndWaitForClose(ID_frmI_Fav_cmdImport);
+    AnswerResult(2);
+    Leave(dialog);
+    program.ClickTab(3);
+    EXPECT_EQ(program.State().Rows,
+              (std::vector<Row>{{L"Műsor", L"http://musor.hu"}, {L"nul", L"http://nul.hu"}}));
+}
+
+TEST_F(frmI_FavTest, AFaultyFileFarDownIsNamedAsTheUserKnowsIt) {
+    const DeepFolder deep(FavoritesFolder::Path() / L"Alsó");
+    deep.Write(L"a.url", "[InternetShortcut]");
+    try {
+        ShortcutsOfFolder(deep.Path());
+        FAIL();
+    } catch (const FileFault& fault) {
+        EXPECT_EQ(fault.Path(), (deep.Path() / L"a.url").wstring());
+        EXPECT_EQ(fault.Number(), 62);
+    }
+}
+
 TEST_F(frmI_FavTest, AFolderWithoutShortcutsIsReported) {
     Write(L"lap.htm", "x");
     const WholeState before = Whole();
@@ -158,24 +195,25 @@ TEST_F(frmI_FavTest, Import255FilesWorks) {
 
 TEST_F(frmI_FavTest, A256thFileEndsInTheReportAndLosesNothing) {
     for (int i = 0; i < 256; ++i) Write(std::to_wstring(i) + L".url", ShortcutFile("http://lap.hu"));
-    ExpectReport(L"Futásidejű hiba: 6\r\n\r\nTúlcsordulás.");
+    ExpectReport(L"Futásidejű hiba: 6\r\n\r\n" + PathOf(L"99.url") + L"\r\nTúlcsordulás.");
 }
 
 TEST_F(frmI_FavTest, AFileOfOneLineEndsInTheReportAndLosesNothing) {
     Write(L"a.url", ShortcutFile("http://jo.hu"));
     Write(L"b.url", "[InternetShortcut]\r\n");
-    ExpectReport(L"Futásidejű hiba: 62\r\n\r\nOlvasás a fájl vége után.");
+    ExpectReport(L"Futásidejű hiba: 62\r\n\r\n" + PathOf(L"b.url") + L"\r\nOlvasás a fájl vége után.");
 }
 
 TEST_F(frmI_FavTest, AShortSecondLineEndsInTheReportAndLosesNothing) {
     Write(L"a.url", "[InternetShortcut]\r\nab\r\n");
-    ExpectReport(L"Futásidejű hiba: 5\r\n\r\nÉrvénytelen eljáráshívás vagy argumentum.");
+    ExpectReport(L"Futásidejű hiba: 5\r\n\r\n" + PathOf(L"a.url") +
+                 L"\r\nÉrvénytelen eljáráshívás vagy argumentum.");
 }
 
 TEST_F(frmI_FavTest, AFileThatSomebodyKeepsToHimselfEndsInTheReportAndLosesNothing) {
     Write(L"a.url", ShortcutFile("http://jo.hu"));
     Write(L"b.url", ShortcutFile("http://masik.hu"));
-    const std::wstring path = (FavoritesFolder::Path() / L"b.url").wstring();
+    const std::wstring path = PathOf(L"b.url");
     const std::unique_ptr<void, decltype(&CloseHandle)> held(
         CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr), &CloseHandle);
     ASSERT_NE(held.get(), INVALID_HANDLE_VALUE);
@@ -204,7 +242,8 @@ TEST_F(frmI_FavTest, AFaultAfterACancelledPageOffersToSaveAmongBooks) {
     program.Settle();
     ChooseFolder(dialog);
     const BoxOnScreen report = program.Box();
-    EXPECT_EQ(report.Text(), L"Futásidejű hiba: 62\r\n\r\nOlvasás a fájl vége után.");
+    EXPECT_EQ(report.Text(),
+              L"Futásidejű hiba: 62\r\n\r\n" + PathOf(L"a.url") + L"\r\nOlvasás a fájl vége után.");
     report.Press(IDOK);
     const BoxOnScreen question = program.Box();
     EXPECT_EQ(question.Title(), L"A fájl módosult");

@@ -62,6 +62,7 @@ class frmImportTest : public ImportSession {
         EXPECT_EQ(file.Title(), L"Válasszon ki egy weblapot");
         EXPECT_EQ(file.Filters(), std::vector<std::wstring>{L"weblapok (*.htm)"});
         EXPECT_EQ(file.FileName(), L"");
+        EXPECT_EQ(FilterOfMain(), L"weblapok (*.htm)|*.htm;*.html");
         file.Accept(path);
     }
     std::wstring Page(const std::string& bytes) const { return folder.Write(L"lap.htm", bytes); }
@@ -125,6 +126,17 @@ TEST_F(frmImportTest, LinksGoBehindTheEntriesOfTheChosenCategory) {
     EXPECT_EQ(program.State(),
               WithImported(before, {{L"hírek", L"http://lap.hu/"}, {L"két", L"http://ket.hu"}}));
     EXPECT_EQ(FilterOfMain(), L"Lindrel fájlok (*.lnd)|*.lnd");
+}
+
+TEST_F(frmImportTest, APageOfAnyEncodingAndEndingIsImported) {
+    const MainState before = program.State();
+    const DialogOnScreen dialog = Open();
+    const std::wstring page = L"\xFEFF<a href=\"http://п.hu/ű\">Ő és п</a>";
+    const auto* const bytes = reinterpret_cast<const char*>(page.data());
+    Pick(dialog, folder.Write(L"lap.html", {bytes, bytes + page.size() * sizeof(wchar_t)}));
+    AnswerResult(1);
+    Leave(dialog);
+    EXPECT_EQ(program.State(), WithImported(before, {{L"ő és ?", L"http://%d0%bf.hu/ű"}}));
 }
 
 TEST_F(frmImportTest, SeveralPagesAreImportedInARow) {
