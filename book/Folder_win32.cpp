@@ -21,7 +21,7 @@ std::filesystem::path ExactPath(const std::filesystem::path& path) {
     if (plain.starts_with(LR"(\\?\)") || plain.starts_with(LR"(\\.\)")) return path;
     if (plain.starts_with(LR"(\\)")) return LR"(\\?\UNC\)" + plain.substr(2);
     const bool has_drive = plain.find(LR"(:\)") == 1;
-    return has_drive ? LR"(\\?\)" + plain : path;
+    return has_drive ? std::filesystem::path(LR"(\\?\)" + plain) : path;
 }
 
 std::filesystem::path LongPath(const std::filesystem::path& path) {

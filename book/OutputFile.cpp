@@ -1,13 +1,8 @@
 #include "book/OutputFile.h"
 
-#include <cstddef>
 #include <utility>
 
 namespace lindrel {
-
-namespace {
-constexpr std::size_t kBlockBytes = 65536;
-}
 
 OutputFile::OutputFile(const std::filesystem::path& path) : file_(File::ForWriting(path)) {}
 
@@ -20,8 +15,12 @@ OutputFile::~OutputFile() {
 }
 
 void OutputFile::Write(std::string_view bytes) {
-    pending_.append(bytes);
-    if (pending_.size() >= kBlockBytes) WritePending();
+    if (pending_.size() + bytes.size() < kGoodPiece) {
+        pending_.append(bytes);
+        return;
+    }
+    WritePending();
+    file_.Write(bytes);
 }
 
 void OutputFile::Close() {

@@ -1,6 +1,7 @@
 // A file that is written piece by piece.
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <functional>
 #include <string>
@@ -13,7 +14,10 @@ namespace lindrel {
 // Receives the bytes of a file, in order. The exporters write to one of these.
 using ByteSink = std::function<void(std::string_view bytes)>;
 
-// Buffers the pieces. Throws FileFault with the system's reason; what has been written so far stays in the
+// The number of bytes from which on a piece is written at once. File systems take large pieces faster.
+inline constexpr std::size_t kGoodPiece = 1U << 20U;
+
+// Buffers small pieces. Throws FileFault with the system's reason; what has been written so far stays in the
 // file.
 class OutputFile {
   public:

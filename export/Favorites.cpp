@@ -55,8 +55,9 @@ void saveTo_fav(Book& book, const std::filesystem::path& folder, bool folder_for
     for (const ShortcutToWrite& shortcut : plan) {
         if (folder_for_each_category && shortcut.Folder != created) CreateFolder(shortcut.Folder);
         created = shortcut.Folder;
-        WriteFileBytes(shortcut.Folder / PathOf(shortcut.SafeName + ".url"),
-                       ShortcutFile(book.SiteURLs(shortcut.Entry)));
+        const std::filesystem::path file = shortcut.Folder / PathOf(shortcut.SafeName + ".url");
+        NamingTheFile(WideText(file),
+                      [&] { WriteFileBytes(LongPath(file), ShortcutFile(book.SiteURLs(shortcut.Entry))); });
     }
     for (const ShortcutToWrite& shortcut : plan) book.SetSiteName(shortcut.Entry, shortcut.SafeName);
 }

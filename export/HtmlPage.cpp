@@ -86,9 +86,11 @@ class PageWriter {
         Line({"<TR><TD>"});
         Line({parts_.at(kOpenInnerTable), "\r\n", kOpenRow});
         for (const int e : ExportedEntries(book_, category)) {
+            const AddressEntry& entry = book_.Entry(e);
             page_.append("<A HREF=");
-            AppendHtmlAddress(page_, book_.SiteURLs(e)).append(">");
-            AppendHtmlText(page_, book_.SiteNames(e)).append("</A><BR>\r\n");
+            AppendHtmlAddress(page_, entry.URL).append(">");
+            AppendHtmlText(page_, entry.SiteName).append("</A><BR>\r\n");
+            if (page_.size() >= kGoodPiece) HandOut();
         }
         Line({parts_.at(kBeforeClosing), "</td></tr></table></TD></TR>"});
         HandOut();

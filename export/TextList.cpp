@@ -24,17 +24,24 @@ constexpr std::size_t kHeaderRest = 120;
 }  // namespace
 
 void WriteTextList(const Book& book, const ByteSink& out) {
+    std::string lines;
+    const auto hand_out = [&](std::size_t from_size) {
+        if (lines.size() < from_size) return;
+        out(lines);
+        lines.clear();
+    };
     for (int c = 1; c <= kCategories; ++c) {
         if (!IsExported(book, c)) continue;
         const std::string& name = book.CategoryNames(c);
         if (name.size() > kHeaderRest) throw ArgumentFault();
-        std::string lines;
         lines.append(kHeaderStart).append(name).append(kHeaderRest - name.size(), '-').append(kLineEnd);
         for (const int e : ExportedEntries(book, c)) {
-            lines.append(kNameStart).append(book.SiteNames(e)).append(kLineEnd);
-            lines.append(kAddressStart).append(book.SiteURLs(e)).append(kLineEnd);
+            const AddressEntry& entry = book.Entry(e);
+            lines.append(kNameStart).append(entry.SiteName).append(kLineEnd);
+            lines.append(kAddressStart).append(entry.URL).append(kLineEnd);
+            hand_out(kGoodPiece);
         }
-        out(lines);
+        hand_out(0);
     }
 }
 
