@@ -1,5 +1,5 @@
-// Files of the disk, open or not. Everything in the core that depends on the operating system is in
-// File_win32.cpp and File_posix.cpp.
+// Files of the disk, open or not. What in the core depends on the operating system is in the sources that end
+// in _win32 and _posix.
 #pragma once
 
 #include <cstddef>

@@ -5,6 +5,7 @@
 
 #include "book/Faults.h"
 #include "book/File.h"
+#include "book/Folder.h"
 
 namespace lindrel {
 
@@ -40,14 +41,14 @@ void Fail(const std::filesystem::path& path, DWORD error) {
 
 std::wstring SystemPath(const std::filesystem::path& path) {
     constexpr DWORD kLongest = 32768;
+    if (path.native().starts_with(LR"(\\?\)")) return path.native();
     std::wstring full(kLongest, L'\0');
     const DWORD length = GetFullPathNameW(path.c_str(), kLongest, full.data(), nullptr);
     if (length == 0) Fail(path);
     if (length >= kLongest) Fail(path, ERROR_FILENAME_EXCED_RANGE);
     full.resize(length);
     if (full.starts_with(LR"(\\.\)")) Fail(path, ERROR_INVALID_NAME);
-    if (full.size() < MAX_PATH || full.starts_with(LR"(\\?\)")) return full;
-    return full.starts_with(LR"(\\)") ? LR"(\\?\UNC\)" + full.substr(2) : LR"(\\?\)" + full;
+    return LongPath(full).native();
 }
 
 bool MayPass(const std::wstring& path, DWORD error) {
