@@ -4,6 +4,7 @@
 
 #include "app/MenuCommands.h"
 #include "app/PlaceControls.h"
+#include "help/HTMLHelp.h"
 #include "resources/resource.h"
 
 namespace lindrel {
@@ -58,7 +59,10 @@ LRESULT frmStart::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
             Form_Resize();
             return DefWindowProcW(Handle(), message, wparam, lparam);
         case WM_QUERYENDSESSION:
-            return OfferToSave(SaveQuestion::Closing) != SaveAnswer::CalledOff ? TRUE : FALSE;
+            return OnQueryEndSession() ? TRUE : FALSE;
+        case WM_ENDSESSION:
+            OnEndSession(wparam != FALSE);
+            return 0;
         case WM_CLOSE:
             if (OfferToSave(SaveQuestion::Closing) != SaveAnswer::CalledOff) DestroyWindow(Handle());
             return 0;
@@ -140,6 +144,7 @@ void frmStart::EnableCommand(int id, bool enabled) {
 }
 
 void frmStart::Form_Unload() const {
+    CloseHelp();
     // A window that could not be made has no message loop to end; the quit message would swallow the report
     // of the failure.
     if (loaded_) PostQuitMessage(0);

@@ -6,6 +6,7 @@
 //     frmStart_View.cpp    stripes in the list, tray mode
 //     frmStart_Tools.cpp   import, export, the page of the shown entry
 //     frmStart_Help.cpp    help, home page, about box
+//     frmStart_Session.cpp the end of the session
 // The file menu has a class of its own.
 #pragma once
 
@@ -20,6 +21,7 @@
 #include "controls/OwnWindow.h"
 #include "controls/Picture.h"
 #include "controls/ReturnedFocus.h"
+#include "controls/SessionHold.h"
 #include "tray/TrayArea.h"
 
 namespace lindrel {
@@ -48,6 +50,8 @@ class frmStart : public OwnWindow {
     void OnCommand(int id, int event);
     LRESULT OnNotify(const NMHDR& header);
     void OnActivate(WPARAM state);
+    bool OnQueryEndSession();
+    void OnEndSession(bool ending);
 
     void Form_Load();
     void Form_Resize();
@@ -84,6 +88,7 @@ class frmStart : public OwnWindow {
     Picture large_icon_, small_icon_, tray_icon_;
     HWND remembered_focus_ = nullptr;
     ReturnedFocus returned_focus_;
+    SessionHold session_;
 
     OpenBook open_;
     CommonDialog CommonDialog1;

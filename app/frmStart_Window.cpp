@@ -21,6 +21,7 @@ void frmStart::CreateControls() {
     TrayArea.Place(Handle());
     // Either button brings the window back.
     TrayArea.MouseDown = [this](std::int16_t&) { LeaveTray(); };
+    TrayArea.IconLost = [this] { LeaveTray(); };
 }
 
 // All that depends on the resolution: when the window is made, and when screen or settings change.

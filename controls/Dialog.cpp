@@ -160,6 +160,12 @@ void Dialog::FocusOn(int id) const {
     SendMessageW(handle_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Item(id)), TRUE);
 }
 
+bool Dialog::OnQueryEndSession() {
+    if (!HoldsSession()) return true;
+    session_.Hold(handle_, L"Egy párbeszédablak még nyitva van.");
+    return false;
+}
+
 INT_PTR CALLBACK Dialog::Procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam) {
     if (message == WM_INITDIALOG) {
         auto* const dialog = reinterpret_cast<Dialog*>(lparam);
@@ -194,6 +200,12 @@ INT_PTR Dialog::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
             return FALSE;
         case kApplyResolution:
             ApplyResolution(static_cast<UINT>(wparam));
+            return TRUE;
+        case WM_QUERYENDSESSION:
+            SetWindowLongPtrW(handle_, DWLP_MSGRESULT, OnQueryEndSession() ? TRUE : FALSE);
+            return TRUE;
+        case WM_ENDSESSION:
+            session_.Release();
             return TRUE;
         case WM_ACTIVATE:
             returned_focus_.OnActivate(wparam);

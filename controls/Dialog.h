@@ -16,6 +16,7 @@
 
 #include "controls/Control.h"
 #include "controls/ReturnedFocus.h"
+#include "controls/SessionHold.h"
 #include "controls/ToolTips.h"
 #include "controls/Windows.h"
 
@@ -54,6 +55,9 @@ class Dialog {
     virtual LRESULT OnNotify(const NMHDR& header);
     // Any message, before the dialog's own handling; true when done, `result` is then the answer.
     virtual bool OnMessage(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& result);
+    // Whether the end of the session would lose what the user does in the dialog; the session then waits until
+    // the dialog is closed.
+    virtual bool HoldsSession() const { return true; }
     // A key message before the dialog's own keyboard handling; true swallows it.
     virtual bool PreTranslate(const MSG& message);
 
@@ -72,6 +76,7 @@ class Dialog {
   private:
     static INT_PTR CALLBACK Procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam);
     INT_PTR Handle(UINT message, WPARAM wparam, LPARAM lparam);
+    bool OnQueryEndSession();
     void Create(HWND owner);
     void RunModalLoop();
 
@@ -79,6 +84,7 @@ class Dialog {
     HWND handle_ = nullptr;
     ToolTips tool_tips_;
     ReturnedFocus returned_focus_;
+    SessionHold session_;
     bool ending_ = false;
 };
 

@@ -1,5 +1,7 @@
 #include "help/HTMLHelp.h"
 
+#include <utility>
+
 #include "controls/Shell.h"
 #include "controls/Windows.h"
 
@@ -8,6 +10,9 @@ namespace lindrel {
 namespace {
 
 constexpr UINT kDisplayContents = 1;  // HH_DISPLAY_TOC
+constexpr UINT kCloseAll = 18;        // HH_CLOSE_ALL
+
+bool shown = false;  // since the viewer was last told to close all
 
 // `file` is a path and, after ">", a window type; `command` is one of the viewer's HH_ commands.
 using HelpViewer = HWND(WINAPI*)(HWND owner, const wchar_t* file, UINT command, DWORD_PTR data);
@@ -32,6 +37,13 @@ void ShowHelp(std::int16_t kind, const std::wstring& window) {
     const std::wstring file = HelpFilePath(kind) + L">" + window;
     // The result, the viewer's window, is of no use here; failures are the viewer's to report.
     static_cast<void>(viewer(nullptr, file.c_str(), kDisplayContents, 0));
+    shown = true;
+}
+
+void CloseHelp() {
+    if (!std::exchange(shown, false)) return;
+    // The viewer is there: it has shown something. It answers nothing.
+    static_cast<void>(InstalledViewer()(nullptr, nullptr, kCloseAll, 0));
 }
 
 }  // namespace lindrel

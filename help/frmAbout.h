@@ -21,6 +21,7 @@ class frmAbout : public Dialog {
     void ApplyResolution(UINT dpi) override;
     void OnCommand(int id, int event) override;
     LRESULT OnNotify(const NMHDR& header) override;
+    bool HoldsSession() const override { return false; }
     void cmdOK_Click() { Unload(); }
     void Label1_Click();
 

@@ -29,6 +29,12 @@ UINT TaskbarCreated() {
     return message;
 }
 
+// For a shell with fewer rights than the program, whose messages Windows would hold back.
+void LetThrough(HWND window, UINT message) {
+    // Refused, the icon is deaf to such a shell, and nothing else can be done about it.
+    static_cast<void>(ChangeWindowMessageFilterEx(window, message, MSGFLT_ALLOW, nullptr));
+}
+
 // In the machine's code page, in which the shell reads the record.
 std::string ShellText(std::wstring_view text) {
     if (text.empty()) return {};
@@ -51,14 +57,13 @@ void TrayArea::Place(HWND owner, Environment environment) {
     Create(description, WS_CHILD | visible, 0, owner);
     // The shell's broadcasts reach no child windows: the control hears them at its owner.
     owner_.Attach(owner, [this](UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
-        // Under its old identifier, so that a taskbar that still has the icon refuses it.
-        if (message == TaskbarCreated() && added_) AddIcon();
+        if (message == TaskbarCreated() && added_) AddIconAgain();
         return std::nullopt;
     });
     record_.cbSize = kRecordSize;
     record_.hWnd = Handle();
-    // For a shell with fewer rights than the program. Without it the icon misses a new taskbar, no more.
-    static_cast<void>(ChangeWindowMessageFilterEx(owner, TaskbarCreated(), MSGFLT_ALLOW, nullptr));
+    LetThrough(owner, TaskbarCreated());
+    LetThrough(Handle(), kCallbackMessage);
     Resize();
 }
 
@@ -170,6 +175,13 @@ void TrayArea::AddIcon() {
     }
     taken_ = Tell(NIM_ADD);
     added_ = true;
+}
+
+// Under its old identifier, so that a taskbar that still has the icon refuses it but lets it be changed.
+void TrayArea::AddIconAgain() {
+    AddIcon();
+    if (!taken_) taken_ = Tell(NIM_MODIFY);
+    if (!taken_ && IconLost) IconLost();
 }
 
 void TrayArea::RemoveIcon() {

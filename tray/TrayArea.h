@@ -67,6 +67,9 @@ class TrayArea : public OwnWindow {
     std::function<void(std::int16_t& Button)> MouseUp;
     std::function<void()> DblClick;
 
+    // A new taskbar has refused the icon, which is no longer to be seen. Visible stays true.
+    std::function<void()> IconLost;
+
   private:
     LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
     void Decode(LPARAM mouse_message);
@@ -75,6 +78,7 @@ class TrayArea : public OwnWindow {
     SIZE PictureSize() const;
 
     void AddIcon();
+    void AddIconAgain();
     void RemoveIcon();
     bool Tell(DWORD operation);
     void PutToolTip();

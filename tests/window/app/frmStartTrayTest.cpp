@@ -129,6 +129,20 @@ TEST_F(frmStartTrayTest, WithoutAnIconTheWindowStays) {
     ExpectBack();
 }
 
+TEST_F(frmStartTrayTest, ANewTaskbarWithoutTheIconBringsTheWindowBack) {
+    const MainState before = program.State();
+    const UINT created = RegisterWindowMessageW(L"TaskbarCreated");
+    program.Run(ID_mnuTray);
+    SendMessageW(program.Main(), created, 0, 0);
+    ExpectInTray();
+    program.OnUi([](frmStart&) { refusing = true; });
+    SendMessageW(program.Main(), created, 0, 0);
+    ExpectBack();
+    EXPECT_EQ(program.State(), before);
+    SendMessageW(program.Main(), created, 0, 0);
+    ExpectBack();
+}
+
 TEST_F(frmStartTrayTest, EitherButtonBringsTheWindowBackAsItWas) {
     const MainState before = program.State();
     RECT place{};

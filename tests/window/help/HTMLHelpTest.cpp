@@ -72,13 +72,14 @@ class HTMLHelpTest : public ::testing::Test {
         EXPECT_EQ(calls, std::vector<ViewerCall>{});
     }
     static ViewerCall ContentsOf(const std::wstring& file) { return {nullptr, file, 1, 0}; }
+    static ViewerCall CloseAll() { return {nullptr, L"", 18, 0}; }
 
     // Made on the program's thread, looked at when it has settled.
     static inline std::vector<ViewerCall> calls;
 
   private:
     static HWND WINAPI Record(HWND owner, const wchar_t* file, UINT command, DWORD_PTR data) {
-        calls.push_back({owner, file, command, data});
+        calls.push_back({owner, file != nullptr ? file : L"", command, data});
         return nullptr;
     }
     // The look-up of functions in libraries finds Record in the viewer's place.
@@ -138,6 +139,47 @@ TEST_F(HTMLHelpTest, F1AndTheMenuItemOpenTheContentsInTheMainWindowType) {
                                   ContentsOf(InProgramFolder() + L">main")}));
     EXPECT_TRUE(program.NothingIsOpen());
     EXPECT_EQ(program.State(), EmptyState());
+}
+
+TEST_F(HTMLHelpTest, HelpThatWasShownIsClosedOnce) {
+    CloseHelp();  // what earlier tests have shown
+    calls.clear();
+    CloseHelp();
+    EXPECT_EQ(calls, std::vector<ViewerCall>{});
+    ShowHelp(1, L"main");
+    ShowHelp(1, L"main");
+    calls.clear();
+    CloseHelp();
+    CloseHelp();
+    EXPECT_EQ(calls, std::vector{CloseAll()});
+}
+
+TEST_F(HTMLHelpTest, TheEndOfTheProgramClosesTheHelpThatItHasShown) {
+    CloseHelp();
+    PutHelpFile();
+    for (const bool showing : {false, true}) {
+        calls.clear();
+        Program program;
+        if (showing) program.Run(ID_mnuHelp);
+        calls.clear();
+        program.Close();
+        EXPECT_EQ(program.WaitForEnd(), 0);
+        EXPECT_EQ(calls, showing ? std::vector{CloseAll()} : std::vector<ViewerCall>{});
+    }
+}
+
+TEST_F(HTMLHelpTest, TheEndOfTheSessionClosesTheHelpEvenWithADialogOpen) {
+    PutHelpFile();
+    const Program program;
+    program.Run(ID_mnuHelp);
+    program.Choose(ID_mnuAbout);
+    const DialogOnScreen about = program.Dialog(L"Lindrel névjegye");
+    calls.clear();
+    SendMessageW(program.Main(), WM_ENDSESSION, FALSE, 0);
+    EXPECT_EQ(calls, std::vector<ViewerCall>{});
+    SendMessageW(program.Main(), WM_ENDSESSION, TRUE, 0);
+    EXPECT_EQ(calls, std::vector{CloseAll()});
+    about.Cancel();
 }
 
 TEST_F(HTMLHelpTest, TheHomePageOpensInTheBrowser) {

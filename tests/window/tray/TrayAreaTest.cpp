@@ -16,7 +16,16 @@
 namespace lindrel::testing {
 namespace {
 
-class TrayAreaTest : public TraySession {};
+class TrayAreaTest : public TraySession {
+  protected:
+    // Messages that windows were told to let through from programs with fewer rights.
+    using Filter = std::pair<HWND, UINT>;
+    static inline std::vector<Filter> allowed;
+    static BOOL WINAPI RecordFilter(HWND window, UINT message, DWORD action, CHANGEFILTERSTRUCT*) {
+        if (action == MSGFLT_ALLOW) allowed.emplace_back(window, message);
+        return TRUE;
+    }
+};
 
 TEST_F(TrayAreaTest, ANewControlIsEmptyAndTellsTheShellNothing) {
     EXPECT_EQ(control->SavedProperties(), (TrayArea::Properties{HICON{}, L"", false}));
@@ -212,7 +221,10 @@ TEST_F(TrayAreaTest, ANewTaskbarGetsAShownIconAgain) {
     control->SetToolTip(L"Lindrel 2");
     Taken();
     SendMessageW(owner.Handle(), created, 0, 0);
-    EXPECT_EQ(Taken(), std::vector{Expected(NIM_ADD, identifier, 7, 512, other_icon, Padded("Lindrel 2"))});
+    // Refused, for the taskbar may still have the icon: then it can be changed.
+    EXPECT_EQ(Taken(),
+              (std::vector{Expected(NIM_ADD, identifier, 7, 512, other_icon, Padded("Lindrel 2")),
+                           Expected(NIM_MODIFY, identifier, 7, 512, other_icon, Padded("Lindrel 2"))}));
     control->SetVisible(false);
     Taken();
     SendMessageW(owner.Handle(), created, 0, 0);
@@ -225,8 +237,44 @@ TEST_F(TrayAreaTest, TheBroadcastOfANewTaskbarReachesTheControlOfAHiddenWindow) 
     SendMessageTimeoutW(HWND_BROADCAST, RegisterWindowMessageW(L"TaskbarCreated"), 0, 0, SMTO_ABORTIFHUNG,
                         20000, &result);
     const std::vector<Call> again = Taken();
-    ASSERT_EQ(again.size(), 1u);
+    ASSERT_EQ(again.size(), 2u);
     EXPECT_EQ(again[0].Operation, static_cast<DWORD>(NIM_ADD));
+    EXPECT_EQ(again[1].Operation, static_cast<DWORD>(NIM_MODIFY));
+}
+
+TEST_F(TrayAreaTest, ANewTaskbarThatNeitherTakesNorHasTheIconHasLostIt) {
+    const UINT created = RegisterWindowMessageW(L"TaskbarCreated");
+    int lost = 0;
+    control->IconLost = [&lost] { ++lost; };
+    SendMessageW(owner.Handle(), created, 0, 0);
+    EXPECT_EQ(lost, 0);  // it is not shown
+    Show();
+    SendMessageW(owner.Handle(), created, 0, 0);
+    EXPECT_EQ(lost, 1);
+    EXPECT_TRUE(control->Visible());
+    EXPECT_FALSE(control->IsTaken());
+
+    Accept({NIM_MODIFY});
+    SendMessageW(owner.Handle(), created, 0, 0);
+    EXPECT_EQ(lost, 1);
+    EXPECT_TRUE(control->IsTaken());
+
+    Taken();
+    Accept({NIM_ADD});
+    SendMessageW(owner.Handle(), created, 0, 0);
+    EXPECT_EQ(lost, 1);
+    EXPECT_TRUE(control->IsTaken());
+    EXPECT_EQ(Taken().size(), 1u);
+}
+
+TEST_F(TrayAreaTest, AShellWithFewerRightsIsHeard) {
+    allowed.clear();
+    const ReplacedImport filter(&ChangeWindowMessageFilterEx, &RecordFilter);
+    const OwnerWindow other;
+    TrayArea placed;
+    placed.Place(other.Handle());
+    EXPECT_EQ(allowed, (std::vector{Filter{other.Handle(), RegisterWindowMessageW(L"TaskbarCreated")},
+                                    Filter{placed.Handle(), 512}}));
 }
 
 TEST_F(TrayAreaTest, TheEndOfTheControlAlwaysRemovesItsIcon) {

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 #include <optional>
 #include <ostream>
@@ -62,6 +63,7 @@ class TraySession : public ::testing::Test {
 
     TraySession() {
         calls.clear();
+        accepted.clear();
         control->PropertyChanged = [this](const wchar_t* name) { changed.emplace_back(name); };
         control->Place(owner.Handle());
         window = control->Handle();
@@ -69,6 +71,8 @@ class TraySession : public ::testing::Test {
 
     // The calls since it was last asked for them.
     static std::vector<Call> Taken() { return std::exchange(calls, {}); }
+    // The operations that the shell does not refuse from here on.
+    static void Accept(std::vector<DWORD> operations) { accepted = std::move(operations); }
     // From here on calls go to the system's shell.
     void UseTheRealShell() { recorder.reset(); }
 
@@ -95,9 +99,10 @@ class TraySession : public ::testing::Test {
                          record->uCallbackMessage, record->hIcon, std::string(record->szTip, 64)});
         // A reader that goes on to a NUL finds it right behind the field.
         EXPECT_EQ(record->szTip[64], '\0');
-        return FALSE;  // a shell that refuses everything changes nothing
+        return std::count(accepted.begin(), accepted.end(), operation) != 0;
     }
     static inline std::vector<Call> calls;
+    static inline std::vector<DWORD> accepted;  // usually none: a shell that refuses changes nothing
     std::optional<ReplacedImport> recorder{std::in_place, &Shell_NotifyIconA, &Record};
 
   protected:
