@@ -65,14 +65,15 @@ class FileSession : public ::testing::Test {
 
     // What the system asks each window before the session ends. The answer comes with the user's.
     std::future<LRESULT> QueryEndSession() const {
-        return std::async(std::launch::async, [window = program.Main()] {
-            DWORD_PTR answer = 0;
-            const auto deadline =
-                static_cast<UINT>(std::chrono::duration_cast<std::chrono::milliseconds>(kDeadline).count());
-            if (SendMessageTimeoutW(window, WM_QUERYENDSESSION, 0, 0, SMTO_NORMAL, deadline, &answer) == 0)
-                throw DeadlinePassed("the answer to the end of the session");
-            return static_cast<LRESULT>(answer);
-        });
+        return std::async(std::launch::async, [window = program.Main()] { return AnswerToEndSession(window); });
+    }
+    static LRESULT AnswerToEndSession(HWND window) {
+        DWORD_PTR answer = 0;
+        const auto deadline =
+            static_cast<UINT>(std::chrono::duration_cast<std::chrono::milliseconds>(kDeadline).count());
+        if (SendMessageTimeoutW(window, WM_QUERYENDSESSION, 0, 0, SMTO_NORMAL, deadline, &answer) == 0)
+            throw DeadlinePassed("the answer to the end of the session");
+        return static_cast<LRESULT>(answer);
     }
 
     TemporaryFolder folder;

@@ -70,7 +70,8 @@ class SessionEndTest : private BeforeTheProgram, public FileSession {
     bool InTray() const {
         return !IsWindowVisible(program.Main()) && program.Ask<bool>([](frmStart&) { return icon_is_there; });
     }
-    static LRESULT Query(HWND window) { return SendMessageW(window, WM_QUERYENDSESSION, 0, 0); }
+    // For a window that answers without a question.
+    static LRESULT Query(HWND window) { return AnswerToEndSession(window); }
     // The rest of what the system tells a window. Returns when the window has done its work.
     static void End(HWND window, bool ending) {
         SendMessageW(window, WM_ENDSESSION, ending ? TRUE : FALSE, 0);
