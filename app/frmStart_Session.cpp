@@ -26,8 +26,8 @@ void frmStart::OnEndSession(bool ending) {
     // The process can be gone as soon as this returns: what other programs show for it must go now.
     TrayArea.SetVisible(false);
     CloseHelp();
-    // An installer that asked waits for the program to end. A box or dialog that is open would take the end of
-    // its owner for a fault; then the system ends the process.
+    // An installer that asked waits for the program to end. A box or dialog that is open would take the end
+    // of its owner for a fault; then the system ends the process.
     if (IsWindowEnabled(Handle())) DestroyWindow(Handle());
 }
 

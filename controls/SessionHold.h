@@ -12,9 +12,9 @@ class SessionHold {
     SessionHold(const SessionHold&) = delete;
     SessionHold& operator=(const SessionHold&) = delete;
 
-    // For a top-level window of the calling thread that is about to answer WM_QUERYENDSESSION with FALSE, or to
-    // ask before it answers. The system shows the reason beside the program's name until Release(); what came
-    // to the front last of the window and all that it owns comes to the front of the screen.
+    // For a top-level window of the calling thread that is about to answer WM_QUERYENDSESSION with FALSE, or
+    // to ask before it answers. The system shows the reason beside the program's name until Release(); what
+    // came to the front last of the window and all that it owns comes to the front of the screen.
     void Hold(HWND window, const wchar_t* reason);
     // When the question is answered, and at WM_ENDSESSION.
     void Release();

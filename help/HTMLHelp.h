@@ -15,8 +15,8 @@ std::wstring HelpFilePath(std::int16_t kind);
 // reported, when the viewer or the file cannot be opened.
 void ShowHelp(std::int16_t kind, const std::wstring& window);
 
-// Closes what ShowHelp() has opened. The viewer's windows belong to the program's process: those that are still
-// open when it ends can bring it down.
+// Closes what ShowHelp() has opened. The viewer's windows belong to the program's process: those that are
+// still open when it ends can bring it down.
 void CloseHelp();
 
 }  // namespace lindrel

@@ -65,7 +65,8 @@ class FileSession : public ::testing::Test {
 
     // What the system asks each window before the session ends. The answer comes with the user's.
     std::future<LRESULT> QueryEndSession() const {
-        return std::async(std::launch::async, [window = program.Main()] { return AnswerToEndSession(window); });
+        return std::async(std::launch::async,
+                          [window = program.Main()] { return AnswerToEndSession(window); });
     }
     static LRESULT AnswerToEndSession(HWND window) {
         DWORD_PTR answer = 0;

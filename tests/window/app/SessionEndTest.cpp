@@ -1,5 +1,5 @@
-// The end of the session of Windows while the program runs: what it asks, what it shows the user as its reason,
-// and what it leaves behind.
+// The end of the session of Windows while the program runs: what it asks, what it shows the user as its
+// reason, and what it leaves behind.
 
 #include <ostream>
 
