@@ -60,7 +60,9 @@ int RunProgram(HINSTANCE instance, int show) {
         const Fault fault = CurrentFault();
         const std::wstring number = std::to_wstring(fault.Number());
         try {
-            MsgBox(form.Handle(), L"Futásidejű hiba: " + number + L"\r\n\r\n" + fault.Meaning() + L".",
+            MsgBox(form.Handle(),
+                   L"Futásidejű hiba: " + number + L"\r\n\r\n" + fault.Meaning() +
+                       L".\r\n\r\nA program bezárul.",
                    MB_OK | MB_ICONERROR);
             form.OfferToSave(SaveQuestion::Closing);
         } catch (...) {

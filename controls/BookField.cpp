@@ -26,8 +26,9 @@ bool FitsBook(const Dialog& dialog, int field_id) {
     const std::wstring text = field.Text();
     const std::optional<std::wstring> foreign = FirstForeignCharacter(text);
     if (!foreign) return true;
-    MsgBox(dialog.Handle(),
-           L"Ezt a karaktert a könyv nem tudja tárolni: „" + *foreign + L"” (" + CodeOf(*foreign) + L")",
+    // On a line of its own, or the code could be broken in two.
+    const std::wstring shown = L"„" + *foreign + L"” (" + CodeOf(*foreign) + L")";
+    MsgBox(dialog.Handle(), L"Ezt a karaktert a könyv nem tudja tárolni:\r\n\r\n" + shown,
            MB_OK | MB_ICONERROR, kErrorTitle);
     dialog.FocusOn(field_id);
     field.Select(static_cast<int>(text.find(*foreign)), static_cast<int>(foreign->size()));

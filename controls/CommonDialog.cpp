@@ -41,7 +41,7 @@ void CommonDialog::Show(HWND owner, bool save, DWORD flags) {
 
     if (!(save ? GetSaveFileNameW(&dialog) : GetOpenFileNameW(&dialog))) {
         const DWORD error = CommDlgExtendedError();
-        if (error == 0) throw Fault(kDialogCancelled, L"A párbeszédablakot bezárták");
+        if (error == 0) throw Fault(kDialogCancelled, L"A párbeszédablak bezárult");
         throw Fault(static_cast<int>(error), L"A fájlválasztó ablak nem nyitható meg");
     }
     FileName = path.data();

@@ -20,7 +20,8 @@ TEST_F(FileMenuClosingTest, AFaultThatNobodyCatchesIsReportedAndEndsTheProgram) 
     SendMessageW(tabs, TCM_SETCURFOCUS, 10, 0);
     const BoxOnScreen report = program.Box();
     EXPECT_EQ(report.Title(), L"Lindrel");
-    EXPECT_EQ(report.Text(), L"Futásidejű hiba: 9\r\n\r\nAz index a tartományon kívül esik.");
+    EXPECT_EQ(report.Text(),
+              L"Futásidejű hiba: 9\r\n\r\nAz index a tartományon kívül esik.\r\n\r\nA program bezárul.");
     EXPECT_EQ(report.Icon(), BoxIcon::Error);
     report.Press(IDOK);
     ExpectSaveQuestion(L"A fájl módosult", IDNO);

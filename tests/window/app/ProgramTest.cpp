@@ -43,7 +43,7 @@ TEST(ProgramTest, AStartThatFailsIsReported) {
     WaitUntil("the thread", [&] { return thread_id != 0; });
     const BoxOnScreen report = WaitForBox(thread_id);
     EXPECT_EQ(report.Title(), L"Lindrel");
-    EXPECT_EQ(report.Text(), L"Futásidejű hiba: 7\r\n\r\nElfogyott a memória.");
+    EXPECT_EQ(report.Text(), L"Futásidejű hiba: 7\r\n\r\nElfogyott a memória.\r\n\r\nA program bezárul.");
     report.Press(IDOK);
     starting.join();
     EXPECT_EQ(exit_code, 1);

@@ -245,7 +245,7 @@ TEST_F(frmAddTest, ACharacterThatABookCannotHoldIsRefusedAndTheTextStays) {
         dialog.Click(ID_frmAdd_cmdOK);
         const BoxOnScreen box = program.Box();
         EXPECT_EQ(box.Title(), L"Hiba");
-        EXPECT_EQ(box.Text(), L"Ezt a karaktert a könyv nem tudja tárolni: " + shown);
+        EXPECT_EQ(box.Text(), L"Ezt a karaktert a könyv nem tudja tárolni:\r\n\r\n" + shown);
         box.Press(IDOK);
         program.Settle();
         EXPECT_EQ(dialog.Focus(), field);
@@ -273,7 +273,7 @@ TEST_F(frmAddTest, AFullBookEndsInTheReportOffersToSaveAndLosesNothing) {
     dialog.SetText(ID_frmAdd_txtDesc, L"D");
     dialog.SetText(ID_frmAdd_txtURL, L"http://d.hu");
     dialog.Click(ID_frmAdd_cmdOK);
-    book.ExpectReportAndSave(L"Futásidejű hiba: 6\r\n\r\nTúlcsordulás.");
+    book.ExpectReportAndSave(L"Futásidejű hiba: 6\r\n\r\nTúlcsordulás.\r\n\r\nA program bezárul.");
 }
 
 }  // namespace

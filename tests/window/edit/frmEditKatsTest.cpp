@@ -80,7 +80,7 @@ TEST_F(frmEditKatsTest, AForeignCharacterIsRefusedAndNoNameIsTaken) {
     dialog.Click(ID_frmEditKats_cmdOk);
     const BoxOnScreen box = program.Box();
     EXPECT_EQ(box.Title(), L"Hiba");
-    EXPECT_EQ(box.Text(), L"Ezt a karaktert a könyv nem tudja tárolni: „Ω” (U+03A9)");
+    EXPECT_EQ(box.Text(), L"Ezt a karaktert a könyv nem tudja tárolni:\r\n\r\n„Ω” (U+03A9)");
     box.Press(IDOK);
     program.Settle();
     EXPECT_EQ(dialog.Focus(), Field(9));

@@ -211,7 +211,7 @@ TEST_F(frmEditRecTest, MissingFieldsAndForeignCharactersAreRefused) {
     dialog.Click(ID_frmEditRec_cmdOk);
     const BoxOnScreen foreign = program.Box();
     EXPECT_EQ(foreign.Title(), L"Hiba");
-    EXPECT_EQ(foreign.Text(), L"Ezt a karaktert a könyv nem tudja tárolni: „漢” (U+6F22)");
+    EXPECT_EQ(foreign.Text(), L"Ezt a karaktert a könyv nem tudja tárolni:\r\n\r\n„漢” (U+6F22)");
     foreign.Press(IDOK);
     program.Settle();
     EXPECT_EQ(dialog.Focus(), ID_frmEditRec_txtDesc);

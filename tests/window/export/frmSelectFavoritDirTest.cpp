@@ -164,14 +164,15 @@ TEST_F(frmSelectFavoritDirTest, AColonBehindThe255thCharacterEndsInTheReportAndL
     });
     const std::wstring name = std::wstring(255, L'n') + L":.url";
     ExpectReport(L"Futásidejű hiba: 6\r\n\r\n" + (FavoritesFolder::Path() / name).wstring() +
-                 L"\r\nTúlcsordulás.");
+                 L"\r\nTúlcsordulás.\r\n\r\nA program bezárul.");
 }
 
 TEST_F(frmSelectFavoritDirTest, AFileThatCannotBeWrittenEndsInTheReportAndLosesNothing) {
     // A folder stands where the file should be.
     const std::filesystem::path file = FavoritesFolder::Path() / L"a_b.url";
     std::filesystem::create_directory(file);
-    ExpectReport(L"Futásidejű hiba: 75\r\n\r\n" + file.wstring() + L"\r\n" + ReasonNotToWrite(file) + L".");
+    ExpectReport(L"Futásidejű hiba: 75\r\n\r\n" + file.wstring() + L"\r\n" + ReasonNotToWrite(file) +
+                 L".\r\n\r\nA program bezárul.");
 }
 
 TEST_F(frmSelectFavoritDirTest, AnEntryNamedLikeADeviceEndsInTheReportAndLosesNothing) {
@@ -179,7 +180,7 @@ TEST_F(frmSelectFavoritDirTest, AnEntryNamedLikeADeviceEndsInTheReportAndLosesNo
         form.OpenedBook().TheBook.SetSiteName(form.OpenedBook().TheBook.IndexOf(5, 1), "nul");
     });
     const std::filesystem::path file = FavoritesFolder::Path() / L"nul.url";
-    ExpectReport(L"Futásidejű hiba: 75\r\n\r\n" + file.wstring() + L"\r\n" + ReasonNotToWrite(file) + L".");
+    ExpectReport(L"Futásidejű hiba: 75\r\n\r\n" + file.wstring() + L"\r\n" + ReasonNotToWrite(file) + L".\r\n\r\nA program bezárul.");
     EXPECT_EQ(FilesBelow(FavoritesFolder::Path()), Files{});
 }
 

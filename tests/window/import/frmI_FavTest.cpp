@@ -195,19 +195,19 @@ TEST_F(frmI_FavTest, Import255FilesWorks) {
 
 TEST_F(frmI_FavTest, A256thFileEndsInTheReportAndLosesNothing) {
     for (int i = 0; i < 256; ++i) Write(std::to_wstring(i) + L".url", ShortcutFile("http://lap.hu"));
-    ExpectReport(L"Futásidejű hiba: 6\r\n\r\n" + PathOf(L"99.url") + L"\r\nTúlcsordulás.");
+    ExpectReport(L"Futásidejű hiba: 6\r\n\r\n" + PathOf(L"99.url") + L"\r\nTúlcsordulás.\r\n\r\nA program bezárul.");
 }
 
 TEST_F(frmI_FavTest, AFileOfOneLineEndsInTheReportAndLosesNothing) {
     Write(L"a.url", ShortcutFile("http://jo.hu"));
     Write(L"b.url", "[InternetShortcut]\r\n");
-    ExpectReport(L"Futásidejű hiba: 62\r\n\r\n" + PathOf(L"b.url") + L"\r\nOlvasás a fájl vége után.");
+    ExpectReport(L"Futásidejű hiba: 62\r\n\r\n" + PathOf(L"b.url") + L"\r\nOlvasás a fájl vége után.\r\n\r\nA program bezárul.");
 }
 
 TEST_F(frmI_FavTest, AShortSecondLineEndsInTheReportAndLosesNothing) {
     Write(L"a.url", "[InternetShortcut]\r\nab\r\n");
     ExpectReport(L"Futásidejű hiba: 5\r\n\r\n" + PathOf(L"a.url") +
-                 L"\r\nÉrvénytelen eljáráshívás vagy argumentum.");
+                 L"\r\nÉrvénytelen eljáráshívás vagy argumentum.\r\n\r\nA program bezárul.");
 }
 
 TEST_F(frmI_FavTest, AFileThatSomebodyKeepsToHimselfEndsInTheReportAndLosesNothing) {
@@ -219,7 +219,7 @@ TEST_F(frmI_FavTest, AFileThatSomebodyKeepsToHimselfEndsInTheReportAndLosesNothi
     ASSERT_NE(held.get(), INVALID_HANDLE_VALUE);
     const std::wstring words = WordsOf(ERROR_SHARING_VIOLATION);
     EXPECT_NE(words, L"");
-    ExpectReport(L"Futásidejű hiba: 75\r\n\r\n" + path + L"\r\n" + words + L".");
+    ExpectReport(L"Futásidejű hiba: 75\r\n\r\n" + path + L"\r\n" + words + L".\r\n\r\nA program bezárul.");
 }
 
 TEST_F(frmI_FavTest, AFullBookEndsInTheReportAndLosesNothing) {
@@ -230,7 +230,7 @@ TEST_F(frmI_FavTest, AFullBookEndsInTheReportAndLosesNothing) {
     const DialogOnScreen dialog = Open();
     ChooseFolder(dialog);
     AnswerResult(2);  // comes before the entries are added
-    book.ExpectReportAndSave(L"Futásidejű hiba: 6\r\n\r\nTúlcsordulás.");
+    book.ExpectReportAndSave(L"Futásidejű hiba: 6\r\n\r\nTúlcsordulás.\r\n\r\nA program bezárul.");
 }
 
 TEST_F(frmI_FavTest, AFaultAfterACancelledPageOffersToSaveAmongBooks) {
@@ -243,7 +243,7 @@ TEST_F(frmI_FavTest, AFaultAfterACancelledPageOffersToSaveAmongBooks) {
     ChooseFolder(dialog);
     const BoxOnScreen report = program.Box();
     EXPECT_EQ(report.Text(),
-              L"Futásidejű hiba: 62\r\n\r\n" + PathOf(L"a.url") + L"\r\nOlvasás a fájl vége után.");
+              L"Futásidejű hiba: 62\r\n\r\n" + PathOf(L"a.url") + L"\r\nOlvasás a fájl vége után.\r\n\r\nA program bezárul.");
     report.Press(IDOK);
     const BoxOnScreen question = program.Box();
     EXPECT_EQ(question.Title(), L"A fájl módosult");
