@@ -21,52 +21,54 @@ SIZE Anchors::ClientSize() const {
     return {client.right, client.bottom};
 }
 
+LONG Anchors::Scaled(LONG length) const {
+    return MulDiv(length, static_cast<int>(dpi_), static_cast<int>(remembered_dpi_));
+}
+
 void Anchors::Remember(HWND dialog, std::initializer_list<Control> controls) {
     dialog_ = dialog;
-    dpi_ = DpiOf(dialog);
+    dpi_ = remembered_dpi_ = DpiOf(dialog);
     least_client_ = ClientSize();
     RECT window{};
     GetWindowRect(dialog, &window);
     least_window_ = {window.right - window.left, window.bottom - window.top};
     controls_.clear();
-    for (const Control& control : controls) {
+    for (HWND control = GetWindow(dialog, GW_CHILD); control != nullptr;
+         control = GetWindow(control, GW_HWNDNEXT)) {
         RECT place{};
-        GetWindowRect(GetDlgItem(dialog, control.Id), &place);
+        GetWindowRect(control, &place);
         MapWindowPoints(HWND_DESKTOP, dialog, reinterpret_cast<POINT*>(&place), 2);
-        controls_.push_back({control, place});
+        const auto named = std::find_if(
+            controls.begin(), controls.end(),
+            [control](const Control& candidate) { return candidate.Id == GetDlgCtrlID(control); });
+        if (named != controls.end())
+            controls_.push_back({control, named->Across, named->Down, place});
+        else
+            controls_.push_back({control, Growth::Stays, Growth::Stays, place});
     }
 }
 
 void Anchors::Place() const {
     if (dialog_ == nullptr || IsIconic(dialog_)) return;
     const SIZE client = ClientSize();
-    const LONG across = std::max(client.cx - least_client_.cx, 0L);
-    const LONG down = std::max(client.cy - least_client_.cy, 0L);
+    const LONG across = std::max(client.cx - Scaled(least_client_.cx), 0L);
+    const LONG down = std::max(client.cy - Scaled(least_client_.cy), 0L);
     for (const Remembered& remembered : controls_) {
         RECT place = remembered.place;
-        Grow(place.left, place.right, remembered.control.Across, across);
-        Grow(place.top, place.bottom, remembered.control.Down, down);
+        for (LONG* const side : {&place.left, &place.top, &place.right, &place.bottom}) *side = Scaled(*side);
+        Grow(place.left, place.right, remembered.across, across);
+        Grow(place.top, place.bottom, remembered.down, down);
         // A text may be drawn differently at another width, so the old pixels are not kept.
-        SetWindowPos(GetDlgItem(dialog_, remembered.control.Id), nullptr, place.left, place.top,
-                     place.right - place.left, place.bottom - place.top,
-                     SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
+        SetWindowPos(remembered.control, nullptr, place.left, place.top, place.right - place.left,
+                     place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
     }
 }
 
 void Anchors::LimitSize(MINMAXINFO& info) const {
-    if (dialog_ != nullptr) info.ptMinTrackSize = {least_window_.cx, least_window_.cy};
+    if (dialog_ != nullptr) info.ptMinTrackSize = {Scaled(least_window_.cx), Scaled(least_window_.cy)};
 }
 
 void Anchors::ChangeResolution(UINT dpi) {
-    const auto scale = [this, dpi](LONG& length) {
-        length = MulDiv(length, static_cast<int>(dpi), static_cast<int>(dpi_));
-    };
-    for (LONG* const length : {&least_client_.cx, &least_client_.cy, &least_window_.cx, &least_window_.cy})
-        scale(*length);
-    for (Remembered& remembered : controls_) {
-        RECT& place = remembered.place;
-        for (LONG* const side : {&place.left, &place.top, &place.right, &place.bottom}) scale(*side);
-    }
     dpi_ = dpi;
 }
 

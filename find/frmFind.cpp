@@ -66,7 +66,7 @@ void frmFind::ApplyResolution(UINT dpi) {
     SendMessageW(Item(ID_frmFind_lblURL), WM_SETFONT, reinterpret_cast<WPARAM>(font.Handle()), TRUE);
     url_font_ = std::move(font);
     ListView.RemakeCheckBoxes();
-    SizeColumns();
+    Form_Resize();
 }
 
 // Names take two thirds of the list, categories the rest; there is room for a scroll bar.
@@ -94,7 +94,8 @@ bool frmFind::OnMessage(UINT message, WPARAM wparam, LPARAM lparam, LRESULT&) {
             anchors_.LimitSize(*reinterpret_cast<MINMAXINFO*>(lparam));
             return true;
         case WM_DPICHANGED:
-            // The dialog manager scales window and controls after this; the WM_SIZE that follows places them.
+            // The dialog manager scales window and controls after this; ApplyResolution() places them for
+            // good.
             anchors_.ChangeResolution(LOWORD(wparam));
             return false;
         default:

@@ -1,6 +1,8 @@
 // Places and fonts of the controls in the find dialog.
 
+#include <algorithm>
 #include <map>
+#include <string>
 
 #include "tests/window/find/FindSession.h"
 #include "tests/window/support/Expectations.h"
@@ -19,6 +21,78 @@ RECT PlaceOf(const DialogOnScreen& dialog, int id) {
 
 bool operator==(const RECT& a, const RECT& b) {
     return EqualRect(&a, &b) != FALSE;
+}
+
+std::vector<RECT> PlacesOfAll(const DialogOnScreen& dialog) {
+    std::vector<RECT> places;
+    for (HWND control = GetWindow(dialog.Handle(), GW_CHILD); control != nullptr;
+         control = GetWindow(control, GW_HWNDNEXT))
+        places.push_back(PlaceOf(dialog, GetDlgCtrlID(control)));
+    return places;
+}
+
+RECT Scaled(RECT place, int to, int from) {
+    for (LONG* const side : {&place.left, &place.top, &place.right, &place.bottom})
+        *side = MulDiv(*side, to, from);
+    return place;
+}
+
+// What the system does when a dialog comes to another screen, in the order of the letters: (t)ells the
+// dialog, scales the (w)indow, scales the (c)ontrols.
+void ComeToAnotherScreen(const Program& program, const DialogOnScreen& dialog, const std::string& order,
+                         int to, int from) {
+    program.OnUi([&](frmStart&) {
+        RECT window{};
+        RECT client{};
+        GetWindowRect(dialog.Handle(), &window);
+        GetClientRect(dialog.Handle(), &client);
+        const LONG frame_x = window.right - window.left - client.right;
+        const LONG frame_y = window.bottom - window.top - client.bottom;
+        for (const char step : order) {
+            if (step == 't')
+                SendMessageW(dialog.Handle(), WM_DPICHANGED, MAKEWPARAM(to, to),
+                             reinterpret_cast<LPARAM>(&window));
+            if (step == 'w')
+                SetWindowPos(dialog.Handle(), nullptr, 0, 0, MulDiv(client.right, to, from) + frame_x,
+                             MulDiv(client.bottom, to, from) + frame_y, SWP_NOMOVE | SWP_NOZORDER);
+            for (HWND control = GetWindow(dialog.Handle(), GW_CHILD); step == 'c' && control != nullptr;
+                 control = GetWindow(control, GW_HWNDNEXT)) {
+                const RECT place = Scaled(PlaceOf(dialog, GetDlgCtrlID(control)), to, from);
+                SetWindowPos(control, nullptr, place.left, place.top, place.right - place.left,
+                             place.bottom - place.top, SWP_NOZORDER);
+            }
+        }
+    });
+    program.Settle();
+}
+
+TEST_F(frmFindLayoutTest, OnAnotherScreenEverythingStandsInProportionWhateverIsScaledFirst) {
+    constexpr LONG kRounding = 2;
+    AddSixEntries();
+    std::string order = "ctw";
+    do {
+        const FindDialog dialog = Open();
+        // Larger, so that it can shrink again before it is told.
+        RECT window{};
+        GetWindowRect(dialog.Handle(), &window);
+        SetWindowPos(dialog.Handle(), nullptr, 0, 0, (window.right - window.left) * 13 / 10,
+                     (window.bottom - window.top) * 11 / 10, SWP_NOMOVE | SWP_NOZORDER);
+        program.Settle();
+        const std::vector<RECT> before = PlacesOfAll(dialog);
+        ComeToAnotherScreen(program, dialog, order, 144, 96);
+        const std::vector<RECT> after = PlacesOfAll(dialog);
+        for (std::size_t i = 0; i < before.size(); ++i) {
+            const RECT wanted = Scaled(before[i], 144, 96);
+            for (const auto side : {&RECT::left, &RECT::top, &RECT::right, &RECT::bottom})
+                EXPECT_NEAR(after[i].*side, wanted.*side, kRounding) << order << " control " << i;
+        }
+        // And back, to the pixel.
+        ComeToAnotherScreen(program, dialog, order, 96, 144);
+        const std::vector<RECT> back = PlacesOfAll(dialog);
+        for (std::size_t i = 0; i < before.size(); ++i)
+            EXPECT_TRUE(back[i] == before[i]) << order << " control " << i;
+        dialog.Close();
+    } while (std::next_permutation(order.begin(), order.end()));
 }
 
 TEST_F(frmFindLayoutTest, TheAddressStandsInAFixedPitchFont) {
