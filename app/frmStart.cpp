@@ -52,11 +52,12 @@ LRESULT frmStart::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
             MoveTo(Handle(), *reinterpret_cast<const RECT*>(lparam));
             Form_Resize();
             return 0;
-        case WM_SETTINGCHANGE:
         case WM_SYSCOLORCHANGE:
+            PassOnColours(Handle());
+            return 0;
+        case WM_SETTINGCHANGE:
         case WM_THEMECHANGED:
-            ApplyResolution();
-            Form_Resize();
+            OnSettingsChange();
             return DefWindowProcW(Handle(), message, wparam, lparam);
         case WM_QUERYENDSESSION:
             return OnQueryEndSession() ? TRUE : FALSE;

@@ -59,6 +59,7 @@ class frmStart : public OwnWindow {
 
     void CreateControls();
     void ApplyResolution();
+    void OnSettingsChange();
     void ShowIcons();
     void RestoreFocus() const;
 
@@ -84,6 +85,7 @@ class frmStart : public OwnWindow {
     HACCEL shortcuts_ = nullptr;
     bool loaded_ = false;  // Form_Load did all its work
     UINT dpi_ = USER_DEFAULT_SCREEN_DPI;
+    WindowMetrics metrics_;
     Font font_;
     Picture large_icon_, small_icon_, tray_icon_;
     HWND remembered_focus_ = nullptr;

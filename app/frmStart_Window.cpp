@@ -28,18 +28,22 @@ void frmStart::CreateControls() {
 void frmStart::ApplyResolution() {
     dpi_ = DpiOf(Handle());
     Font font(MessageFont(dpi_));
-    for (HWND child = GetWindow(Handle(), GW_CHILD); child != nullptr;
-         child = GetWindow(child, GW_HWNDNEXT)) {
+    for (HWND child = GetWindow(Handle(), GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT))
         SendMessageW(child, WM_SETFONT, reinterpret_cast<WPARAM>(font.Handle()), TRUE);
-        SendMessageW(child, WM_SYSCOLORCHANGE, 0,
-                     0);  // common controls learn of new colours from their parent
-    }
     font_ = std::move(font);
     ShowIcons();
     toolbar_.ApplyResolution(dpi_);
     view_.ApplyResolution(dpi_);
     fields_.ApplyResolution(dpi_);
     search_box_.ApplyResolution(dpi_);
+    metrics_ = WindowMetrics(dpi_);
+}
+
+// Comes often, and seldom with anything that is to be seen here.
+void frmStart::OnSettingsChange() {
+    if (WindowMetrics(dpi_) == metrics_) return;
+    ApplyResolution();
+    Form_Resize();
 }
 
 // The old icons are in use until the new ones are set.

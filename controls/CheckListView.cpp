@@ -209,6 +209,12 @@ std::optional<LRESULT> CheckListView::OnMessage(UINT message, WPARAM wparam, LPA
         case WM_CHAR:
             if (wparam == L' ') return 0;  // not a letter to search for
             return std::nullopt;
+        case WM_SYSCOLORCHANGE:
+        case WM_THEMECHANGED: {
+            const LRESULT result = subclass_.Default(message, wparam, lparam);
+            RemakeCheckBoxes();  // drawn in the colours of the time when they were made
+            return result;
+        }
         case WM_NCDESTROY:
             Wrap(nullptr);
             return std::nullopt;

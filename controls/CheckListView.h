@@ -28,7 +28,8 @@ class CheckListView : public Control {
     void SetColumnWidth(int column, int width_in_pixels);
     // Keeps each column as wide as it was, in inches, when the resolution changes.
     void ScaleColumns(UINT from_dpi, UINT to_dpi);
-    // Makes new check boxes, for the resolution that the window has now.
+    // Makes new check boxes, for the resolution that the window has now. New colours and themes do so by
+    // themselves, if the parent passes WM_SYSCOLORCHANGE on.
     void RemakeCheckBoxes();
 
     // Shows `count` rows, none checked, none selected, scrolled to the first.

@@ -201,12 +201,6 @@ INT_PTR Dialog::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
         case kApplyResolution:
             ApplyResolution(static_cast<UINT>(wparam));
             return TRUE;
-        case WM_QUERYENDSESSION:
-            SetWindowLongPtrW(handle_, DWLP_MSGRESULT, OnQueryEndSession() ? TRUE : FALSE);
-            return TRUE;
-        case WM_ENDSESSION:
-            session_.Release();
-            return TRUE;
         case WM_ACTIVATE:
             returned_focus_.OnActivate(wparam);
             return FALSE;
@@ -217,6 +211,22 @@ INT_PTR Dialog::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
             return TRUE;
         case WM_NOTIFY:
             SetWindowLongPtrW(handle_, DWLP_MSGRESULT, OnNotify(*reinterpret_cast<const NMHDR*>(lparam)));
+            return TRUE;
+        default:
+            return OnSystemMessage(message);
+    }
+}
+
+INT_PTR Dialog::OnSystemMessage(UINT message) {
+    switch (message) {
+        case WM_SYSCOLORCHANGE:
+            PassOnColours(handle_);
+            return TRUE;
+        case WM_QUERYENDSESSION:
+            SetWindowLongPtrW(handle_, DWLP_MSGRESULT, OnQueryEndSession() ? TRUE : FALSE);
+            return TRUE;
+        case WM_ENDSESSION:
+            session_.Release();
             return TRUE;
         default:
             return FALSE;

@@ -55,8 +55,8 @@ class Dialog {
     virtual LRESULT OnNotify(const NMHDR& header);
     // Any message, before the dialog's own handling; true when done, `result` is then the answer.
     virtual bool OnMessage(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& result);
-    // Whether the end of the session would lose what the user does in the dialog; the session then waits until
-    // the dialog is closed.
+    // Whether the end of the session would lose what the user does in the dialog; the session then waits
+    // until the dialog is closed.
     virtual bool HoldsSession() const { return true; }
     // A key message before the dialog's own keyboard handling; true swallows it.
     virtual bool PreTranslate(const MSG& message);
@@ -76,6 +76,7 @@ class Dialog {
   private:
     static INT_PTR CALLBACK Procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam);
     INT_PTR Handle(UINT message, WPARAM wparam, LPARAM lparam);
+    INT_PTR OnSystemMessage(UINT message);
     bool OnQueryEndSession();
     void Create(HWND owner);
     void RunModalLoop();

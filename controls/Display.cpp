@@ -1,6 +1,8 @@
 #include "controls/Display.h"
 
 #include <algorithm>
+#include <cstring>
+#include <type_traits>
 
 namespace lindrel {
 
@@ -18,6 +20,22 @@ LOGFONTW MessageFont(UINT dpi) {
     fallback.lfHeight = -MulDiv(9, static_cast<int>(dpi), 72);
     lstrcpynW(fallback.lfFaceName, L"MS Shell Dlg 2", LF_FACESIZE);
     return fallback;
+}
+
+WindowMetrics::WindowMetrics(UINT dpi) : dpi_(dpi) {
+    values_.cbSize = sizeof values_;
+    // Without an answer there is nothing that could have changed.
+    static_cast<void>(SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, sizeof values_, &values_, 0, dpi));
+}
+
+bool WindowMetrics::operator==(const WindowMetrics& other) const {
+    static_assert(std::has_unique_object_representations_v<NONCLIENTMETRICSW>);
+    return dpi_ == other.dpi_ && std::memcmp(&values_, &other.values_, sizeof values_) == 0;
+}
+
+void PassOnColours(HWND window) {
+    for (HWND child = GetWindow(window, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT))
+        SendMessageW(child, WM_SYSCOLORCHANGE, 0, 0);
 }
 
 Font::Font(const LOGFONTW& description) : handle_(CreateFontIndirectW(&description)) {}

@@ -24,6 +24,21 @@ UINT DpiOf(HWND window);
 // The font that the user has chosen for messages, at a resolution.
 LOGFONTW MessageFont(UINT dpi);
 
+// What the user's settings make of windows at a resolution: their fonts and the measures of their parts.
+class WindowMetrics {
+  public:
+    WindowMetrics() = default;  // of no resolution
+    explicit WindowMetrics(UINT dpi);
+    bool operator==(const WindowMetrics& other) const;
+
+  private:
+    UINT dpi_ = 0;
+    NONCLIENTMETRICSW values_{};
+};
+
+// For WM_SYSCOLORCHANGE of a window: its controls learn of new colours from their parent.
+void PassOnColours(HWND window);
+
 // A font that is deleted with its owner.
 class Font {
   public:

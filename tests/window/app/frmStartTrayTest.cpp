@@ -214,7 +214,11 @@ TEST_F(frmStartTrayTest, ANewResolutionGivesTheShownIconANewPicture) {
     program.Run(ID_mnuTray);
     const HICON before = program.Ask<HICON>([](frmStart&) { return calls.back().Record.hIcon; });
     const UINT identifier = ExpectIconAdded();
-    program.OnUi([](frmStart& form) { SendMessageW(form.Handle(), WM_SETTINGCHANGE, 0, 0); });
+    program.OnUi([](frmStart& form) {
+        RECT place{};
+        GetWindowRect(form.Handle(), &place);
+        SendMessageW(form.Handle(), WM_DPICHANGED, MAKEWPARAM(96, 96), reinterpret_cast<LPARAM>(&place));
+    });
     const std::vector<Call> taken = Taken();
     ASSERT_EQ(taken.size(), 1u);
     EXPECT_EQ(taken[0].Operation, static_cast<DWORD>(NIM_MODIFY));
