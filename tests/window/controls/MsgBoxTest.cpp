@@ -129,6 +129,7 @@ TEST_F(MsgBoxTest, ABoxOverABoxStandsOverItsOwnOwnerAndTheNextOneToo) {
     const BoxOnScreen outer = BoxOfMainAt(-400, -350);
     const RECT place = PlaceOf(outer.Handle());
     EXPECT_LT(MiddleOf(PlaceOf(program.Main())).x, 0);
+    EXPECT_EQ(place.left, WorkArea().left);
     const std::wstring text = L"belső";
     std::thread opening([&] { program.OnUi([&](frmStart&) { MsgBox(outer.Handle(), text); }); });
     EXPECT_TRUE(Eventually([&] { return program.Box().Text() == text; }));
