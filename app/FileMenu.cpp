@@ -1,8 +1,10 @@
 #include "app/FileMenu.h"
 
+#include <utility>
+
+#include "app/BookFileBoxes.h"
 #include "app/MenuCommands.h"
 #include "book/BookFile.h"
-#include "book/BookText.h"
 #include "book/Files.h"
 #include "controls/MsgBox.h"
 #include "controls/Shell.h"
@@ -13,17 +15,9 @@ namespace lindrel {
 
 namespace {
 
-constexpr wchar_t kLoadErrorTitle[] = L"Hiba a beolvasásnál";
-constexpr wchar_t kWarningTitle[] = L"Figyelem";
-
 // No blank after the dash, as users know the title.
 std::wstring TitleOf(const std::wstring& path) {
     return L"Lindrel -" + FileNameOf(path);
-}
-
-std::wstring TextOf(const MalformedBook& malformed) {
-    if (malformed.Line() == 0) return malformed.Message();
-    return malformed.Message() + L"\r\n(" + std::to_wstring(malformed.Line()) + L". sor)";
 }
 
 }  // namespace
@@ -136,23 +130,23 @@ bool FileMenu::ChooseBookFile(Choice choice) {
 bool FileMenu::LoadBook(const std::wstring& path) {
     // Before the file is read, so that a change in between is not missed.
     const std::optional<FileState> state = StateOf(path);
-    bool all_categories = true;
+    BookFromFile read;
     try {
         const WaitCursor hourglass;
-        all_categories = lindrel::LoadBook(open_.TheBook, std::filesystem::path(path));
+        read = ReadBook(open_.TheBook, std::filesystem::path(path));
     } catch (const MalformedBook& malformed) {
-        MsgBox(window_, TextOf(malformed), MB_OK | MB_ICONERROR, kLoadErrorTitle);
+        TellOfMalformedBook(window_, malformed);
         return false;
     } catch (...) {
         MsgBox(window_, CurrentFault().Meaning(), MB_OK | MB_ICONERROR, kLoadErrorTitle);
         return false;
     }
+    if (!MayOpenInDoubt(window_, read.Doubtful)) return false;
+    open_.TheBook = std::move(read.TheBook);
     known_file_ = path;
     known_state_ = state;
     SetTitle(TitleOf(path));
-    if (!all_categories)
-        MsgBox(window_, L"Nem sikerült beolvasni az összes kategóriát", MB_OK | MB_ICONERROR,
-               kLoadErrorTitle);
+    TellWhatIsMissing(window_, read);
     view_.ShowCheckedCount();
     open_.Modified = false;
     return true;
@@ -174,7 +168,7 @@ bool FileMenu::SaveBook(const std::wstring& path) {
     known_state_ = StateOf(path);
     open_.Modified = false;
     MsgBox(window_, L"Elmentve : " + open_.OpenedFile);
-    WarnOfHeaderLookalikes();
+    WarnOfHeaderLookalikes(window_, open_.TheBook);
     return true;
 }
 
@@ -194,18 +188,6 @@ void FileMenu::SaveUnderNewName(const std::wstring& before) {
         SetTitle(TitleOf(open_.OpenedFile));
     else
         open_.OpenedFile = before;
-}
-
-// Names and addresses are saved as they stand, so one that begins with "#" comes back as a category's name.
-void FileMenu::WarnOfHeaderLookalikes() const {
-    const HeaderLookalikes found = FindHeaderLookalikes(open_.TheBook);
-    if (found.Count == 0) return;
-    MsgBox(window_,
-           L"A könyvben " + std::to_wstring(found.Count) +
-               L" olyan név vagy cím van, amely „#” jellel kezdődik. A következő megnyitáskor ezek "
-               L"kategórianévként jönnek vissza. Az első:\r\n\r\n" +
-               FromBookText(found.First),
-           MB_OK | MB_ICONWARNING, kWarningTitle);
 }
 
 void FileMenu::SetTitle(const std::wstring& title) const {

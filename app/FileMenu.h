@@ -62,7 +62,6 @@ class FileMenu {
     // Saves to the path that the user has just chosen, and shows its name in the title. When that fails the
     // book belongs to the path before, so that the next save does not run into the same wall.
     void SaveUnderNewName(const std::wstring& before);
-    void WarnOfHeaderLookalikes() const;
     void SetTitle(const std::wstring& title) const;
 
     OpenBook& open_;

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <utility>
 
+#include "book/BookHeaders.h"
 #include "book/EntrySequence.h"
 #include "book/Files.h"
 #include "book/PerCategory.h"
@@ -13,32 +14,44 @@ namespace lindrel {
 
 namespace {
 
-constexpr char kHeaderMark = '#';
+constexpr std::size_t kMostLines = kCategories + 2 * kMostEntries;
 
-// Splits a text into lines at LF or CR LF.
-class LineReader {
-  public:
-    explicit LineReader(std::string_view text) : rest_(text) {}
-
-    bool Next(std::string_view& line) {
-        if (rest_.empty()) return false;
-        const std::size_t length = std::min(rest_.find('\n'), rest_.size());
-        line = rest_.substr(0, length);
-        rest_.remove_prefix(std::min(length + 1, rest_.size()));
-        if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
-        return true;
+// Cuts a text at LF or CR LF. The last line may lack its end.
+std::vector<std::string_view> LinesOf(std::string_view text) {
+    std::vector<std::string_view> lines;
+    while (!text.empty()) {
+        if (lines.size() == kMostLines)
+            throw MalformedBook(
+                L"A fájl több címet tartalmaz, mint amennyi egy könyvben elfér (32\u00A0767).", 0);
+        const std::size_t end = text.find('\n');
+        std::string_view line = text.substr(0, end);
+        text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+        if (end != std::string_view::npos && line.ends_with('\r')) line.remove_suffix(1);
+        lines.push_back(line);
     }
-
-  private:
-    std::string_view rest_;
-};
+    return lines;
+}
 
 // Entries in a file of that many lines: half of what the twelve headers leave, rounded half to even.
-long long EstimatedEntries(long long lines) {
-    const long long doubled = lines - kCategories;
-    const long long floor = doubled >= 0 ? doubled / 2 : -((1 - doubled) / 2);
-    const bool tie = doubled % 2 != 0;
-    return tie && floor % 2 != 0 ? floor + 1 : floor;
+int EstimatedEntries(std::size_t lines) {
+    const int doubled = static_cast<int>(lines) - kCategories;
+    const int half = doubled >> 1;
+    return (doubled & 1) != 0 && (half & 1) != 0 ? half + 1 : half;
+}
+
+[[noreturn]] void RefuseHeaders(HeaderChoice choice, std::size_t thirteenth) {
+    std::wstring message = L"A fájlban tizenkettőnél több „#” jellel kezdődő sor van, ";
+    message += choice == HeaderChoice::Several
+                   ? L"és többféleképpen is lehet közülük tizenkét kategóriát választani."
+                   : L"de nem lehet közülük úgy tizenkét kategóriát választani, hogy köztük csak teljes "
+                     L"(név, cím) párok maradjanak.";
+    throw MalformedBook(std::move(message), static_cast<long long>(thirteenth) + 1);
+}
+
+DoubtfulLines DoubtsOf(const std::vector<std::string_view>& lines, const std::vector<std::size_t>& doubtful) {
+    if (doubtful.empty()) return {};
+    const std::size_t first = doubtful.front();
+    return {static_cast<int>(doubtful.size()), std::string(lines[first]), static_cast<long long>(first) + 1};
 }
 
 }  // namespace
@@ -46,91 +59,105 @@ long long EstimatedEntries(long long lines) {
 // Builds the book of a file in a book of its own, so that a malformed file does not affect the open one.
 class BookReader {
   public:
-    // Takes names and counts from the old book for categories that the file may not reach.
-    BookReader(const Book& old, std::vector<char> bytes) {
-        book_.names_ = old.names_;
-        book_.counts_ = old.counts_;
-        const long long lines = CountLines({bytes.data(), bytes.size()});
-        const long long estimate = EstimatedEntries(lines);
-        if (estimate < 0) throw MalformedBook(L"A fájl túl rövid: tizenkét kategória sem fér bele.", 0);
-        if (estimate > kMostEntries)
-            throw MalformedBook(L"A fájl több címet tartalmaz, mint amennyi egy könyvben elfér (32767).", 0);
-        estimate_ = static_cast<int>(estimate);
+    // Takes names and counts from the open book for categories that the file may not reach.
+    BookReader(const Book& open, std::vector<char> bytes) {
+        Book& book = read_.TheBook;
+        book.names_ = open.names_;
+        book.counts_ = open.counts_;
+        const std::string_view text(bytes.data(), bytes.size());  // stays where it is when it is adopted
+        lines_ = LinesOf(text);
+        estimate_ = EstimatedEntries(lines_.size());
+        if (estimate_ < 0) throw MalformedBook(L"A fájl túl rövid: tizenkét kategória sem fér bele.", 0);
         if (estimate_ == 0)
-            book_.entries_ = old.entries_;
+            book.entries_ = open.entries_;
         else
-            book_.entries_.Recreate(estimate_);
-        text_ = book_.entries_.Texts().Adopt(std::move(bytes));
+            book.entries_.Recreate(estimate_);
+        book.entries_.Texts().Adopt(std::move(bytes));
     }
 
-    // Whether there were exactly twelve headers.
-    bool Read() {
-        LineReader lines(text_);
-        for (std::string_view line; lines.Next(line);) {
-            ++line_;
-            if (!line.empty() && line.front() == kHeaderMark)
-                TakeHeader(line.substr(1));
-            else if (expecting_name_)
-                TakeName(line);
-            else
-                TakeAddress(line);
-        }
-        book_.counts_(kCategories) = count_;
-        book_.RecomputeStarts();
-        if (book_.CategoryStarts(kCategories) > kMostEntries + 1)
+    BookFromFile Read() {
+        FindHeaders();
+        TakeLines();
+        Book& book = read_.TheBook;
+        book.counts_(kCategories) = count_;
+        book.RecomputeStarts();
+        if (book.CategoryStarts(kCategories) > kMostEntries + 1)
             throw MalformedBook(L"A kategóriák száma hibás, és a címek száma így túl nagy lenne.", 0);
-        return category_ == kCategories + 1;
+        read_.AllCategories = headers_.size() == kCategories;
+        read_.InNoCategory = std::max(0, entry_ - book.EntryCount());
+        return std::move(read_);
     }
-
-    Book Take() { return std::move(book_); }
 
   private:
+    void FindHeaders() {
+        for (std::size_t line = 0; line < lines_.size(); ++line)
+            if (IsMarked(lines_[line])) headers_.push_back(line);
+        if (headers_.size() <= kCategories) return;
+        const ChosenHeaders chosen = ChooseHeaders(lines_);
+        if (chosen.Choice != HeaderChoice::One) RefuseHeaders(chosen.Choice, headers_[kCategories]);
+        headers_.assign(chosen.Lines.begin(), chosen.Lines.end());
+        read_.Doubtful = DoubtsOf(lines_, chosen.Doubtful);
+    }
+
+    void TakeLines() {
+        auto header = headers_.begin();
+        for (std::size_t line = 0; line < lines_.size(); ++line) {
+            if (header != headers_.end() && line == *header) {
+                TakeHeader(lines_[line].substr(1));
+                ++header;
+            } else if (expecting_name_) {
+                TakeName(line);
+            } else {
+                TakeAddress(lines_[line]);
+            }
+        }
+    }
+
     void TakeHeader(std::string_view name) {
-        if (category_ > kCategories)
-            throw MalformedBook(
-                L"A fájlban tizenkettőnél több kategória van (a „#” jellel kezdődő sor kategóriát jelöl).",
-                line_);
-        if (category_ != 1) book_.counts_(category_ - 1) = count_;
-        book_.names_(category_) = name;
+        if (category_ != 1) read_.TheBook.counts_(category_ - 1) = count_;
+        read_.TheBook.names_(category_) = name;
         ++category_;
         count_ = 0;
     }
 
-    void TakeName(std::string_view line) {
+    void TakeName(std::size_t line) {
         if (entry_ == estimate_)
-            throw MalformedBook(L"A fájlban több cím van, mint amennyi a sorok számából következik.", line_);
+            throw MalformedBook(L"A fájlban több cím van, mint amennyi a sorok számából következik.",
+                                static_cast<long long>(line) + 1);
         ++entry_;
-        book_.entries_.At(entry_).SiteName = line;
+        read_.TheBook.entries_.At(entry_).SiteName = lines_[line];
         ++count_;
         expecting_name_ = false;
     }
 
     void TakeAddress(std::string_view line) {
-        book_.entries_.At(entry_).URL = line;
+        read_.TheBook.entries_.At(entry_).URL = line;
         // Even after a header in between: books that were edited by hand have always been read this way.
         expecting_name_ = true;
     }
 
-    Book book_;
-    std::string_view text_;
+    BookFromFile read_;
+    std::vector<std::string_view> lines_;
+    std::vector<std::size_t> headers_;  // 0-based lines
     int estimate_ = 0;
-    long long line_ = 0;
     bool expecting_name_ = true;
     int category_ = 1;
     int entry_ = 0;
     std::int16_t count_ = 0;
 };
 
-long long CountLines(std::string_view bytes) {
-    const bool last_is_open = !bytes.empty() && bytes.back() != '\n';
-    return std::count(bytes.begin(), bytes.end(), '\n') + (last_is_open ? 1 : 0);
+BookFromFile ReadBook(const Book& open, std::vector<char> bytes) {
+    return BookReader(open, std::move(bytes)).Read();
+}
+
+BookFromFile ReadBook(const Book& open, const std::filesystem::path& path) {
+    return ReadBook(open, ReadFileBytes(path));
 }
 
 bool LoadBook(Book& book, std::vector<char> bytes) {
-    BookReader reader(book, std::move(bytes));
-    const bool all_categories = reader.Read();
-    book = reader.Take();
-    return all_categories;
+    BookFromFile read = ReadBook(book, std::move(bytes));
+    book = std::move(read.TheBook);
+    return read.AllCategories;
 }
 
 bool LoadBook(Book& book, const std::filesystem::path& path) {
@@ -161,10 +188,25 @@ void SaveBook(const Book& book, const std::filesystem::path& path) {
 
 HeaderLookalikes FindHeaderLookalikes(const Book& book) {
     HeaderLookalikes found;
-    for (int i = 1; i <= book.EntryCount(); ++i)
-        for (const std::string_view text : {book.SiteNames(i), book.SiteURLs(i)})
-            if (text.starts_with(kHeaderMark) && ++found.Count == 1) found.First = text;
+    for (int i = 1; i <= book.EntryCount(); ++i) {
+        if (IsMarked(book.SiteNames(i)) && ++found.Names == 1) found.First = book.SiteNames(i);
+        if (IsMarked(book.SiteURLs(i)) && ++found.Addresses == 1 && found.Names == 0)
+            found.First = book.SiteURLs(i);
+    }
     return found;
+}
+
+Rereading HowItWillBeRead(const Book& book) {
+    const std::string file = SaveBook(book);
+    try {
+        const BookFromFile read = ReadBook(Book(), std::vector<char>(file.begin(), file.end()));
+        // The same lines are the same book if every category has as many of them.
+        for (int k = 1; k <= kCategories; ++k)
+            if (read.TheBook.CategoryCounts(k) != book.CategoryCounts(k)) return Rereading::Lost;
+        return read.Doubtful.Count == 0 ? Rereading::Same : Rereading::SameIfConfirmed;
+    } catch (const MalformedBook&) {
+        return Rereading::Lost;
+    }
 }
 
 }  // namespace lindrel

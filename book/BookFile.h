@@ -1,7 +1,7 @@
 // The book file (*.lnd): for each category a header line, "#" and its name, and then two lines for each
 // entry, its site name and its address. Windows-1250; written with CR LF, read with CR LF or LF.
 //
-// There is no escaping: a name or an address that begins with "#" is read back as a header.
+// There is no escaping: a name or an address may begin with "#" and looks like a header then.
 #pragma once
 
 #include <exception>
@@ -29,13 +29,31 @@ class MalformedBook : public std::exception {
     long long line_;
 };
 
-// The number of lines of a text. The last one may lack its line break.
-long long CountLines(std::string_view bytes);
+// Lines that begin with "#" and were taken for names or addresses, though they may be headers.
+struct DoubtfulLines {
+    int Count = 0;
+    std::string First;        // book text
+    long long FirstLine = 0;  // 1-based
+};
 
-// Replaces names, counts and entries by those of the file and clears the check marks. Returns whether
-// there were exactly twelve headers. A file with fewer is loaded as far as it goes, since users repair such
-// files by hand: the categories that it does not reach keep their names and counts. Throws MalformedBook or
-// FileFault and leaves the book as it was.
+// A book as it was read from a file, and what the user should know of it.
+struct BookFromFile {
+    Book TheBook;
+    bool AllCategories = true;  // whether there were exactly twelve headers
+    int InNoCategory = 0;       // entries that no category counts; saving drops as many
+    DoubtfulLines Doubtful;     // ask before the book takes the place of the open one if there are any
+};
+
+// Reads names, counts and entries, without check marks. In a file with at most twelve lines that begin with
+// "#" each of them is a header. One with fewer is read as far as it goes, since users repair such files by
+// hand: the categories that it does not reach have the names and counts of the open book. In a file with more
+// such lines the headers are found by what stands around them (ChooseHeaders). Throws MalformedBook or
+// FileFault.
+BookFromFile ReadBook(const Book& open, std::vector<char> bytes);
+BookFromFile ReadBook(const Book& open, const std::filesystem::path& path);
+
+// Reads a book and puts it in the place of another one, whatever is in doubt. Returns whether there were
+// exactly twelve headers. Leaves the book as it was when it throws.
 bool LoadBook(Book& book, std::vector<char> bytes);
 bool LoadBook(Book& book, const std::filesystem::path& path);
 
@@ -44,11 +62,21 @@ std::string SaveBook(const Book& book);
 // Writes the file in one step, see ReplaceFileBytes(). Throws FileFault too.
 void SaveBook(const Book& book, const std::filesystem::path& path);
 
-// Names and addresses that begin with "#" and would be read back as headers.
+// Names and addresses of a book that begin with "#".
 struct HeaderLookalikes {
-    int Count = 0;
-    std::string First;  // the first one in the book, as book text
+    int Names = 0;
+    int Addresses = 0;
+    std::string First;  // the first name, or the first address if there is no such name, as book text
 };
 HeaderLookalikes FindHeaderLookalikes(const Book& book);
+
+// How a book's file will be read.
+enum class Rereading {
+    Same,             // in silence
+    SameIfConfirmed,  // after a question, see BookFromFile::Doubtful
+    Lost,             // not at all, or as another book
+};
+// Throws RangeFault for a book that cannot be saved.
+Rereading HowItWillBeRead(const Book& book);
 
 }  // namespace lindrel
