@@ -10,8 +10,10 @@ sources=$(cd "$(dirname "$0")/../fuzz" && pwd)
 # The words that a target's inputs are made of, if there is a list of them.
 dictionary_of() {
   case $1 in
+    BookFuzz) echo "-dict=$sources/book.dict" ;;
     ImportPageFuzz) echo "-dict=$sources/html.dict" ;;
     ShortcutFuzz) echo "-dict=$sources/shortcut.dict" ;;
+    ThemeFuzz) echo "-dict=$sources/theme.dict" ;;
   esac
 }
 

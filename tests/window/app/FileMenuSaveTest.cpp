@@ -170,26 +170,6 @@ TEST_F(FileMenuSaveTest, AFailedSaveSaysWhyChangesNothingAndCallsTheCommandOff) 
     ASSERT_TRUE(SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL));
 }
 
-TEST_F(FileMenuSaveTest, EntriesThatWillComeBackAsHeadersAreWarnedOf) {
-    program.OnUi([&](frmStart& form) {
-        form.OpenedBook().TheBook.AddEntry(2, {{"#els\xF5", "http://a.hu"}, {"B", "#m\xE1sodik"}});
-        form.OpenedBook().OpenedFile = folder.File(L"a.lnd");
-        form.OpenedBook().Modified = true;
-    });
-    program.Choose(ID_mnuSave);
-    ExpectSaved(folder.File(L"a.lnd"));
-    const BoxOnScreen box = program.Box();
-    EXPECT_EQ(box.Title(), L"Figyelem");
-    EXPECT_EQ(
-        box.Text(),
-        L"A könyvben 2 olyan név vagy cím van, amely „#” jellel kezdődik. A következő megnyitáskor ezek "
-        L"kategórianévként jönnek vissza. Az első:\r\n\r\n#első");
-    EXPECT_EQ(box.Icon(), BoxIcon::Exclamation);
-    box.Press(IDOK);
-    program.Settle();
-    EXPECT_FALSE(program.State().Modified);
-}
-
 TEST_F(FileMenuSaveTest, ABookThatCannotBeWrittenOutIsKeptAndTheCommandCalledOff) {
     for (int i = 0; i < 5; ++i) Change(11);
     program.OnUi([](frmStart& form) { form.OpenedBook().Modified = false; });
