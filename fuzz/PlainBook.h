@@ -50,7 +50,7 @@ struct PlainBook {
         if (Total() - 1 >= 32767) throw PlainFault{6};
         if (!empty && place > Size() + 1) throw PlainFault{9};
         if (empty) Entries.clear();
-        Entries.insert(Entries.begin() + place - 1, entry);
+        Entries.insert(Entries.begin() + (place - 1), entry);
         ++CountOf(k);
     }
 
@@ -58,7 +58,7 @@ struct PlainBook {
         if (position < 1 || position + count - 1 > CountOf(k)) throw PlainFault{9};
         const int index = StartOf(k) + position - 1;
         if (index + count - 1 > Size()) throw PlainFault{9};
-        Entries.erase(Entries.begin() + index - 1, Entries.begin() + index - 1 + count);
+        Entries.erase(Entries.begin() + (index - 1), Entries.begin() + (index - 1 + count));
         if (Entries.empty()) Entries.emplace_back();
         CountOf(k) -= count;
     }
@@ -71,8 +71,8 @@ struct PlainBook {
         const int behind = StartOf(destination) + CountOf(destination);
         const int to = source > destination ? behind : behind - 1;
         if (to > Size()) throw PlainFault{9};
-        Entries.erase(Entries.begin() + from - 1);
-        Entries.insert(Entries.begin() + to - 1, moved);
+        Entries.erase(Entries.begin() + (from - 1));
+        Entries.insert(Entries.begin() + (to - 1), moved);
         --CountOf(source);
         ++CountOf(destination);
     }

@@ -105,7 +105,7 @@ TEST_F(BookFileBoxesTest, HeadersThatCannotBeToldAreRefusedWithTheLineOfTheThirt
     Open(FileWith("#n\r\nx\r\ny\r\nhttp://z.hu\r\n"));
     ExpectLoadBox(
         L"A fájlban tizenkettőnél több „#” jellel kezdődő sor van, de nem lehet közülük úgy tizenkét "
-        L"kategóriát választani, hogy köztük csak teljes (név, cím) párok maradjanak.\r\n(17. sor)",
+        L"kategóriát választani, hogy köztük csak teljes (név, cím) párok maradjanak.\r\n(16. sor)",
         BoxIcon::Error, {IDOK}, IDOK);
     std::string several;
     for (int i = 0; i < 7; ++i) several += "#a\r\n#http://a.hu\r\n";
