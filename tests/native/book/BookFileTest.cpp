@@ -174,6 +174,7 @@ TEST(BookFileTest, TheLargestBookIsSavedAndOpenedAgain) {
     const std::string file = SaveBook(book);
     EXPECT_EQ(std::count(file.begin(), file.end(), '\n'), 12 + 2 * kMostEntries);
     EXPECT_EQ(SaveBook(BookOf(file)), file);
+    EXPECT_EQ(FaultLine(file + "m"), 0);
     EXPECT_EQ(FaultLine(file + "m\r\nv\r\n"), 0);
 }
 

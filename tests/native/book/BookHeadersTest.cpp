@@ -83,6 +83,10 @@ TEST(BookHeadersTest, HalfPairsAndLinesBeforeTheFirstHeaderAreNoChoice) {
     lines.pop_back();
     lines.insert(lines.begin(), {"b", "http://b.hu"});
     EXPECT_EQ(Choice(lines), "none");
+    lines = BookLines({{5, {"Vissza", "#fej", "Le", "#lab"}}});
+    EXPECT_EQ(Choice(lines), kOneToTwelve);
+    lines.front() = "1";
+    EXPECT_EQ(Choice(lines), "none");
     EXPECT_EQ(Choice({}), "none");
     EXPECT_EQ(Choice({"#1"}), "none");
 }
