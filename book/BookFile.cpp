@@ -1,8 +1,10 @@
 #include "book/BookFile.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <utility>
 
 #include "book/BookHeaders.h"
@@ -14,44 +16,68 @@ namespace lindrel {
 
 namespace {
 
-constexpr std::size_t kMostLines = kCategories + 2 * kMostEntries;
+// Splits a text into lines at LF or CR LF. The last line may lack its end.
+class LineReader {
+  public:
+    explicit LineReader(std::string_view text) : rest_(text) {}
 
-// Cuts a text at LF or CR LF. The last line may lack its end.
-std::vector<std::string_view> LinesOf(std::string_view text) {
-    std::vector<std::string_view> lines;
-    while (!text.empty()) {
-        if (lines.size() == kMostLines)
-            throw MalformedBook(
-                L"A fájl több címet tartalmaz, mint amennyi egy könyvben elfér (32\u00A0767).", 0);
-        const std::size_t end = text.find('\n');
-        std::string_view line = text.substr(0, end);
-        text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+    bool Next(std::string_view& line) {
+        if (rest_.empty()) return false;
+        const std::size_t end = rest_.find('\n');
+        line = rest_.substr(0, end);
+        rest_.remove_prefix(end == std::string_view::npos ? rest_.size() : end + 1);
         if (end != std::string_view::npos && line.ends_with('\r')) line.remove_suffix(1);
-        lines.push_back(line);
+        return true;
+    }
+
+  private:
+    std::string_view rest_;
+};
+
+long long CountLines(std::string_view text) {
+    // In pieces so short that a byte counts their line ends: many bytes at a time can be counted so.
+    constexpr std::size_t kPiece = 255;
+    long long lines = text.empty() || text.back() == '\n' ? 0 : 1;
+    for (; !text.empty(); text.remove_prefix(std::min(kPiece, text.size()))) {
+        std::uint8_t ends = 0;
+        for (const char byte : text.substr(0, kPiece))
+            ends = static_cast<std::uint8_t>(ends + (byte == '\n' ? 1 : 0));
+        lines += ends;
     }
     return lines;
 }
 
-// Entries in a file of that many lines: half of what the twelve headers leave, rounded half to even.
-int EstimatedEntries(std::size_t lines) {
-    const int doubled = static_cast<int>(lines) - kCategories;
-    const int half = doubled >> 1;
-    return (doubled & 1) != 0 && (half & 1) != 0 ? half + 1 : half;
+bool HasMoreMarksThanHeaders(std::string_view text) {
+    int marked = 0;
+    for (std::size_t place = text.find(kHeaderMark); place != std::string_view::npos;
+         place = text.find(kHeaderMark, place + 1))
+        if ((place == 0 || text[place - 1] == '\n') && ++marked > kCategories) return true;
+    return false;
 }
 
-[[noreturn]] void RefuseHeaders(HeaderChoice choice, std::size_t thirteenth) {
+// Entries in a file of that many lines: half of what the twelve headers leave, rounded half to even.
+int EstimatedEntries(long long lines) {
+    const long long doubled = lines - kCategories;
+    const long long half = doubled >> 1;
+    const long long estimate = (doubled & 1) != 0 && (half & 1) != 0 ? half + 1 : half;
+    if (estimate < 0) throw MalformedBook(L"A fájl túl rövid: tizenkét kategória sem fér bele.", 0);
+    if (estimate > kMostEntries)
+        throw MalformedBook(L"A fájl több címet tartalmaz, mint amennyi egy könyvben elfér (32\u00A0767).",
+                            0);
+    return static_cast<int>(estimate);
+}
+
+[[noreturn]] void RefuseHeaders(HeaderChoice choice, const std::vector<std::string_view>& lines) {
     std::wstring message = L"A fájlban tizenkettőnél több „#” jellel kezdődő sor van, ";
     message += choice == HeaderChoice::Several
                    ? L"és többféleképpen is lehet közülük tizenkét kategóriát választani."
                    : L"de nem lehet közülük úgy tizenkét kategóriát választani, hogy köztük csak teljes "
                      L"(név, cím) párok maradjanak.";
-    throw MalformedBook(std::move(message), static_cast<long long>(thirteenth) + 1);
-}
-
-DoubtfulLines DoubtsOf(const std::vector<std::string_view>& lines, const std::vector<std::size_t>& doubtful) {
-    if (doubtful.empty()) return {};
-    const std::size_t first = doubtful.front();
-    return {static_cast<int>(doubtful.size()), std::string(lines[first]), static_cast<long long>(first) + 1};
+    int marked = 0;
+    const auto thirteenth = std::find_if(lines.begin(), lines.end(), [&marked](std::string_view line) {
+        return IsMarked(line) && ++marked > kCategories;
+    });
+    throw MalformedBook(std::move(message), thirteenth - lines.begin() + 1);
 }
 
 }  // namespace
@@ -64,52 +90,57 @@ class BookReader {
         Book& book = read_.TheBook;
         book.names_ = open.names_;
         book.counts_ = open.counts_;
-        const std::string_view text(bytes.data(), bytes.size());  // stays where it is when it is adopted
-        lines_ = LinesOf(text);
-        estimate_ = EstimatedEntries(lines_.size());
-        if (estimate_ < 0) throw MalformedBook(L"A fájl túl rövid: tizenkét kategória sem fér bele.", 0);
+        estimate_ = EstimatedEntries(CountLines({bytes.data(), bytes.size()}));
         if (estimate_ == 0)
             book.entries_ = open.entries_;
         else
             book.entries_.Recreate(estimate_);
-        book.entries_.Texts().Adopt(std::move(bytes));
+        text_ = book.entries_.Texts().Adopt(std::move(bytes));
     }
 
     BookFromFile Read() {
-        FindHeaders();
+        if (HasMoreMarksThanHeaders(text_)) ChooseTwelveHeaders();
         TakeLines();
         Book& book = read_.TheBook;
         book.counts_(kCategories) = count_;
         book.RecomputeStarts();
         if (book.CategoryStarts(kCategories) > kMostEntries + 1)
             throw MalformedBook(L"A kategóriák száma hibás, és a címek száma így túl nagy lenne.", 0);
-        read_.AllCategories = headers_.size() == kCategories;
+        read_.AllCategories = category_ == kCategories + 1;
         read_.InNoCategory = std::max(0, entry_ - book.EntryCount());
         return std::move(read_);
     }
 
   private:
-    void FindHeaders() {
-        for (std::size_t line = 0; line < lines_.size(); ++line)
-            if (IsMarked(lines_[line])) headers_.push_back(line);
-        if (headers_.size() <= kCategories) return;
-        const ChosenHeaders chosen = ChooseHeaders(lines_);
-        if (chosen.Choice != HeaderChoice::One) RefuseHeaders(chosen.Choice, headers_[kCategories]);
-        headers_.assign(chosen.Lines.begin(), chosen.Lines.end());
-        read_.Doubtful = DoubtsOf(lines_, chosen.Doubtful);
+    void ChooseTwelveHeaders() {
+        std::vector<std::string_view> lines;
+        LineReader reader(text_);
+        for (std::string_view line; reader.Next(line);) lines.push_back(line);
+        ChosenHeaders chosen = ChooseHeaders(lines);
+        if (chosen.Choice != HeaderChoice::One) RefuseHeaders(chosen.Choice, lines);
+        if (!chosen.Doubtful.empty()) {
+            const std::size_t first = chosen.Doubtful.front();
+            read_.Doubtful = {static_cast<int>(chosen.Doubtful.size()), std::string(lines[first]),
+                              static_cast<long long>(first) + 1};
+        }
+        chosen_ = chosen.Lines;
+    }
+
+    bool IsHeader(std::string_view line) const {
+        if (!IsMarked(line)) return false;
+        return !chosen_ || std::binary_search(chosen_->begin(), chosen_->end(), line_ - 1);
     }
 
     void TakeLines() {
-        auto header = headers_.begin();
-        for (std::size_t line = 0; line < lines_.size(); ++line) {
-            if (header != headers_.end() && line == *header) {
-                TakeHeader(lines_[line].substr(1));
-                ++header;
-            } else if (expecting_name_) {
+        LineReader lines(text_);
+        for (std::string_view line; lines.Next(line);) {
+            ++line_;
+            if (IsHeader(line))
+                TakeHeader(line.substr(1));
+            else if (expecting_name_)
                 TakeName(line);
-            } else {
-                TakeAddress(lines_[line]);
-            }
+            else
+                TakeAddress(line);
         }
     }
 
@@ -120,12 +151,12 @@ class BookReader {
         count_ = 0;
     }
 
-    void TakeName(std::size_t line) {
+    void TakeName(std::string_view line) {
         if (entry_ == estimate_)
             throw MalformedBook(L"A fájlban több cím van, mint amennyi a sorok számából következik.",
-                                static_cast<long long>(line) + 1);
+                                static_cast<long long>(line_));
         ++entry_;
-        read_.TheBook.entries_.At(entry_).SiteName = lines_[line];
+        read_.TheBook.entries_.At(entry_).SiteName = line;
         ++count_;
         expecting_name_ = false;
     }
@@ -137,8 +168,10 @@ class BookReader {
     }
 
     BookFromFile read_;
-    std::vector<std::string_view> lines_;
-    std::vector<std::size_t> headers_;  // 0-based lines
+    std::string_view text_;
+    // The headers, if not every marked line is one: 0-based lines.
+    std::optional<std::array<std::size_t, kCategories>> chosen_;
+    std::size_t line_ = 0;  // 1-based
     int estimate_ = 0;
     bool expecting_name_ = true;
     int category_ = 1;

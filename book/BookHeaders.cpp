@@ -79,10 +79,6 @@ class ChoiceCounter {
 
 }  // namespace
 
-bool IsMarked(std::string_view line) {
-    return line.starts_with(kHeaderMark);
-}
-
 bool LooksLikeAddress(std::string_view text) {
     return text.find("://") != std::string_view::npos || BeginsWith(text, "mailto:") ||
            BeginsWith(text, "www.");

@@ -14,7 +14,9 @@ namespace lindrel {
 inline constexpr char kHeaderMark = '#';
 
 // Whether a line begins with the mark.
-bool IsMarked(std::string_view line);
+inline bool IsMarked(std::string_view line) {
+    return line.starts_with(kHeaderMark);
+}
 
 // Whether a text contains "://", or begins with "mailto:" or "www." in either case.
 bool LooksLikeAddress(std::string_view text);
