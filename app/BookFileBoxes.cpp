@@ -4,11 +4,14 @@
 #include <string>
 
 #include "book/BookText.h"
+#include "book/Faults.h"
 #include "controls/MsgBox.h"
 
 namespace lindrel {
 
 namespace {
+
+constexpr wchar_t kLoadErrorTitle[] = L"Hiba a beolvasásnál";
 
 // With a blank before the last three digits, as Hungarian numbers of five digits have it.
 std::wstring NumberText(int number) {
@@ -18,7 +21,7 @@ std::wstring NumberText(int number) {
 }
 
 std::wstring LineText(long long line) {
-    return L" (" + std::to_wstring(line) + L". sor)";
+    return L"(" + std::to_wstring(line) + L". sor)";
 }
 
 // A name or an address as a box shows it. In a hostile file it may be longer than the screen is wide.
@@ -30,9 +33,16 @@ std::wstring ShownText(const std::string& book_text) {
 
 }  // namespace
 
-void TellOfMalformedBook(HWND owner, const MalformedBook& malformed) {
-    std::wstring text = malformed.Message();
-    if (malformed.Line() != 0) text += L"\r\n" + LineText(malformed.Line()).substr(1);
+void TellWhyNotRead(HWND owner) {
+    std::wstring text;
+    try {
+        throw;
+    } catch (const MalformedBook& malformed) {
+        text = malformed.Message();
+        if (malformed.Line() != 0) text += L"\r\n" + LineText(malformed.Line());
+    } catch (...) {
+        text = CurrentFault().Meaning();
+    }
     MsgBox(owner, text, MB_OK | MB_ICONERROR, kLoadErrorTitle);
 }
 

@@ -7,11 +7,10 @@
 
 namespace lindrel {
 
-inline constexpr wchar_t kLoadErrorTitle[] = L"Hiba a beolvasásnál";
 inline constexpr wchar_t kWarningTitle[] = L"Figyelem";
 
-// Why a file is no book.
-void TellOfMalformedBook(HWND owner, const MalformedBook& malformed);
+// Why a book could not be read: what the exception being handled says. To be called in a catch clause only.
+void TellWhyNotRead(HWND owner);
 // Whether a book may take the place of the open one though lines of its file are in doubt.
 bool MayOpenInDoubt(HWND owner, const DoubtfulLines& doubtful);
 // What is missing in a book that has just been opened, if anything is.

@@ -134,11 +134,8 @@ bool FileMenu::LoadBook(const std::wstring& path) {
     try {
         const WaitCursor hourglass;
         read = ReadBook(open_.TheBook, std::filesystem::path(path));
-    } catch (const MalformedBook& malformed) {
-        TellOfMalformedBook(window_, malformed);
-        return false;
     } catch (...) {
-        MsgBox(window_, CurrentFault().Meaning(), MB_OK | MB_ICONERROR, kLoadErrorTitle);
+        TellWhyNotRead(window_);
         return false;
     }
     if (!MayOpenInDoubt(window_, read.Doubtful)) return false;
