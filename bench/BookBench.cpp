@@ -66,6 +66,22 @@ void Load(benchmark::State& state) {
 }
 BENCHMARK(Load)->Unit(benchmark::kMillisecond);
 
+// Every name may be a category's: the headers have to be found.
+void LoadMarkedNames(benchmark::State& state) {
+    Book marked = MakeLargestBook();
+    for (int i = 1; i <= marked.EntryCount(); ++i)
+        marked.SetSiteName(i, "#" + std::string(marked.SiteNames(i)));
+    const std::filesystem::path path = TemporaryFile("marked.lnd");
+    SaveBook(marked, path);
+    for (auto _ : state) {
+        Book book;
+        Check(LoadBook(book, path));
+        benchmark::DoNotOptimize(book);
+    }
+    state.SetLabel("FloorReadAndCountLines");
+}
+BENCHMARK(LoadMarkedNames)->Unit(benchmark::kMillisecond);
+
 // Floor of saving: write the bytes and flush them to the disk.
 void FloorWriteAndFlush(benchmark::State& state) {
     const std::string path = TemporaryFile("floor.lnd").string();
