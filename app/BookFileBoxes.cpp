@@ -53,7 +53,7 @@ bool MayOpenInDoubt(HWND owner, const DoubtfulLines& doubtful) {
         L"A fájlban tizenkettőnél több sor kezdődik „#” jellel. Könyvként csak úgy nyitható meg, ha "
         L"közülük " +
         NumberText(doubtful.Count) + L" nem kategória, hanem név vagy cím" +
-        (several ? L". Az első:" : L":") + L"\r\n\r\n" + ShownText(doubtful.First) +
+        (several ? L". Az első:" : L":") + L"\r\n\r\n" + ShownText(doubtful.First) + L" " +
         LineText(doubtful.FirstLine) + L"\r\n\r\nMegnyissam így?";
     return MsgBox(owner, text, MB_YESNO | MB_ICONQUESTION, kLoadErrorTitle) == IDYES;
 }
