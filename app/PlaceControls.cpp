@@ -1,6 +1,7 @@
 #include "app/PlaceControls.h"
 
 #include "controls/Display.h"
+#include "controls/PlacedTogether.h"
 #include "resources/resource.h"
 
 namespace lindrel {
@@ -10,10 +11,17 @@ namespace {
 // The height of a combo box includes its list; the system chooses that of the closed box.
 constexpr int kHeightOfFindersWithList = 3000;
 
+constexpr int kControls = 12;
+
 Place Inside(const Place& frame, Place place) {
     place.Left += frame.Left;
     place.Top += frame.Top;
     return place;
+}
+
+RECT InPixels(const Place& place, UINT dpi) {
+    return {PixelsOf(place.Left, dpi), PixelsOf(place.Top, dpi), PixelsOf(place.Right(), dpi),
+            PixelsOf(place.Bottom(), dpi)};
 }
 
 }  // namespace
@@ -25,10 +33,7 @@ void PlaceControls(HWND window, const MainLayout& places, UINT dpi) {
     const struct {
         int Id;
         Place Where;
-    } placed[] = {
-        {ID_frmStart_Toolbar, places.Toolbar},
-        {ID_frmStart_TabStrip1, places.TabStrip1},
-        {ID_frmStart_ListURLs, places.ListURLs},
+    } moved[] = {
         {ID_frmStart_lblSiteName, places.lblSiteName},
         {ID_frmStart_txtSite, places.txtSite},
         {ID_frmStart_lblURL, places.lblURL},
@@ -39,13 +44,11 @@ void PlaceControls(HWND window, const MainLayout& places, UINT dpi) {
         {ID_frmStart_txtFind, Inside(frame, places.txtFind)},
         {ID_frmStart_Image1, Inside(frame, places.Image1)},
     };
-    for (const auto& [id, place] : placed) {
-        const int left = PixelsOf(place.Left, dpi);
-        const int top = PixelsOf(place.Top, dpi);
-        SetWindowPos(GetDlgItem(window, id), nullptr, left, top, PixelsOf(place.Right(), dpi) - left,
-                     PixelsOf(place.Bottom(), dpi) - top, SWP_NOZORDER | SWP_NOACTIVATE);
-    }
-    InvalidateRect(GetDlgItem(window, ID_frmStart_FrameSearch), nullptr, TRUE);
+    PlacedTogether together(window, kControls);
+    together.Stretch(ID_frmStart_Toolbar, InPixels(places.Toolbar, dpi));
+    together.Stretch(ID_frmStart_TabStrip1, InPixels(places.TabStrip1, dpi));
+    together.Move(ID_frmStart_ListURLs, InPixels(places.ListURLs, dpi));
+    for (const auto& [id, place] : moved) together.Move(id, InPixels(place, dpi));
 }
 
 void LimitSize(MINMAXINFO& info, UINT dpi) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "controls/Display.h"
+#include "controls/PlacedTogether.h"
 
 namespace lindrel {
 
@@ -53,14 +54,13 @@ void Anchors::Place() const {
     const SIZE client = ClientSize();
     const LONG across = std::max(client.cx - Scaled(least_client_.cx), 0L);
     const LONG down = std::max(client.cy - Scaled(least_client_.cy), 0L);
+    PlacedTogether placed(dialog_, static_cast<int>(controls_.size()));
     for (const Remembered& remembered : controls_) {
         RECT place = remembered.place;
         for (LONG* const side : {&place.left, &place.top, &place.right, &place.bottom}) *side = Scaled(*side);
         Grow(place.left, place.right, remembered.across, across);
         Grow(place.top, place.bottom, remembered.down, down);
-        // A text may be drawn differently at another width, so the old pixels are not kept.
-        SetWindowPos(remembered.control, nullptr, place.left, place.top, place.right - place.left,
-                     place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
+        placed.Move(remembered.control, place);
     }
 }
 

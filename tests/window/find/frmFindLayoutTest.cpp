@@ -6,6 +6,7 @@
 
 #include "tests/window/find/FindSession.h"
 #include "tests/window/support/Expectations.h"
+#include "tests/window/support/Painted.h"
 
 namespace lindrel::testing {
 namespace {
@@ -175,6 +176,22 @@ TEST_F(frmFindLayoutTest, AtItsSmallestEveryControlIsWhole) {
             const RECT place = PlaceOf(dialog, id);
             EXPECT_LE(ideal.cx, place.right - place.left) << id;
         }
+    }
+    dialog.Close();
+}
+
+TEST_F(frmFindLayoutTest, AfterEveryChangeOfItsSizeAllOfItIsShown) {
+    AddSixEntries();
+    const FindDialog dialog = Open();
+    dialog.Search(L"x");
+    dialog.ClickHit(2);
+    const SIZE tried[] = {{600, 450}, {1000, 700}, {1003, 702}, {1400, 900}, {800, 500}, {1, 1}};
+    for (const SIZE& size : tried) {
+        SetWindowPos(dialog.Handle(), nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
+        program.Settle();
+        const RECT stale = StalePart(program, dialog.Handle());
+        EXPECT_TRUE(stale == RECT{}) << size.cx << " x " << size.cy << ": (" << stale.left << ", "
+                                     << stale.top << ")-(" << stale.right << ", " << stale.bottom << ")";
     }
     dialog.Close();
 }
