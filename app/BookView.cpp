@@ -30,11 +30,15 @@ void BookView::Create(HWND window) {
 void BookView::ApplyResolution(UINT dpi) {
     ListURLs.RemakeCheckBoxes();
     ListURLs.ScaleColumns(std::exchange(dpi_, dpi), dpi);
+    DockStatusBar();  // takes the height that its font needs
 }
 
-int BookView::DockStatusBar() const {
+void BookView::DockStatusBar() const {
     SendMessageW(StatusBar1.Handle(), WM_SIZE, 0, 0);  // it docks itself
     SizeStatusPanels();
+}
+
+int BookView::StatusBarHeight() const {
     RECT place{};
     GetWindowRect(StatusBar1.Handle(), &place);
     return place.bottom - place.top;

@@ -21,8 +21,10 @@ class BookView {
     // Makes the controls on a window, in their tab order. Throws std::bad_alloc when the system cannot.
     void Create(HWND window);
     void ApplyResolution(UINT dpi);
-    // Places the status bar at the bottom of the window and returns its height in pixels.
-    int DockStatusBar() const;
+    // Places the status bar at the bottom of the window.
+    void DockStatusBar() const;
+    // In pixels.
+    int StatusBarHeight() const;
     // WM_NOTIFY and WM_COMMAND of the window. True when the command is one of the tabs'.
     LRESULT Notify(const NMHDR& header);
     bool OnCommand(int id);

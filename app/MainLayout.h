@@ -20,7 +20,8 @@ inline constexpr int kLeastHeight = 5200;
 inline constexpr int kMinimisedHeight = 500;
 
 struct MainLayout {
-    // As designed; LayOut() moves and resizes what follows the window.
+    // As designed, for lines of text up to 225 twips high; LayOut() moves and resizes what follows window and
+    // font.
     Place Toolbar{60, 30, 7520, 510};
     Place TabStrip1{0, 570, 7580, 345};
     Place ListURLs{120, 930, 3900, 3180};
@@ -28,7 +29,7 @@ struct MainLayout {
     Place txtSite{4250, 1170, 3210, 330};
     Place lblURL{4250, 1590, 3210, 225};
     Place txtURL{4250, 1830, 3210, 330};
-    Place picGo{6380, 2220, 1080, 375};
+    Place picGo{6380, 2190, 1080, 390};
     Place FrameSearch{4250, 2910, 3210, 1200};
     // Inside FrameSearch, relative to its corner.
     Place cmbFinders{150, 270, 2910, 345};
@@ -37,14 +38,18 @@ struct MainLayout {
     bool operator==(const MainLayout&) const = default;
 };
 
-// What surrounds the list.
+// What surrounds the controls, and what their font needs.
 struct MainFrame {
     int Width = 0;         // outer
     int Height = 0;        // outer
     int ClientWidth = 0;   // what the frame leaves
     int ClientHeight = 0;  // what frame, title and menu leave
     int StatusBarHeight = 0;
+    int LineHeight = 0;  // of a line of text
 };
+
+// kLeastHeight, or more where large letters need it.
+int LeastHeight(const MainFrame& frame);
 
 // What a resize asks for: nothing at all (minimised), a higher window (whose own resize then lays out), a
 // wider window first, or just the layout.
@@ -54,15 +59,12 @@ struct ResizeStep {
     bool TooNarrow = false;
     bool operator==(const ResizeStep&) const = default;
 };
-constexpr ResizeStep JudgeSize(int width, int height) {
-    if (height < kMinimisedHeight) return {.Minimised = true};
-    if (height < kLeastHeight) return {.TooLow = true};
-    return {.TooNarrow = width < kLeastWidth};
-}
+ResizeStep JudgeSize(const MainFrame& frame);
 
-// The places at a size of at least kLeastWidth by kLeastHeight. Where a frame takes more room than the
-// classic one, tab strip and list end with the client area and the status bar, so that the scroll arrows and
-// the last row are never hidden.
+// The places in a window of at least kLeastWidth by LeastHeight(). Where a frame takes more room than the
+// classic one, the controls end with the client area and the status bar, so that the scroll arrows, the last
+// row and the right edges are never hidden. Where letters are large, each row is as high as they need and
+// those below move down.
 MainLayout LayOut(const MainFrame& frame);
 
 }  // namespace lindrel

@@ -51,8 +51,8 @@ void PlaceControls(HWND window, const MainLayout& places, UINT dpi) {
     for (const auto& [id, place] : moved) together.Move(id, InPixels(place, dpi));
 }
 
-void LimitSize(MINMAXINFO& info, UINT dpi) {
-    info.ptMinTrackSize = {PixelsAtLeast(kLeastWidth, dpi), PixelsAtLeast(kLeastHeight, dpi)};
+void LimitSize(MINMAXINFO& info, int least_height, UINT dpi) {
+    info.ptMinTrackSize = {PixelsAtLeast(kLeastWidth, dpi), PixelsAtLeast(least_height, dpi)};
 }
 
 }  // namespace lindrel

@@ -9,7 +9,7 @@ namespace lindrel {
 // `places` in twips, at the resolution of the screen that the window is on.
 void PlaceControls(HWND window, const MainLayout& places, UINT dpi);
 
-// Answers WM_GETMINMAXINFO with the least size.
-void LimitSize(MINMAXINFO& info, UINT dpi);
+// Answers WM_GETMINMAXINFO with the least size, its height in twips.
+void LimitSize(MINMAXINFO& info, int least_height, UINT dpi);
 
 }  // namespace lindrel

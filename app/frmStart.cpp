@@ -45,7 +45,7 @@ LRESULT frmStart::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
             Form_Resize();
             return 0;
         case WM_GETMINMAXINFO:
-            LimitSize(*reinterpret_cast<MINMAXINFO*>(lparam), DpiOf(Handle()));
+            LimitSize(*reinterpret_cast<MINMAXINFO*>(lparam), LeastHeight(Frame()), DpiOf(Handle()));
             return 0;
         case WM_DPICHANGED:
             ApplyResolution();

@@ -13,6 +13,7 @@
 #include "app/BookView.h"
 #include "app/EntryFields.h"
 #include "app/FileMenu.h"
+#include "app/MainLayout.h"
 #include "app/SearchBox.h"
 #include "app/Toolbar.h"
 #include "book/OpenBook.h"
@@ -57,6 +58,7 @@ class frmStart : public OwnWindow {
     void Form_Resize();
     void Form_Unload() const;
 
+    MainFrame Frame() const;
     void CreateControls();
     void ApplyResolution();
     void OnSettingsChange();

@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "app/MainLayout.h"
 #include "app/PlaceControls.h"
 #include "app/frmStart.h"
 #include "resources/resource.h"
@@ -69,25 +68,32 @@ void frmStart::Form_Resize() {
         return SetWindowPos(Handle(), nullptr, 0, 0, new_width, new_height,
                             SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     };
-    const ResizeStep step = JudgeSize(TwipsOf(width, dpi_), TwipsOf(height, dpi_));
+    const MainFrame frame = Frame();
+    const ResizeStep step = JudgeSize(frame);
     if (step.Minimised) return;
     if (step.TooLow) {
-        resize(width, PixelsAtLeast(kLeastHeight, dpi_));
+        resize(width, PixelsAtLeast(LeastHeight(frame), dpi_));
         return;
     }
     // Widening raises another WM_SIZE, which has laid out the window when this call returns.
     if (step.TooNarrow && resize(PixelsAtLeast(kLeastWidth, dpi_), height)) return;
 
-    const int status_bar_height = view_.DockStatusBar();
+    view_.DockStatusBar();
+    PlaceControls(Handle(), LayOut(frame), dpi_);
+}
+
+// Zeros for what is not there yet.
+MainFrame frmStart::Frame() const {
+    RECT outer{};
     RECT client{};
+    GetWindowRect(Handle(), &outer);
     GetClientRect(Handle(), &client);
-    PlaceControls(Handle(),
-                  LayOut({.Width = TwipsOf(width, dpi_),
-                          .Height = TwipsOf(height, dpi_),
-                          .ClientWidth = TwipsOf(client.right, dpi_),
-                          .ClientHeight = TwipsOf(client.bottom, dpi_),
-                          .StatusBarHeight = TwipsOf(status_bar_height, dpi_)}),
-                  dpi_);
+    return {.Width = TwipsOf(outer.right - outer.left, dpi_),
+            .Height = TwipsOf(outer.bottom - outer.top, dpi_),
+            .ClientWidth = TwipsOf(client.right, dpi_),
+            .ClientHeight = TwipsOf(client.bottom, dpi_),
+            .StatusBarHeight = TwipsOf(view_.StatusBarHeight(), dpi_),
+            .LineHeight = TwipsOf(font_.LineHeight(), dpi_)};
 }
 
 // Remembers which control has the focus while a dialog or another program is in front.

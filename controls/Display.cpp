@@ -40,6 +40,17 @@ void PassOnColours(HWND window) {
 
 Font::Font(const LOGFONTW& description) : handle_(CreateFontIndirectW(&description)) {}
 
+int Font::LineHeight() const {
+    if (handle_ == nullptr) return 0;
+    const HDC screen = GetDC(nullptr);
+    const HGDIOBJ before = SelectObject(screen, handle_.get());
+    TEXTMETRICW metrics{};
+    GetTextMetricsW(screen, &metrics);
+    SelectObject(screen, before);
+    ReleaseDC(nullptr, screen);
+    return metrics.tmHeight;
+}
+
 void CentreOnOwner(HWND window, HWND owner) {
     RECT own{};
     RECT around{};

@@ -45,6 +45,8 @@ class Font {
     Font() = default;
     explicit Font(const LOGFONTW& description);
     HFONT Handle() const { return handle_.get(); }
+    // Of a line of text, in pixels; 0 without a font.
+    int LineHeight() const;
 
   private:
     Owned<HFONT> handle_;

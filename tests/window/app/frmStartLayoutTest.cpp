@@ -7,6 +7,7 @@
 #include <ostream>
 
 #include "resources/resource.h"
+#include "tests/window/support/MessageFontOf.h"
 #include "tests/window/support/Program.h"
 
 namespace lindrel::testing {
@@ -109,16 +110,17 @@ class frmStartLayoutTest : public ::testing::Test {
             std::min(height - (list_top + status_height) - 720, client_height - status_height - list_top);
         put(ID_frmStart_ListURLs, 120, list_top, width - 3800, list_height);
         const int column = width - 3450;
-        put(ID_frmStart_lblSiteName, column, 930, 3210, 225);
-        put(ID_frmStart_txtSite, column, 1170, 3210, 330);
-        put(ID_frmStart_lblURL, column, 1590, 3210, 225);
-        put(ID_frmStart_txtURL, column, 1830, 3210, 330);
-        put(ID_frmStart_picGo, column + 2130, 2220, 1080, 375);
+        const int wide = std::min(3210, client_width - 120 - column);
+        put(ID_frmStart_lblSiteName, column, 930, wide, 225);
+        put(ID_frmStart_txtSite, column, 1170, wide, 330);
+        put(ID_frmStart_lblURL, column, 1590, wide, 225);
+        put(ID_frmStart_txtURL, column, 1830, wide, 330);
+        put(ID_frmStart_picGo, column + 2130, 2190, wide - 2130, 390);
         const int frame_top = list_top + list_height - 1200;
-        put(ID_frmStart_FrameSearch, column, frame_top, 3210, 1200);
-        put(ID_frmStart_cmbFinders, column + 150, frame_top + 270, 2910, 345);
-        put(ID_frmStart_txtFind, column + 150, frame_top + 705, 2415, 330);
-        put(ID_frmStart_Image1, column + 2625, frame_top + 690, 435, 360);
+        put(ID_frmStart_FrameSearch, column, frame_top, wide, 1200);
+        put(ID_frmStart_cmbFinders, column + 150, frame_top + 270, wide - 300, 345);
+        put(ID_frmStart_txtFind, column + 150, frame_top + 705, wide - 795, 330);
+        put(ID_frmStart_Image1, column + wide - 585, frame_top + 690, 435, 360);
         places[ID_frmStart_cmbFinders].Bottom = 0;
         places[ID_frmStart_StatusBar1] = {0, static_cast<int>(client.bottom - (status.bottom - status.top)),
                                           static_cast<int>(client.right), static_cast<int>(client.bottom)};
@@ -129,6 +131,52 @@ class frmStartLayoutTest : public ::testing::Test {
         for (const auto& [id, place] : Places()) places[id] = EdgesOf(place);
         places[ID_frmStart_cmbFinders].Bottom = 0;
         EXPECT_EQ(places, LaidOutPlaces());
+    }
+
+    // Every control lies in the client area and over no other.
+    void ExpectNothingOverlaps() const {
+        const auto places = Places();
+        RECT client{};
+        ASSERT_TRUE(GetClientRect(program.Main(), &client));
+        for (const auto& [id, place] : places) {
+            RECT inside{};
+            // The strip's own frame may end behind the right edge; its tabs scroll.
+            ASSERT_TRUE(IntersectRect(&inside, &place, &client)) << id;
+            EXPECT_TRUE(EqualRect(&inside, &place))
+                << id << " is clipped at " << Size().cx << " x " << Size().cy;
+            for (const auto& [other_id, other] : places) {
+                const auto in_frame = [](int control) {
+                    return control == ID_frmStart_cmbFinders || control == ID_frmStart_txtFind ||
+                           control == ID_frmStart_Image1;
+                };
+                if (other_id <= id) continue;
+                if (id == ID_frmStart_FrameSearch && in_frame(other_id)) continue;
+                if (other_id == ID_frmStart_FrameSearch && in_frame(id)) continue;
+                EXPECT_FALSE(IntersectRect(&inside, &place, &other))
+                    << id << " and " << other_id << " overlap";
+            }
+        }
+    }
+    // Fields and labels are as high as their letters need.
+    void ExpectRoomForText() const {
+        for (const int id : {ID_frmStart_lblSiteName, ID_frmStart_lblURL, ID_frmStart_txtSite,
+                             ID_frmStart_txtURL, ID_frmStart_txtFind, ID_frmStart_TabStrip1}) {
+            const HWND control = program.Control(id);
+            RECT inside{};
+            ASSERT_TRUE(GetClientRect(control, &inside));
+            const HDC paper = GetDC(control);
+            const auto font = reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0));
+            const HGDIOBJ before = SelectObject(paper, font);
+            TEXTMETRICW metrics{};
+            EXPECT_TRUE(GetTextMetricsW(paper, &metrics));
+            SelectObject(paper, before);
+            ReleaseDC(control, paper);
+            EXPECT_GE(inside.bottom, metrics.tmHeight) << id;
+        }
+        RECT tab{};
+        ASSERT_TRUE(TabCtrl_GetItemRect(program.Control(ID_frmStart_TabStrip1), 0, &tab));
+        EXPECT_LE(tab.bottom - tab.top,
+                  Places().at(ID_frmStart_TabStrip1).bottom - Places().at(ID_frmStart_TabStrip1).top);
     }
 
     // Sets a size that the system does not correct, and tells the sizes that the window then takes in turn.
@@ -185,7 +233,7 @@ TEST_F(frmStartLayoutTest, EveryControlStandsByTheWindowsSize) {
     }
 }
 
-TEST_F(frmStartLayoutTest, BehindAThickFrameStripAndListEndWithTheClientArea) {
+TEST_F(frmStartLayoutTest, BehindAThickFrameEveryControlEndsWithTheClientArea) {
     program.OnUi([](frmStart& form) {
         const LONG_PTR style = GetWindowLongPtrW(form.Handle(), GWL_EXSTYLE);
         ASSERT_NE(SetWindowLongPtrW(form.Handle(), GWL_EXSTYLE, style | WS_EX_CLIENTEDGE), 0);
@@ -203,6 +251,9 @@ TEST_F(frmStartLayoutTest, BehindAThickFrameStripAndListEndWithTheClientArea) {
         ASSERT_TRUE(GetClientRect(program.Main(), &client));
         EXPECT_EQ(places.at(ID_frmStart_TabStrip1).right, client.right);
         EXPECT_EQ(places.at(ID_frmStart_ListURLs).bottom, places.at(ID_frmStart_StatusBar1).top);
+        for (const int id :
+             {ID_frmStart_txtSite, ID_frmStart_txtURL, ID_frmStart_picGo, ID_frmStart_FrameSearch})
+            EXPECT_NEAR(places.at(id).right, client.right - PixelsOf(120, dpi), 1) << id;
     }
 }
 
@@ -270,27 +321,26 @@ TEST_F(frmStartLayoutTest, NothingOverlapsAtAnySizeFromTheLeastOn) {
     const SIZE tried[] = {{PixelsAtLeast(7700, dpi), PixelsAtLeast(5200, dpi)}, {800, 600}, {1200, 900}};
     for (const SIZE& size : tried) {
         Resize(size.cx, size.cy);
-        const auto places = Places();
-        RECT client{};
-        ASSERT_TRUE(GetClientRect(program.Main(), &client));
-        for (const auto& [id, place] : places) {
-            RECT inside{};
-            // The strip's own frame may end behind the right edge; its tabs scroll.
-            ASSERT_TRUE(IntersectRect(&inside, &place, &client)) << id;
-            EXPECT_TRUE(EqualRect(&inside, &place)) << id << " is clipped at " << size.cx << " x " << size.cy;
-            for (const auto& [other_id, other] : places) {
-                const auto in_frame = [](int control) {
-                    return control == ID_frmStart_cmbFinders || control == ID_frmStart_txtFind ||
-                           control == ID_frmStart_Image1;
-                };
-                if (other_id <= id) continue;
-                if (id == ID_frmStart_FrameSearch && in_frame(other_id)) continue;
-                if (other_id == ID_frmStart_FrameSearch && in_frame(id)) continue;
-                EXPECT_FALSE(IntersectRect(&inside, &place, &other))
-                    << id << " and " << other_id << " overlap";
-            }
+        ExpectNothingOverlaps();
+    }
+}
+
+TEST_F(frmStartLayoutTest, LargeLettersFindRoom) {
+    for (const int pixels : {18, 27}) {
+        const MessageFontOf large(pixels);
+        program.OnUi([](frmStart& form) { SendMessageW(form.Handle(), WM_SETTINGCHANGE, 0, 0); });
+        const SIZE tried[] = {{1, 1}, {800, 900}, {1, 1}};  // the window takes its least size
+        for (const SIZE& size : tried) {
+            Resize(size.cx, size.cy);
+            SCOPED_TRACE(pixels);
+            ExpectNothingOverlaps();
+            ExpectRoomForText();
         }
     }
+    program.OnUi([](frmStart& form) { SendMessageW(form.Handle(), WM_SETTINGCHANGE, 0, 0); });
+    Resize(1, 1);
+    EXPECT_EQ(Size().cy, PixelsAtLeast(5200, Dpi()));
+    ExpectLaidOut();
 }
 
 }  // namespace
