@@ -25,7 +25,7 @@ void EntryFields::Create(HWND window) {
 }
 
 void EntryFields::ApplyResolution(UINT dpi) {
-    picGo.SetPicture(IDI_picGo, PictureSize(dpi));
+    picGo.SetPicture(IDI_picGo, LargePictureSize(dpi));
 }
 
 void EntryFields::Show(const std::wstring& name, const std::wstring& address) const {

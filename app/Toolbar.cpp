@@ -30,7 +30,6 @@ constexpr ToolbarButton kButtons[] = {
 };
 constexpr int kButtonCount = static_cast<int>(std::size(kButtons));
 constexpr int kButtonWithMenu = 5;
-constexpr int kTwipsOfPicture = 360;
 // Padding around a picture in pixels, as the system has it.
 constexpr int kPaddingX = 7;
 constexpr int kPaddingY = 6;
@@ -94,7 +93,7 @@ void Toolbar::RemoveTipOfFirstButton() const {
 }
 
 void Toolbar::ApplyResolution(UINT dpi) {
-    const int size = PixelsOf(kTwipsOfPicture, dpi);
+    const int size = LargePictureSize(dpi);
     PictureList pictures = Pictures(size, PictureLook::Enabled);
     const HWND toolbar = toolbar_.Handle();
     SendMessageW(toolbar, TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(pictures.Handle()));

@@ -48,6 +48,11 @@ int PictureSize(UINT dpi) {
     return PixelsOf(kTwips, dpi);
 }
 
+int LargePictureSize(UINT dpi) {
+    constexpr int kTwips = 360;
+    return PixelsOf(kTwips, dpi);
+}
+
 Picture::Picture(HINSTANCE instance, int id, int size)
     : handle_(static_cast<HICON>(
           LoadImageW(instance, MAKEINTRESOURCEW(id), IMAGE_ICON, size, size, LR_DEFAULTCOLOR))) {

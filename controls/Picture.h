@@ -10,6 +10,8 @@ namespace lindrel {
 
 // The side of a picture on a button, in pixels: 16 at 96 dots per inch.
 int PictureSize(UINT dpi);
+// And of one that stands for itself, as on the toolbar: 24.
+int LargePictureSize(UINT dpi);
 
 // An icon that is destroyed with its owner.
 class Picture {
