@@ -65,12 +65,12 @@ copy_prefix() {
   done
 }
 
-# Starts a display with a window manager and sets DISPLAY. The processes' numbers are in wine_processes.
+# Starts a display with a window manager, of 1280x1024 or another size, and sets DISPLAY. The processes' numbers are in wine_processes.
 wine_processes=()
 start_display() {
   local number_file
   number_file=$(mktemp)
-  Xvfb -displayfd 7 -screen 0 1280x1024x24 -nolisten tcp 7>"$number_file" >/dev/null 2>&1 &
+  Xvfb -displayfd 7 -screen 0 "${1:-1280x1024}x24" -nolisten tcp 7>"$number_file" >/dev/null 2>&1 &
   wine_processes+=($!)
   local deadline=$((SECONDS + 30))
   until [ -s "$number_file" ]; do
