@@ -24,6 +24,8 @@ set_contrast() {
   set_value 'Control Panel\Colors' Hilight REG_SZ '128 0 128'
   set_value 'Control Panel\Colors' MenuHilight REG_SZ '128 0 128'
   set_value 'Control Panel\Colors' HotTrackingColor REG_SZ '255 255 0'
+  # A visual style would keep colours of its own.
+  set_value 'Software\Microsoft\Windows\CurrentVersion\ThemeManager' ThemeActive REG_SZ 0
 }
 
 take_menus() {
@@ -35,13 +37,12 @@ take_menus() {
   done
 }
 
-take_sizes() { # name
+# take_sizes <name> <least width> <least height>, in thousandths of what the window opens with
+take_sizes() {
   local window WIDTH HEIGHT
   window=$(xdotool getactivewindow)
-  # The lower right corner, as far as it goes.
   eval "$(xdotool getwindowgeometry --shell "$window")"
-  xdotool mousemove --window "$window" $((WIDTH - 2)) $((HEIGHT - 2)) mousedown 1
-  xdotool mousemove --window "$window" $((WIDTH / 2)) $((HEIGHT / 2)) mousemove --window "$window" 20 20 mouseup 1
+  xdotool windowsize "$window" $((WIDTH * $2 / 1000 + 1)) $((HEIGHT * $3 / 1000 + 1))
   take_window "$window" "$1-legkisebb"
   # A double click on the title bar.
   xdotool mousemove --window "$window" 200 12 click --repeat 2 --delay 80 1
@@ -50,22 +51,23 @@ take_sizes() { # name
 }
 
 take_look() {
+  local least_height=694
   start_session 1920x1080
   case $1 in
-    letters) set_fonts 18 ;;
-    letters192) set_fonts 18 && set_resolution 192 ;;
+    letters) set_fonts 18 && least_height=787 ;;
+    letters192) set_fonts 18 && set_resolution 192 && least_height=787 ;;
     contrast) set_contrast ;;
     *) set_resolution "$1" ;;
   esac
   show_sample_book "build/pictures/$1"
   take_tour
   take_menus
-  take_sizes foablak
+  take_sizes foablak 676 $least_height
   keys ctrl+f
   wait_for '^Keresés$'
   text 'ma'
   keys Return
-  take_sizes kereses
+  take_sizes kereses 800 667
   keys Escape
   wait_for "$main"
   end_session

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cwctype>
 #include <map>
 #include <string>
@@ -133,6 +134,34 @@ TEST_F(DialogTemplatesTest, NothingSticksOutOrLiesOverAnother) {
                 EXPECT_FALSE(counted && IntersectRect(&common, &place, &others))
                     << NameOf(dialog, child) << " and " << NameOf(dialog, other);
             }
+        }
+    }
+}
+
+TEST_F(DialogTemplatesTest, TheMarginsOnBothSidesAreEqual) {
+    for (const HWND dialog : dialogs) {
+        RECT client{};
+        ASSERT_TRUE(GetClientRect(dialog, &client));
+        LONG left = client.right;
+        LONG right = client.right;
+        for (const HWND child : ChildrenOf(dialog)) {
+            const RECT place = PlaceOf(child, dialog);
+            left = std::min(left, place.left);
+            right = std::min(right, client.right - place.right);
+        }
+        // Place and width of a control are rounded to pixels, each for itself.
+        EXPECT_NEAR(left, right, 2) << Narrow(TextOf(dialog));
+    }
+}
+
+TEST_F(DialogTemplatesTest, EveryTextBoxHasTheUsualHeight) {
+    for (const HWND dialog : dialogs) {
+        RECT usual{0, 0, 0, 14};
+        ASSERT_TRUE(MapDialogRect(dialog, &usual));
+        for (const HWND child : ChildrenOf(dialog)) {
+            if (ClassOf(child) != L"Edit") continue;
+            const RECT place = PlaceOf(child, dialog);
+            EXPECT_NEAR(place.bottom - place.top, usual.bottom, 1) << NameOf(dialog, child);
         }
     }
 }

@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "resources/resource.h"
+#include "tests/window/support/Drawn.h"
 #include "tests/window/support/Program.h"
 #include "tests/window/support/RealClipboard.h"
 #include "tests/window/support/RecordedShell.h"
@@ -19,6 +22,30 @@ class EntryFieldsTest : public ::testing::Test {
 
     Program program;
 };
+
+TEST_F(EntryFieldsTest, TheButtonShowsTheLargePicture) {
+    constexpr int kSide = 48;
+    program.OnUi([&](frmStart&) {
+        const HWND button = program.Control(ID_frmStart_picGo);
+        const std::vector<COLORREF> pixels = Drawn(kSide, [&](HDC canvas) {
+            DRAWITEMSTRUCT item{};
+            item.hDC = canvas;
+            item.rcItem = {0, 0, kSide, kSide};
+            SendMessageW(button, WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&item));
+        });
+        int first = kSide;
+        int last = -1;
+        for (int at = 0; at < kSide * kSide; ++at) {
+            if (pixels[static_cast<std::size_t>(at)] == GetSysColor(COLOR_BTNFACE)) continue;
+            first = std::min(first, at / kSide);
+            last = std::max(last, at / kSide);
+        }
+        // 24 pixels, with a rim of its own.
+        EXPECT_GE(first, 12);
+        EXPECT_LT(last, 36);
+        EXPECT_GT(last - first, 16);
+    });
+}
 
 TEST_F(EntryFieldsTest, TheButtonOpensTheShownAddress) {
     const RecordedShell shell;
