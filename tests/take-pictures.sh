@@ -37,6 +37,12 @@ take_menus() {
   done
 }
 
+fills_the_screen() {
+  local WIDTH
+  eval "$(xdotool getwindowgeometry --shell "$1")"
+  [ "$WIDTH" -ge 1900 ]
+}
+
 # take_sizes <name> <least width> <least height>, in thousandths of what the window opens with
 take_sizes() {
   local window WIDTH HEIGHT
@@ -44,10 +50,10 @@ take_sizes() {
   eval "$(xdotool getwindowgeometry --shell "$window")"
   xdotool windowsize "$window" $((WIDTH * $2 / 1000 + 1)) $((HEIGHT * $3 / 1000 + 1))
   take_window "$window" "$1-legkisebb"
-  # A double click on the title bar.
-  xdotool mousemove --window "$window" 200 12 click --repeat 2 --delay 80 1
+  # As large as a maximised one: the window manager keeps clicks on the title bar to itself.
+  xdotool windowmove "$window" 0 0 windowsize "$window" 1920 1080
+  until_true fills_the_screen "$window"
   take_window "$window" "$1-teljes"
-  xdotool mousemove --window "$window" 200 12 click --repeat 2 --delay 80 1
 }
 
 take_look() {
