@@ -64,18 +64,18 @@ void frmStart::Form_Resize() {
     if (IsIconic(Handle()) || !GetWindowRect(Handle(), &outer)) return;
     const int width = outer.right - outer.left;
     const int height = outer.bottom - outer.top;
-    const auto resize = [this](int new_width, int new_height) {
+    // Another size raises another WM_SIZE, which has laid out the window when this call returns. A window
+    // that cannot take it, as on a small screen, is laid out as it is.
+    const auto resize = [this, &outer](int new_width, int new_height) {
+        RECT now{};
         return SetWindowPos(Handle(), nullptr, 0, 0, new_width, new_height,
-                            SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+                            SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE) &&
+               GetWindowRect(Handle(), &now) && !EqualRect(&now, &outer);
     };
     const MainFrame frame = Frame();
     const ResizeStep step = JudgeSize(frame);
     if (step.Minimised) return;
-    if (step.TooLow) {
-        resize(width, PixelsAtLeast(LeastHeight(frame), dpi_));
-        return;
-    }
-    // Widening raises another WM_SIZE, which has laid out the window when this call returns.
+    if (step.TooLow && resize(width, PixelsAtLeast(LeastHeight(frame), dpi_))) return;
     if (step.TooNarrow && resize(PixelsAtLeast(kLeastWidth, dpi_), height)) return;
 
     view_.DockStatusBar();

@@ -38,6 +38,16 @@ LRESULT CALLBACK NoteSizes(HWND window, UINT message, WPARAM first, LPARAM secon
     return result;
 }
 
+// Lets the window become so high, and no higher.
+constexpr int kHighest = 300;
+LRESULT CALLBACK KeepLow(HWND window, UINT message, WPARAM first, LPARAM second, UINT_PTR id, DWORD_PTR) {
+    if (message == WM_NCDESTROY) RemoveWindowSubclass(window, &KeepLow, id);
+    const LRESULT result = DefSubclassProc(window, message, first, second);
+    auto* const info = reinterpret_cast<MINMAXINFO*>(second);
+    if (message == WM_GETMINMAXINFO) info->ptMinTrackSize.y = info->ptMaxTrackSize.y = kHighest;
+    return result;
+}
+
 // Left, top, right and bottom in the client area, in pixels.
 struct Edges {
     int Left = 0;
@@ -274,6 +284,16 @@ TEST_F(frmStartLayoutTest, AWindowForcedBelowTheLeastSizeGrowsBackByItself) {
     EXPECT_EQ(SizesAfterForcing(least.Width + 1, least.Height + 1),
               (std::vector<Extent>{{least.Width + 1, least.Height + 1}}));
     ExpectLaidOut();
+}
+
+// As on a small screen with very large letters.
+TEST_F(frmStartLayoutTest, AWindowThatCannotTakeItsLeastHeightIsLaidOutAllTheSame) {
+    program.OnUi([](frmStart& form) { ASSERT_TRUE(SetWindowSubclass(form.Handle(), &KeepLow, 0, 0)); });
+    for (const int width : {900, 1000}) {
+        Resize(width, kHighest);
+        EXPECT_EQ(Size().cy, kHighest);
+        ExpectLaidOut();
+    }
 }
 
 TEST_F(frmStartLayoutTest, AWindowAsLowAsAMinimisedOneIsLeftAsItIs) {
