@@ -1,5 +1,7 @@
 #include "app/BookView.h"
 
+#include <algorithm>
+#include <string_view>
 #include <utility>
 
 #include "book/BookText.h"
@@ -8,6 +10,26 @@
 #include "resources/resource.h"
 
 namespace lindrel {
+
+namespace {
+
+// The longest texts of the status bar's counters.
+constexpr std::wstring_view kMostShown = L"megjelenítve (32767 / 32767)";
+constexpr std::wstring_view kMostChecked = L"bejelölve 32767";
+
+// Of a text and the borders of a panel, in pixels.
+int WidthOf(const StatusBar& bar, std::wstring_view text) {
+    const HDC paper = GetDC(bar.Handle());
+    const HGDIOBJ before =
+        SelectObject(paper, reinterpret_cast<HFONT>(SendMessageW(bar.Handle(), WM_GETFONT, 0, 0)));
+    SIZE size{};
+    GetTextExtentPoint32W(paper, text.data(), static_cast<int>(text.size()), &size);
+    SelectObject(paper, before);
+    ReleaseDC(bar.Handle(), paper);
+    return size.cx + 8 * GetSystemMetrics(SM_CXEDGE);
+}
+
+}  // namespace
 
 void BookView::Create(HWND window) {
     window_ = window;
@@ -47,9 +69,12 @@ int BookView::StatusBarHeight() const {
 void BookView::SizeStatusPanels() const {
     RECT client{};
     GetClientRect(window_, &client);
-    const int checked = client.right - PixelsOf(1900, dpi_);
-    const int shown = checked - PixelsOf(2700, dpi_);
-    StatusBar1.SetPanels({shown, checked, -1});
+    const int grip = GetSystemMetricsForDpi(SM_CXVSCROLL, dpi_);
+    const int checked =
+        client.right - std::max(PixelsOf(1900, dpi_), WidthOf(StatusBar1, kMostChecked) + grip);
+    const int shown = checked - std::max(PixelsOf(2700, dpi_), WidthOf(StatusBar1, kMostShown));
+    // A negative edge would be the end of the bar.
+    StatusBar1.SetPanels({std::max(shown, 0), std::max(checked, 0), -1});
 }
 
 LRESULT BookView::Notify(const NMHDR& header) {
