@@ -51,7 +51,15 @@ void FileMenu::mnuOpen_Click() {
 
 void FileMenu::OpenChosenBook() {
     const std::wstring before = open_.OpenedFile;
-    if (!ChooseBookFile(Choice::Open)) return;
+    if (ChooseBookFile(Choice::Open)) OpenBookFile(before);
+}
+
+void FileMenu::OpenDropped(const std::wstring& path) {
+    if (OfferToSave(SaveQuestion::Command) != SaveAnswer::NotSaved || !FileExists(window_, path)) return;
+    OpenBookFile(std::exchange(open_.OpenedFile, path));
+}
+
+void FileMenu::OpenBookFile(const std::wstring& before) {
     if (!LoadBook(open_.OpenedFile)) {
         open_.OpenedFile = before;
         return;

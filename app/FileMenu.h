@@ -33,6 +33,8 @@ class FileMenu {
 
     // Puts an empty book in the place of the open one.
     void ResetBook();
+    // Opens the book of a path, with the question whether to save, as mnuOpen does with the chosen one.
+    void OpenDropped(const std::wstring& path);
     // Asks when there are unsaved changes, and saves the book on Yes.
     SaveAnswer OfferToSave(SaveQuestion question);
 
@@ -46,6 +48,8 @@ class FileMenu {
 
     void ResetAfterOffer();
     void OpenChosenBook();
+    // Shows the book of OpenedFile. When it cannot be read, tells why and puts `before` in its place.
+    void OpenBookFile(const std::wstring& before);
     // What the file dialog is shown for. The first save of a book may meet another file of that name, and
     // then it is the dialog that asks; Save As asks by itself.
     enum class Choice { Open, FirstSave, SaveAs };

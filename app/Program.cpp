@@ -1,6 +1,6 @@
 #include "app/Program.h"
 
-#include <objbase.h>
+#include <ole2.h>
 
 #include <new>
 #include <string>
@@ -14,13 +14,12 @@ namespace lindrel {
 
 namespace {
 
-// COM, which the shell needs to open folders and addresses.
+// COM, which the shell needs to open folders and addresses, and the window to have files dropped on it.
 class ComApartment {
   public:
-    ComApartment()
-        : usable_(SUCCEEDED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE))) {}
+    ComApartment() : usable_(SUCCEEDED(OleInitialize(nullptr))) {}
     ~ComApartment() {
-        if (usable_) CoUninitialize();
+        if (usable_) OleUninitialize();
     }
     ComApartment(const ComApartment&) = delete;
     ComApartment& operator=(const ComApartment&) = delete;

@@ -87,6 +87,9 @@ LRESULT frmStart::OnControlMessage(UINT message, WPARAM wparam, LPARAM lparam) {
             if (HIWORD(wparam) == EN_SETFOCUS && returned_focus_.Is(reinterpret_cast<HWND>(lparam))) return 0;
             OnCommand(LOWORD(wparam), HIWORD(wparam));
             return 0;
+        case BookDrop::kMessage:
+            OnBookDropped();
+            return 0;
         case WM_DRAWITEM:
             // The picture buttons draw themselves.
             return SendMessageW(reinterpret_cast<const DRAWITEMSTRUCT*>(lparam)->hwndItem, message, wparam,
@@ -128,6 +131,14 @@ LRESULT frmStart::OnNotify(const NMHDR& header) {
     return view_.Notify(header);
 }
 
+void frmStart::OnBookDropped() {
+    // A command that was on its way has opened a dialog, which works on the open book.
+    if (!IsWindowEnabled(Handle())) return;
+    // Another program's dialog may have taken the front meanwhile; the book is opened all the same.
+    static_cast<void>(SetForegroundWindow(Handle()));
+    file_menu_.OpenDropped(book_drop_.TakePath());
+}
+
 void frmStart::Form_Load() {
     CreateControls();
     ApplyResolution();
@@ -144,8 +155,9 @@ void frmStart::EnableCommand(int id, bool enabled) {
     toolbar_.Update();
 }
 
-void frmStart::Form_Unload() const {
+void frmStart::Form_Unload() {
     CloseHelp();
+    book_drop_.Detach();
     // A window that could not be made has no message loop to end; the quit message would swallow the report
     // of the failure.
     if (loaded_) PostQuitMessage(0);

@@ -10,6 +10,7 @@
 // The file menu has a class of its own.
 #pragma once
 
+#include "app/BookDrop.h"
 #include "app/BookView.h"
 #include "app/EntryFields.h"
 #include "app/FileMenu.h"
@@ -53,10 +54,11 @@ class frmStart : public OwnWindow {
     void OnActivate(WPARAM state);
     bool OnQueryEndSession();
     void OnEndSession(bool ending);
+    void OnBookDropped();
 
     void Form_Load();
     void Form_Resize();
-    void Form_Unload() const;
+    void Form_Unload();
 
     MainFrame Frame() const;
     void CreateControls();
@@ -101,6 +103,7 @@ class frmStart : public OwnWindow {
     BookView view_{open_, fields_};
     SearchBox search_box_{open_};
     FileMenu file_menu_{open_, view_, CommonDialog1};
+    BookDrop book_drop_;
     lindrel::TrayArea TrayArea;
 };
 

@@ -17,6 +17,7 @@ void frmStart::CreateControls() {
     search_box_.Create(Handle());
     search_box_.Found = [this](int position) { view_.SelectRow(position); };
     file_menu_.Attach(Handle());
+    book_drop_.Attach(Handle());
     TrayArea.Place(Handle());
     // Either button brings the window back.
     TrayArea.MouseDown = [this](std::int16_t&) { LeaveTray(); };
