@@ -5,6 +5,8 @@
 #include <utility>
 
 #include "book/BookText.h"
+#include "controls/Clipboard.h"
+#include "controls/ContextMenu.h"
 #include "controls/CreateControl.h"
 #include "controls/Display.h"
 #include "resources/resource.h"
@@ -28,6 +30,8 @@ int WidthOf(const StatusBar& bar, std::wstring_view text) {
     ReleaseDC(bar.Handle(), paper);
     return size.cx + 8 * GetSystemMetrics(SM_CXEDGE);
 }
+constexpr wchar_t kEmptyCategory[] =
+    L"Ebben a kategóriában nincs cím.\r\n\r\nCím hozzáadása: Ctrl+A\r\nKönyv megnyitása: Ctrl+O";
 
 }  // namespace
 
@@ -39,19 +43,23 @@ void BookView::Create(HWND window) {
 
     ListURLs.Attach(CreateControl(window, WC_LISTVIEWW, L"Címek", WS_TABSTOP | CheckListView::kStyles,
                                   ID_frmStart_ListURLs, WS_EX_CLIENTEDGE));
-    ListURLs.AddColumn(L"webhely neve", PixelsOf(3000, dpi_));
-    ListURLs.AddColumn(L"URL cime", PixelsOf(4250, dpi_));
+    ListURLs.AddColumn(L"webhely neve", 200);
+    ListURLs.AddColumn(L"URL cime", 283);
     ListURLs.ItemClick = [this] { ListURLs_ItemClick(); };
     ListURLs.ItemCheck = [this](int position) { ListURLs_ItemCheck(position); };
     ListURLs.ColumnClick = [this] { ListURLs_ColumnClick(); };
+    ListURLs.Activate = [this] { ListURLs_DblClick(); };
+    ListURLs.Copy = [this] { ListURLs_Copy(); };
+    ListURLs.MenuAsked = [this](POINT at) { ListURLs_ContextMenu(at); };
+    ListURLs.SetEmptyText(kEmptyCategory);
 
     StatusBar1 =
         StatusBar(CreateControl(window, STATUSCLASSNAMEW, L"", SBARS_SIZEGRIP, ID_frmStart_StatusBar1));
 }
 
 void BookView::ApplyResolution(UINT dpi) {
-    ListURLs.RemakeCheckBoxes();
-    ListURLs.ScaleColumns(std::exchange(dpi_, dpi), dpi);
+    dpi_ = dpi;
+    ListURLs.ApplyResolution(dpi);
     DockStatusBar();  // takes the height that its font needs
 }
 
@@ -201,6 +209,27 @@ void BookView::ListURLs_ItemCheck(int position) {
 void BookView::ListURLs_ColumnClick() {
     if (!fields_.HasName() && ListURLs.Count() != 0)
         ShowEntry(open_.TheBook.CategoryStarts(open_.CurrentCategory));
+}
+
+// The row may have been selected by the program, which leaves the fields alone.
+void BookView::ListURLs_DblClick() {
+    ListURLs_ItemClick();
+    fields_.picGo_Click();
+}
+
+void BookView::ListURLs_Copy() const {
+    const int position = ListURLs.Selected();
+    if (position == 0) return;
+    const int index = open_.TheBook.IndexOf(open_.CurrentCategory, position);
+    SetClipboardText(window_, FromBookText(open_.TheBook.SiteURLs(index)));
+}
+
+void BookView::ListURLs_ContextMenu(POINT at) {
+    // Without either there is nothing that the commands could act on.
+    if (ListURLs.Selected() == 0 && open_.TheBook.Marks.CheckedCount() == 0) return;
+    ListURLs_ItemClick();
+    static constexpr int kCommands[] = {ID_mnuGoto, 0, ID_mnuEdit, ID_mnuMove, ID_mnuDel, 0, ID_mnuToDesktop};
+    ContextMenu(GetMenu(window_), kCommands).Open(at, window_);
 }
 
 }  // namespace lindrel

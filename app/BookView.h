@@ -16,7 +16,7 @@ namespace lindrel {
 
 class BookView {
   public:
-    BookView(OpenBook& open, const EntryFields& fields) : open_(open), fields_(fields) {}
+    BookView(OpenBook& open, EntryFields& fields) : open_(open), fields_(fields) {}
 
     // Makes the controls on a window, in their tab order. Throws std::bad_alloc when the system cannot.
     void Create(HWND window);
@@ -64,12 +64,15 @@ class BookView {
     void ListURLs_ItemClick();
     void ListURLs_ItemCheck(int position);
     void ListURLs_ColumnClick();
+    void ListURLs_DblClick();
+    void ListURLs_Copy() const;
+    void ListURLs_ContextMenu(POINT at);
     void ShowEntry(int index) const;
     void ShowTotals(int rows, int total) const;
     void SizeStatusPanels() const;
 
     OpenBook& open_;
-    const EntryFields& fields_;
+    EntryFields& fields_;
     HWND window_ = nullptr;
     UINT dpi_ = USER_DEFAULT_SCREEN_DPI;
     TabStrip TabStrip1;

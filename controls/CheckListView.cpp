@@ -1,10 +1,11 @@
 #include "controls/CheckListView.h"
 
 #include <algorithm>
-#include <new>
 #include <utility>
 
 #include "book/BookText.h"
+#include "controls/CheckBoxImages.h"
+#include "controls/Display.h"
 
 namespace lindrel {
 
@@ -12,6 +13,7 @@ namespace {
 
 constexpr int kUncheckedImage = 1;
 constexpr int kCheckedImage = 2;
+constexpr int kRowHeight = 300;  // twips
 constexpr DWORD kExtendedStyles = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_LABELTIP;
 
 bool BeginsWith(const std::wstring& text, const std::wstring& letters) {
@@ -28,32 +30,29 @@ void CheckListView::Attach(HWND list) {
     ListView_SetExtendedListViewStyle(list, kExtendedStyles | LVS_EX_CHECKBOXES);
     // The check marks are ours: the control asks for each row's.
     ListView_SetCallbackMask(list, LVIS_STATEIMAGEMASK);
+    columns_.Attach(list);
+    empty_text_.Attach(list);
 }
 
-void CheckListView::AddColumn(const std::wstring& caption, int width_in_pixels) {
-    std::wstring text = caption;
-    LVCOLUMNW column{};
-    column.mask = LVCF_TEXT | LVCF_WIDTH | LVCF_SUBITEM;
-    column.pszText = text.data();
-    column.cx = width_in_pixels;
-    column.iSubItem = Header_GetItemCount(ListView_GetHeader(Handle()));
-    if (ListView_InsertColumn(Handle(), column.iSubItem, &column) == -1) throw std::bad_alloc();
+void CheckListView::ApplyResolution(UINT dpi) {
+    MakeCheckBoxes(dpi);
+    columns_.ApplyResolution(dpi);
 }
 
-void CheckListView::SetColumnWidth(int column, int width_in_pixels) {
-    ListView_SetColumnWidth(Handle(), column, width_in_pixels);
-}
-
-void CheckListView::ScaleColumns(UINT from_dpi, UINT to_dpi) {
-    const int columns = Header_GetItemCount(ListView_GetHeader(Handle()));
-    for (int column = 0; column < columns; ++column)
-        SetColumnWidth(column, MulDiv(ListView_GetColumnWidth(Handle(), column), static_cast<int>(to_dpi),
-                                      static_cast<int>(from_dpi)));
-}
-
-void CheckListView::RemakeCheckBoxes() {
+void CheckListView::MakeCheckBoxes(UINT dpi) {
     ListView_SetExtendedListViewStyleEx(Handle(), LVS_EX_CHECKBOXES, 0);
     ListView_SetExtendedListViewStyleEx(Handle(), LVS_EX_CHECKBOXES, LVS_EX_CHECKBOXES);
+    SpaceCheckBoxes(dpi);
+}
+
+// The boxes of neighbouring rows would touch. A row is as high as its check box.
+void CheckListView::SpaceCheckBoxes(UINT dpi) const {
+    const HIMAGELIST boxes = ListView_GetImageList(Handle(), LVSIL_STATE);
+    int width = 0;
+    int height = 0;
+    if (!ImageList_GetIconSize(boxes, &width, &height)) return;
+    Owned<HIMAGELIST> spaced = InMiddleOf(boxes, std::max(height, PixelsOf(kRowHeight, dpi)));
+    const Owned<HIMAGELIST> replaced(ListView_SetImageList(Handle(), spaced.release(), LVSIL_STATE));
 }
 
 void CheckListView::SetRows(int count, CellText text) {
@@ -143,7 +142,10 @@ LRESULT CheckListView::Notify(const NMHDR& header) {
                 ItemClick();
             return 0;
         case NM_DBLCLK:
-            if (reinterpret_cast<const NMITEMACTIVATE&>(header).iItem >= 0 && DoubleClick) DoubleClick();
+            if (reinterpret_cast<const NMITEMACTIVATE&>(header).iItem >= 0 && Activate) Activate();
+            return 0;
+        case NM_RETURN:
+            if (Selected() != 0 && Activate) Activate();
             return 0;
         default:
             return 0;
@@ -172,55 +174,6 @@ LRESULT CheckListView::FindRow(const NMLVFINDITEMW& search) const {
         if (BeginsWith(text_(row + 1, 0), letters)) return row;
     }
     return -1;
-}
-
-void CheckListView::Toggle(int position) {
-    SetChecked(position, !IsChecked(position));
-    TellScreenReaders(position);
-    if (ItemCheck) ItemCheck(position);
-}
-
-void CheckListView::ToggleFocused() {
-    const int focused = Focused();
-    if (focused >= 1 && focused <= Count()) Toggle(focused);
-}
-
-bool CheckListView::ToggledByMouse(LPARAM point) {
-    LVHITTESTINFO hit{};
-    hit.pt = {GET_X_LPARAM(point), GET_Y_LPARAM(point)};
-    const int row = ListView_HitTest(Handle(), &hit);
-    if (row < 0 || (hit.flags & LVHT_ONITEM) != LVHT_ONITEMSTATEICON) return false;
-    if (!HasFocus()) SetFocus();
-    Toggle(row + 1);
-    return true;
-}
-
-std::optional<LRESULT> CheckListView::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
-    switch (message) {
-        case WM_LBUTTONDOWN:
-        case WM_LBUTTONDBLCLK:
-            // Taken before the control sees it: a click on the box does not select the row.
-            if (ToggledByMouse(lparam)) return 0;
-            return std::nullopt;
-        case WM_KEYDOWN:
-            if (wparam != VK_SPACE || GetKeyState(VK_CONTROL) < 0) return std::nullopt;
-            ToggleFocused();
-            return 0;
-        case WM_CHAR:
-            if (wparam == L' ') return 0;  // not a letter to search for
-            return std::nullopt;
-        case WM_SYSCOLORCHANGE:
-        case WM_THEMECHANGED: {
-            const LRESULT result = subclass_.Default(message, wparam, lparam);
-            RemakeCheckBoxes();  // drawn in the colours of the time when they were made
-            return result;
-        }
-        case WM_NCDESTROY:
-            Wrap(nullptr);
-            return std::nullopt;
-        default:
-            return std::nullopt;
-    }
 }
 
 }  // namespace lindrel

@@ -10,6 +10,8 @@
 #include <vector>
 
 #include "controls/Control.h"
+#include "controls/EmptyListText.h"
+#include "controls/ListColumns.h"
 #include "controls/Subclass.h"
 
 namespace lindrel {
@@ -24,13 +26,11 @@ class CheckListView : public Control {
     void Attach(HWND list);
     static constexpr DWORD kStyles = LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL | LVS_SHOWSELALWAYS;
 
-    void AddColumn(const std::wstring& caption, int width_in_pixels);
-    void SetColumnWidth(int column, int width_in_pixels);
-    // Keeps each column as wide as it was, in inches, when the resolution changes.
-    void ScaleColumns(UINT from_dpi, UINT to_dpi);
-    // Makes new check boxes, for the resolution that the window has now. New colours and themes do so by
-    // themselves, if the parent passes WM_SYSCOLORCHANGE on.
-    void RemakeCheckBoxes();
+    // The columns share the list's width (controls/ListColumns.h).
+    void AddColumn(const std::wstring& caption, int share) { columns_.Add(caption, share); }
+    // Makes new check boxes, and scales what has a size of its own. New colours and themes give new check boxes
+    // by themselves, if the parent passes WM_SYSCOLORCHANGE on.
+    void ApplyResolution(UINT dpi);
 
     // Shows `count` rows, none checked, none selected, scrolled to the first.
     void SetRows(int count, CellText text);
@@ -54,18 +54,30 @@ class CheckListView : public Control {
     void Focus(int position);
 
     void ShowGridLines(bool shown);
+    // What the list says while it has no rows (controls/EmptyListText.h).
+    void SetEmptyText(const std::wstring& text) { empty_text_.Set(text); }
 
     // What the user does.
     std::function<void()> ItemClick;              // a row was selected or clicked, by mouse or keys
     std::function<void(int position)> ItemCheck;  // a check box was toggled, by mouse or space bar
     std::function<void()> ColumnClick;
-    std::function<void()> DoubleClick;  // on a row
+    std::function<void()> Activate;  // the selected row was double-clicked, or Enter pressed
+    std::function<void()> Copy;      // Ctrl+C
+    // A menu was asked for, at a point of the screen, by mouse or keys. A row under the mouse is selected.
+    std::function<void(POINT at)> MenuAsked;
 
     LRESULT Notify(const NMHDR& header);
 
   private:
     std::optional<LRESULT> OnMessage(UINT message, WPARAM wparam, LPARAM lparam);
+    // The row at a point of the client area, 0 for none; `where` gets the LVHT_ flags.
+    int RowAt(POINT point, UINT& where) const;
     bool ToggledByMouse(LPARAM point);
+    // False when the place is none of the list's own.
+    bool AskForMenu(LPARAM place);
+    POINT BelowSelectedRow() const;
+    void MakeCheckBoxes(UINT dpi);
+    void SpaceCheckBoxes(UINT dpi) const;
     void ToggleFocused();
     void Toggle(int position);
     void TellScreenReaders(LONG row) const;  // 1-based; CHILDID_SELF for all
@@ -73,6 +85,8 @@ class CheckListView : public Control {
     LRESULT FindRow(const NMLVFINDITEMW& search) const;
 
     Subclass subclass_;
+    ListColumns columns_;
+    EmptyListText empty_text_;
     std::vector<bool> checked_;
     CellText text_;
     bool selecting_ = false;  // the program itself changes the selection

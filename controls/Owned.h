@@ -1,5 +1,5 @@
-// Handles of the system that are given back with their owner: Owned<HFONT>, Owned<HICON>, Owned<HIMAGELIST>
-// and Owned<HMENU>. A null handle owns nothing.
+// Handles of the system that are given back with their owner: Owned<HBITMAP>, Owned<HFONT>, Owned<HICON>,
+// Owned<HIMAGELIST> and Owned<HMENU>. A null handle owns nothing.
 #pragma once
 
 #include <memory>
@@ -10,6 +10,7 @@
 namespace lindrel {
 
 struct GiveBack {
+    void operator()(HBITMAP bitmap) const noexcept { DeleteObject(bitmap); }
     void operator()(HFONT font) const noexcept { DeleteObject(font); }
     void operator()(HBITMAP bitmap) const noexcept { DeleteObject(bitmap); }
     void operator()(HICON icon) const noexcept { DestroyIcon(icon); }

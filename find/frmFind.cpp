@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "book/BookText.h"
+#include "controls/Clipboard.h"
 #include "controls/Shell.h"
 #include "edit/DeleteQuestions.h"
 #include "find/CheckedHits.h"
@@ -15,7 +16,6 @@ namespace {
 
 constexpr wchar_t kEndingHint[] = L"pl.: com, hu, gov";
 constexpr int kColumnOfNames = 0;
-constexpr int kColumnOfCategories = 1;
 
 LOGFONTW FixedPitchFont(UINT dpi) {
     LOGFONTW font = MessageFont(dpi);
@@ -50,10 +50,11 @@ void frmFind::Form_Load() {
 
 void frmFind::LoadList() {
     ListView.Attach(Item(ID_frmFind_ListView));
-    ListView.AddColumn(L"webhely neve", 0);
-    ListView.AddColumn(L"kategória", 0);
+    ListView.AddColumn(L"webhely neve", 2);
+    ListView.AddColumn(L"kategória", 1);
     ListView.ItemClick = [this] { ListView_Click(); };
-    ListView.DoubleClick = [this] { ListView_DblClick(); };
+    ListView.Activate = [this] { ListView_DblClick(); };
+    ListView.Copy = [this] { ListView_Copy(); };
     ListView.ItemCheck = [this](int row) { ListView_ItemCheck(row); };
 }
 
@@ -65,24 +66,12 @@ void frmFind::ApplyResolution(UINT dpi) {
     Font font(FixedPitchFont(dpi));
     SendMessageW(Item(ID_frmFind_lblURL), WM_SETFONT, reinterpret_cast<WPARAM>(font.Handle()), TRUE);
     url_font_ = std::move(font);
-    ListView.RemakeCheckBoxes();
+    ListView.ApplyResolution(dpi);
     Form_Resize();
-}
-
-// Names take two thirds of the list, categories the rest; there is room for a scroll bar.
-void frmFind::SizeColumns() {
-    RECT list{};
-    if (!GetWindowRect(ListView.Handle(), &list)) return;
-    const UINT dpi = DpiOf(Handle());
-    const int frame = 2 * GetSystemMetricsForDpi(SM_CXEDGE, dpi);
-    const int room = list.right - list.left - frame - GetSystemMetricsForDpi(SM_CXVSCROLL, dpi);
-    ListView.SetColumnWidth(kColumnOfNames, room * 2 / 3);
-    ListView.SetColumnWidth(kColumnOfCategories, room - room * 2 / 3);
 }
 
 void frmFind::Form_Resize() {
     anchors_.Place();
-    if (ListView.Handle() != nullptr) SizeColumns();
 }
 
 bool frmFind::OnMessage(UINT message, WPARAM wparam, LPARAM lparam, LRESULT&) {
@@ -146,10 +135,6 @@ bool frmFind::ListView_KeyDown(WPARAM key) {
         case VK_DELETE:
             DeleteSelectedHit();
             return true;
-        case VK_RETURN:
-            // Else it would press the default button, and a new search clears the check marks.
-            ListView_DblClick();
-            return true;
         default:
             return false;
     }
@@ -166,6 +151,7 @@ void frmFind::cmdFind_Click() {
         return FromBookText(column == kColumnOfNames ? hit.Entry.SiteName
                                                      : open_.TheBook.CategoryNames(hit.Category));
     });
+    ListView.SetEmptyText(L"Nincs találat.");
     Get<Control>(ID_frmFind_lblSum_1).SetText(std::to_wstring(ListView.Count()));
     // The hit whose address was shown is no longer selected, and may be gone.
     ShowAddress(L"");
@@ -188,6 +174,10 @@ void frmFind::ListView_Click() {
 
 void frmFind::ListView_DblClick() const {
     if (const Hit* const hit = SelectedHit()) OpenAddress(FromBookText(hit->Entry.URL));
+}
+
+void frmFind::ListView_Copy() const {
+    if (const Hit* const hit = SelectedHit()) SetClipboardText(Handle(), FromBookText(hit->Entry.URL));
 }
 
 void frmFind::ListView_ItemCheck(int row) {

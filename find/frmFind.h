@@ -35,12 +35,12 @@ class frmFind : public Dialog {
     void cmdDel_Click();
     void ListView_Click();
     void ListView_DblClick() const;
+    void ListView_Copy() const;
     void ListView_ItemCheck(int row);
     // True when the key is one of the list's own.
     bool ListView_KeyDown(WPARAM key);
 
     void LoadList();
-    void SizeColumns();
     // The address below the list, in full as its tip, since a long one is cut.
     void ShowAddress(const std::wstring& address);
     void SetAllChecks(bool value);

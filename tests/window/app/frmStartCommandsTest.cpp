@@ -45,6 +45,7 @@ const Shortcut kShortcuts[] = {
     {'F', true, false, ID_mnuFind},       {'M', true, false, ID_mnuMove},
     {VK_DELETE, false, false, ID_mnuDel}, {VK_INSERT, false, true, ID_mnuSelectAll},
     {'G', true, false, ID_mnuGoto},       {VK_F1, false, false, ID_mnuHelp},
+    {VK_F2, false, false, ID_mnuEdit},
 };
 
 // Commands that arrive at the main window, written down instead of being run.
