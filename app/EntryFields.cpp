@@ -2,6 +2,7 @@
 
 #include "controls/Clipboard.h"
 #include "controls/CreateControl.h"
+#include "controls/MsgBox.h"
 #include "controls/Shell.h"
 #include "resources/resource.h"
 
@@ -28,9 +29,15 @@ void EntryFields::ApplyResolution(UINT dpi) {
     picGo.SetPicture(IDI_picGo, LargePictureSize(dpi));
 }
 
-void EntryFields::Show(const std::wstring& name, const std::wstring& address) const {
+void EntryFields::Show(const std::wstring& name, const std::wstring& address) {
     txtSite.SetText(name);
     txtURL.SetText(address);
+    ShowWholeTexts();
+}
+
+void EntryFields::ShowWholeTexts() {
+    for (const TextBox& field : {txtSite, txtURL})
+        tool_tips_.Set(window_, field.Handle(), field.ShowsWholeText() ? L"" : field.Text());
 }
 
 bool EntryFields::OnCommand(int id) const {
@@ -40,7 +47,10 @@ bool EntryFields::OnCommand(int id) const {
 }
 
 void EntryFields::picGo_Click() const {
-    if (HasAddress()) OpenAddress(txtURL.Text());
+    if (HasAddress())
+        OpenAddress(txtURL.Text());
+    else
+        SoundNothingToDo();
 }
 
 std::optional<LRESULT> EntryFields::OnUrlMessage(UINT message, WPARAM wparam, LPARAM lparam) const {

@@ -17,8 +17,11 @@ class EntryFields {
     // Shows the button's picture at a resolution. Throws std::bad_alloc when it cannot be loaded.
     void ApplyResolution(UINT dpi);
 
-    void Show(const std::wstring& name, const std::wstring& address) const;
-    void Clear() const { Show({}, {}); }
+    void Show(const std::wstring& name, const std::wstring& address);
+    void Clear() { Show({}, {}); }
+    // Gives the fields whose texts do not fit tips with the whole. To be called when their sizes have
+    // changed.
+    void ShowWholeTexts();
     bool HasName() const { return !txtSite.IsEmpty(); }
     bool HasAddress() const { return !txtURL.IsEmpty(); }
 

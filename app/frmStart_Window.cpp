@@ -81,6 +81,7 @@ void frmStart::Form_Resize() {
 
     view_.DockStatusBar();
     PlaceControls(Handle(), LayOut(frame), dpi_);
+    fields_.ShowWholeTexts();
 }
 
 // Zeros for what is not there yet.

@@ -14,6 +14,24 @@ std::wstring WithoutAccessKeys(std::wstring_view text) {
     return doubled;
 }
 
+// Width in pixels of the widest of some texts in the font of a control; 0 when the system cannot say.
+int WidestOf(const Control& control, const std::vector<std::wstring>& texts) {
+    const HDC screen = GetDC(control.Handle());
+    if (screen == nullptr) return 0;
+    const HGDIOBJ before =
+        SelectObject(screen, reinterpret_cast<HFONT>(SendMessageW(control.Handle(), WM_GETFONT, 0, 0)));
+    LONG widest = 0;
+    for (const std::wstring& text : texts) {
+        SIZE size{};
+        // Without an answer the text asks for no width.
+        static_cast<void>(GetTextExtentPoint32W(screen, text.c_str(), static_cast<int>(text.size()), &size));
+        widest = std::max(widest, size.cx);
+    }
+    SelectObject(screen, before);
+    ReleaseDC(control.Handle(), screen);
+    return static_cast<int>(widest);
+}
+
 }  // namespace
 
 std::wstring TextOf(HWND window) {
@@ -57,6 +75,12 @@ std::wstring TextBox::SelectedText() const {
     return Text().substr(start, end - start);
 }
 
+bool TextBox::ShowsWholeText() const {
+    RECT room{};
+    Send(EM_GETRECT, 0, reinterpret_cast<LPARAM>(&room));
+    return WidestOf(*this, {Text()}) <= room.right - room.left;
+}
+
 void TextBox::SetHint(const std::wstring& text) const {
     Send(EM_SETCUEBANNER, TRUE, reinterpret_cast<LPARAM>(text.c_str()));
 }
@@ -90,21 +114,10 @@ void ListBox::Add(std::wstring_view text) const {
 }
 
 void ComboBox::WidenList() const {
-    const HDC screen = GetDC(Handle());
-    if (screen == nullptr) return;  // the list stays as wide as the box
-    const HGDIOBJ before = SelectObject(screen, reinterpret_cast<HFONT>(Send(WM_GETFONT)));
-    LONG widest = 0;
-    for (int i = 0; i < Count(); ++i) {
-        const std::wstring text = Item(i);
-        SIZE size{};
-        // Without an answer the item asks for no width.
-        static_cast<void>(GetTextExtentPoint32W(screen, text.c_str(), static_cast<int>(text.size()), &size));
-        widest = std::max(widest, size.cx);
-    }
-    SelectObject(screen, before);
-    ReleaseDC(Handle(), screen);
+    std::vector<std::wstring> items;
+    for (int i = 0; i < Count(); ++i) items.push_back(Item(i));
     const int edges = GetSystemMetrics(SM_CXVSCROLL) + 4 * GetSystemMetrics(SM_CXEDGE);
-    Send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(widest) + static_cast<WPARAM>(edges));
+    Send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(WidestOf(*this, items) + edges));
 }
 
 void TabStrip::Add(std::wstring_view caption) const {

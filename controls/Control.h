@@ -46,6 +46,8 @@ class TextBox : public Control {
     void Select(int start, int length) const;
     void SelectAll() const { Select(0, GetWindowTextLengthW(Handle())); }
     std::wstring SelectedText() const;
+    // Whether the text is not wider than the box.
+    bool ShowsWholeText() const;
     // The grey text that the box shows while it is empty.
     void SetHint(const std::wstring& text) const;
 };

@@ -57,4 +57,8 @@ int MsgBox(HWND owner, const std::wstring& text, UINT style, const std::wstring&
     return button;
 }
 
+void SoundNothingToDo() {
+    static_cast<void>(MessageBeep(MB_OK));  // a machine without sounds is silent
+}
+
 }  // namespace lindrel

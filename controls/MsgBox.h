@@ -15,4 +15,7 @@ inline constexpr wchar_t kErrorTitle[] = L"Hiba";
 int MsgBox(HWND owner, const std::wstring& text, UINT style = MB_OK,
            const std::wstring& title = kApplicationTitle);
 
+// The default beep, for a command that finds nothing to act on.
+void SoundNothingToDo();
+
 }  // namespace lindrel

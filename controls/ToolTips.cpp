@@ -13,14 +13,25 @@ TTTOOLINFOW ToolOf(HWND window, HWND control) {
     return tool;
 }
 
+// An address has no blanks to break it at, and may be longer than the screen is wide.
+std::wstring InLines(const std::wstring& text) {
+    constexpr std::size_t kLine = 100;
+    std::wstring lines = text.substr(0, kLine);
+    for (std::size_t at = kLine; at < text.size(); at += kLine) lines += L"\r\n" + text.substr(at, kLine);
+    return lines;
+}
+
 }  // namespace
 
 void ToolTips::Set(HWND window, HWND control, const std::wstring& text) {
-    if (tips_ == nullptr)
+    if (tips_ == nullptr) {
         tips_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr,
                                 WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, CW_USEDEFAULT, CW_USEDEFAULT,
                                 CW_USEDEFAULT, CW_USEDEFAULT, window, nullptr, nullptr, nullptr);
-    std::wstring shown = text;
+        // Any width, which also makes the tips heed line breaks.
+        SendMessageW(tips_, TTM_SETMAXTIPWIDTH, 0, SHRT_MAX);
+    }
+    std::wstring shown = InLines(text);
     TTTOOLINFOW tool = ToolOf(window, control);
     tool.lpszText = shown.data();
     SendMessageW(tips_, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));

@@ -9,6 +9,7 @@
 #include "tests/window/support/Program.h"
 #include "tests/window/support/RealClipboard.h"
 #include "tests/window/support/RecordedShell.h"
+#include "tests/window/support/ToolTipOf.h"
 
 namespace lindrel::testing {
 namespace {
@@ -117,6 +118,48 @@ TEST_F(EntryFieldsTest, CopyingLeavesOtherFormsOnTheClipboard) {
     program.Settle();
     EXPECT_EQ(TextOnClipboard(), L"http://ketto.hu");
     EXPECT_TRUE(ClipboardHolds(form));
+}
+
+TEST_F(EntryFieldsTest, OnlyATextThatDoesNotFitHasItselfAsItsTip) {
+    const std::wstring name = L"Egy nagyon hosszú név & még annál is hosszabb";
+    const std::wstring address = L"http://pelda.hu/" + std::wstring(84, L'a');
+    program.Add(2, {{name, L"http://b.hu"}, {L"rövid", address}});
+    const auto tips = [this] {
+        return std::pair(ToolTipOf(program, program.Control(ID_frmStart_txtSite)),
+                         ToolTipOf(program, program.Control(ID_frmStart_txtURL)));
+    };
+    using Tips = std::pair<std::wstring, std::wstring>;
+    EXPECT_EQ(tips(), (Tips{L"", L""}));
+    program.ClickTab(2);
+    program.ClickRow(1);
+    EXPECT_EQ(tips(), (Tips{name, L""}));
+    program.ClickRow(2);
+    EXPECT_EQ(tips(), (Tips{L"", address}));
+    // A field that is wide enough needs none.
+    const HWND field = program.Control(ID_frmStart_txtURL);
+    program.OnUi([&](frmStart& form) {
+        SetWindowPos(field, nullptr, 0, 0, 2000, 21, SWP_NOMOVE | SWP_NOZORDER);
+        form.View().SelectRow(1);
+    });
+    program.ClickRow(2);
+    EXPECT_EQ(tips(), (Tips{L"", L""}));
+    // The window's layout makes it narrow again.
+    SetWindowPos(program.Main(), nullptr, 0, 0, 1000, 600, SWP_NOMOVE | SWP_NOZORDER);
+    program.Settle();
+    EXPECT_EQ(tips(), (Tips{L"", address}));
+    program.ClickTab(1);
+    EXPECT_EQ(tips(), (Tips{L"", L""}));
+}
+
+TEST_F(EntryFieldsTest, ATipThatIsLongerThanALineHasSeveral) {
+    const std::wstring line(100, L'b');
+    program.Add(2, {{L"rövid", line + line + L"c"}, {L"két sor", line + line}});
+    program.ClickTab(2);
+    program.ClickRow(1);
+    const HWND field = program.Control(ID_frmStart_txtURL);
+    EXPECT_EQ(ToolTipOf(program, field), line + L"\r\n" + line + L"\r\nc");
+    program.ClickRow(2);
+    EXPECT_EQ(ToolTipOf(program, field), line + L"\r\n" + line);
 }
 
 }  // namespace

@@ -3,7 +3,7 @@
 namespace lindrel::testing {
 
 std::wstring ToolTipOf(const Program& program, HWND control) {
-    std::wstring text(256, L'\0');
+    std::wstring text(1024, L'\0');
     // Asked on the program's own thread: the answer is written to where the question points.
     program.OnUi([&](frmStart&) {
         const HWND window = GetParent(control);

@@ -1,0 +1,255 @@
+// What a user's hands try first in the address list, with real keys and a real mouse.
+
+#include <gtest/gtest.h>
+
+#include "resources/resource.h"
+#include "tests/window/support/Program.h"
+#include "tests/window/support/RealClipboard.h"
+#include "tests/window/support/RealInput.h"
+#include "tests/window/support/RecordedShell.h"
+#include "tests/window/support/ReplacedImport.h"
+
+namespace lindrel::testing {
+namespace {
+
+struct MenuItem {
+    std::wstring Caption;  // with its shortcut; empty for a separator
+    UINT Id = 0;
+    bool Enabled = true;
+    bool Default = false;
+    bool operator==(const MenuItem&) const = default;
+};
+
+std::vector<UINT> beeps;
+BOOL WINAPI HearBeep(UINT sound) {
+    beeps.push_back(sound);
+    return TRUE;
+}
+
+class ListInputTest : public ::testing::Test {
+  protected:
+    ListInputTest() {
+        program.Add(
+            1, {{L"Egy", L"http://egy.hu"}, {L"Kettő", L"http://ketto.hu"}, {L"Három", L"http://harom.hu"}});
+    }
+    // The state with a row picked by the user, 1..3.
+    MainState Picked(int row) const {
+        MainState state = EmptyState();
+        state.Rows = {
+            {L"Egy", L"http://egy.hu"}, {L"Kettő", L"http://ketto.hu"}, {L"Három", L"http://harom.hu"}};
+        state.Status[1] = L"megjelenítve (3 / 3)";
+        if (row == 0) return state;
+        state.SelectedRow = row;
+        std::tie(state.txtSite, state.txtURL) = state.Rows[static_cast<std::size_t>(row - 1)];
+        state.Status[0] = state.txtURL;
+        return state;
+    }
+    RECT LabelOf(int row) const {
+        RECT place{};
+        ListView_GetItemRect(list, row - 1, &place, LVIR_LABEL);
+        return place;
+    }
+    POINT TextOf(int row) const {
+        return {LabelOf(row).left + 6, (LabelOf(row).top + LabelOf(row).bottom) / 2};
+    }
+    POINT BoxOf(int row) const { return {LabelOf(row).left / 2, TextOf(row).y}; }
+    POINT BelowTheRows() const { return {LabelOf(3).left + 6, LabelOf(3).bottom + 30}; }
+
+    HWND WaitForMenu() const {
+        WaitUntil("the menu", [this] { return PoppedUpMenu(program.Thread()) != nullptr; });
+        return PoppedUpMenu(program.Thread());
+    }
+    void LeaveMenu() const {
+        hands.Press(VK_ESCAPE);
+        WaitUntil("the menu to go", [this] { return PoppedUpMenu(program.Thread()) == nullptr; });
+    }
+    std::vector<MenuItem> ItemsOf(HWND popup) const {
+        const auto menu = reinterpret_cast<HMENU>(SendMessageW(popup, MN_GETHMENU, 0, 0));
+        std::vector<MenuItem> items;
+        for (int i = 0; i < GetMenuItemCount(menu); ++i) {
+            wchar_t caption[80] = L"";
+            GetMenuStringW(menu, static_cast<UINT>(i), caption, 80, MF_BYPOSITION);
+            const UINT state = GetMenuState(menu, static_cast<UINT>(i), MF_BYPOSITION);
+            const bool separator = (state & MF_SEPARATOR) != 0;
+            items.push_back({caption, GetMenuItemID(menu, i),
+                             separator || (state & (MF_GRAYED | MF_DISABLED)) == 0,
+                             (state & MF_DEFAULT) != 0});
+        }
+        return items;
+    }
+    static std::vector<MenuItem> RowMenu() {
+        return {{L"Ugorj az oldalra\tCtrl+G", ID_mnuGoto, true, true},
+                {},
+                {L"Cím módosítása...\tCtrl+E", ID_mnuEdit},
+                {L"Áthelyez...\tCtrl+M", ID_mnuMove},
+                {L"Töröl\tDel", ID_mnuDel},
+                {},
+                {L"Parancsikon az asztalra", ID_mnuToDesktop}};
+    }
+
+    const Program program;
+    const HWND list = program.Control(ID_frmStart_ListURLs);
+    const RealInput hands{program};
+};
+
+TEST_F(ListInputTest, ADoubleClickOpensTheRow) {
+    const RecordedShell shell;
+    hands.Click(list, TextOf(2), 2);
+    EXPECT_EQ(shell.NextAddress(), L"http://ketto.hu");
+    program.Settle();
+    EXPECT_EQ(program.State(), Picked(2));
+    EXPECT_EQ(shell.Addresses(), std::vector<std::wstring>{L"http://ketto.hu"});
+}
+
+TEST_F(ListInputTest, EnterOpensTheSelectedRowAndShowsIt) {
+    const RecordedShell shell;
+    hands.Press(VK_RETURN);  // no row is selected
+    // As after an edit: the fields are empty.
+    program.OnUi([](frmStart& form) { form.View().SelectRow(3); });
+    hands.Press(VK_RETURN);
+    EXPECT_EQ(shell.NextAddress(), L"http://harom.hu");
+    program.Settle();
+    EXPECT_EQ(program.State(), Picked(3));
+    EXPECT_EQ(shell.Addresses(), std::vector<std::wstring>{L"http://harom.hu"});
+}
+
+TEST_F(ListInputTest, ADoubleClickOnACheckBoxTogglesTwiceAndOpensNothing) {
+    const RecordedShell shell;
+    hands.Click(list, BoxOf(2), 2);
+    EXPECT_EQ(program.State(), Picked(0));
+    hands.Click(list, BoxOf(2));
+    MainState checked = Picked(0);
+    checked.Checked = {2};
+    checked.Status[2] = L"bejelölve 1";
+    EXPECT_EQ(program.State(), checked);
+    EXPECT_EQ(shell.Addresses(), std::vector<std::wstring>{});
+}
+
+TEST_F(ListInputTest, ARightClickSelectsTheRowAndOpensItsMenu) {
+    const RecordedShell shell;
+    hands.RightClick(list, TextOf(2));
+    EXPECT_EQ(ItemsOf(WaitForMenu()), RowMenu());
+    EXPECT_EQ(program.State(), Picked(2));
+    LeaveMenu();
+    hands.RightClick(list, BoxOf(3));
+    WaitForMenu();
+    EXPECT_EQ(program.State(), Picked(3));  // and not checked
+    hands.Press(VK_DOWN);
+    hands.Press(VK_RETURN);
+    EXPECT_EQ(shell.NextAddress(), L"http://harom.hu");
+}
+
+TEST_F(ListInputTest, TheMenuFollowsTheMenuBar) {
+    program.OnUi([](frmStart& form) { form.EnableCommand(ID_mnuMove, false); });
+    hands.RightClick(list, TextOf(1));
+    std::vector<MenuItem> expected = RowMenu();
+    expected[3].Enabled = false;
+    EXPECT_EQ(ItemsOf(WaitForMenu()), expected);
+    LeaveMenu();
+}
+
+TEST_F(ListInputTest, KeysOpenTheMenuAtTheSelectedRow) {
+    program.OnUi([](frmStart& form) { form.View().SelectRow(2); });
+    const auto expect_menu = [this] {
+        const HWND menu = WaitForMenu();
+        EXPECT_EQ(ItemsOf(menu), RowMenu());
+        RECT place{};
+        EXPECT_TRUE(GetWindowRect(menu, &place));
+        POINT row{LabelOf(2).left, LabelOf(2).bottom};
+        ClientToScreen(list, &row);
+        EXPECT_EQ(place.left, row.x);
+        EXPECT_EQ(place.top, row.y);
+        EXPECT_EQ(program.State(), Picked(2));
+        LeaveMenu();
+    };
+    hands.Press(VK_APPS);
+    expect_menu();
+    hands.PressUntil(VK_F10, {VK_SHIFT}, "the menu",
+                     [this] { return PoppedUpMenu(program.Thread()) != nullptr; });
+    expect_menu();
+}
+
+TEST_F(ListInputTest, WithNothingToActOnThereIsNoMenu) {
+    hands.RightClick(list, BelowTheRows());
+    hands.Press(VK_APPS);
+    EXPECT_EQ(PoppedUpMenu(program.Thread()), nullptr);
+    EXPECT_EQ(program.State(), Picked(0));
+    // Check marks are enough.
+    hands.Click(list, BoxOf(1));
+    hands.Press(VK_APPS);
+    EXPECT_EQ(ItemsOf(WaitForMenu()), RowMenu());
+    LeaveMenu();
+    hands.RightClick(list, BelowTheRows());
+    WaitForMenu();
+    LeaveMenu();
+}
+
+TEST_F(ListInputTest, TheHeaderHasNoMenu) {
+    program.ClickRow(1);
+    hands.RightClick(ListView_GetHeader(list), {30, 8});
+    hands.Press(VK_DOWN);
+    EXPECT_EQ(PoppedUpMenu(program.Thread()), nullptr);
+    EXPECT_EQ(program.State(), Picked(2));
+}
+
+TEST_F(ListInputTest, F2Edits) {
+    program.ClickRow(2);
+    hands.Press(VK_F2);
+    const DialogOnScreen dialog = program.Dialog(L"Cím módosítása");
+    EXPECT_EQ(dialog.Text(ID_frmEditRec_txtURL), L"http://ketto.hu");
+    dialog.Cancel();
+    program.Settle();
+}
+
+TEST_F(ListInputTest, ControlCCopiesTheAddressOfTheRow) {
+    PutClipboardText(L"régi");
+    hands.Press('C', {VK_CONTROL});  // no row is selected
+    EXPECT_EQ(TextOnClipboard(), L"régi");
+    program.OnUi([](frmStart& form) { form.View().SelectRow(3); });
+    hands.PressUntil('C', {VK_CONTROL}, "the address on the clipboard",
+                     [] { return TextOnClipboard() == L"http://harom.hu"; });
+    // In a text box it copies what is selected there.
+    program.ClickRow(2);
+    const HWND field = program.Control(ID_frmStart_txtURL);
+    program.OnUi([field](frmStart&) {
+        SetFocus(field);
+        SendMessageW(field, EM_SETSEL, 7, 12);
+    });
+    hands.PressUntil('C', {VK_CONTROL}, "the selected text on the clipboard",
+                     [] { return TextOnClipboard() == L"ketto"; });
+    EXPECT_EQ(program.State(), Picked(2));
+}
+
+TEST_F(ListInputTest, ACommandThatFindsNothingToActOnBeepsOnce) {
+    const ReplacedImport hear(&MessageBeep, &HearBeep);
+    for (const int command : {ID_mnuDel, ID_mnuMove, ID_mnuGoto, ID_frmStart_picGo}) {
+        beeps.clear();
+        program.Run(command);
+        EXPECT_EQ(beeps, std::vector<UINT>{MB_OK}) << command;
+        EXPECT_TRUE(program.NothingIsOpen());
+        EXPECT_EQ(program.State(), Picked(0));
+    }
+    // An address in the fields without a selected row is none to delete.
+    program.List().ClickHeader();
+    program.Settle();
+    beeps.clear();
+    program.Run(ID_mnuDel);
+    EXPECT_EQ(beeps, std::vector<UINT>{MB_OK});
+    EXPECT_TRUE(program.NothingIsOpen());
+}
+
+TEST_F(ListInputTest, ACommandThatHasItsWorkIsSilent) {
+    const RecordedShell shell;
+    const ReplacedImport hear(&MessageBeep, &HearBeep);
+    program.ClickRow(1);
+    beeps.clear();
+    program.Run(ID_mnuGoto);
+    EXPECT_EQ(shell.NextAddress(), L"http://egy.hu");
+    program.Choose(ID_mnuMove);
+    program.Dialog(L"A kiválasztott címek áthelyezése").Cancel();
+    program.Settle();
+    EXPECT_EQ(beeps, std::vector<UINT>{});
+}
+
+}  // namespace
+}  // namespace lindrel::testing
