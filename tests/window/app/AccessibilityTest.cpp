@@ -1,0 +1,303 @@
+// What programs that read the screen aloud get to hear: name, role, state and shortcut of every control of
+// every window. The system's own answers are asked for; where they are those of a plain window (Wine's, for
+// most of the controls), the role says so.
+
+#include <gtest/gtest.h>
+#include <oleacc.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "resources/resource.h"
+#include "tests/window/support/Program.h"
+#include "tests/window/support/Text.h"
+
+namespace lindrel::testing {
+namespace {
+
+// One line for a control: class, 'name', what else is known of it.
+using Lines = std::vector<std::string>;
+
+std::string TextOf(BSTR text) {
+    const std::string narrow = text != nullptr ? Narrow(text) : "";
+    SysFreeString(text);
+    return narrow;
+}
+
+std::string RoleOf(IAccessible& object, const VARIANT& self) {
+    VARIANT role{};
+    if (object.get_accRole(self, &role) != S_OK) return " without a role";
+    // The system has an answer of its own for text boxes, and one for all other windows.
+    if (role.lVal == ROLE_SYSTEM_CLIENT) return "";
+    return role.lVal == ROLE_SYSTEM_TEXT ? " text" : " of another role";
+}
+
+std::string StateOf(IAccessible& object, const VARIANT& self) {
+    static const std::pair<LONG, const char*> kStates[] = {{STATE_SYSTEM_UNAVAILABLE, " unavailable"},
+                                                           {STATE_SYSTEM_READONLY, " read-only"},
+                                                           {STATE_SYSTEM_INVISIBLE, " invisible"},
+                                                           {STATE_SYSTEM_PROTECTED, " protected"}};
+    VARIANT state{};
+    if (object.get_accState(self, &state) != S_OK) return " without a state";
+    std::string words;
+    for (const auto& [bit, word] : kStates)
+        if ((state.lVal & bit) != 0) words += word;
+    return words;
+}
+
+// What Windows reads as the name of a list or combo box, which Wine takes from their contents: the label just
+// before.
+std::string LabelOf(HWND window) {
+    const HWND before = GetWindow(window, GW_HWNDPREV);
+    if (before == nullptr || (SendMessageW(before, WM_GETDLGCODE, 0, 0) & DLGC_STATIC) == 0) return "";
+    return " labelled '" + Narrow(lindrel::TextOf(before)) + "'";
+}
+
+std::string LineOf(HWND window) {
+    IAccessible* object = nullptr;
+    if (AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible,
+                                   reinterpret_cast<void**>(&object)) != S_OK)
+        return "no answer";
+    VARIANT self{};
+    self.vt = VT_I4;
+    self.lVal = CHILDID_SELF;
+    BSTR name = nullptr;
+    BSTR key = nullptr;
+    object->get_accName(self, &name);
+    object->get_accKeyboardShortcut(self, &key);
+    const std::wstring kind = ClassOf(window);
+    std::string line =
+        Narrow(kind) + " '" + TextOf(name) + "'" + RoleOf(*object, self) + StateOf(*object, self);
+    if (kind == L"ComboBox" || kind == L"ListBox" || kind == L"SysListView32" || kind == L"SysTreeView32")
+        line += LabelOf(window);
+    if (const std::string shortcut = TextOf(key); !shortcut.empty()) line += " " + shortcut;
+    object->Release();
+    return line;
+}
+
+// The rows of a list as the system's own reader of list views asks for them.
+Lines RowsOf(const ListOnScreen& list) {
+    const std::vector<int> checked = list.Checked();
+    Lines rows;
+    for (int row = 1; row <= list.Count(); ++row) {
+        const bool is_checked = std::find(checked.begin(), checked.end(), row) != checked.end();
+        rows.push_back("'" + Narrow(list.Cell(row, 0)) + "' '" + Narrow(list.Cell(row, 1)) + "'" +
+                       (is_checked ? " checked" : "") + (list.Selected() == row ? " selected" : ""));
+    }
+    return rows;
+}
+
+class AccessibilityTest : public ::testing::Test {
+  protected:
+    // A window and what stands in it, in the order in which they are read.
+    Lines Heard(HWND window) const {
+        Lines lines;
+        program.OnUi([&](frmStart&) {
+            lines.push_back(LineOf(window));
+            for (HWND child = GetWindow(window, GW_CHILD); child != nullptr;
+                 child = GetWindow(child, GW_HWNDNEXT))
+                lines.push_back(LineOf(child));
+        });
+        return lines;
+    }
+    Lines HeardOfDialog(int command, const std::wstring& caption) const {
+        program.Choose(command);
+        const DialogOnScreen dialog = program.Dialog(caption);
+        const Lines lines = Heard(dialog.Handle());
+        dialog.Cancel();
+        program.Settle();
+        return lines;
+    }
+    // Two entries, one selected and one checked.
+    void AddSelectedAndChecked() const {
+        program.Add(1, {{L"Egy", L"http://egy.hu"}, {L"Kettő", L"http://ketto.hu"}});
+        program.ClickRow(1);
+        program.ClickBox(2);
+    }
+
+    const Program program;
+};
+
+TEST_F(AccessibilityTest, TheMainWindow) {
+    AddSelectedAndChecked();
+    EXPECT_EQ(Heard(program.Main()),
+              (Lines{"frmStart 'Lindrel '", "ToolbarWindow32 'Eszköztár'", "SysTabControl32 'Kategóriák'",
+                     "SysListView32 'Címek'", "msctls_statusbar32 'http://egy.hu'", "Static 'Webhely neve'",
+                     "Edit 'Webhely neve' text read-only", "Static 'URL'", "Edit 'URL' text read-only",
+                     "Button 'Ugorj a web oldalra'", "Button 'keresés' Alt+k",
+                     "ComboBox '' labelled '&keresés'", "Static 'keresett szöveg' invisible",
+                     "Edit 'keresett szöveg' text", "Button 'Keresés'", "TrayArea '' invisible"}));
+    EXPECT_EQ(RowsOf(program.List()),
+              (Lines{"'Egy' 'http://egy.hu' selected", "'Kettő' 'http://ketto.hu' checked"}));
+    // The line in an empty list is not among its rows.
+    program.ClickTab(2);
+    EXPECT_EQ(RowsOf(program.List()), Lines{});
+}
+
+TEST_F(AccessibilityTest, TheDialogOfTheCategories) {
+    EXPECT_EQ(HeardOfDialog(ID_mnuKat, L"Kategóriák nevei"), (Lines{"#32770 'Kategóriák nevei'",
+                                                                    "Static '1'",
+                                                                    "Edit '1' text",
+                                                                    "Static '2'",
+                                                                    "Edit '2' text",
+                                                                    "Static '3'",
+                                                                    "Edit '3' text",
+                                                                    "Static '4'",
+                                                                    "Edit '4' text",
+                                                                    "Static '5'",
+                                                                    "Edit '5' text",
+                                                                    "Static '6'",
+                                                                    "Edit '6' text",
+                                                                    "Static '7'",
+                                                                    "Edit '7' text",
+                                                                    "Static '8'",
+                                                                    "Edit '8' text",
+                                                                    "Static '9'",
+                                                                    "Edit '9' text",
+                                                                    "Static '10'",
+                                                                    "Edit '10' text",
+                                                                    "Static '11'",
+                                                                    "Edit '11' text",
+                                                                    "Static '12'",
+                                                                    "Edit '12' text",
+                                                                    "Button 'OK'",
+                                                                    "Button 'Mégse' Alt+M"}));
+}
+
+TEST_F(AccessibilityTest, TheDialogOfANewEntry) {
+    EXPECT_EQ(HeardOfDialog(ID_mnuAdd, L"Új oldal hozzáadása"),
+              (Lines{"#32770 'Új oldal hozzáadása'", "Button ' Az oldal adatai '",
+                     "Static 'az oldal neve' Alt+n", "Edit 'az oldal neve' text Alt+n",
+                     "Static 'kategória' Alt+k", "ComboBox 'Project1' labelled '&kategória'",
+                     "Static 'ebbe a kategóriában lesz létrehozva'", "Static 'URL címe' Alt+U",
+                     "Edit 'URL címe' text Alt+U", "Button '@'", "Button 'OK'", "Button 'Mégse' Alt+M"}));
+}
+
+TEST_F(AccessibilityTest, TheDialogOfAnEntry) {
+    AddSelectedAndChecked();
+    EXPECT_EQ(HeardOfDialog(ID_mnuEdit, L"Cím módosítása"),
+              (Lines{"#32770 'Cím módosítása'", "Button ' Az oldal adatai '", "Static 'az oldal neve' Alt+n",
+                     "Edit 'az oldal neve' text Alt+n", "Static 'kategória' Alt+k",
+                     "ComboBox 'Project1' labelled '&kategória'",
+                     "Static 'ebbe a kategóriába lesz áthelyezve'", "Static 'URL címe' Alt+U",
+                     "Edit 'URL címe' text Alt+U", "Button 'OK'", "Button 'Mégse' Alt+M"}));
+}
+
+TEST_F(AccessibilityTest, TheDialogThatMoves) {
+    AddSelectedAndChecked();
+    EXPECT_EQ(HeardOfDialog(ID_mnuMove, L"A kiválasztott címek áthelyezése"),
+              (Lines{"#32770 'A kiválasztott címek áthelyezése'",
+                     "Static 'ebbe a kategóriába lesz(nek) áthelyezve'",
+                     "ComboBox 'Project1' labelled 'ebbe a kategóriába lesz(nek) áthelyezve'", "Button 'OK'",
+                     "Button 'Mégse' Alt+M"}));
+}
+
+TEST_F(AccessibilityTest, TheDialogThatExports) {
+    AddSelectedAndChecked();
+    EXPECT_EQ(HeardOfDialog(ID_mnuExport, L"Exportálás"),
+              (Lines{"#32770 'Exportálás'",
+                     "Button ' exportálva lesz(nek)'",
+                     "Static 'Válassza ki, mely kategóriákból kíván exportálni'",
+                     "ListBox '' labelled 'Válassza ki, mely kategóriákból kíván exportálni'",
+                     "Static 'fájltipus' Alt+f",
+                     "ComboBox 'weblap - HTML' labelled '&fájltipus'",
+                     "Button ' weblap tulajdonságai '",
+                     "Static 'a weblap címe'",
+                     "Edit 'a weblap címe' text",
+                     "Static 'háttérszín :'",
+                     "Button 'fehér'",
+                     "Button 'fekete'",
+                     "Static 'arculat'",
+                     "ComboBox '' labelled 'arculat'",
+                     "Button 'Tallózz ..'",
+                     "Button ' hozzáadás a MS IE kedvencekhez beállitások' invisible",
+                     "Button 'tegye az összes címet egy mappa alá' invisible",
+                     "Button 'létrehozni a kategóriák neveivel új mappákat' invisible",
+                     "Button 'Exportálj ...' Alt+E",
+                     "Button 'Mégse' Alt+M"}));
+}
+
+TEST_F(AccessibilityTest, TheDialogThatImports) {
+    EXPECT_EQ(HeardOfDialog(ID_mnuImport, L"Importálás"),
+              (Lines{"#32770 'Importálás'", "Button ' forrás '", "Button 'weblap - HTML'",
+                     "Button 'MS IE kedvencek - URL'", "Button ' >>'",
+                     "Static 'a cimeket helyezd ebbe a kategóriába'",
+                     "ComboBox 'Project1' labelled 'a cimeket helyezd ebbe a kategóriába'",
+                     "Button 'Importálj' Alt+I", "Button 'Mégse' Alt+M"}));
+}
+
+TEST_F(AccessibilityTest, TheAboutBox) {
+    EXPECT_EQ(HeardOfDialog(ID_mnuAbout, L"Lindrel névjegye"),
+              (Lines{"#32770 'Lindrel névjegye'", "Static ''", "Static 'Lindrel'", "Static 'Version 1.0.0'",
+                     "Static ''", "Static '© 2026 Lindrel'", "SysLink '<a>https://lindrel.example/</a>'",
+                     "Static ''",
+                     "Static 'Figyelmeztetés: Jelen számítógépes program a szerzői jog és nemzetközi "
+                     "szerződések védelme alatt áll.'",
+                     "Button 'OK'"}));
+}
+
+TEST_F(AccessibilityTest, TheFindDialogAndItsHits) {
+    AddSelectedAndChecked();
+    program.Choose(ID_mnuFind);
+    const DialogOnScreen dialog = program.Dialog(L"Keresés");
+    EXPECT_EQ(
+        Heard(dialog.Handle()),
+        (Lines{"#32770 'Keresés'", "Static 'Amit keres' Alt+A", "Edit 'Amit keres' text Alt+A",
+               "Static 'utótagúakat' Alt+u", "Edit 'utótagúakat' text Alt+u", "Static 'szűkíti a keresést'",
+               "Button 'Keresés indítása' Alt+K", "Static '0'", "Static 'keresés eredménye :'",
+               "SysListView32 '' labelled 'keresés eredménye :'", "Static ''", "Button 'Mindent kijelöl'",
+               "Button 'Kijelölés megszüntetése'", "Button 'A kijelölt címek törlése'"}));
+    dialog.SetText(ID_frmFind_txtWhat, L"e");
+    dialog.Click(ID_frmFind_cmdFind);
+    program.Settle();
+    const ListOnScreen hits(dialog.Control(ID_frmFind_ListView));
+    hits.ClickBox(1);
+    hits.ClickRow(2);
+    program.Settle();
+    EXPECT_EQ(RowsOf(hits), (Lines{"'Egy' 'Project1' checked", "'Kettő' 'Project1' selected"}));
+    dialog.Cancel();
+    program.Settle();
+}
+
+TEST_F(AccessibilityTest, TheDialogsThatChooseAFolder) {
+    AddSelectedAndChecked();
+    program.Choose(ID_mnuImport);
+    const DialogOnScreen import = program.Dialog(L"Importálás");
+    import.Click(ID_frmImport_from_1);
+    import.Click(ID_frmImport_cmdOK);
+    const DialogOnScreen source = program.Dialog(L"Importálás a kedvencekből");
+    EXPECT_EQ(
+        Heard(source.Handle()),
+        (Lines{"#32770 'Importálás a kedvencekből'",
+               "Static 'Kérem válassza ki az azt a mappát, amelyből exportálni kíván'",
+               "SysTreeView32 '' labelled 'Kérem válassza ki az azt a mappát, amelyből exportálni kíván'",
+               "Static 'A kiválasztott könyvtárból lesznek importálva az ott található (*.url) fájlokból a "
+               "címek.'",
+               "Button 'Importálás' Alt+I", "Button 'Mégse' Alt+M"}));
+    source.Cancel();
+    source.WaitForClose();
+    import.Cancel();
+    program.Settle();
+
+    program.Choose(ID_mnuExport);
+    const DialogOnScreen exporting = program.Dialog(L"Exportálás");
+    SendMessageW(exporting.Control(ID_frmExport_lstSource), LB_SETSEL, TRUE, 0);
+    exporting.Pick(ID_frmExport_cmbType, 2);
+    exporting.Click(ID_frmExport_cmdOK);
+    const DialogOnScreen target = program.Dialog(L"Exportálás a kedvencekbe");
+    EXPECT_EQ(Heard(target.Handle()),
+              (Lines{"#32770 'Exportálás a kedvencekbe'",
+                     "Static 'Kérem válassza ki azt a mappát, amelybe exportálni kíván'",
+                     "SysTreeView32 '' labelled 'Kérem válassza ki azt a mappát, amelybe exportálni kíván'",
+                     "Static 'Az Ön által kiválasztott címek hozzáadódnak az Internet Explorer kedvenc lapok "
+                     "listájához'",
+                     "Button 'Export'", "Button 'Mégse'"}));
+    target.Cancel();
+    target.WaitForClose();
+    exporting.Cancel();
+    program.Settle();
+}
+
+}  // namespace
+}  // namespace lindrel::testing
