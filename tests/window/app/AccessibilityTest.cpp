@@ -56,7 +56,7 @@ std::string LabelOf(HWND window) {
 
 std::string LineOf(HWND window) {
     IAccessible* object = nullptr;
-    if (AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible,
+    if (AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), __uuidof(IAccessible),
                                    reinterpret_cast<void**>(&object)) != S_OK)
         return "no answer";
     VARIANT self{};
