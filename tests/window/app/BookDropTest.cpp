@@ -170,7 +170,7 @@ class BookDropTest : public FileSession {
         const DragWindow from(files, {place.right + 20, place.top + 20});
         hands.Hold(from.Handle(), {30, 30});
         hands.Move(program.Control(ID_frmStart_ListURLs), {100, 100});
-        WaitUntil("the cursor", [&] { return from.CursorSays(cursor); });
+        EXPECT_TRUE(Eventually([&] { return from.CursorSays(cursor); })) << "the cursor says otherwise";
         hands.LetGo();
         WaitUntil("the end of the drag", [&] { return from.HasEnded(); });
     }
