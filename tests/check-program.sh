@@ -1,19 +1,30 @@
 #!/usr/bin/env bash
-# That a shipped program runs on every Windows: it asks for the system's own libraries only, and it tells nothing of the
-# folder in which it was built.
+# That a shipped program runs on every Windows from 10 on, and safely: it asks for the system's own libraries only, its
+# header says what the system may do with it, and it tells nothing of the folder in which it was built.
 #   tests/check-program.sh lindrel.exe
 set -u
 program=$1
 allowed=' advapi32 comctl32 comdlg32 gdi32 hhctrl kernel32 msvcrt ole32 oleaut32 shell32 shlwapi user32 uxtheme '
 failed=0
 
-libraries=$(x86_64-w64-mingw32-objdump -p "$program" | sed -n 's/^\s*DLL Name: //p' | tr 'A-Z' 'a-z')
+headers=$(x86_64-w64-mingw32-objdump -p "$program")
+libraries=$(sed -n 's/^\s*DLL Name: //p' <<<"$headers" | tr 'A-Z' 'a-z')
 [ -n "$libraries" ] || { echo "no libraries found in $program"; exit 1; }
 for library in $libraries; do
   case "$allowed" in
     *" ${library%.dll} "*) ;;
     *) echo "$program needs $library, which not every Windows has"; failed=1 ;;
   esac
+done
+
+# Random addresses are of use only with the list of places to mend (.reloc, entry 5 of the directory).
+wanted=('MajorSubsystemVersion\s+10$' 'MinorSubsystemVersion\s+0$' 'DYNAMIC_BASE' 'NX_COMPAT' 'TERMINAL_SERVICE_AWARE'
+  'Entry 5 [0-9a-f]*[1-9a-f][0-9a-f]* ')
+if grep -q '^Magic.*(PE32+)' <<<"$headers"; then
+  wanted+=('HIGH_ENTROPY_VA')
+fi
+for line in "${wanted[@]}"; do
+  grep -qE "$line" <<<"$headers" || { echo "the header of $program has no $line"; failed=1; }
 done
 
 source_folder=$(cd "$(dirname "$0")/.." && pwd)
