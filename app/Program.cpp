@@ -44,6 +44,8 @@ int RunMessageLoop(frmStart& form) {
 }  // namespace
 
 int RunProgram(HINSTANCE instance, int show) {
+    // A drive without a disk is an error like any other, not a box of the system's.
+    SetErrorMode(GetErrorMode() | SEM_FAILCRITICALERRORS);
     const ComApartment com;
     INITCOMMONCONTROLSEX classes{};
     classes.dwSize = sizeof classes;

@@ -9,6 +9,7 @@
 
 #include "tests/window/support/Boxes.h"
 #include "tests/window/support/Polling.h"
+#include "tests/window/support/Program.h"
 
 namespace lindrel::testing {
 namespace {
@@ -47,6 +48,15 @@ TEST(ProgramTest, AStartThatFailsIsReported) {
     report.Press(IDOK);
     starting.join();
     EXPECT_EQ(exit_code, 1);
+}
+
+TEST(ProgramTest, ADriveWithoutADiskOpensNoBoxOfTheSystem) {
+    const UINT before = SetErrorMode(SEM_NOOPENFILEERRORBOX);
+    {
+        const Program program;
+        EXPECT_EQ(GetErrorMode(), static_cast<UINT>(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX));
+    }
+    SetErrorMode(before);
 }
 
 }  // namespace
