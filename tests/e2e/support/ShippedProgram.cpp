@@ -60,28 +60,6 @@ struct TextBuffer {
     wchar_t Text[1024];
 };
 
-INPUT KeyInput(WORD key, bool up) {
-    INPUT input{};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wVk = key;
-    input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
-    input.ki.dwFlags = up ? KEYEVENTF_KEYUP : 0;
-    return input;
-}
-
-INPUT CharacterInput(wchar_t unit, bool up) {
-    INPUT input{};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wScan = unit;
-    input.ki.dwFlags = KEYEVENTF_UNICODE | (up ? KEYEVENTF_KEYUP : 0);
-    return input;
-}
-
-void Send(std::vector<INPUT> inputs) {
-    const UINT sent = SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
-    Demand(sent == inputs.size(), "the system took not all of the input");
-}
-
 }  // namespace
 
 ShippedProgram::ShippedProgram() {
@@ -119,24 +97,12 @@ HWND ShippedProgram::Control(int id) const {
 }
 
 void ShippedProgram::WaitUntilInFront() const {
-    // Keys that come before a control has the focus are lost.
-    WaitUntil("the program in front, with a focus", [this] {
-        GUITHREADINFO info{};
-        info.cbSize = sizeof info;
-        return GetWindowThreadProcessId(GetForegroundWindow(), nullptr) == thread_id_ &&
-               GetGUIThreadInfo(thread_id_, &info) && info.hwndFocus != nullptr;
-    });
+    testing::WaitUntilInFront(thread_id_);
 }
 
 void ShippedProgram::Press(const Stroke& stroke) const {
     WaitUntilInFront();
-    std::vector<INPUT> inputs;
-    for (const WORD key : stroke.Held) inputs.push_back(KeyInput(key, false));
-    inputs.push_back(KeyInput(stroke.Key, false));
-    inputs.push_back(KeyInput(stroke.Key, true));
-    for (auto key = stroke.Held.rbegin(); key != stroke.Held.rend(); ++key)
-        inputs.push_back(KeyInput(*key, true));
-    Send(std::move(inputs));
+    PressRealKey(stroke);
 }
 
 void ShippedProgram::PressUntil(const Stroke& stroke, const std::string& what,
@@ -188,12 +154,7 @@ void ShippedProgram::OpenBook(const std::wstring& path) const {
 
 void ShippedProgram::Type(const std::wstring& text) const {
     WaitUntilInFront();
-    std::vector<INPUT> inputs;
-    for (const wchar_t unit : text) {
-        inputs.push_back(CharacterInput(unit, false));
-        inputs.push_back(CharacterInput(unit, true));
-    }
-    Send(std::move(inputs));
+    TypeRealText(text);
 }
 
 void ShippedProgram::Click(HWND window, POINT place, bool right) const {
@@ -206,10 +167,10 @@ void ShippedProgram::ClickAnywhere(HWND window, POINT place, bool right) {
     Demand(SetCursorPos(place.x, place.y) != FALSE, "the mouse pointer");
     INPUT input{};
     input.type = INPUT_MOUSE;
-    std::vector<INPUT> inputs(2, input);
+    INPUT inputs[] = {input, input};
     inputs[0].mi.dwFlags = right ? MOUSEEVENTF_RIGHTDOWN : MOUSEEVENTF_LEFTDOWN;
     inputs[1].mi.dwFlags = right ? MOUSEEVENTF_RIGHTUP : MOUSEEVENTF_LEFTUP;
-    Send(std::move(inputs));
+    Demand(SendInput(2, inputs, sizeof(INPUT)) == 2, "the system took not all of the input");
 }
 
 void ShippedProgram::AnswerFileDialog(const std::wstring& path) const {

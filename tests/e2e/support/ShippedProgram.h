@@ -10,14 +10,9 @@
 #include "controls/Windows.h"
 #include "tests/window/support/Boxes.h"
 #include "tests/window/support/Polling.h"
+#include "tests/window/support/RealKeys.h"
 
 namespace lindrel::testing {
-
-// A key with what is held down with it.
-struct Stroke {
-    WORD Key;
-    std::vector<WORD> Held = {};
-};
 
 class ShippedProgram {
   public:
