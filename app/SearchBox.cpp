@@ -70,9 +70,12 @@ void SearchBox::SearchTheBook(const std::wstring& text) {
         Found(FindPosition);  // the focus stays here, so that Enter goes on to the next
 }
 
-void SearchBox::txtFind_KeyPress(wchar_t KeyAscii) {
+// True when the text box has nothing left to do with the character.
+bool SearchBox::txtFind_KeyPress(wchar_t KeyAscii) {
     constexpr wchar_t kEnter = 13;
-    if (KeyAscii == kEnter) Image1_Click();
+    if (KeyAscii != kEnter) return false;
+    Image1_Click();
+    return true;
 }
 
 // Only a new text starts the search anew. After a tab change it goes on at the old place, as users know it.
@@ -85,7 +88,8 @@ void SearchBox::txtFind_GotFocus() const {
 }
 
 std::optional<LRESULT> SearchBox::OnTextMessage(UINT message, WPARAM wparam, LPARAM lparam) {
-    if (message == WM_CHAR) txtFind_KeyPress(static_cast<wchar_t>(wparam));
+    // A text box of one line would only sound a warning at Enter.
+    if (message == WM_CHAR && txtFind_KeyPress(static_cast<wchar_t>(wparam))) return 0;
     // Or the keyboard navigation of the window would take Enter.
     const auto* const asked = reinterpret_cast<const MSG*>(lparam);
     if (message == WM_GETDLGCODE && asked != nullptr && asked->wParam == VK_RETURN)

@@ -34,7 +34,7 @@ class SearchBox {
     void Image1_Click();
     void SearchTheWeb(const std::wstring& text) const;
     void SearchTheBook(const std::wstring& text);
-    void txtFind_KeyPress(wchar_t KeyAscii);
+    bool txtFind_KeyPress(wchar_t KeyAscii);
     void txtFind_Change();
     void txtFind_GotFocus() const;
     std::optional<LRESULT> OnTextMessage(UINT message, WPARAM wparam, LPARAM lparam);

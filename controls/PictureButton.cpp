@@ -4,8 +4,9 @@ namespace lindrel {
 
 void PictureButton::Attach(HWND button) {
     Wrap(button);
-    subclass_.Attach(button,
-                     [this](UINT message, WPARAM, LPARAM lparam) { return OnMessage(message, lparam); });
+    subclass_.Attach(button, [this](UINT message, WPARAM wparam, LPARAM lparam) {
+        return OnMessage(message, wparam, lparam);
+    });
 }
 
 void PictureButton::SetPicture(int icon_id, int size) {
@@ -21,8 +22,11 @@ void PictureButton::Draw(const DRAWITEMSTRUCT& item) const {
     const int top = (place.top + place.bottom - size_) / 2;
     if (picture_.Handle() != nullptr)
         DrawIconEx(item.hDC, left, top, picture_.Handle(), size_, size_, 0, nullptr, DI_NORMAL);
-    const bool show_focus = (item.itemState & ODS_FOCUS) != 0 && (item.itemState & ODS_NOFOCUSRECT) == 0;
-    if (show_focus) DrawFocusRect(item.hDC, &place);
+    if ((item.itemState & ODS_FOCUS) == 0) return;
+    // Enter presses it now, as a frame tells of every other button.
+    FrameRect(item.hDC, &place, GetSysColorBrush(COLOR_HIGHLIGHT));
+    InflateRect(&place, -1, -1);
+    if ((item.itemState & ODS_NOFOCUSRECT) == 0) DrawFocusRect(item.hDC, &place);
 }
 
 void PictureButton::ShowBorder(bool shown) const {
@@ -35,7 +39,7 @@ void PictureButton::ShowBorder(bool shown) const {
     InvalidateRect(Handle(), nullptr, TRUE);
 }
 
-std::optional<LRESULT> PictureButton::OnMessage(UINT message, LPARAM lparam) {
+std::optional<LRESULT> PictureButton::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
     switch (message) {
         case WM_DRAWITEM:
             Draw(*reinterpret_cast<const DRAWITEMSTRUCT*>(lparam));
@@ -51,6 +55,10 @@ std::optional<LRESULT> PictureButton::OnMessage(UINT message, LPARAM lparam) {
         case WM_GETDLGCODE:
             // Enter presses the button that has the focus.
             return DLGC_BUTTON | (HasFocus() ? DLGC_DEFPUSHBUTTON : DLGC_UNDEFPUSHBUTTON);
+        case BM_SETSTYLE:
+            // The keyboard navigation makes it a default button and an ordinary one by turns; either would
+            // draw itself, without the picture.
+            return subclass_.Default(message, (wparam & ~WPARAM{BS_TYPEMASK}) | kStyle, lparam);
         case WM_NCDESTROY:
             Wrap(nullptr);
             return std::nullopt;

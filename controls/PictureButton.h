@@ -20,7 +20,7 @@ class PictureButton : public Control {
     void SetPicture(int icon_id, int size);
 
   private:
-    std::optional<LRESULT> OnMessage(UINT message, LPARAM lparam);
+    std::optional<LRESULT> OnMessage(UINT message, WPARAM wparam, LPARAM lparam);
     void Draw(const DRAWITEMSTRUCT& item) const;
     // The picture stays as it is while the mouse holds the button; only the border tells.
     void MouseDown() const { ShowBorder(true); }

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <vector>
 
 #include "resources/resource.h"
@@ -31,10 +32,11 @@ class PictureButtonTest : public ::testing::Test {
     ~PictureButtonTest() override { DestroyWindow(parent_); }
 
     // What the parent gets drawn when the system asks it to draw the button.
-    std::vector<COLORREF> Look() const {
-        return Drawn(kSide, [this](HDC canvas) {
+    std::vector<COLORREF> Look(UINT state = 0) const {
+        return Drawn(kSide, [&](HDC canvas) {
             DRAWITEMSTRUCT item{};
             item.CtlType = ODT_BUTTON;
+            item.itemState = state;
             item.hwndItem = window;
             item.hDC = canvas;
             item.rcItem = {0, 0, kSide, kSide};
@@ -61,6 +63,31 @@ TEST_F(PictureButtonTest, DrawsThePictureThatItWasGivenLast) {
     const std::vector<COLORREF> search = Look();
     EXPECT_NE(search, face);
     EXPECT_NE(search, go);
+}
+
+TEST_F(PictureButtonTest, HasAFrameInsideItsEdgeWhileItHasTheFocus) {
+    const std::vector<COLORREF> plain = Look();
+    const std::vector<COLORREF> focused = Look(ODS_FOCUS | ODS_NOFOCUSRECT);
+    for (int at = 0; at < kSide * kSide; ++at) {
+        const int x = at % kSide;
+        const int y = at / kSide;
+        const bool on_edge = x == 0 || y == 0 || x == kSide - 1 || y == kSide - 1;
+        const auto place = static_cast<std::size_t>(at);
+        ASSERT_EQ(focused[place], on_edge ? GetSysColor(COLOR_HIGHLIGHT) : plain[place]) << x << ' ' << y;
+    }
+    // The dotted line of the keyboard's users is beside the frame, not on it.
+    const std::vector<COLORREF> dotted = Look(ODS_FOCUS);
+    EXPECT_TRUE(std::equal(dotted.begin(), dotted.begin() + kSide, focused.begin()));
+    EXPECT_NE(dotted, focused);
+}
+
+TEST_F(PictureButtonTest, StaysAPictureWhateverTheKeyboardNavigationMakesOfIt) {
+    const std::vector<COLORREF> before = Look();
+    for (const int style : {BS_DEFPUSHBUTTON, BS_PUSHBUTTON, BS_AUTOCHECKBOX}) {
+        SendMessageW(window, BM_SETSTYLE, static_cast<WPARAM>(style), TRUE);
+        EXPECT_EQ(GetWindowLongPtrW(window, GWL_STYLE) & BS_TYPEMASK, BS_OWNERDRAW);
+    }
+    EXPECT_EQ(Look(), before);
 }
 
 TEST_F(PictureButtonTest, HasABorderWhileTheMouseHoldsIt) {
