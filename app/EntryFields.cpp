@@ -48,7 +48,7 @@ bool EntryFields::OnCommand(int id) const {
 
 void EntryFields::picGo_Click() const {
     if (HasAddress())
-        OpenAddress(txtURL.Text());
+        OpenAddress(window_, txtURL.Text());
     else
         SoundNothingToDo();
 }

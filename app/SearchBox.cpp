@@ -57,7 +57,7 @@ void SearchBox::Image1_Click() {
 }
 
 void SearchBox::SearchTheWeb(const std::wstring& text) const {
-    OpenAddress(ServiceAddress(cmbFinders.Selected(), text));
+    OpenAddress(window_, ServiceAddress(cmbFinders.Selected(), text));
     cmbFinders.Select(0);
 }
 

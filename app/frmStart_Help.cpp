@@ -19,7 +19,7 @@ void frmStart::mnuHelp_Click() {
 }
 
 void frmStart::mnuGoHome_Click() {
-    OpenAddress(kHomePage);
+    OpenAddress(Handle(), kHomePage);
 }
 
 void frmStart::mnuAbout_Click() {

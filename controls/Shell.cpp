@@ -2,9 +2,12 @@
 
 #include <shellapi.h>
 #include <shlobj.h>
+#include <shlwapi.h>
 
+#include <algorithm>
 #include <vector>
 
+#include "book/AddressKind.h"
 #include "controls/FileSearch.h"
 #include "controls/MsgBox.h"
 
@@ -41,7 +44,49 @@ bool FileExists(HWND owner, const std::wstring& path) {
     return false;
 }
 
-INT_PTR OpenAddress(const std::wstring& address) {
+namespace {
+
+bool MayStartAProgram(const std::wstring& address) {
+    switch (Classify(address)) {
+        case AddressKind::Web:
+            return false;
+        case AddressKind::Document:
+            break;
+        case AddressKind::Unsure:
+            return true;
+    }
+    const std::vector<std::wstring> extensions = ExtensionsOf(address);
+    return std::any_of(extensions.begin(), extensions.end(), [](const std::wstring& extension) {
+        return AssocIsDangerous(extension.c_str()) != FALSE;
+    });
+}
+
+constexpr std::size_t kLine = 80;
+
+std::wstring InLines(std::wstring text) {
+    for (std::size_t end = kLine; end < text.size(); end += kLine + 2) text.insert(end, L"\r\n");
+    return text;
+}
+
+// For a message box: when the address is so long that the box would not fit on the screen, its beginning and
+// its end, which tells what it opens.
+std::wstring Shown(const std::wstring& address) {
+    constexpr std::size_t kHalf = 10 * kLine;
+    if (address.size() <= 2 * kHalf) return InLines(address);
+    return InLines(address.substr(0, kHalf)) + L"\r\n\u2026\r\n" +
+           InLines(address.substr(address.size() - kHalf));
+}
+
+bool UserAgreesToOpen(HWND owner, const std::wstring& address) {
+    const std::wstring question =
+        L"Ez a cím programot is elindíthat:\r\n\r\n" + Shown(address) + L"\r\n\r\nBiztosan megnyitja?";
+    return MsgBox(owner, question, MB_YESNO | MB_ICONWARNING | MB_DEFBUTTON2) == IDYES;
+}
+
+}  // namespace
+
+INT_PTR OpenAddress(HWND owner, const std::wstring& address) {
+    if (MayStartAProgram(address) && !UserAgreesToOpen(owner, address)) return SE_ERR_ACCESSDENIED;
     return reinterpret_cast<INT_PTR>(
         ShellExecuteW(nullptr, nullptr, address.c_str(), nullptr, nullptr, SW_SHOWNORMAL));
 }

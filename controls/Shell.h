@@ -21,9 +21,10 @@ std::vector<std::wstring> FilesMatching(const std::wstring& pattern);
 // Like FileIsThere, but tells the user when there is none ("A megadott fájl nem létezik").
 bool FileExists(HWND owner, const std::wstring& path);
 
-// Opens an address with the program that is registered for it. The result is ShellExecute's: above 32 means
-// success. Shows nothing when it fails.
-INT_PTR OpenAddress(const std::wstring& address);
+// Opens an address with the program that is registered for it. One that may start a program
+// (book/AddressKind.h) is opened only after the user has agreed, and refused with SE_ERR_ACCESSDENIED
+// otherwise. The result is ShellExecute's: above 32 means success. Shows nothing when it fails.
+INT_PTR OpenAddress(HWND owner, const std::wstring& address);
 
 // Path of one of the shell's folders (a CSIDL_ value), or nothing when the shell has none.
 std::optional<std::wstring> ShellFolder(int csidl);

@@ -173,7 +173,7 @@ void frmFind::ListView_Click() {
 }
 
 void frmFind::ListView_DblClick() const {
-    if (const Hit* const hit = SelectedHit()) OpenAddress(FromBookText(hit->Entry.URL));
+    if (const Hit* const hit = SelectedHit()) OpenAddress(Handle(), FromBookText(hit->Entry.URL));
 }
 
 void frmFind::ListView_Copy() const {

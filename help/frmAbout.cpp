@@ -70,7 +70,7 @@ LRESULT frmAbout::OnNotify(const NMHDR& header) {
 
 void frmAbout::Label1_Click() {
     // An address that nothing opens is the shell's to report.
-    static_cast<void>(OpenAddress(kHomePage));
+    static_cast<void>(OpenAddress(Handle(), kHomePage));
 }
 
 }  // namespace lindrel

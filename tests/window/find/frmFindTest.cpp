@@ -200,6 +200,18 @@ TEST_F(frmFindTest, AClickShowsTheAddressAndADoubleClickOpensIt) {
     dialog.Close();
 }
 
+TEST_F(frmFindTest, TheQuestionBeforeAProgramIsStartedStandsOverTheDialog) {
+    program.Add(1, {{L"program", L"C:\\x.exe"}});
+    const FindDialog dialog = Open();
+    dialog.Search(L"");
+    dialog.List().DoubleClickRow(1);
+    const BoxOnScreen box = program.Box();
+    EXPECT_EQ(GetWindow(box.Handle(), GW_OWNER), dialog.Handle());
+    box.Press(IDNO);
+    program.Settle();
+    dialog.Close();
+}
+
 TEST_F(frmFindTest, EnterInTheListOpensTheHitAndKeepsTheCheckMarks) {
     const RecordedShell shell;
     AddSixEntries();
