@@ -1,23 +1,49 @@
 #include "controls/Clipboard.h"
 
+#include <ole2.h>
+
+#include <algorithm>
 #include <cstring>
+#include <iterator>
+#include <vector>
 
 namespace lindrel {
 
 namespace {
 
+constexpr DWORD kPatience = 200;  // milliseconds
+
+// Another program has it open only for a moment, as a rule: the one that shows what was copied last.
+bool OpenPatiently(HWND owner) {
+    const ULONGLONG start = GetTickCount64();
+    for (DWORD pause = 5;; pause *= 2) {
+        if (OpenClipboard(owner)) return true;
+        const ULONGLONG waited = GetTickCount64() - start;
+        if (waited >= kPatience) return false;
+        Sleep(std::min(pause, kPatience - static_cast<DWORD>(waited)));
+    }
+}
+
+// Data may be made only when it is asked for, by the program that offered it. One that hangs would hang us.
+bool OwnerAnswers() {
+    const HWND owner = GetClipboardOwner();
+    return owner == nullptr ||
+           SendMessageTimeoutW(owner, WM_NULL, 0, 0, SMTO_ABORTIFHUNG, kPatience, nullptr) != 0;
+}
+
 class OpenedClipboard {
   public:
-    explicit OpenedClipboard(HWND owner) : open_(OpenClipboard(owner) != FALSE) {}
+    explicit OpenedClipboard(HWND owner) : open_(OpenPatiently(owner)), usable_(open_ && OwnerAnswers()) {}
     ~OpenedClipboard() {
         if (open_) CloseClipboard();
     }
     OpenedClipboard(const OpenedClipboard&) = delete;
     OpenedClipboard& operator=(const OpenedClipboard&) = delete;
-    explicit operator bool() const { return open_; }
+    explicit operator bool() const { return usable_; }
 
   private:
     bool open_;
+    bool usable_;
 };
 
 }  // namespace
@@ -37,27 +63,73 @@ std::wstring ClipboardText(HWND owner) {
 
 namespace {
 
-// A copy for the clipboard to take over; null when there is no memory.
-template <typename Character>
-HGLOBAL GlobalCopy(const Character* text, std::size_t length) {
-    const std::size_t bytes = length * sizeof(Character);
-    const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, bytes);
+struct ClipboardItem {
+    UINT Format;
+    HANDLE Data;
+};
+
+DWORD MediumOf(UINT format) {
+    switch (format) {
+        case CF_BITMAP:
+        case CF_PALETTE:
+            return TYMED_GDI;
+        case CF_ENHMETAFILE:
+            return TYMED_ENHMF;
+        case CF_METAFILEPICT:
+            return TYMED_MFPICT;
+        default:
+            return TYMED_HGLOBAL;
+    }
+}
+
+void Free(const ClipboardItem& item) {
+    STGMEDIUM medium{};
+    medium.tymed = MediumOf(item.Format);
+    medium.hGlobal = item.Data;
+    ReleaseStgMedium(&medium);
+}
+
+// What is put on the clipboard is the system's; what is not is given back here.
+void Put(const ClipboardItem& item) {
+    if (SetClipboardData(item.Format, item.Data) == nullptr) Free(item);
+}
+
+// Null when there is no memory.
+HANDLE GlobalCopy(const void* bytes, std::size_t size) {
+    const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, size);
     if (memory == nullptr) return nullptr;
     void* const place = GlobalLock(memory);
     if (place == nullptr) {
         GlobalFree(memory);
         return nullptr;
     }
-    std::memcpy(place, text, bytes);
+    std::memcpy(place, bytes, size);
     GlobalUnlock(memory);
     return memory;
 }
 
-bool PutOnClipboard(UINT format, HGLOBAL memory) {
-    if (memory == nullptr) return false;
-    if (SetClipboardData(format, memory) != nullptr) return true;
-    GlobalFree(memory);  // still ours
-    return false;
+// Pictures and files; another form of a text beside the new one would be pasted in its place.
+bool IsNoText(UINT format) {
+    constexpr UINT kStandard[] = {CF_BITMAP,      CF_DIB,  CF_DIBV5, CF_PALETTE, CF_METAFILEPICT,
+                                  CF_ENHMETAFILE, CF_TIFF, CF_RIFF,  CF_WAVE,    CF_HDROP};
+    static const UINT registered[] = {RegisterClipboardFormatW(L"PNG"),
+                                      RegisterClipboardFormatW(L"Preferred DropEffect")};
+    return std::find(std::begin(kStandard), std::end(kStandard), format) != std::end(kStandard) ||
+           std::find(std::begin(registered), std::end(registered), format) != std::end(registered);
+}
+
+// Copies of what stays on the clipboard when it is emptied, in its order. One that cannot be copied is left
+// out.
+std::vector<ClipboardItem> CopiesOfNoText() {
+    std::vector<ClipboardItem> copies;
+    for (UINT format = EnumClipboardFormats(0); format != 0; format = EnumClipboardFormats(format)) {
+        if (!IsNoText(format)) continue;
+        const HANDLE data = GetClipboardData(format);
+        const HANDLE copy =
+            data == nullptr ? nullptr : OleDuplicateData(data, static_cast<CLIPFORMAT>(format), 0);
+        if (copy != nullptr) copies.push_back({format, copy});
+    }
+    return copies;
 }
 
 }  // namespace
@@ -65,17 +137,20 @@ bool PutOnClipboard(UINT format, HGLOBAL memory) {
 void SetClipboardText(HWND owner, const std::wstring& text) {
     const OpenedClipboard clipboard(owner);
     if (!clipboard) return;
-    const std::size_t length = text.size() + 1;
-    if (!PutOnClipboard(CF_UNICODETEXT, GlobalCopy(text.c_str(), length))) return;
-    // The clipboard is not emptied first, so that a picture on it stays; but then an older text in the
-    // machine's code page would stay too, and programs that read no other would paste it.
-    std::string narrow(length * 4, '\0');
-    const int used = WideCharToMultiByte(CP_ACP, 0, text.c_str(), static_cast<int>(length), narrow.data(),
-                                         static_cast<int>(narrow.size()), nullptr, nullptr);
-    if (used > 0)
-        // When it cannot be put there, most programs still find the other one.
-        static_cast<void>(
-            PutOnClipboard(CF_TEXT, GlobalCopy(narrow.c_str(), static_cast<std::size_t>(used))));
+    const HANDLE copy = GlobalCopy(text.c_str(), (text.size() + 1) * sizeof(wchar_t));
+    if (copy == nullptr) return;
+    const std::vector<ClipboardItem> kept = CopiesOfNoText();
+    if (!EmptyClipboard()) {
+        Free({CF_UNICODETEXT, copy});
+        for (const ClipboardItem& item : kept) Free(item);
+        return;
+    }
+    // First, so that a program that could paste several of them takes what was copied last.
+    Put({CF_UNICODETEXT, copy});
+    // For programs that ask for bytes: without it these would be in the code page of the keyboard's language.
+    const LCID language = GetSystemDefaultLCID();
+    if (const HANDLE locale = GlobalCopy(&language, sizeof language)) Put({CF_LOCALE, locale});
+    for (const ClipboardItem& item : kept) Put(item);
 }
 
 }  // namespace lindrel

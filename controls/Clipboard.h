@@ -7,11 +7,15 @@
 
 namespace lindrel {
 
-// The clipboard's text; empty when it holds none, or when another program keeps it open.
+// Both wait up to 200 milliseconds for a program that has the clipboard open, or that has promised what is on
+// it.
+
+// The clipboard's text; empty when it holds none, or when that program does not let go or answer.
 std::wstring ClipboardText(HWND owner);
 
-// Replaces the text on the clipboard, with an empty one too; what is there in other formats stays. When
-// another program keeps the clipboard open, nothing changes; the user sees that at the next paste.
+// Puts a text on the clipboard, an empty one too. Pictures, sounds and files on it stay; every other form of
+// an older text goes (web page, formatted text, bytes). When that program does not let go or answer, or
+// memory is short, nothing changes; the user sees that at the next paste.
 void SetClipboardText(HWND owner, const std::wstring& text);
 
 }  // namespace lindrel

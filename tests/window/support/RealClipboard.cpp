@@ -24,14 +24,18 @@ class OpenedClipboard {
     OpenedClipboard& operator=(const OpenedClipboard&) = delete;
 };
 
-void Put(UINT format, const void* bytes, std::size_t size) {
-    const OpenedClipboard clipboard;
-    Demand(EmptyClipboard() != FALSE);
+void Add(UINT format, const void* bytes, std::size_t size) {
     const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, size);
     Demand(memory != nullptr);
     std::memcpy(GlobalLock(memory), bytes, size);
     GlobalUnlock(memory);
     Demand(SetClipboardData(format, memory) != nullptr);
+}
+
+void Put(UINT format, const void* bytes, std::size_t size) {
+    const OpenedClipboard clipboard;
+    Demand(EmptyClipboard() != FALSE);
+    Add(format, bytes, size);
 }
 
 }  // namespace
@@ -42,6 +46,12 @@ void PutClipboardText(const std::wstring& text) {
 
 void PutClipboardBytes(UINT format, const std::string& bytes) {
     Put(format, bytes.data(), bytes.size());
+}
+
+void PutClipboardForms(const std::map<UINT, std::string>& forms) {
+    const OpenedClipboard clipboard;
+    Demand(EmptyClipboard() != FALSE);
+    for (const auto& [format, bytes] : forms) Add(format, bytes.data(), bytes.size());
 }
 
 void EmptyTheClipboard() {
@@ -58,8 +68,21 @@ std::optional<std::wstring> TextOnClipboard() {
     return text;
 }
 
-bool ClipboardHolds(UINT format) {
-    return IsClipboardFormatAvailable(format) != FALSE;
+std::set<UINT> FormsOnClipboard() {
+    const OpenedClipboard clipboard;
+    std::set<UINT> forms;
+    for (UINT format = EnumClipboardFormats(0); format != 0; format = EnumClipboardFormats(format))
+        forms.insert(format);
+    return forms;
+}
+
+std::string BytesOnClipboard(UINT format) {
+    const OpenedClipboard clipboard;
+    const HANDLE data = GetClipboardData(format);
+    Demand(data != nullptr);
+    std::string bytes(static_cast<const char*>(GlobalLock(data)), GlobalSize(data));
+    GlobalUnlock(data);
+    return bytes;
 }
 
 }  // namespace lindrel::testing
