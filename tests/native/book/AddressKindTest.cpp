@@ -91,12 +91,12 @@ TEST(AddressKindTest, WhatTheFileSystemDoesNotSeeAfterANameHidesNoProgram) {
 }
 
 TEST(AddressKindTest, EncodingHidesNoProgram) {
-    ExpectAll(
-        AddressKind::Unsure,
-        {L"file:///c:/x%2Eexe", L"file:///c:/x%2e%65%58e", L"file:///c:/x.exe%20", L"file:///c:/x.exe%2e",
-         L"file:///c:/x%252Eexe", L"file:///c:/x.exe%00.txt", L"file:///c:/x.exe#.txt",
-         L"file:///c:/x.exe?.txt", L"file:///c%3a/x.exe", L"c:\\x%2eexe", L"file:///%5c%5cserver/a.txt",
-         L"%2f%2fserver/a.txt", L"file:///c:/x%45%58%45", L"file:///c:/x%2EEXE"});
+    ExpectAll(AddressKind::Unsure,
+              {L"file:///c:/x%2Eexe", L"file:///c:/x%2e%65%58e", L"file:///c:/x.exe%20",
+               L"file:///c:/x.exe%2e", L"file:///c:/x%252Eexe", L"file:///c:/a.txt%252Eexe",
+               L"file:///c:/x.exe%00.txt", L"file:///c:/x.exe#.txt", L"file:///c:/x.exe?.txt",
+               L"file:///c%3a/x.exe", L"c:\\x%2eexe", L"file:///%5c%5cserver/a.txt", L"%2f%2fserver/a.txt",
+               L"file:///c:/x%45%58%45", L"file:///c:/x%2EEXE"});
 }
 
 TEST(AddressKindTest, StreamsAndObjectsOfTheShellAreNoDocuments) {
