@@ -18,8 +18,8 @@ class CommonDialog {
   public:
     std::wstring Filter = kBookFilter;  // "text|pattern|text|pattern..."
     std::wstring DialogTitle;
-    // The folder shown first. Windows shows the one that was used last when the same is given again; so do not
-    // change it from call to call: people keep their books elsewhere than beside the program.
+    // The folder shown first. Windows shows the one that was used last when the same is given again; so do
+    // not change it from call to call: people keep their books elsewhere than beside the program.
     std::wstring InitDir;
     std::wstring FileName;    // proposed before, chosen (full path) after
     std::wstring DefaultExt;  // appended by the save dialog when none is typed; without a dot
