@@ -4,6 +4,7 @@
 # The pages are kept in UTF-8. The viewer wants the contents and the index in the code page of the file's language, so
 # all texts are converted to Windows-1250, and say so.
 set -eu
+here=$(cd "$(dirname "$0")" && pwd)
 pages=$1 scratch=$2 target=$3 home_page=$4
 
 rm -rf "$scratch"
@@ -18,4 +19,5 @@ cd "$scratch"
 # The compiler ends well even when a page refers to what is not there; its report is the only sign.
 report=$(chmcmd --verbosity 3 lnd.hhp 2>&1) || { echo "$report"; exit 1; }
 if grep -iE '^(error|warning)|not found|missing|cannot|can.t' <<<"$report"; then exit 1; fi
+"$here/undate-chm.py" lnd.chm
 cp lnd.chm "$target"
