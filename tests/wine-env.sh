@@ -10,7 +10,7 @@ lindrel_packages=(
   g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix wine wine64
   libgtest-dev libbenchmark-dev clang clang-format clang-tidy libclang-rt-14-dev universal-ctags
   xvfb openbox xdotool imagemagick locales fonts-liberation python3
-  fp-utils librsvg2-bin icoutils chromium)
+  fp-utils librsvg2-bin icoutils chromium nsis)
 
 install_packages() {
   local missing=() package
@@ -63,6 +63,57 @@ copy_prefix() {
       *) cp -al "$folder" "$1/drive_c/" ;;
     esac
   done
+}
+
+# Makes a prefix of the script's own, which is gone with the processes in it when the script ends.
+own_prefix() {
+  WINEPREFIX=$(mktemp -d "$lindrel_wine/run.XXXXXX")
+  export WINEPREFIX
+  trap end_own_prefix EXIT
+  trap 'exit 143' INT TERM
+  copy_prefix "$WINEPREFIX"
+}
+end_own_prefix() {
+  wineserver -k 2>/dev/null || true
+  wineserver -w 2>/dev/null || true
+  stop_display
+  # What a test has made read-only too.
+  chmod -R u+w "$WINEPREFIX/drive_c/users"
+  rm -rf "$WINEPREFIX"
+}
+
+# The 32-bit libraries that an installer needs, out of Wine's own package of that width. The package is not installed:
+# it would need i386 beside amd64 in the whole system.
+lindrel_libraries_32=(
+  advapi32 bcrypt cfgmgr32 combase comctl32 gdi32 imm32 iphlpapi kernel32 kernelbase msvcrt ntdll ole32 oleaut32 propsys
+  rpcrt4 sechost setupapi shcore shell32 shlwapi ucrtbase user32 usp10 uxtheme version win32u windowscodecs ws2_32)
+
+download_libraries_32() {
+  local target="$lindrel_wine/32/i386-windows" apt="$lindrel_wine/apt"
+  [ ! -d "$target" ] || return 0
+  echo "== downloading Wine's 32-bit libraries (95 MB), for the test of the installer"
+  rm -rf "$apt"
+  mkdir -p "$apt/lists/partial" "$apt/archives/partial" "$apt/libraries"
+  local options=(-qq -o Dir::State::lists="$apt/lists" -o Dir::Cache="$apt" -o APT::Architectures::=amd64
+    -o APT::Architectures::=i386 -o APT::Sandbox::User=root)
+  # A list that cannot be had matters only when the package is in none of the others; the download says so.
+  apt-get "${options[@]}" update 2>/dev/null || true
+  (cd "$apt" && apt-get "${options[@]}" download "libwine:i386=$(dpkg-query -W -f='${Version}' libwine)")
+  local members=("${lindrel_libraries_32[@]/#/./usr/lib/i386-linux-gnu/wine/i386-windows/}")
+  dpkg-deb --fsys-tarfile "$apt"/libwine_*.deb |
+    tar -x -C "$apt/libraries" --transform='s|.*/||' "${members[@]/%/.dll}"
+  # Comes with the 64-bit package already.
+  cp "$(dirname "$(dpkg-query -L libwine | grep -m1 '/x86_64-windows/ntdll.dll$')")/../i386-windows/zlib1.dll" \
+    "$apt/libraries/"
+  mkdir -p "$(dirname "$target")"
+  mv "$apt/libraries" "$target"
+  rm -rf "$apt"
+}
+
+# Lets the prefix run 32-bit programs.
+use_libraries_32() {
+  export WINEDLLPATH="$lindrel_wine/32"
+  cp "$lindrel_wine"/32/i386-windows/* "$WINEPREFIX/drive_c/windows/syswow64/"
 }
 
 # Starts a display with a window manager, of 1280x1024 or another size, and sets DISPLAY. The processes' numbers are in wine_processes.

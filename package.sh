@@ -1,0 +1,39 @@
+#!/usr/bin/env bash
+# Builds what users get into dist/: a zip for each width of Windows, one installer for both, the bill of materials and
+# the sums of them all. The same commit gives the same bytes, whenever and wherever it is built.
+set -eu
+cd "$(dirname "$0")"
+source tests/wine-env.sh
+install_packages
+# Every time in the packages is that of the commit. A copy without its history is given it.
+export SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(git log -1 --format=%ct)}
+umask 022
+stage=build/package
+rm -rf "$stage" dist
+mkdir -p "$stage" dist
+
+for width in x64 x86; do
+  echo "== the program, $width"
+  cmake --preset "$width" >/dev/null
+  cmake --build --preset "$width" --target lindrel help_file
+  cmake --install "build/$width" --prefix "$stage/$width/Lindrel" >/dev/null
+done
+version=$(sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=//p' build/x64/CMakeCache.txt)
+
+packaging/third_party.py licences "$stage/LICENSES"
+packages=()
+for width in x64 x86; do
+  package=dist/lindrel-$version-$width.zip
+  echo "== $package"
+  cp -r "$stage/LICENSES" samples/minta.lnd "$stage/$width/Lindrel/"
+  packaging/make-zip.py "$package" "$stage/$width/Lindrel" "$SOURCE_DATE_EPOCH"
+  packages+=("$package")
+done
+
+package=dist/lindrel-$version-telepito.exe
+echo "== $package"
+packaging/make-installer.sh "$version" "$stage" "$package"
+packages+=("$package")
+
+packaging/third_party.py bill "$version" "$SOURCE_DATE_EPOCH" "${packages[@]}" >"dist/lindrel-$version.spdx.json"
+(cd dist && sha256sum lindrel-* | tee SHA256SUMS)

@@ -1,0 +1,18 @@
+#!/usr/bin/env bash
+# Makes the installer from the program folders of both widths and the licences:
+#   packaging/make-installer.sh <version> <folder with x64/Lindrel, x86/Lindrel and LICENSES> <installer>
+set -eu
+version=$1 stage=$(realpath "$2") installer=$(realpath "$3")
+
+# The script's lists: a line for each file that is installed by its name.
+list() { # <macro> <folder>
+  local file
+  for file in "$2"/*; do
+    echo "!insertmacro $1 \"$(basename "$file")\""
+  done
+}
+export LC_ALL=C.UTF-8
+list Theme "$stage/x64/Lindrel/styles" >"$stage/themes.nsh"
+list Licence "$stage/LICENSES" >"$stage/licences.nsh"
+makensis -V2 -WX -INPUTCHARSET UTF8 "-DVERSION=$version" "-DSTAGE=$stage" "-DOUTPUT=$installer" \
+  "$(dirname "$0")/lindrel.nsi"
