@@ -5,6 +5,7 @@ set -eu
 cd "$(dirname "$0")"
 source tests/wine-env.sh
 install_packages
+echo "== building the program"
 cmake --preset x64 >/dev/null
 cmake --build --preset x64 --target lindrel help_file
 wine_environment
@@ -15,21 +16,14 @@ if [ -n "${DISPLAY:-}" ] && xdotool getdisplaygeometry >/dev/null 2>&1; then
   # The user's own prefix is kept between runs.
   export WINEPREFIX="$lindrel_wine/user"
   [ -d "$WINEPREFIX" ] || copy_prefix "$WINEPREFIX"
+  echo "== starting Lindrel; this ends when its window is closed"
   exec wine "$exe"
 fi
 
-WINEPREFIX=$(mktemp -d "$lindrel_wine/run.XXXXXX")
-export WINEPREFIX
-clean_up() {
-  wineserver -k 2>/dev/null || true
-  wineserver -w 2>/dev/null || true
-  stop_display
-  rm -rf "$WINEPREFIX"
-}
-trap clean_up EXIT
-copy_prefix "$WINEPREFIX"
+own_prefix
 cp samples/minta.lnd "$WINEPREFIX/drive_c/minta.lnd"
 start_display
+echo "== starting Lindrel on a display of its own"
 wine "$exe" >/dev/null 2>&1 &
 
 # Asks for a window by the pattern of its title until it is there.
@@ -49,4 +43,4 @@ wait_for_title '^Lindrel -minta.lnd$'
 xdotool key Down
 picture="$PWD/build/lindrel.png"
 import -window "$(xdotool search --onlyvisible --name '^Lindrel -minta.lnd$' | tail -n 1)" "$picture"
-echo "$picture"
+echo "== its window is in the picture $picture"

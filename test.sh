@@ -7,9 +7,11 @@ install_packages
 wine_environment
 
 for preset in native sanitize x64 x86 fuzz; do
-  echo "== $preset"
+  echo "== building $preset"
   cmake --preset "$preset" >/dev/null
   cmake --build --preset "$preset" -- -k 0
 done
 make_template_prefix
+download_libraries_32
+echo "== testing"
 exec ctest --preset all -j "$(nproc)"

@@ -12,22 +12,33 @@ lindrel_packages=(
   xvfb openbox xdotool imagemagick locales fonts-liberation python3
   fp-utils librsvg2-bin icoutils chromium nsis)
 
+# Runs a command as root, or says which one root has to run.
+as_root() {
+  if [ "$(id -u)" = 0 ]; then
+    "$@"
+  elif command -v sudo >/dev/null; then
+    sudo "$@"
+  else
+    printf 'This needs root, and there is no sudo. As root, run: %s\n' "$*" >&2
+    return 1
+  fi
+}
+
+# Installs what is missing, and says first what that is.
 install_packages() {
   local missing=() package
   for package in "${lindrel_packages[@]}"; do
     dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' || missing+=("$package")
   done
   if [ ${#missing[@]} -gt 0 ]; then
-    local as_root=()
-    [ "$(id -u)" = 0 ] || as_root=(sudo)
-    "${as_root[@]}" apt-get update -qq
-    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+    echo "== installing ${#missing[@]} Debian packages and what they need: ${missing[*]}"
+    as_root apt-get update -q
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${missing[@]}"
   fi
   if ! locale -a 2>/dev/null | grep -qix 'hu_HU\.utf-\?8'; then
-    local as_root=()
-    [ "$(id -u)" = 0 ] || as_root=(sudo)
+    echo "== making the locale hu_HU.UTF-8"
     # Exit code 1 means warnings about the source of the locale; the locale is made all the same.
-    "${as_root[@]}" localedef -i hu_HU -f UTF-8 hu_HU.UTF-8 || [ $? = 1 ]
+    as_root localedef -i hu_HU -f UTF-8 hu_HU.UTF-8 || [ $? = 1 ]
   fi
 }
 
@@ -43,6 +54,7 @@ make_template_prefix() {
   exec 8>"$lindrel_wine/template.lock"
   flock 8
   if [ ! -e "$lindrel_wine/template/ready" ]; then
+    echo "== setting up Wine"
     rm -rf "$lindrel_wine/template"
     WINEPREFIX="$lindrel_wine/template" DISPLAY='' wineboot -i >/dev/null 2>&1
     WINEPREFIX="$lindrel_wine/template" wineserver -w

@@ -60,10 +60,18 @@ struct TextBuffer {
     wchar_t Text[1024];
 };
 
+// The program of this build, or the one that the environment names.
+std::wstring PathOfProgram() {
+    wchar_t path[MAX_PATH]{};
+    const DWORD length = GetEnvironmentVariableW(L"LINDREL_PROGRAM", path, MAX_PATH);
+    Demand(length < MAX_PATH, "the path of the program is too long");
+    return length == 0 ? L"Z:" LINDREL_EXE : path;
+}
+
 }  // namespace
 
 ShippedProgram::ShippedProgram() {
-    std::wstring command = L"\"Z:" LINDREL_EXE L"\"";
+    std::wstring command = L'"' + PathOfProgram() + L'"';
     STARTUPINFOW start{};
     start.cb = sizeof start;
     // Wine refuses a process once in a long while.

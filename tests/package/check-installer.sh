@@ -1,0 +1,151 @@
+#!/usr/bin/env bash
+# A life of the installer under Wine: it installs, the program works, an upgrade keeps what the user has changed, and in
+# the end nothing is left but what the user has made:
+#   tests/package/check-installer.sh <e2e_tests.exe>
+set -eu
+e2e_tests=$1
+cd "$(dirname "$0")/../.."
+source tests/wine-env.sh
+wine_environment
+# The menu builder would put the start menu's entries into the menus of this machine's user.
+export WINEDLLOVERRIDES="$WINEDLLOVERRIDES;winemenubuilder.exe=d"
+version=$(sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=//p' build/x64/CMakeCache.txt)
+installer=$PWD/dist/lindrel-$version-telepito.exe
+stage=$PWD/build/package
+download_libraries_32
+make_template_prefix
+own_prefix
+use_libraries_32
+start_display
+drive=$WINEPREFIX/drive_c
+user=$drive/users/$(id -un)
+folder=$user/AppData/Local/Programs/Lindrel
+menu="$user/AppData/Roaming/Microsoft/Windows/Start Menu/Programs/Lindrel"
+key='HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Lindrel'
+
+fail() { echo "$*"; exit 1; }
+# What a reader may expect and what there is: texts that must be the same.
+same() { diff <(echo "$2") <(echo "$3") || fail "$1 (< expected, > there)"; }
+run() { timeout -k 10 120 wine "$@" </dev/null 2>/dev/null; }
+eventually() {
+  local what=$1 deadline=$((SECONDS + 60))
+  shift
+  until "$@"; do
+    [ $SECONDS -lt $deadline ] || fail "waited in vain for $what"
+    read -rt 0.1 <> <(:) || true
+  done
+}
+exit_code() {
+  local code=0
+  run "$@" || code=$?
+  echo $code
+}
+files_of_user() { (cd "$drive" && find . -path ./windows -prune -o -path '*/Temp/*' -prune -o -print | sort); }
+registry() {
+  local root
+  for root in 'HKCU' 'HKLM\Software'; do
+    run reg export "$root" 'C:\windows\temp\registry.txt' /y >/dev/null || fail "cannot read the registry"
+    iconv -f UTF-16 -t UTF-8 "$drive/windows/temp/registry.txt"
+  done
+}
+installed_files() { (cd "$folder" && find . -type f | sort); }
+values() { run reg query "$key" | tr -d '\r' | sed -n 's/^ \{4\}//p' | sort; }
+gone() { [ ! -e "$1" ]; }
+uninstall() {
+  run "$folder/uninstall.exe" /S
+  # It works in a copy of itself; the first process has ended by then.
+  eventually "the uninstaller's end" gone "$folder/uninstall.exe"
+  eventually "the registry's entry to go" entry_is_gone
+}
+entry_is_gone() { ! run reg query "$key" >/dev/null; }
+
+run reg query "$key" >/dev/null && fail "there is an entry before anything is installed"
+files_before=$(files_of_user)
+registry_before=$(registry)
+
+echo "== installs"
+run "$installer" /S || fail "the installer ends with $?"
+own_files=$(
+  printf './%s\n' lindrel.exe lnd.chm styles.md5 uninstall.exe
+  (cd "$stage/x64/Lindrel" && find ./styles ./LICENSES -type f)
+)
+same "the installed files" "$(sort <<<"$own_files")" "$(installed_files)"
+for file in lindrel.exe lnd.chm styles LICENSES; do
+  diff -r "$stage/x64/Lindrel/$file" "$folder/$file" || fail "$file is another one"
+done
+same "the start menu" $'Lindrel súgó.lnk\nLindrel.lnk' "$(cd "$menu" && printf '%s\n' * | sort)"
+place="C:\\users\\$(id -un)\\AppData\\Local\\Programs\\Lindrel"
+for link in lindrel.exe:Lindrel lnd.chm:'Lindrel súgó'; do
+  grep -qa "$(sed 's/\\/\\\\/g' <<<"$place")\\\\${link%%:*}" <(tr -d '\0' <"$menu/${link##*:}.lnk") ||
+    fail "${link##*:} leads elsewhere"
+done
+size=$(run reg query "$key" /v EstimatedSize | sed -n 's/.*REG_DWORD *\(0x[0-9a-f]*\).*/\1/p')
+same "the values of the entry" "$(sort <<END
+DisplayIcon    REG_SZ    $place\\lindrel.exe
+DisplayName    REG_SZ    Lindrel
+DisplayVersion    REG_SZ    $version
+EstimatedSize    REG_DWORD    $size
+InstallLocation    REG_SZ    $place
+NoModify    REG_DWORD    0x1
+NoRepair    REG_DWORD    0x1
+Publisher    REG_SZ    Lindrel
+QuietUninstallString    REG_SZ    "$place\\uninstall.exe" /S
+UninstallString    REG_SZ    "$place\\uninstall.exe"
+END
+)" "$(values)"
+on_disk=$(du -sk --apparent-size "$folder" | cut -f1)
+[ $((size)) -gt $((on_disk * 9 / 10)) ] && [ $((size)) -lt $((on_disk * 11 / 10)) ] || fail "$((size)) KB of $on_disk"
+
+echo "== the installed program opens a book"
+LINDREL_PROGRAM="$place\\lindrel.exe" timeout -k 10 300 \
+  wine "$e2e_tests" --gtest_filter='SampleBookTest.*' --gtest_brief=1 </dev/null
+
+echo "== nothing is changed while the program runs"
+wine "$folder/lindrel.exe" >/dev/null 2>&1 &
+eventually "the main window" xdotool search --onlyvisible --name '^Lindrel $' >/dev/null 2>&1
+sums() { (cd "$folder" && find . -type f -exec sha256sum {} + | sort); }
+before=$(sums)
+same "the installer's exit code" 2 "$(exit_code "$installer" /S)"
+# Told where it is, the uninstaller works itself instead of in a copy, and its exit code can be had.
+same "the uninstaller's exit code" 2 "$(exit_code "$folder/uninstall.exe" /S "_?=$place")"
+same "the installed files" "$before" "$(sums)"
+run taskkill /f /im lindrel.exe >/dev/null
+wait $! || true
+
+echo "== an upgrade keeps what the user has changed"
+newer=$(mktemp -d "$WINEPREFIX/newer.XXXXXX")
+cp -r "$stage/x64" "$stage/x86" "$stage/LICENSES" "$newer/"
+themes=$newer/x64/Lindrel/styles
+echo newer >>"$themes/vilagos.aut"
+echo newer >>"$themes/sotet.aut"
+mv "$themes/nyomtathato.aut" "$themes/legujabb.aut"
+packaging/make-installer.sh 9.9.9 "$newer" "$newer/telepito.exe"
+echo mine >>"$folder/styles/sotet.aut"
+echo mine >"$folder/styles/sajat.aut"
+rm "$folder/styles/szines.aut"
+books=(konyvem.lnd styles/rejtett.lnd LICENSES/harmadik.lnd)
+for book in "${books[@]}"; do cp samples/minta.lnd "$folder/$book"; done
+changed=$(sha256sum <"$folder/styles/sotet.aut")
+run "$newer/telepito.exe" /S || fail "the upgrade ends with $?"
+same "the themes after the upgrade" \
+  "$(printf '%s\n' klasszikus.aut legujabb.aut rejtett.lnd sajat.aut sotet.aut szines.aut vilagos.aut)" \
+  "$(cd "$folder/styles" && printf '%s\n' * | sort)"
+same "the changed theme" "$changed" "$(sha256sum <"$folder/styles/sotet.aut")"
+for theme in klasszikus legujabb szines vilagos; do cmp "$themes/$theme.aut" "$folder/styles/$theme.aut"; done
+values | grep -qx 'DisplayVersion    REG_SZ    9.9.9' || fail "the version stays the old one"
+
+echo "== only what the user has made is left"
+uninstall
+left=$(printf './%s\n' "${books[@]}" styles/sajat.aut styles/sotet.aut | sort)
+same "the files left" "$left" "$(installed_files)"
+same "the changed theme" "$changed" "$(sha256sum <"$folder/styles/sotet.aut")"
+for book in "${books[@]}"; do cmp samples/minta.lnd "$folder/$book"; done
+
+echo "== nothing is left of an installation that nobody has changed"
+rm -r "$folder"
+run "$installer" /S || fail "the installer ends with $?"
+uninstall
+eventually "the folder to go" gone "$folder"
+rmdir --ignore-fail-on-non-empty "${folder%/*}"
+same "the files" "$files_before" "$(files_of_user)"
+same "the registry" "$registry_before" "$(registry)"
