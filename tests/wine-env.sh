@@ -122,10 +122,17 @@ download_libraries_32() {
   rm -rf "$apt"
 }
 
-# Lets the prefix run 32-bit programs.
+# Lets the prefix run 32-bit programs, also those that ask for version 6 of the common controls.
 use_libraries_32() {
   export WINEDLLPATH="$lindrel_wine/32"
-  cp "$lindrel_wine"/32/i386-windows/* "$WINEPREFIX/drive_c/windows/syswow64/"
+  local windows="$WINEPREFIX/drive_c/windows" manifest name
+  cp "$lindrel_wine"/32/i386-windows/* "$windows/syswow64/"
+  for manifest in "$windows"/winsxs/manifests/amd64_microsoft.windows.common-controls_*.manifest; do
+    name=$(basename "${manifest/amd64_/x86_}")
+    sed 's/"amd64"/"x86"/' "$manifest" >"$windows/winsxs/manifests/$name"
+    mkdir -p "$windows/winsxs/${name%.manifest}"
+    cp "$lindrel_wine/32/i386-windows/comctl32.dll" "$windows/winsxs/${name%.manifest}/"
+  done
 }
 
 # Starts a display with a window manager, of 1280x1024 or another size, and sets DISPLAY. The processes' numbers are in wine_processes.

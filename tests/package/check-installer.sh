@@ -60,7 +60,12 @@ uninstall() {
 entry_is_gone() { ! run reg query "$key" >/dev/null; }
 
 run reg query "$key" >/dev/null && fail "there is an entry before anything is installed"
+
+echo "== refuses an old Windows, which a new prefix of Wine is"
 files_before=$(files_of_user)
+same "the installer's exit code" 2 "$(exit_code "$installer" /S)"
+same "the files" "$files_before" "$(files_of_user)"
+run reg add 'HKCU\Software\Wine' /v Version /d win10 >/dev/null
 registry_before=$(registry)
 
 echo "== installs"
