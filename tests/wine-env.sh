@@ -122,7 +122,7 @@ download_libraries_32() {
   rm -rf "$apt"
 }
 
-# Lets the prefix run 32-bit programs, also those that ask for version 6 of the common controls.
+# Lets the prefix run 32-bit programs, also those that ask for version 6 of the common controls and make shortcuts.
 use_libraries_32() {
   export WINEDLLPATH="$lindrel_wine/32"
   local windows="$WINEPREFIX/drive_c/windows" manifest name
@@ -133,6 +133,9 @@ use_libraries_32() {
     mkdir -p "$windows/winsxs/${name%.manifest}"
     cp "$lindrel_wine/32/i386-windows/comctl32.dll" "$windows/winsxs/${name%.manifest}/"
   done
+  local shortcuts='HKLM\Software\Classes\Wow6432Node\CLSID\{00021401-0000-0000-C000-000000000046}\InProcServer32'
+  wine reg add "$shortcuts" /ve /d 'C:\windows\system32\shell32.dll' >/dev/null
+  wine reg add "$shortcuts" /v ThreadingModel /d Apartment >/dev/null
 }
 
 # Starts a display with a window manager, of 1280x1024 or another size, and sets DISPLAY. The processes' numbers are in wine_processes.

@@ -24,8 +24,8 @@ menu="$user/AppData/Roaming/Microsoft/Windows/Start Menu/Programs/Lindrel"
 key='HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Lindrel'
 
 fail() { echo "$*"; exit 1; }
-# What a reader may expect and what there is: texts that must be the same.
-same() { diff <(echo "$2") <(echo "$3") || fail "$1 (< expected, > there)"; }
+# Lists, in any order, that must be the same: what is expected, and what there is.
+same() { diff <(sort <<<"$2") <(sort <<<"$3") || fail "$1 (< expected, > there)"; }
 run() { timeout -k 10 120 wine "$@" </dev/null 2>/dev/null; }
 eventually() {
   local what=$1 deadline=$((SECONDS + 60))
@@ -40,7 +40,7 @@ exit_code() {
   run "$@" || code=$?
   echo $code
 }
-files_of_user() { (cd "$drive" && find . -path ./windows -prune -o -path '*/Temp/*' -prune -o -print | sort); }
+files_of_user() { (cd "$drive" && find . -path ./windows -prune -o -path '*/Temp/*' -prune -o -print); }
 registry() {
   local root
   for root in 'HKCU' 'HKLM\Software'; do
@@ -48,8 +48,8 @@ registry() {
     iconv -f UTF-16 -t UTF-8 "$drive/windows/temp/registry.txt"
   done
 }
-installed_files() { (cd "$folder" && find . -type f | sort); }
-values() { run reg query "$key" | tr -d '\r' | sed -n 's/^ \{4\}//p' | sort; }
+installed_files() { (cd "$folder" && find . -type f); }
+values() { run reg query "$key" | tr -d '\r' | sed -n 's/^ \{4\}//p'; }
 gone() { [ ! -e "$1" ]; }
 uninstall() {
   run "$folder/uninstall.exe" /S
@@ -60,6 +60,10 @@ uninstall() {
 entry_is_gone() { ! run reg query "$key" >/dev/null; }
 
 run reg query "$key" >/dev/null && fail "there is an entry before anything is installed"
+
+# As every Windows has them.
+mkdir -p "${folder%/*}"
+run reg add "${key%\\*}" >/dev/null
 
 echo "== refuses an old Windows, which a new prefix of Wine is"
 files_before=$(files_of_user)
@@ -74,18 +78,18 @@ own_files=$(
   printf './%s\n' lindrel.exe lnd.chm styles.md5 uninstall.exe
   (cd "$stage/x64/Lindrel" && find ./styles ./LICENSES -type f)
 )
-same "the installed files" "$(sort <<<"$own_files")" "$(installed_files)"
+same "the installed files" "$own_files" "$(installed_files)"
 for file in lindrel.exe lnd.chm styles LICENSES; do
   diff -r "$stage/x64/Lindrel/$file" "$folder/$file" || fail "$file is another one"
 done
-same "the start menu" $'Lindrel súgó.lnk\nLindrel.lnk' "$(cd "$menu" && printf '%s\n' * | sort)"
+same "the start menu" $'Lindrel súgó.lnk\nLindrel.lnk' "$(ls "$menu")"
 place="C:\\users\\$(id -un)\\AppData\\Local\\Programs\\Lindrel"
 for link in lindrel.exe:Lindrel lnd.chm:'Lindrel súgó'; do
   grep -qa "$(sed 's/\\/\\\\/g' <<<"$place")\\\\${link%%:*}" <(tr -d '\0' <"$menu/${link##*:}.lnk") ||
     fail "${link##*:} leads elsewhere"
 done
 size=$(run reg query "$key" /v EstimatedSize | sed -n 's/.*REG_DWORD *\(0x[0-9a-f]*\).*/\1/p')
-same "the values of the entry" "$(sort <<END
+same "the values of the entry" "$(cat <<END
 DisplayIcon    REG_SZ    $place\\lindrel.exe
 DisplayName    REG_SZ    Lindrel
 DisplayVersion    REG_SZ    $version
@@ -101,14 +105,21 @@ END
 on_disk=$(du -sk --apparent-size "$folder" | cut -f1)
 [ $((size)) -gt $((on_disk * 9 / 10)) ] && [ $((size)) -lt $((on_disk * 11 / 10)) ] || fail "$((size)) KB of $on_disk"
 
-echo "== the installed program opens a book"
+echo "== nothing is left of an installation that nobody has changed"
+uninstall
+eventually "the folder to go" gone "$folder"
+same "the files" "$files_before" "$(files_of_user)"
+same "the registry" "$registry_before" "$(registry)"
+
+echo "== installs again, and the program opens a book"
+run "$installer" /S || fail "the installer ends with $?"
 LINDREL_PROGRAM="$place\\lindrel.exe" timeout -k 10 300 \
   wine "$e2e_tests" --gtest_filter='SampleBookTest.*' --gtest_brief=1 </dev/null
 
 echo "== nothing is changed while the program runs"
 wine "$folder/lindrel.exe" >/dev/null 2>&1 &
 eventually "the main window" xdotool search --onlyvisible --name '^Lindrel $' >/dev/null 2>&1
-sums() { (cd "$folder" && find . -type f -exec sha256sum {} + | sort); }
+sums() { (cd "$folder" && find . -type f -exec sha256sum {} +); }
 before=$(sums)
 same "the installer's exit code" 2 "$(exit_code "$installer" /S)"
 # Told where it is, the uninstaller works itself instead of in a copy, and its exit code can be had.
@@ -134,23 +145,14 @@ changed=$(sha256sum <"$folder/styles/sotet.aut")
 run "$newer/telepito.exe" /S || fail "the upgrade ends with $?"
 same "the themes after the upgrade" \
   "$(printf '%s\n' klasszikus.aut legujabb.aut rejtett.lnd sajat.aut sotet.aut szines.aut vilagos.aut)" \
-  "$(cd "$folder/styles" && printf '%s\n' * | sort)"
+  "$(ls "$folder/styles")"
 same "the changed theme" "$changed" "$(sha256sum <"$folder/styles/sotet.aut")"
 for theme in klasszikus legujabb szines vilagos; do cmp "$themes/$theme.aut" "$folder/styles/$theme.aut"; done
 values | grep -qx 'DisplayVersion    REG_SZ    9.9.9' || fail "the version stays the old one"
 
 echo "== only what the user has made is left"
 uninstall
-left=$(printf './%s\n' "${books[@]}" styles/sajat.aut styles/sotet.aut | sort)
+left=$(printf './%s\n' "${books[@]}" styles/sajat.aut styles/sotet.aut)
 same "the files left" "$left" "$(installed_files)"
 same "the changed theme" "$changed" "$(sha256sum <"$folder/styles/sotet.aut")"
 for book in "${books[@]}"; do cmp samples/minta.lnd "$folder/$book"; done
-
-echo "== nothing is left of an installation that nobody has changed"
-rm -r "$folder"
-run "$installer" /S || fail "the installer ends with $?"
-uninstall
-eventually "the folder to go" gone "$folder"
-rmdir --ignore-fail-on-non-empty "${folder%/*}"
-same "the files" "$files_before" "$(files_of_user)"
-same "the registry" "$registry_before" "$(registry)"
