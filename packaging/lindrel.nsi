@@ -30,7 +30,13 @@ InstallDirRegKey HKCU "${UNINSTALL_KEY}" "InstallLocation"
 
 !define MUI_ICON "..\resources\pictures\frmStart.ico"
 !define MUI_UNICON "..\resources\pictures\frmStart.ico"
+!define MUI_WELCOMEFINISHPAGE_BITMAP "${STAGE}/side.bmp"
+!define MUI_WELCOMEPAGE_TITLE "A Lindrel telepítése"
+!define MUI_WELCOMEPAGE_TEXT "A következő lépések telepítik a Lindrelt az Ön felhasználói fiókjába. Rendszergazdai jog nem szükséges.$\r$\n$\r$\nHa a Lindrelnek egy korábbi változata fut, előbb zárja be. A könyvei és a megváltoztatott arculatai megmaradnak.$\r$\n$\r$\nA folytatáshoz kattintson a Tovább gombra."
+!define MUI_FINISHPAGE_TITLE "A Lindrel telepítése kész"
+!define MUI_FINISHPAGE_TEXT "A Lindrelt és a súgóját a Start menüben találja meg.$\r$\n$\r$\nA telepítő bezárásához kattintson a Befejezés gombra."
 !define MUI_FINISHPAGE_RUN "$INSTDIR\lindrel.exe"
+!define MUI_FINISHPAGE_RUN_TEXT "A Lindrel indítása"
 !insertmacro MUI_PAGE_WELCOME
 !define MUI_PAGE_CUSTOMFUNCTION_PRE StayWhereItIs
 !insertmacro MUI_PAGE_DIRECTORY
