@@ -16,8 +16,8 @@ namespace lindrel::testing {
 
 class ShippedProgram {
   public:
-    // Starts it, or the program that the environment variable LINDREL_PROGRAM names by its path, and waits until
-    // its main window is in front.
+    // Starts it, or the program that the environment variable LINDREL_PROGRAM names by its path, and waits
+    // until its main window is in front.
     ShippedProgram();
     // Ends it whatever is open.
     ~ShippedProgram();
