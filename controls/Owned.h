@@ -12,7 +12,6 @@ namespace lindrel {
 struct GiveBack {
     void operator()(HBITMAP bitmap) const noexcept { DeleteObject(bitmap); }
     void operator()(HFONT font) const noexcept { DeleteObject(font); }
-    void operator()(HBITMAP bitmap) const noexcept { DeleteObject(bitmap); }
     void operator()(HICON icon) const noexcept { DestroyIcon(icon); }
     void operator()(HIMAGELIST list) const noexcept { ImageList_Destroy(list); }
     void operator()(HMENU menu) const noexcept { DestroyMenu(menu); }
