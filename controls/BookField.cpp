@@ -21,6 +21,18 @@ std::wstring CodeOf(std::wstring_view character) {
 
 }  // namespace
 
+void BookField::Show(const TextBox& box, std::string_view text) {
+    box_ = box;
+    text_ = text;
+    box_.SetText(FromBookText(text));
+    shown_ = box_.Text();
+}
+
+std::string BookField::Text() const {
+    const std::wstring typed = box_.Text();
+    return typed == shown_ ? text_ : ToBookText(typed);
+}
+
 bool FitsBook(const Dialog& dialog, int field_id) {
     const TextBox field(GetDlgItem(dialog.Handle(), field_id));
     const std::wstring text = field.Text();

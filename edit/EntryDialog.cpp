@@ -22,8 +22,4 @@ bool EntryDialog::FieldsAreGood() const {
     return FitsBook(*this, fields_.txtDesc) && FitsBook(*this, fields_.txtURL);
 }
 
-NewEntry EntryDialog::TypedEntry() const {
-    return {ToBookText(txtDesc().Text()), ToBookText(txtURL().Text())};
-}
-
 }  // namespace lindrel

@@ -31,8 +31,6 @@ class EntryDialog : public Dialog {
     // Whether name and address can be stored. If not, tells why and puts the focus where the user can mend
     // it.
     bool FieldsAreGood() const;
-    // Name and address exactly as typed.
-    NewEntry TypedEntry() const;
 
   private:
     Fields fields_;

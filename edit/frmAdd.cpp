@@ -1,5 +1,6 @@
 #include "edit/frmAdd.h"
 
+#include "book/BookText.h"
 #include "controls/Clipboard.h"
 #include "edit/ClipboardAddress.h"
 #include "resources/resource.h"
@@ -59,7 +60,8 @@ void frmAdd::cmdEmail_Click() const {
 
 void frmAdd::cmdOK_Click() {
     if (!FieldsAreGood()) return;
-    OpenedBook().TheBook.AddEntry(ChosenCategory(), {TypedEntry()});
+    OpenedBook().TheBook.AddEntry(ChosenCategory(),
+                                  {{ToBookText(txtDesc().Text()), ToBookText(txtURL().Text())}});
     OpenedBook().Modified = true;
     OpenedBook().ResultTag = kStored;
     Unload();

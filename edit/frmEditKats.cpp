@@ -1,7 +1,5 @@
 #include "edit/frmEditKats.h"
 
-#include "book/BookText.h"
-#include "controls/BookField.h"
 #include "resources/resource.h"
 
 namespace lindrel {
@@ -19,7 +17,7 @@ frmEditKats::frmEditKats(OpenBook& open) : Dialog(IDD_frmEditKats), open_(open) 
 
 void frmEditKats::Form_Load() {
     for (int k = 1; k <= kCategories; ++k)
-        Get<TextBox>(txtKateg(k)).SetText(FromBookText(open_.TheBook.CategoryNames(k)));
+        names_(k).Show(Get<TextBox>(txtKateg(k)), open_.TheBook.CategoryNames(k));
 }
 
 void frmEditKats::OnCommand(int id, int) {
@@ -38,7 +36,7 @@ void frmEditKats::cmdOK_Click() {
     for (int k = 1; k <= kCategories; ++k)
         if (!FitsBook(*this, txtKateg(k))) return;
     // Any other name is good: it may be empty, or equal to another.
-    for (int k = 1; k <= kCategories; ++k) open_.TheBook.SetCategoryName(k, ToBookText(Text(txtKateg(k))));
+    for (int k = 1; k <= kCategories; ++k) open_.TheBook.SetCategoryName(k, names_(k).Text());
     open_.Modified = true;
     renamed_ = true;
     Unload();

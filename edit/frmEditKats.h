@@ -2,6 +2,7 @@
 #pragma once
 
 #include "book/OpenBook.h"
+#include "controls/BookField.h"
 #include "controls/Dialog.h"
 
 namespace lindrel {
@@ -20,6 +21,7 @@ class frmEditKats : public Dialog {
     void cmdCancel_Click() { Unload(); }
 
     OpenBook& open_;
+    PerCategory<BookField> names_;
     bool renamed_ = false;
 };
 

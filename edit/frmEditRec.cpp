@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "book/BookText.h"
 #include "resources/resource.h"
 
 namespace lindrel {
@@ -15,8 +14,8 @@ frmEditRec::frmEditRec(OpenBook& open, SelectedRow selected_row)
 void frmEditRec::Form_Load() {
     OriginalCategory = OpenedBook().CurrentCategory;
     FillCategories();
-    txtDesc().SetText(FromBookText(OpenedBook().TheBook.SiteNames(Index())));
-    txtURL().SetText(FromBookText(OpenedBook().TheBook.SiteURLs(Index())));
+    name_.Show(txtDesc(), OpenedBook().TheBook.SiteNames(Index()));
+    address_.Show(txtURL(), OpenedBook().TheBook.SiteURLs(Index()));
 }
 
 void frmEditRec::OnCommand(int id, int) {
@@ -34,9 +33,8 @@ void frmEditRec::OnCommand(int id, int) {
 void frmEditRec::cmdOk_Click() {
     if (!FieldsAreGood()) return;
     Book& book = OpenedBook().TheBook;
-    const NewEntry typed = TypedEntry();
-    book.SetSiteName(Index(), typed.SiteName);
-    book.SetSiteURL(Index(), typed.URL);
+    book.SetSiteName(Index(), name_.Text());
+    book.SetSiteURL(Index(), address_.Text());
     const int chosen = ChosenCategory();
     if (chosen != OriginalCategory) {
         book.MoveEntry(OriginalCategory, Position() - 1, chosen);

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <functional>
 
+#include "controls/BookField.h"
 #include "edit/EntryDialog.h"
 
 namespace lindrel {
@@ -25,6 +26,7 @@ class frmEditRec : public EntryDialog {
     int Index() const { return OpenedBook().TheBook.IndexOf(OriginalCategory, Position()); }
 
     SelectedRow selected_row_;
+    BookField name_, address_;
     std::uint8_t OriginalCategory = 1;
 };
 

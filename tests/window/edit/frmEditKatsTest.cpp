@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
+
 #include "resources/resource.h"
 #include "tests/window/support/Expectations.h"
 #include "tests/window/support/Program.h"
@@ -64,6 +67,33 @@ TEST_F(frmEditKatsTest, NamesAreTakenExactlyAsTyped) {
         program.BookBytes(),
         "#  \xDBr & id\xF5 \r\nA\r\nhttp://a.hu\r\n##kett\xF5s\r\n##kett\xF5s\r\n#Project4\r\n#Project5\r\n"
         "#Project6\r\n#Project7\r\n#Project8\r\n#Project9\r\n#Project10\r\n#Project11\r\n#\r\n");
+}
+
+// A window's text ends at a NUL, and files that were damaged can hold one.
+TEST_F(frmEditKatsTest, ANameThatWasNotChangedKeepsWhatTheWindowCannotShow) {
+    using namespace std::string_literals;
+    program.OnUi([](frmStart& form) {
+        form.OpenedBook().TheBook.SetCategoryName(4, "H\0\xEDrek"s);
+        form.OpenedBook().TheBook.SetCategoryName(5, "\0"s);
+    });
+    const DialogOnScreen dialog = Open();
+    EXPECT_EQ(dialog.Text(Field(4)), L"H");
+    EXPECT_EQ(dialog.Text(Field(5)), L"");
+    dialog.SetText(Field(12), L"Más");
+    Accept(dialog);
+    const auto names = [&] {
+        return program.Ask<std::vector<std::string>>([](frmStart& form) {
+            const Book& book = form.OpenedBook().TheBook;
+            return std::vector{book.CategoryNames(4), book.CategoryNames(5), book.CategoryNames(12)};
+        });
+    };
+    EXPECT_EQ(names(), (std::vector{"H\0\xEDrek"s, "\0"s, "M\xE1s"s}));
+
+    const DialogOnScreen again = Open();
+    again.SetText(Field(4), L"H\xEDr");
+    again.SetText(Field(5), L"x");
+    Accept(again);
+    EXPECT_EQ(names(), (std::vector{"H\xEDr"s, "x"s, "M\xE1s"s}));
 }
 
 TEST_F(frmEditKatsTest, CancelLeavesNamesTabsAndMark) {

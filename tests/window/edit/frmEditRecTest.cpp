@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <utility>
+
 #include "resources/resource.h"
 #include "tests/window/edit/LongCategory.h"
 #include "tests/window/support/Expectations.h"
@@ -90,6 +93,35 @@ TEST_F(frmEditRecTest, OkWithoutAChangeMarksTheBook) {
     expected.SelectedRow = 1;
     expected.Modified = true;
     EXPECT_EQ(program.State(), expected);
+}
+
+// A window's text ends at a NUL, and files that were damaged can hold one.
+TEST_F(frmEditRecTest, AFieldThatWasNotChangedKeepsWhatTheWindowCannotShow) {
+    using namespace std::string_literals;
+    program.OnUi([](frmStart& form) {
+        form.OpenedBook().TheBook.SetSiteName(2, "N\0\xE9v"s);
+        form.OpenedBook().TheBook.SetSiteURL(2, "http://\0b.hu"s);
+    });
+    const auto entry = [&] {
+        return program.Ask<std::pair<std::string, std::string>>([](frmStart& form) {
+            const Book& book = form.OpenedBook().TheBook;
+            return std::pair(std::string(book.SiteNames(2)), std::string(book.SiteURLs(2)));
+        });
+    };
+    program.ClickRow(2);
+    Accept(Open());
+    EXPECT_EQ(entry(), std::pair("N\0\xE9v"s, "http://\0b.hu"s));
+
+    const DialogOnScreen dialog = Open();
+    EXPECT_EQ(dialog.Text(ID_frmEditRec_txtDesc), L"N");
+    dialog.SetText(ID_frmEditRec_txtDesc, L"Más");
+    Accept(dialog);
+    EXPECT_EQ(entry(), std::pair("M\xE1s"s, "http://\0b.hu"s));
+
+    const DialogOnScreen again = Open();
+    again.SetText(ID_frmEditRec_txtURL, L"http://b.hu");
+    Accept(again);
+    EXPECT_EQ(entry(), std::pair("M\xE1s"s, "http://b.hu"s));
 }
 
 TEST_F(frmEditRecTest, MovingTheLastRowAwaySelectsTheNewLastRow) {
