@@ -73,13 +73,18 @@ void CheckListView::SetChecked(int position, bool checked) {
 
 void CheckListView::SetAllChecked(bool checked) {
     checked_.assign(checked_.size(), checked);
-    ListView_RedrawItems(Handle(), 0, Count() - 1);
+    Repaint();
     TellScreenReaders(CHILDID_SELF);
 }
 
 void CheckListView::CheckRows(std::span<const std::int16_t> positions) {
     for (const std::int16_t position : positions) checked_.at(static_cast<std::size_t>(position - 1)) = true;
-    ListView_RedrawItems(Handle(), 0, Count() - 1);
+    if (!positions.empty()) Repaint();
+}
+
+// Asked to redraw its rows, the control would look at each of them, also where it is not on the screen.
+void CheckListView::Repaint() const {
+    InvalidateRect(Handle(), nullptr, TRUE);
 }
 
 // The control does not know the check marks, so it cannot announce their changes.

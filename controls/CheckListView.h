@@ -80,6 +80,7 @@ class CheckListView : public Control {
     void SpaceCheckBoxes(UINT dpi) const;
     void ToggleFocused();
     void Toggle(int position);
+    void Repaint() const;
     void TellScreenReaders(LONG row) const;  // 1-based; CHILDID_SELF for all
     void FillCell(NMLVDISPINFOW& cell) const;
     LRESULT FindRow(const NMLVFINDITEMW& search) const;
