@@ -1,0 +1,168 @@
+// Nothing of the system is left behind, however often something is done.
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <vector>
+
+#include "resources/resource.h"
+#include "tests/window/support/Program.h"
+#include "tests/window/support/SystemObjects.h"
+
+namespace lindrel::testing {
+namespace {
+
+constexpr int kTimes = 200;
+
+// Does something some times, which fills the system's caches, then again and again.
+void ExpectNothingLeft(const std::function<void(int times)>& repeat, int times = kTimes) {
+    repeat(10);
+    const SystemObjects before = CountSystemObjects();
+    repeat(times);
+    SystemObjects after = CountSystemObjects();
+    // The system keeps some device contexts and pictures for later; what leaks, leaks each time.
+    EXPECT_LT(after.GdiObjects - before.GdiObjects, times / 2);
+    after.GdiObjects = before.GdiObjects;
+    EXPECT_EQ(after, before);
+}
+
+std::function<void(int)> Repeating(const std::function<void()>& once) {
+    return [once](int times) {
+        for (int time = 0; time < times; ++time) once();
+    };
+}
+
+// Leaves the dialog or box in front as soon as the program has nothing else to do.
+void CALLBACK LeaveDialog(HWND, UINT, UINT_PTR, DWORD) {
+    for (const HWND window : WindowsOf(GetCurrentThreadId()))
+        if (ClassOf(window) == L"#32770" && IsWindowEnabled(window)) PostMessageW(window, WM_CLOSE, 0, 0);
+}
+
+class LeaksTest : public ::testing::Test {
+  protected:
+    // Runs a command that opens a dialog or a box, and leaves that, again and again: all in the program's
+    // thread, or it would take many times as long.
+    void ExpectDialogLeavesNothing(HWND window, int command) const {
+        ExpectNothingLeft([&](int times) {
+            program.OnUi([&](frmStart&) {
+                const UINT_PTR timer = SetTimer(nullptr, 0, USER_TIMER_MINIMUM, &LeaveDialog);
+                for (int time = 0; time < times; ++time)
+                    SendMessageW(window, WM_COMMAND, static_cast<WPARAM>(command), 0);
+                KillTimer(nullptr, timer);
+            });
+            program.Settle();
+        });
+    }
+
+    Program program;
+};
+
+TEST_F(LeaksTest, EveryKindOfObjectIsCounted) {
+    // With its first window a thread gets one more, of the system's.
+    DestroyWindow(CreateWindowExW(0, L"Static", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr));
+    SystemObjects expected = CountSystemObjects();
+    const HWND window =
+        CreateWindowExW(0, L"Static", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
+    const HMENU menu = CreateMenu();
+    const HBRUSH brush = CreateSolidBrush(RGB(1, 2, 3));
+    const HANDLE event = CreateEventW(nullptr, FALSE, FALSE, nullptr);
+    expected.Windows += 1;
+    expected.Menus += 1;
+    expected.GdiObjects += 1;
+    expected.Handles += 1;
+    EXPECT_EQ(CountSystemObjects(), expected);
+    DestroyWindow(window);
+    DestroyMenu(menu);
+    DeleteObject(brush);
+    CloseHandle(event);
+
+    const HICON icon = CopyIcon(LoadIconW(nullptr, IDI_QUESTION));
+    const SystemObjects with_icon = CountSystemObjects();
+    DestroyIcon(icon);
+    const SystemObjects without_icon = CountSystemObjects();
+    EXPECT_EQ(without_icon.Icons, with_icon.Icons - 1);
+    EXPECT_LT(without_icon.GdiObjects, with_icon.GdiObjects);
+}
+
+TEST_F(LeaksTest, DialogsLeaveNothing) {
+    program.Add(1, {{L"A", L"http://a.hu"}, {L"B", L"http://b.hu"}});
+    program.ClickBox(2);
+    for (const int command : {ID_mnuKat, ID_mnuAdd, ID_mnuEdit, ID_mnuFind, ID_mnuMove, ID_mnuImport,
+                              ID_mnuExport, ID_mnuAbout}) {
+        SCOPED_TRACE(command);
+        program.ClickRow(1);
+        ExpectDialogLeavesNothing(program.Main(), command);
+    }
+}
+
+TEST_F(LeaksTest, MessageBoxesLeaveNothing) {
+    program.Add(1, {{L"A", L"http://a.hu"}});
+    program.ClickRow(1);
+    ExpectDialogLeavesNothing(program.Main(), ID_mnuDel);
+}
+
+TEST_F(LeaksTest, ChoicesOfAFolderLeaveNothing) {
+    program.Choose(ID_mnuImport);
+    const DialogOnScreen dialog = program.Dialog(L"Importálás");
+    dialog.Click(ID_frmImport_from_1);
+    program.Settle();
+    ExpectDialogLeavesNothing(dialog.Handle(), ID_frmImport_cmdOK);
+    dialog.Cancel();
+}
+
+TEST_F(LeaksTest, MenusThatPopUpLeaveNothing) {
+    program.Choose(ID_mnuImport);
+    const DialogOnScreen dialog = program.Dialog(L"Importálás");
+    ExpectNothingLeft(Repeating([&] {
+        dialog.Click(ID_frmImport_Label2);
+        WaitUntil("the menu", [&] { return PoppedUpMenu(program.Thread()) != nullptr; });
+        PostMessageW(PoppedUpMenu(program.Thread()), WM_KEYDOWN, VK_ESCAPE, 0);
+        WaitUntil("the menu to close", [&] { return PoppedUpMenu(program.Thread()) == nullptr; });
+        program.Settle();
+    }));
+    dialog.Cancel();
+}
+
+TEST_F(LeaksTest, TheLargestCategoryIsFilledAgainAndAgain) {
+    program.Add(1, std::vector<Row>(32767, {L"Név", L"http://nev.hu"}));
+    program.Run(ID_mnuSelectAll);
+    const MainState full = program.State();
+    ExpectNothingLeft(Repeating([&] {
+        program.ClickTab(2);
+        program.ClickTab(1);
+    }));
+    EXPECT_EQ(program.State(), full);
+}
+
+TEST_F(LeaksTest, ChangesOfTheResolutionLeaveNothing) {
+    ExpectNothingLeft(Repeating([&] {
+                          for (const WORD dpi : {WORD{144}, WORD{96}})
+                              program.OnUi([&](frmStart& form) {
+                                  RECT place{0, 0, 900, 600};
+                                  SendMessageW(form.Handle(), WM_DPICHANGED, MAKEWPARAM(dpi, dpi),
+                                               reinterpret_cast<LPARAM>(&place));
+                              });
+                          program.Settle();
+                      }),
+                      20);
+}
+
+TEST_F(LeaksTest, SavingLeavesNothing) {
+    const TemporaryFolder folder;
+    const std::wstring path = folder.File(L"könyv.lnd");
+    program.OnUi([&](frmStart& form) { form.OpenedBook().OpenedFile = path; });
+    ExpectNothingLeft(Repeating([&] {
+        program.OnUi([&](frmStart& form) { form.OpenedBook().Modified = true; });
+        program.Choose(ID_mnuSave);
+        program.Box().Press(IDOK);
+        program.Settle();
+    }));
+}
+
+TEST_F(LeaksTest, TheWholeProgramLeavesNothing) {
+    // Beside the one of the fixture, on a thread of its own.
+    ExpectNothingLeft(Repeating([] { const Program another; }), 20);
+}
+
+}  // namespace
+}  // namespace lindrel::testing
