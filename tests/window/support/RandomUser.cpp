@@ -18,7 +18,7 @@ void RandomUser::Step() {
     static constexpr Choice kChoices[] = {
         {20, &RandomUser::Add},       {8, &RandomUser::Edit},        {8, &RandomUser::Move},
         {5, &RandomUser::Delete},     {6, &RandomUser::Find},        {3, &RandomUser::Rename},
-        {10, &RandomUser::ClickTab},  {10, &RandomUser::ClickRow},   {12, &RandomUser::ClickBox},
+        {10, &RandomUser::ClickTab},  {10, &RandomUser::ClickRow},   {12, &RandomUser::ClickBoxes},
         {4, &RandomUser::PressArrow}, {5, &RandomUser::PressSpaces}, {4, &RandomUser::CheckAllOrNone},
         {1, &RandomUser::New},        {2, &RandomUser::Open},        {2, &RandomUser::Save},
         {2, &RandomUser::SaveAs},     {3, &RandomUser::ClickHeader},
@@ -51,6 +51,12 @@ void RandomUser::Compare() const {
     EXPECT_EQ(program_.State(), lists_.State());
     EXPECT_EQ(program_.BookBytes(), lists_.File());
     EXPECT_EQ(program_.CommandEnabled(ID_mnuToDesktop), lists_.RowCount() != 0);
+}
+
+// Mostly one of a few, so that they have many rows.
+int RandomUser::RollCategory() {
+    static constexpr int kFavourites[] = {1, 2, 7, 12};
+    return OneIn(3) ? texts_.Roll(12) + 1 : kFavourites[texts_.Roll(4)];
 }
 
 void RandomUser::ClickTab() {
@@ -89,12 +95,14 @@ void RandomUser::ClickRow() {
     lists_.ClickRow(row);
 }
 
-void RandomUser::ClickBox() {
+void RandomUser::ClickBoxes() {
     if (lists_.RowCount() == 0) return ClickTab();
-    const int row = RollRow();
-    Note("box " + std::to_string(row));
-    program_.ClickBox(row);
-    lists_.ClickBox(row);
+    for (int left = texts_.Roll(3) + 1; left > 0; --left) {
+        const int row = RollRow();
+        Note("box " + std::to_string(row));
+        program_.ClickBox(row);
+        lists_.ClickBox(row);
+    }
 }
 
 void RandomUser::PressSpaces() {

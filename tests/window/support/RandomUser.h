@@ -36,13 +36,13 @@ class RandomUser {
     // Tells what is done next.
     void Note(const std::string& step);
     bool OneIn(int times) { return texts_.OneIn(times); }
-    int RollCategory() { return texts_.Roll(12) + 1; }
+    int RollCategory();
     int RollRow() { return texts_.Roll(lists_.RowCount()) + 1; }
 
     void ClickTab();
     bool TabIsInView(int category) const;
     void ClickRow();
-    void ClickBox();
+    void ClickBoxes();
     void PressSpaces();
     void PressArrow();
     void ClickHeader();

@@ -133,7 +133,9 @@ void RandomUser::Move() {
     program_.Choose(ID_mnuMove);
     const DialogOnScreen dialog = program_.Dialog(L"A kiválasztott címek áthelyezése");
     ExpectCategories(dialog, ID_frmMove_cmbKateg);
-    const int category = PickCategory(dialog, ID_frmMove_cmbKateg);
+    const int category = RollCategory();
+    Note("  category " + std::to_string(category));
+    dialog.Pick(ID_frmMove_cmbKateg, category - 1);
     if (OneIn(6)) return Leave(dialog, ID_frmMove_cmdCancel);
     Accept(dialog, ID_frmMove_cmdOk, ID_frmMove_cmbKateg);
     dialog.WaitForClose();
