@@ -6,9 +6,9 @@ namespace lindrel::testing {
 
 namespace {
 
-// Books with names that begin with "#" do not come back as they were saved: such a line is a category's
-// header. Only the names of categories begin with it here.
-constexpr bool kHashBeforeEntries = false;
+// A book with an address that begins with "#" does not come back as it was saved: its reader takes the line
+// for a category's header.
+constexpr bool kHashBeforeAddresses = false;
 
 constexpr std::wstring_view kWords[] = {
     L"árvíztűrő",
@@ -66,7 +66,7 @@ std::wstring OneOf(const std::wstring_view (&texts)[Count], RandomTexts& dice) {
 }
 
 std::wstring WithoutHash(const std::wstring& text) {
-    return kHashBeforeEntries || !text.starts_with(L'#') ? text : L"n" + text;
+    return text.starts_with(L'#') ? L"n" + text : text;
 }
 
 }  // namespace
@@ -88,13 +88,14 @@ std::wstring RandomTexts::Words(int most) {
 }
 
 std::wstring RandomTexts::Name() {
-    // A letter, so that it is not blank; names with many words are rare.
+    // A letter, so that it is not blank; no "#" before it, which only a category's name may have.
     return WithoutHash(Words(OneIn(60) ? 120 : 3) + (OneIn(2) ? L"n" : L"Ű"));
 }
 
 std::wstring RandomTexts::Address() {
-    return WithoutHash((OneIn(4) ? Words(2) : L"") + OneOf(kHosts, *this) +
-                       (OneIn(4) ? Words(OneIn(30) ? 120 : 2) : L""));
+    const std::wstring address =
+        (OneIn(4) ? Words(2) : L"") + OneOf(kHosts, *this) + (OneIn(4) ? Words(OneIn(30) ? 120 : 2) : L"");
+    return kHashBeforeAddresses ? address : WithoutHash(address);
 }
 
 std::wstring RandomTexts::CategoryName() {
