@@ -74,6 +74,9 @@ TEST_F(ToolbarTest, HasTenButtonsWithNamesAndPictures) {
                          reinterpret_cast<LPARAM>(name));
             EXPECT_EQ(name, names[static_cast<std::size_t>(i)]);
         }
+        // The disabled looks are made when they are needed.
+        EXPECT_EQ(SendMessageW(toolbar, TB_GETDISABLEDIMAGELIST, 0, 0), 0);
+        form.EnableCommand(ID_mnuEdit, false);
         for (const int message : {TB_GETIMAGELIST, TB_GETDISABLEDIMAGELIST}) {
             const auto pictures =
                 reinterpret_cast<HIMAGELIST>(SendMessageW(toolbar, static_cast<UINT>(message), 0, 0));
