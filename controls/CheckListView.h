@@ -28,8 +28,8 @@ class CheckListView : public Control {
 
     // The columns share the list's width (controls/ListColumns.h).
     void AddColumn(const std::wstring& caption, int share) { columns_.Add(caption, share); }
-    // Makes new check boxes, and scales what has a size of its own. New colours and themes give new check boxes
-    // by themselves, if the parent passes WM_SYSCOLORCHANGE on.
+    // Makes new check boxes, and scales what has a size of its own. New colours and themes give new check
+    // boxes by themselves, if the parent passes WM_SYSCOLORCHANGE on.
     void ApplyResolution(UINT dpi);
 
     // Shows `count` rows, none checked, none selected, scrolled to the first.

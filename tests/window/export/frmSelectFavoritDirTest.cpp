@@ -180,7 +180,8 @@ TEST_F(frmSelectFavoritDirTest, AnEntryNamedLikeADeviceEndsInTheReportAndLosesNo
         form.OpenedBook().TheBook.SetSiteName(form.OpenedBook().TheBook.IndexOf(5, 1), "nul");
     });
     const std::filesystem::path file = FavoritesFolder::Path() / L"nul.url";
-    ExpectReport(L"Futásidejű hiba: 75\r\n\r\n" + file.wstring() + L"\r\n" + ReasonNotToWrite(file) + L".\r\n\r\nA program bezárul.");
+    ExpectReport(L"Futásidejű hiba: 75\r\n\r\n" + file.wstring() + L"\r\n" + ReasonNotToWrite(file) +
+                 L".\r\n\r\nA program bezárul.");
     EXPECT_EQ(FilesBelow(FavoritesFolder::Path()), Files{});
 }
 

@@ -195,13 +195,15 @@ TEST_F(frmI_FavTest, Import255FilesWorks) {
 
 TEST_F(frmI_FavTest, A256thFileEndsInTheReportAndLosesNothing) {
     for (int i = 0; i < 256; ++i) Write(std::to_wstring(i) + L".url", ShortcutFile("http://lap.hu"));
-    ExpectReport(L"Futásidejű hiba: 6\r\n\r\n" + PathOf(L"99.url") + L"\r\nTúlcsordulás.\r\n\r\nA program bezárul.");
+    ExpectReport(L"Futásidejű hiba: 6\r\n\r\n" + PathOf(L"99.url") +
+                 L"\r\nTúlcsordulás.\r\n\r\nA program bezárul.");
 }
 
 TEST_F(frmI_FavTest, AFileOfOneLineEndsInTheReportAndLosesNothing) {
     Write(L"a.url", ShortcutFile("http://jo.hu"));
     Write(L"b.url", "[InternetShortcut]\r\n");
-    ExpectReport(L"Futásidejű hiba: 62\r\n\r\n" + PathOf(L"b.url") + L"\r\nOlvasás a fájl vége után.\r\n\r\nA program bezárul.");
+    ExpectReport(L"Futásidejű hiba: 62\r\n\r\n" + PathOf(L"b.url") +
+                 L"\r\nOlvasás a fájl vége után.\r\n\r\nA program bezárul.");
 }
 
 TEST_F(frmI_FavTest, AShortSecondLineEndsInTheReportAndLosesNothing) {
@@ -242,8 +244,8 @@ TEST_F(frmI_FavTest, AFaultAfterACancelledPageOffersToSaveAmongBooks) {
     program.Settle();
     ChooseFolder(dialog);
     const BoxOnScreen report = program.Box();
-    EXPECT_EQ(report.Text(),
-              L"Futásidejű hiba: 62\r\n\r\n" + PathOf(L"a.url") + L"\r\nOlvasás a fájl vége után.\r\n\r\nA program bezárul.");
+    EXPECT_EQ(report.Text(), L"Futásidejű hiba: 62\r\n\r\n" + PathOf(L"a.url") +
+                                 L"\r\nOlvasás a fájl vége után.\r\n\r\nA program bezárul.");
     report.Press(IDOK);
     const BoxOnScreen question = program.Box();
     EXPECT_EQ(question.Title(), L"A fájl módosult");
