@@ -49,7 +49,7 @@ void RandomUser::ExpectForeignCharacterRefused(const DialogOnScreen& dialog, int
     const BoxOnScreen box = program_.Box();
     EXPECT_EQ(box.Title(), L"Hiba");
     const bool omega = text.find(L'Ω') != std::wstring::npos;
-    EXPECT_EQ(box.Text(), std::wstring(L"Ezt a karaktert a könyv nem tudja tárolni: ") +
+    EXPECT_EQ(box.Text(), std::wstring(L"Ezt a karaktert a könyv nem tudja tárolni:\r\n\r\n") +
                               (omega ? L"„Ω” (U+03A9)" : L"„\xD83D\xDE00” (U+1F600)"));
     box.Press(IDOK);
     program_.Settle();
