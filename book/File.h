@@ -12,8 +12,10 @@
 
 namespace lindrel {
 
-// A path as text for the user.
+// A path as text for the user, and a text as a path. Not by std::filesystem, whose conversions depend on the
+// locale and bring all locales into the program.
 std::wstring WideText(const std::filesystem::path& path);
+std::filesystem::path PathFrom(std::wstring_view text);
 
 // What tells whether another program has changed a file since: its size in bytes, the time of its last change
 // in the system's units, and which file of the disk it is.

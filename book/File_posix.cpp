@@ -101,6 +101,10 @@ std::wstring WideText(const std::filesystem::path& path) {
     return {characters.begin(), characters.end()};
 }
 
+std::filesystem::path PathFrom(std::wstring_view text) {
+    return std::u32string(text.begin(), text.end());
+}
+
 std::optional<FileState> StateOf(const std::filesystem::path& path) {
     struct stat status {};
     if (::stat(path.c_str(), &status) != 0) return std::nullopt;

@@ -69,7 +69,11 @@ bool IsUnknownOperation(DWORD error) {
 }  // namespace
 
 std::wstring WideText(const std::filesystem::path& path) {
-    return path.wstring();
+    return path.native();
+}
+
+std::filesystem::path PathFrom(std::wstring_view text) {
+    return text;
 }
 
 std::optional<FileState> StateOf(const std::filesystem::path& path) {

@@ -17,7 +17,7 @@ frmAdd::frmAdd(OpenBook& open)
 
 void frmAdd::Form_Load() {
     FillCategories();
-    SetToolTip(ID_frmAdd_cmdEmail, L"váltás a http:// és a mailto: kezdet között");
+    SetToolTip(ID_frmAdd_cmdEmail, L"váltás a http:// és a mailto: előtag között");
     const std::optional<std::wstring> address = AddressFromClipboard(ClipboardText(Handle()));
     ClipboardUsed = address.has_value();
     txtURL().SetText(address.value_or(kBareWebAddress));

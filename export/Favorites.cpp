@@ -24,11 +24,8 @@ struct ShortcutToWrite {
     std::filesystem::path Folder;
 };
 
-// Book text as a path, in the encoding that the system uses for paths.
 std::filesystem::path PathOf(std::string_view text) {
-    std::u32string characters;
-    for (const char byte : text) characters.push_back(CharacterOf(byte));
-    return characters;
+    return PathFrom(FromBookText(text));
 }
 
 std::vector<ShortcutToWrite> PlanShortcuts(const Book& book, const std::filesystem::path& folder,

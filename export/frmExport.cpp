@@ -1,10 +1,11 @@
 #include "export/frmExport.h"
 
-#include <filesystem>
 #include <initializer_list>
 
 #include "book/BookText.h"
+#include "book/File.h"
 #include "book/Files.h"
+#include "book/Folder.h"
 #include "controls/MsgBox.h"
 #include "controls/Shell.h"
 #include "export/ExportedEntries.h"
@@ -49,13 +50,13 @@ void frmExport::Form_Load() {
 }
 
 void frmExport::FillThemes() const {
-    const std::filesystem::path styles = ProgramFolder() + L"\\styles";
-    std::error_code error;
-    // Without the folder, or the right to make it, there are just no themes.
-    if (std::filesystem::create_directory(styles, error)) return;
+    const std::wstring styles = ProgramFolder() + L"\\styles";
+    if (!FolderIsThere(styles)) {
+        CreateDirectoryW(styles.c_str(), nullptr);  // without the right to make it, there are just no themes
+        return;
+    }
     const auto cmbTheme = Get<ComboBox>(ID_frmExport_cmbTheme);
-    for (const std::wstring& file : FilesMatching((styles / L"*.aut").wstring()))
-        cmbTheme.Add((styles / file).wstring());
+    for (const std::wstring& file : FilesMatching(styles + L"\\*.aut")) cmbTheme.Add(styles + L"\\" + file);
     cmbTheme.WidenList();
 }
 
@@ -211,8 +212,7 @@ PageStyle frmExport::ReadTheme() const {
     PageStyle style;
     const std::wstring theme = Text(ID_frmExport_cmbTheme);
     if (theme.size() > kTooShortForATheme) {
-        std::error_code error;  // a path that no file can have does not exist either
-        if (std::filesystem::is_regular_file(theme, error)) {
+        if (StateOf(theme)) {
             const std::vector<char> bytes = ReadFileBytes(theme);
             style.ThemeParts = ApplyTheme(DefaultThemeParts(), {bytes.data(), bytes.size()});
             style.ThemeApplied = true;

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Makes the installer from the program folders of both widths and the licences:
-#   packaging/make-installer.sh <version> <folder with x64/Lindrel, x86/Lindrel and LICENSES> <installer>
+#   packaging/make-installer.sh <version> <folder with x64/Lindrel, x86/Lindrel and LICENSES> <installer> [<target>]
+# The installer is a 32-bit program, unless another target of NSIS is given.
 set -eu
 cd "$(dirname "$0")/.."
 version=$1 stage=$(realpath "$2") installer=$(realpath "$3")
@@ -18,5 +19,5 @@ list Licence "$stage/LICENSES" >"$stage/licences.nsh"
 # The strip beside the first and the last page.
 rsvg-convert --width 96 resources/pictures/frmStart.svg |
   convert -size 164x314 xc:'#e6ecf4' - -gravity center -composite -alpha off -type TrueColor BMP3:"$stage/side.bmp"
-makensis -V2 -WX -INPUTCHARSET UTF8 "-DVERSION=$version" "-DSTAGE=$stage" "-DOUTPUT=$installer" \
+makensis -V2 -WX -INPUTCHARSET UTF8 "-XTarget ${4:-x86-unicode}" "-DVERSION=$version" "-DSTAGE=$stage" "-DOUTPUT=$installer" \
   packaging/lindrel.nsi

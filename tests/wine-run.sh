@@ -18,5 +18,26 @@ trap clean_up EXIT
 trap 'exit 143' INT TERM
 copy_prefix "$WINEPREFIX"
 start_display || exit 1
-timeout -k 10 "${LINDREL_WINE_TIMEOUT:-900}" wine "$@" </dev/null
-exit $?
+
+# Wine 8 now and then forgets a thread of a program that has ended, and the process then never goes. Its exit code is
+# known all the same: it stands in the last field of its state.
+end_forgotten() { # process of timeout, file for the exit code
+  local program state fields
+  while kill -0 "$1" 2>/dev/null; do
+    read -rt 2 <> <(:) || true
+    program=$(pgrep -P "$1") || continue
+    read -r state fields < <(sed 's/.*) //' "/proc/$program/stat" 2>/dev/null) || continue
+    if [ "$state" = Z ] && [ "${seen:-}" = Z ]; then
+      echo $((${fields##* } >> 8)) >"$2"
+      kill -9 "$program"
+    fi
+    seen=$state
+  done
+}
+timeout -k 10 "${LINDREL_WINE_TIMEOUT:-900}" wine "$@" </dev/null &
+program=$!
+end_forgotten $program "$WINEPREFIX/exit-code" &
+wait $program
+result=$?
+[ ! -s "$WINEPREFIX/exit-code" ] || result=$(<"$WINEPREFIX/exit-code")
+exit "$result"

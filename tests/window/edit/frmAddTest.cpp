@@ -62,7 +62,7 @@ TEST_F(frmAddTest, OpensWithTheShownCategoryAndTheBareAddress) {
     EXPECT_EQ(dialog.Text(ID_frmAdd_lblURL), L"&URL címe");
     EXPECT_EQ(dialog.Text(ID_frmAdd_cmdEmail), L"@");
     EXPECT_EQ(ToolTipOf(program, dialog.Control(ID_frmAdd_cmdEmail)),
-              L"váltás a http:// és a mailto: kezdet között");
+              L"váltás a http:// és a mailto: előtag között");
     EXPECT_EQ(dialog.Text(ID_frmAdd_cmdOK), L"OK");
     EXPECT_EQ(dialog.Text(ID_frmAdd_cmdCancel), L"&Mégse");
     EXPECT_EQ(dialog.ComboItems(ID_frmAdd_cmbKateg), EmptyState().Tabs);
