@@ -9,7 +9,7 @@ lindrel_packages=(
   cmake ninja-build g++ git
   g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix wine wine64
   libgtest-dev libbenchmark-dev clang clang-format clang-tidy libclang-rt-14-dev universal-ctags
-  xvfb openbox xdotool imagemagick locales fonts-liberation python3
+  xvfb openbox xdotool imagemagick locales fonts-liberation python3 procps
   fp-utils librsvg2-bin icoutils chromium nsis)
 
 # Runs a command as root, or says which one root has to run.

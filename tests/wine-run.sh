@@ -25,7 +25,7 @@ end_forgotten() { # process of timeout, file for the exit code
   local program state fields
   while kill -0 "$1" 2>/dev/null; do
     read -rt 2 <> <(:) || true
-    read -r program _ <"/proc/$1/task/$1/children" 2>/dev/null || continue
+    program=$(pgrep -P "$1") || continue
     read -r state fields < <(sed 's/.*) //' "/proc/$program/stat" 2>/dev/null) || continue
     if [ "$state" = Z ] && [ "${seen:-}" = Z ]; then
       echo $((${fields##* } >> 8)) >"$2"
