@@ -183,7 +183,7 @@ BookFromFile ReadBook(const Book& open, std::vector<char> bytes) {
     return BookReader(open, std::move(bytes)).Read();
 }
 
-BookFromFile ReadBook(const Book& open, const std::filesystem::path& path) {
+BookFromFile ReadBook(const Book& open, const Path& path) {
     return ReadBook(open, ReadFileBytes(path));
 }
 
@@ -193,7 +193,7 @@ bool LoadBook(Book& book, std::vector<char> bytes) {
     return read.AllCategories;
 }
 
-bool LoadBook(Book& book, const std::filesystem::path& path) {
+bool LoadBook(Book& book, const Path& path) {
     return LoadBook(book, ReadFileBytes(path));
 }
 
@@ -215,7 +215,7 @@ std::string SaveBook(const Book& book) {
     return file;
 }
 
-void SaveBook(const Book& book, const std::filesystem::path& path) {
+void SaveBook(const Book& book, const Path& path) {
     ReplaceFileBytes(path, SaveBook(book));
 }
 

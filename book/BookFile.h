@@ -5,13 +5,13 @@
 #pragma once
 
 #include <exception>
-#include <filesystem>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
 #include "book/Book.h"
+#include "book/Path.h"
 
 namespace lindrel {
 
@@ -50,17 +50,17 @@ struct BookFromFile {
 // such lines the headers are found by what stands around them (ChooseHeaders). Throws MalformedBook or
 // FileFault.
 BookFromFile ReadBook(const Book& open, std::vector<char> bytes);
-BookFromFile ReadBook(const Book& open, const std::filesystem::path& path);
+BookFromFile ReadBook(const Book& open, const Path& path);
 
 // Reads a book and puts it in the place of another one, whatever is in doubt. Returns whether there were
 // exactly twelve headers. Leaves the book as it was when it throws.
 bool LoadBook(Book& book, std::vector<char> bytes);
-bool LoadBook(Book& book, const std::filesystem::path& path);
+bool LoadBook(Book& book, const Path& path);
 
 // The bytes of a book's file. Throws RangeFault for a book that counts more entries than it has.
 std::string SaveBook(const Book& book);
 // Writes the file in one step, see ReplaceFileBytes(). Throws FileFault too.
-void SaveBook(const Book& book, const std::filesystem::path& path);
+void SaveBook(const Book& book, const Path& path);
 
 // Names and addresses of a book that begin with "#".
 struct HeaderLookalikes {

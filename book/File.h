@@ -4,18 +4,14 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <filesystem>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 
-namespace lindrel {
+#include "book/Path.h"
 
-// A path as text for the user, and a text as a path. Not by std::filesystem, whose conversions depend on the
-// locale and bring all locales into the program.
-std::wstring WideText(const std::filesystem::path& path);
-std::filesystem::path PathFrom(std::wstring_view text);
+namespace lindrel {
 
 // What tells whether another program has changed a file since: its size in bytes, the time of its last change
 // in the system's units, and which file of the disk it is.
@@ -28,7 +24,7 @@ struct FileState {
 };
 
 // Nothing when there is no file, or it cannot be looked at. Does not throw.
-std::optional<FileState> StateOf(const std::filesystem::path& path);
+std::optional<FileState> StateOf(const Path& path);
 
 // An open file. All functions throw FileFault with the path and the system's reason. Paths may be longer than
 // 260 characters. Opening, replacing and removing a file that another program holds is tried for up to two
@@ -37,9 +33,9 @@ std::optional<FileState> StateOf(const std::filesystem::path& path);
 class File {
   public:
     // Opens an existing file, which other programs may go on writing, renaming or deleting.
-    static File ForReading(const std::filesystem::path& path);
+    static File ForReading(const Path& path);
     // Creates a file, or empties an existing one. Other programs may read it at the same time.
-    static File ForWriting(const std::filesystem::path& path);
+    static File ForWriting(const Path& path);
     // Creates a temporary file; Replace() puts it in the place of the file at `path`, which need not exist.
     // Refuses to replace a folder, a read-only file or a link that leads nowhere. A symbolic link stays, and
     // the file that it leads to is replaced.
@@ -47,7 +43,7 @@ class File {
     // The temporary file stands in the folder of the file and has a name made from its name, always the same
     // and short, so that every file that can be opened can be replaced. One that a killed program has left is
     // taken over; as long as another program writes it, this one waits.
-    static File ForReplacing(const std::filesystem::path& path);
+    static File ForReplacing(const Path& path);
 
     // Closes the file if it is still open, and removes a temporary file that was not moved. Does not throw.
     ~File();
@@ -67,13 +63,12 @@ class File {
     void Replace();
 
   private:
-    File(std::filesystem::path path, std::intptr_t handle, std::filesystem::path target = {},
-         std::filesystem::path temporary = {});
+    File(Path path, std::intptr_t handle, Path target = {}, Path temporary = {});
 
-    std::filesystem::path path_;  // as the caller knows it, for faults
-    std::intptr_t handle_;        // the system's handle, -1 when closed
-    std::filesystem::path target_;
-    std::filesystem::path temporary_;  // empty when there is none to remove
+    Path path_;             // as the caller knows it, for faults
+    std::intptr_t handle_;  // the system's handle, -1 when closed
+    Path target_;
+    Path temporary_;  // empty when there is none to remove
 };
 
 }  // namespace lindrel

@@ -35,20 +35,20 @@ void CopyAccessList(const std::wstring& from, const std::wstring& to) {
 
 }  // namespace
 
-void Fail(const std::filesystem::path& path, DWORD error) {
+void Fail(const Path& path, DWORD error) {
     throw FileFault(WideText(path), ReasonOf(error));
 }
 
-std::wstring SystemPath(const std::filesystem::path& path) {
+std::wstring SystemPath(const Path& path) {
     constexpr DWORD kLongest = 32768;
-    if (path.native().starts_with(LR"(\\?\)")) return path.native();
+    if (path.starts_with(LR"(\\?\)")) return path;
     std::wstring full(kLongest, L'\0');
     const DWORD length = GetFullPathNameW(path.c_str(), kLongest, full.data(), nullptr);
     if (length == 0) Fail(path);
     if (length >= kLongest) Fail(path, ERROR_FILENAME_EXCED_RANGE);
     full.resize(length);
     if (full.starts_with(LR"(\\.\)")) Fail(path, ERROR_INVALID_NAME);
-    return LongPath(full).native();
+    return LongPath(full);
 }
 
 bool MayPass(const std::wstring& path, DWORD error) {
@@ -65,7 +65,7 @@ HANDLE OpenToLookAt(const std::wstring& path) {
                        FILE_ATTRIBUTE_NORMAL, nullptr);
 }
 
-std::wstring BehindLinks(const std::filesystem::path& path) {
+std::wstring BehindLinks(const Path& path) {
     const std::wstring name = SystemPath(path);
     const DWORD attributes = GetFileAttributesW(name.c_str());
     if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0)

@@ -3,25 +3,25 @@
 
 #include <windows.h>
 
-#include <filesystem>
 #include <string>
 
+#include "book/Path.h"
 #include "book/Patience.h"
 
 namespace lindrel {
 
 // Throws FileFault with the path and the system's reason for the error.
-[[noreturn]] void Fail(const std::filesystem::path& path, DWORD error = GetLastError());
+[[noreturn]] void Fail(const Path& path, DWORD error = GetLastError());
 
 // The path as the system takes it at any length. Throws for a device, which every folder seems to have.
-std::wstring SystemPath(const std::filesystem::path& path);
+std::wstring SystemPath(const Path& path);
 
 // Opens an existing file for its attributes only, whoever else has it open.
 HANDLE OpenToLookAt(const std::wstring& path);
 
 // The file that a symbolic link leads to; any other path as the system takes it. Throws FileFault when the
 // link leads nowhere.
-std::wstring BehindLinks(const std::filesystem::path& path);
+std::wstring BehindLinks(const Path& path);
 
 // Gives a new file the attributes and the access list of the old one, if there is one.
 void TakeOverAttributes(const std::wstring& from, const std::wstring& to);

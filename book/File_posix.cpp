@@ -20,12 +20,12 @@ namespace lindrel {
 
 namespace {
 
-[[noreturn]] void Fail(const std::filesystem::path& path) {
+[[noreturn]] void Fail(const Path& path) {
     const std::string reason = std::strerror(errno);
     throw FileFault(WideText(path), std::wstring(reason.begin(), reason.end()));
 }
 
-int Opened(const std::filesystem::path& path, int handle) {
+int Opened(const Path& path, int handle) {
     if (handle < 0) Fail(path);
     return handle;
 }
@@ -35,18 +35,18 @@ int Native(std::intptr_t handle) {
 }
 
 // The file that a symbolic link leads to; any other path as it is.
-std::filesystem::path BehindLinks(const std::filesystem::path& path) {
+Path BehindLinks(const Path& path) {
     struct stat status {};
     if (::lstat(path.c_str(), &status) != 0 || !S_ISLNK(status.st_mode)) return path;
     char* const real = ::realpath(path.c_str(), nullptr);
     if (real == nullptr) Fail(path);
-    const std::filesystem::path target = real;
+    const Path target = real;
     std::free(real);
     return target;
 }
 
 // The mode bits for the file that replaces the one at a path. Where there is none, the user's mask decides.
-std::optional<mode_t> ModeOfReplaced(const std::filesystem::path& path, const std::filesystem::path& target) {
+std::optional<mode_t> ModeOfReplaced(const Path& path, const Path& target) {
     struct stat old {};
     if (::stat(target.c_str(), &old) != 0) return std::nullopt;
     errno = S_ISDIR(old.st_mode) ? EISDIR : EINVAL;
@@ -57,7 +57,7 @@ std::optional<mode_t> ModeOfReplaced(const std::filesystem::path& path, const st
 }
 
 // Whether an open file still has that name, and not only another that was made there since.
-bool StandsAt(const std::filesystem::path& path, int handle) {
+bool StandsAt(const Path& path, int handle) {
     struct stat open {};
     struct stat there {};
     return ::fstat(handle, &open) == 0 && ::lstat(path.c_str(), &there) == 0 && open.st_dev == there.st_dev &&
@@ -69,7 +69,7 @@ bool Lock(int handle) {
 }
 
 // Removes a temporary file that no living program has locked.
-void RemoveLeftover(const std::filesystem::path& path) {
+void RemoveLeftover(const Path& path) {
     const int handle = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
     if (handle < 0) return;
     if (Lock(handle) && StandsAt(path, handle)) ::unlink(path.c_str());
@@ -77,7 +77,7 @@ void RemoveLeftover(const std::filesystem::path& path) {
 }
 
 // Returns -1 and sets errno when that fails. Whoever writes the file holds a lock on it.
-int CreateTemporary(const std::filesystem::path& path, mode_t mode) {
+int CreateTemporary(const Path& path, mode_t mode) {
     Patience patience(kFilePatience);
     do {
         const int handle = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
@@ -95,17 +95,21 @@ int CreateTemporary(const std::filesystem::path& path, mode_t mode) {
 
 }  // namespace
 
-std::wstring WideText(const std::filesystem::path& path) {
+std::wstring WideText(const Path& path) {
     // Not wstring(), which depends on the locale. File names are UTF-8 here.
     const std::u32string characters = path.u32string();
     return {characters.begin(), characters.end()};
 }
 
-std::filesystem::path PathFrom(std::wstring_view text) {
+Path PathFrom(std::wstring_view text) {
     return std::u32string(text.begin(), text.end());
 }
 
-std::optional<FileState> StateOf(const std::filesystem::path& path) {
+Path Joined(const Path& folder, const Path& name) {
+    return folder / name;
+}
+
+std::optional<FileState> StateOf(const Path& path) {
     struct stat status {};
     if (::stat(path.c_str(), &status) != 0) return std::nullopt;
     constexpr std::uint64_t kNanoseconds = 1'000'000'000;
@@ -115,23 +119,21 @@ std::optional<FileState> StateOf(const std::filesystem::path& path) {
                      status.st_dev, status.st_ino};
 }
 
-File::File(std::filesystem::path path, std::intptr_t handle, std::filesystem::path target,
-           std::filesystem::path temporary)
+File::File(Path path, std::intptr_t handle, Path target, Path temporary)
     : path_(std::move(path)), handle_(handle), target_(std::move(target)), temporary_(std::move(temporary)) {}
 
-File File::ForReading(const std::filesystem::path& path) {
+File File::ForReading(const Path& path) {
     return {path, Opened(path, ::open(path.c_str(), O_RDONLY | O_CLOEXEC))};
 }
 
-File File::ForWriting(const std::filesystem::path& path) {
+File File::ForWriting(const Path& path) {
     return {path, Opened(path, ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666))};
 }
 
-File File::ForReplacing(const std::filesystem::path& path) {
-    const std::filesystem::path target = BehindLinks(path);
+File File::ForReplacing(const Path& path) {
+    const Path target = BehindLinks(path);
     const mode_t mode = ModeOfReplaced(path, target).value_or(0666);
-    const std::filesystem::path temporary =
-        target.parent_path() / TemporaryName<char>(target.filename().native());
+    const Path temporary = target.parent_path() / TemporaryName<char>(target.filename().native());
     return {path, Opened(path, CreateTemporary(temporary, mode)), target, temporary};
 }
 

@@ -24,7 +24,7 @@ DWORD ErrorUnlessOpen(HANDLE handle) {
 }
 
 // A handle to a file of the disk. INVALID_HANDLE_VALUE is -1, as File keeps it for a closed file.
-std::intptr_t Open(const std::filesystem::path& path, DWORD access, DWORD sharing, DWORD creation) {
+std::intptr_t Open(const Path& path, DWORD access, DWORD sharing, DWORD creation) {
     const std::wstring name = SystemPath(path);
     HANDLE handle = INVALID_HANDLE_VALUE;
     const DWORD error = Patiently(name, [&] {
@@ -46,7 +46,7 @@ std::wstring TemporaryBeside(const std::wstring& target) {
 }
 
 // Creates the file, in the place of one that a killed program has left.
-HANDLE CreateTemporary(const std::filesystem::path& path, const std::wstring& temporary) {
+HANDLE CreateTemporary(const Path& path, const std::wstring& temporary) {
     HANDLE handle = INVALID_HANDLE_VALUE;
     const DWORD error = Patiently(temporary, [&]() -> DWORD {
         handle = CreateFileW(temporary.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL,
@@ -68,15 +68,20 @@ bool IsUnknownOperation(DWORD error) {
 
 }  // namespace
 
-std::wstring WideText(const std::filesystem::path& path) {
-    return path.native();
+std::wstring WideText(const Path& path) {
+    return path;
 }
 
-std::filesystem::path PathFrom(std::wstring_view text) {
-    return text;
+Path PathFrom(std::wstring_view text) {
+    return Path(text);
 }
 
-std::optional<FileState> StateOf(const std::filesystem::path& path) {
+Path Joined(const Path& folder, const Path& name) {
+    const bool ready = folder.empty() || folder.ends_with(L'\\') || folder.ends_with(L'/');
+    return ready ? folder + name : folder + L"\\" + name;
+}
+
+std::optional<FileState> StateOf(const Path& path) {
     HANDLE file = INVALID_HANDLE_VALUE;
     try {
         file = OpenToLookAt(SystemPath(path));
@@ -94,16 +99,15 @@ std::optional<FileState> StateOf(const std::filesystem::path& path) {
                      found.dwVolumeSerialNumber, joined(found.nFileIndexHigh, found.nFileIndexLow)};
 }
 
-File::File(std::filesystem::path path, std::intptr_t handle, std::filesystem::path target,
-           std::filesystem::path temporary)
+File::File(Path path, std::intptr_t handle, Path target, Path temporary)
     : path_(std::move(path)), handle_(handle), target_(std::move(target)), temporary_(std::move(temporary)) {}
 
-File File::ForReading(const std::filesystem::path& path) {
+File File::ForReading(const Path& path) {
     constexpr DWORD kAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
     return {path, Open(path, GENERIC_READ, kAll, OPEN_EXISTING)};
 }
 
-File File::ForWriting(const std::filesystem::path& path) {
+File File::ForWriting(const Path& path) {
     // Not CREATE_ALWAYS, which fails for a hidden file.
     const std::intptr_t handle = Open(path, GENERIC_WRITE, FILE_SHARE_READ, OPEN_ALWAYS);
     if (const DWORD error = ErrorUnless(SetEndOfFile(Native(handle))); error != ERROR_SUCCESS) {
@@ -113,7 +117,7 @@ File File::ForWriting(const std::filesystem::path& path) {
     return {path, handle};
 }
 
-File File::ForReplacing(const std::filesystem::path& path) {
+File File::ForReplacing(const Path& path) {
     const std::wstring target = BehindLinks(path);
     const DWORD attributes = GetFileAttributesW(target.c_str());
     if (attributes != INVALID_FILE_ATTRIBUTES &&
@@ -127,7 +131,7 @@ File::~File() {
     if (Native(handle_) != INVALID_HANDLE_VALUE) CloseHandle(Native(handle_));
     if (temporary_.empty()) return;
     // One that cannot be removed is taken over by the next save.
-    Patiently(temporary_.native(), [&] { return ErrorUnless(DeleteFileW(temporary_.c_str())); });
+    Patiently(temporary_, [&] { return ErrorUnless(DeleteFileW(temporary_.c_str())); });
 }
 
 std::size_t File::Size() const {
@@ -165,9 +169,9 @@ void File::Close() {
 void File::Replace() {
     if (!FlushFileBuffers(Native(handle_)) && !IsUnknownOperation(GetLastError())) Fail(path_);
     Close();
-    TakeOverAttributes(target_.native(), temporary_.native());
+    TakeOverAttributes(target_, temporary_);
     // ReplaceFile would keep the creation time, but when it fails there may be no file at the path at all.
-    const DWORD error = Patiently(target_.native(), [&] {
+    const DWORD error = Patiently(target_, [&] {
         return ErrorUnless(MoveFileExW(temporary_.c_str(), target_.c_str(),
                                        MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH));
     });

@@ -5,20 +5,20 @@
 
 namespace lindrel {
 
-std::vector<char> ReadFileBytes(const std::filesystem::path& path) {
+std::vector<char> ReadFileBytes(const Path& path) {
     File file = File::ForReading(path);
     std::vector<char> bytes(file.Size());
     bytes.resize(file.Read(bytes));
     return bytes;
 }
 
-void WriteFileBytes(const std::filesystem::path& path, std::string_view bytes) {
+void WriteFileBytes(const Path& path, std::string_view bytes) {
     File file = File::ForWriting(path);
     file.Write(bytes);
     file.Close();
 }
 
-void ReplaceFileBytes(const std::filesystem::path& path, std::string_view bytes) {
+void ReplaceFileBytes(const Path& path, std::string_view bytes) {
     File file = File::ForReplacing(path);
     file.Write(bytes);
     file.Replace();

@@ -6,16 +6,16 @@
 
 namespace lindrel {
 
-std::filesystem::path ExactPath(const std::filesystem::path& path) {
+Path ExactPath(const Path& path) {
     return path;
 }
 
-std::filesystem::path LongPath(const std::filesystem::path& path) {
+Path LongPath(const Path& path) {
     return path;
 }
 
-std::vector<std::filesystem::path> FilesIn(const std::filesystem::path& folder) {
-    std::vector<std::filesystem::path> names;
+std::vector<Path> FilesIn(const Path& folder) {
+    std::vector<Path> names;
     std::error_code error;
     std::filesystem::directory_iterator entry(folder, error);
     while (!error && entry != std::filesystem::directory_iterator()) {
@@ -28,12 +28,12 @@ std::vector<std::filesystem::path> FilesIn(const std::filesystem::path& folder) 
     return names;
 }
 
-bool FolderIsThere(const std::filesystem::path& folder) {
+bool FolderIsThere(const Path& folder) {
     std::error_code unknown;
     return std::filesystem::is_directory(folder, unknown);
 }
 
-void CreateFolder(const std::filesystem::path& folder) {
+void CreateFolder(const Path& folder) {
     std::error_code error;
     std::filesystem::create_directory(folder, error);
     if (error && !FolderIsThere(folder)) throw FileFault(WideText(folder), L"A mappa nem hozható létre");

@@ -4,7 +4,7 @@
 
 namespace lindrel {
 
-OutputFile::OutputFile(const std::filesystem::path& path) : file_(File::ForWriting(path)) {}
+OutputFile::OutputFile(const Path& path) : file_(File::ForWriting(path)) {}
 
 OutputFile::~OutputFile() {
     try {

@@ -2,12 +2,12 @@
 #pragma once
 
 #include <cstddef>
-#include <filesystem>
 #include <functional>
 #include <string>
 #include <string_view>
 
 #include "book/File.h"
+#include "book/Path.h"
 
 namespace lindrel {
 
@@ -22,7 +22,7 @@ inline constexpr std::size_t kGoodPiece = 1U << 20U;
 class OutputFile {
   public:
     // Creates the file, or empties an existing one.
-    explicit OutputFile(const std::filesystem::path& path);
+    explicit OutputFile(const Path& path);
     // Writes what is still buffered, but only Close() reports a failure.
     ~OutputFile();
     OutputFile(const OutputFile&) = delete;

@@ -23,10 +23,6 @@ bool SameName(const std::wstring& one, const std::wstring& other) {
                                 static_cast<int>(other.size()), TRUE) == CSTR_EQUAL;
 }
 
-std::wstring Joined(const std::wstring& folder, const std::wstring& name) {
-    return folder + (folder.ends_with(L'\\') ? L"" : L"\\") + name;
-}
-
 // Keeps the system from asking for a disk when a drive is empty.
 class WithoutDiskBoxes {
   public:

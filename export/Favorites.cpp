@@ -21,23 +21,23 @@ namespace {
 struct ShortcutToWrite {
     int Entry;
     std::string SafeName;
-    std::filesystem::path Folder;
+    Path Folder;
 };
 
-std::filesystem::path PathOf(std::string_view text) {
+Path PathOf(std::string_view text) {
     return PathFrom(FromBookText(text));
 }
 
-std::vector<ShortcutToWrite> PlanShortcuts(const Book& book, const std::filesystem::path& folder,
+std::vector<ShortcutToWrite> PlanShortcuts(const Book& book, const Path& folder,
                                            bool folder_for_each_category) {
     std::vector<ShortcutToWrite> plan;
     for (int c = 1; c <= kCategories; ++c) {
         if (!IsExported(book, c)) continue;
-        const std::filesystem::path target =
-            folder_for_each_category ? folder / PathOf(SafeFolderName(book.CategoryNames(c))) : folder;
+        const Path target =
+            folder_for_each_category ? Joined(folder, PathOf(SafeFolderName(book.CategoryNames(c)))) : folder;
         for (const int e : ExportedEntries(book, c)) {
             std::string name(book.SiteNames(e));
-            NamingTheFile(WideText(target / PathOf(name + ".url")), [&] { SafeFileName(name); });
+            NamingTheFile(WideText(Joined(target, PathOf(name + ".url"))), [&] { SafeFileName(name); });
             plan.push_back({e, std::move(name), target});
         }
     }
@@ -46,13 +46,13 @@ std::vector<ShortcutToWrite> PlanShortcuts(const Book& book, const std::filesyst
 
 }  // namespace
 
-void saveTo_fav(Book& book, const std::filesystem::path& folder, bool folder_for_each_category) {
+void saveTo_fav(Book& book, const Path& folder, bool folder_for_each_category) {
     const std::vector<ShortcutToWrite> plan = PlanShortcuts(book, folder, folder_for_each_category);
-    std::filesystem::path created;
+    Path created;
     for (const ShortcutToWrite& shortcut : plan) {
         if (folder_for_each_category && shortcut.Folder != created) CreateFolder(shortcut.Folder);
         created = shortcut.Folder;
-        const std::filesystem::path file = shortcut.Folder / PathOf(shortcut.SafeName + ".url");
+        const Path file = Joined(shortcut.Folder, PathOf(shortcut.SafeName + ".url"));
         NamingTheFile(WideText(file),
                       [&] { WriteFileBytes(LongPath(file), ShortcutFile(book.SiteURLs(shortcut.Entry))); });
     }

@@ -1,9 +1,9 @@
 // Export to Internet shortcut files.
 #pragma once
 
-#include <filesystem>
 
 #include "book/Book.h"
+#include "book/Path.h"
 
 namespace lindrel {
 
@@ -12,6 +12,6 @@ namespace lindrel {
 // book agrees with the folder. Throws FileFault: for a name that is too long for SafeFileName (an overflow)
 // before anything is written, and for a file or folder that cannot be created. The book is unchanged then,
 // but files already written stay.
-void saveTo_fav(Book& book, const std::filesystem::path& folder, bool folder_for_each_category);
+void saveTo_fav(Book& book, const Path& folder, bool folder_for_each_category);
 
 }  // namespace lindrel

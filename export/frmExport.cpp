@@ -195,14 +195,14 @@ bool frmExport::ExportToFavorites() {
 }
 
 void frmExport::WriteTextList(const std::wstring& fileName) const {
-    OutputFile file{std::filesystem::path(fileName)};
+    OutputFile file(fileName);
     lindrel::WriteTextList(open_.TheBook, [&file](std::string_view bytes) { file.Write(bytes); });
     file.Close();
 }
 
 void frmExport::WriteHtmlPage(const std::wstring& fileName) const {
     const PageStyle style = ReadTheme();
-    OutputFile file{std::filesystem::path(fileName)};
+    OutputFile file(fileName);
     lindrel::WriteHtmlPage(open_.TheBook, style, [&file](std::string_view bytes) { file.Write(bytes); });
     file.Close();
 }

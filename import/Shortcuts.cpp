@@ -28,12 +28,12 @@ bool IsShortcutName(const std::wstring& name) {
 
 struct ShortcutFile {
     std::string Name;  // as book text
-    std::filesystem::path FileName;
+    Path FileName;
 };
 
-std::vector<ShortcutFile> FilesOf(const std::filesystem::path& folder) {
+std::vector<ShortcutFile> FilesOf(const Path& folder) {
     std::vector<ShortcutFile> files;
-    for (const std::filesystem::path& file : FilesIn(folder))
+    for (const Path& file : FilesIn(folder))
         if (const std::wstring name = WideText(file); IsShortcutName(name))
             files.push_back({ToBookText(name), file});
     std::sort(files.begin(), files.end(), [](const ShortcutFile& a, const ShortcutFile& b) {
@@ -60,12 +60,12 @@ std::string ShortcutAddress(std::vector<char> bytes) {
     return line.Address(behind_key, line.Text().size());
 }
 
-std::vector<NewEntry> ShortcutsOfFolder(const std::filesystem::path& folder) {
+std::vector<NewEntry> ShortcutsOfFolder(const Path& folder) {
     std::vector<NewEntry> staged;
-    const std::filesystem::path exact = ExactPath(folder);
+    const Path exact = ExactPath(folder);
     for (const ShortcutFile& file : FilesOf(folder))
-        NamingTheFile(WideText(folder / file.FileName), [&] {
-            std::string address = ShortcutAddress(ReadFileBytes(exact / file.FileName));
+        NamingTheFile(WideText(Joined(folder, file.FileName)), [&] {
+            std::string address = ShortcutAddress(ReadFileBytes(Joined(exact, file.FileName)));
             if (staged.size() == kMostShortcuts) throw OverflowFault();
             staged.push_back({file.Name.substr(0, file.Name.size() - kExtensionLength), std::move(address)});
         });

@@ -1,11 +1,11 @@
 // Import of Internet shortcut files (*.url), those of this program and similar ones.
 #pragma once
 
-#include <filesystem>
 #include <string>
 #include <vector>
 
 #include "book/Book.h"
+#include "book/Path.h"
 
 namespace lindrel {
 
@@ -20,6 +20,6 @@ std::string ShortcutAddress(std::vector<char> file);
 // without their last four characters, with "?" for each character that a book cannot hold. Empty if there are
 // none or if the folder cannot be opened. Throws FileFault: for a file that cannot be read, for what
 // ShortcutAddress throws, for the 256th file (an overflow), and for a folder that cannot be read to its end.
-std::vector<NewEntry> ShortcutsOfFolder(const std::filesystem::path& folder);
+std::vector<NewEntry> ShortcutsOfFolder(const Path& folder);
 
 }  // namespace lindrel

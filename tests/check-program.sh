@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # That a shipped program runs on every Windows from 10 on, and safely: it asks for the system's own libraries only, its
-# header says what the system may do with it, and it tells nothing of the folder in which it was built.
+# header says what the system may do with it, it is small, and it tells nothing of the folder in which it was built.
 #   tests/check-program.sh lindrel.exe
 set -u
 program=$1
@@ -26,6 +26,12 @@ fi
 for line in "${wanted[@]}"; do
   grep -qE "$line" <<<"$headers" || { echo "the header of $program has no $line"; failed=1; }
 done
+
+# What a download and a start cost. The 64-bit program is the larger one.
+most=1000000
+size=$(stat -c %s "$program")
+echo "$program: $size bytes"
+[ "$size" -le $most ] || { echo "$program is larger than $most bytes"; failed=1; }
 
 source_folder=$(cd "$(dirname "$0")/.." && pwd)
 if grep -qaF "$source_folder" "$program"; then

@@ -193,7 +193,7 @@ TEST_F(frmSelectFavoritDirTest, AFolderOfAnyDepthTakesFoldersAndFiles) {
         saveTo_fav(book, deep.Path(), true);
     });
     const std::filesystem::path inside = ExactPath(deep.Path() / L"lpt1_");
-    EXPECT_EQ(FilesIn(inside), std::vector<std::filesystem::path>{L"a_b.url"});
+    EXPECT_EQ(FilesIn(inside), std::vector<std::wstring>{L"a_b.url"});
     EXPECT_TRUE(DeleteFileW((inside / L"a_b.url").c_str()));
     EXPECT_TRUE(RemoveDirectoryW(inside.c_str()));
 }

@@ -8,6 +8,7 @@
 
 #include "book/Files.h"
 #include "book/Folder.h"
+#include "book/Path.h"
 #include "controls/Windows.h"
 
 namespace lindrel::testing {
@@ -23,7 +24,7 @@ class DeepFolder {
     }
     ~DeepFolder() {
         for (const auto& file : FilesIn(path_))
-            EXPECT_TRUE(DeleteFileW((ExactPath(path_) / file).c_str())) << file;
+            EXPECT_TRUE(DeleteFileW(Joined(ExactPath(path_), file).c_str())) << file;
         for (std::size_t left = Names().size(); left > 0; --left, path_ = path_.parent_path())
             EXPECT_TRUE(RemoveDirectoryW(ExactPath(path_).c_str())) << path_;
     }
@@ -36,7 +37,7 @@ class DeepFolder {
     }
     const std::filesystem::path& Path() const { return path_; }
     void Write(const std::wstring& name, const std::string& bytes) const {
-        WriteFileBytes(ExactPath(path_) / name, bytes);
+        WriteFileBytes(Joined(ExactPath(path_), name), bytes);
     }
 
   private:
