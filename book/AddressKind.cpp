@@ -1,6 +1,7 @@
 #include "book/AddressKind.h"
 
 #include <algorithm>
+#include <array>
 #include <optional>
 
 #include "book/BookText.h"
@@ -10,7 +11,7 @@ namespace lindrel {
 
 namespace {
 
-constexpr std::wstring_view kWebSchemes[] = {L"http", L"https", L"ftp", L"mailto"};
+constexpr auto kWebSchemes = std::to_array<std::wstring_view>({L"http", L"https", L"ftp", L"mailto"});
 
 // A name with more of them is made to deceive.
 constexpr std::size_t kMostExtensions = 20;

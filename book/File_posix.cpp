@@ -40,7 +40,7 @@ Path BehindLinks(const Path& path) {
     if (::lstat(path.c_str(), &status) != 0 || !S_ISLNK(status.st_mode)) return path;
     char* const real = ::realpath(path.c_str(), nullptr);
     if (real == nullptr) Fail(path);
-    const Path target = real;
+    Path target = real;
     std::free(real);
     return target;
 }

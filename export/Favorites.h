@@ -1,7 +1,6 @@
 // Export to Internet shortcut files.
 #pragma once
 
-
 #include "book/Book.h"
 #include "book/Path.h"
 

@@ -67,11 +67,11 @@ class Encoder {
 
     std::string& Append(std::string& page, std::string_view text) const {
         while (!text.empty()) {
-            const auto other = std::find_if_not(text.begin(), text.end(), [this](char byte) {
-                return same_[static_cast<unsigned char>(byte)];
-            });
-            page.append(text.begin(), other);
-            text.remove_prefix(static_cast<std::size_t>(other - text.begin()));
+            const auto same = [this](char byte) { return same_[static_cast<unsigned char>(byte)]; };
+            const auto length =
+                static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), same) - text.begin());
+            page.append(text.substr(0, length));
+            text.remove_prefix(length);
             if (text.empty()) break;
             page.append(encoded_[static_cast<unsigned char>(text.front())]);
             text.remove_prefix(1);

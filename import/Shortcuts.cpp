@@ -44,12 +44,12 @@ std::vector<ShortcutFile> FilesOf(const Path& folder) {
 
 }  // namespace
 
-std::string ShortcutAddress(std::vector<char> bytes) {
-    const TextFile file = TextFileOf(std::move(bytes));
-    const std::string_view text = file.Text();
+std::string ShortcutAddress(std::vector<char> file) {
+    const TextFile lines = TextFileOf(std::move(file));
+    const std::string_view text = lines.Text();
     const std::size_t second = BehindLineEnd(text, EndOfLine(text, 0));
     if (second == text.size()) throw EndOfFileFault();
-    const DecodedText line(text.substr(second, EndOfLine(text, second) - second), file.Encoding);
+    const DecodedText line(text.substr(second, EndOfLine(text, second) - second), lines.Encoding);
 
     static const CaselessNeedle key("URL=");
     const std::size_t found = key.FindIn(line.Text());
