@@ -1,8 +1,8 @@
 # Sourced by the scripts that run something under Wine: packages, prefixes and displays.
-# Everything lives under build/wine of the checkout and is gone when the script that asked for it ends.
+# Everything lives under build/wine of the checkout, or where LINDREL_WINE says, and is gone when the script that asked for it ends.
 
 lindrel_root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
-lindrel_wine="$lindrel_root/build/wine"
+lindrel_wine="${LINDREL_WINE:-$lindrel_root/build/wine}"
 
 # Packages of the whole project, one list for all scripts.
 lindrel_packages=(

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cstddef>
+#include <cstdint>
 #include <stdexcept>
 
 #include "book/Files.h"
@@ -59,6 +61,26 @@ class RemoteMemory {
 struct TextBuffer {
     wchar_t Text[1024];
 };
+
+// LVITEMW up to what is asked for, as a program of 32 or 64 bits has it.
+template <typename Pointer>
+struct RemoteItem {
+    UINT Mask;
+    int Row;
+    int Column;
+    UINT State;
+    UINT StateMask;
+    Pointer Text;
+    int TextMax;
+    char Rest[100];
+};
+static_assert(offsetof(RemoteItem<std::uint64_t>, TextMax) == offsetof(LVITEMW, cchTextMax));
+
+bool Has32Bits(HANDLE process) {
+    BOOL answer = FALSE;
+    Demand(IsWow64Process(process, &answer) != FALSE, "the width of the program");
+    return answer != FALSE;
+}
 
 // The program of this build, or the one that the environment names.
 std::wstring PathOfProgram() {
@@ -235,11 +257,11 @@ std::vector<int> ShippedProgram::CheckedRows() const {
 std::wstring ShippedProgram::Cell(int row, int column) const {
     constexpr std::size_t kTextAt = 256;
     const RemoteMemory memory(process_.hProcess, kTextAt + sizeof(TextBuffer));
-    LVITEMW item{};
-    item.iSubItem = column;
-    item.pszText = static_cast<wchar_t*>(memory.Place(kTextAt));
-    item.cchTextMax = 1024;
-    memory.Put(item);
+    const auto text = reinterpret_cast<std::uint64_t>(memory.Place(kTextAt));
+    if (Has32Bits(process_.hProcess))
+        memory.Put(RemoteItem<std::uint32_t>{0, 0, column, 0, 0, static_cast<std::uint32_t>(text), 1024, {}});
+    else
+        memory.Put(RemoteItem<std::uint64_t>{0, 0, column, 0, 0, text, 1024, {}});
     SendMessageW(Control(ID_frmStart_ListURLs), LVM_GETITEMTEXTW, static_cast<WPARAM>(row - 1), memory.At());
     return memory.Get<TextBuffer>(kTextAt).Text;
 }

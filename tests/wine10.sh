@@ -1,0 +1,54 @@
+#!/usr/bin/env bash
+# Runs the end-to-end tests of both widths under Debian 13's Wine 10, in a root of its own below build/wine10. Needs root,
+# and the builds x64 and x86. Called by ./test.sh --wine10.
+set -eu
+cd "$(dirname "$0")/.."
+source tests/wine-env.sh
+checkout=$PWD
+root=$PWD/build/wine10/root
+packages=(wine wine64 xvfb openbox locales procps fonts-liberation)
+
+in_root() { # mounts that nobody else sees, gone with the command
+  as_root unshare -m bash -c '
+    root=$1 checkout=$2
+    shift 2
+    mount -t proc proc "$root/proc"
+    mount --rbind /dev "$root/dev"
+    mkdir -p "$root$checkout"
+    mount --bind "$checkout" "$root$checkout"
+    exec chroot "$root" env -u WINEPREFIX PATH=/usr/sbin:/usr/bin:/sbin:/bin "$@"' - "$root" "$checkout" "$@"
+}
+
+make_root() {
+  [ ! -e "$root/ready" ] || return 0
+  echo "== making a root with Debian 13 and its Wine (about 700 MB of downloads) in build/wine10"
+  command -v debootstrap >/dev/null || as_root apt-get install -y -q debootstrap
+  mkdir -p "$root"
+  [ -e "$root/etc/debian_version" ] || as_root debootstrap --variant=minbase --include=ca-certificates trixie "$root"
+  in_root bash -eu -c '
+    export DEBIAN_FRONTEND=noninteractive
+    dpkg --add-architecture i386
+    apt-get update -q
+    apt-get install -y -q --no-install-recommends "$@"
+    localedef -i hu_HU -f UTF-8 hu_HU.UTF-8 || [ $? = 1 ]
+    # The half of the 32-bit Wine that runs beside the 64-bit one.
+    cd /tmp
+    apt-get download libwine:i386
+    dpkg-deb -x libwine_*_i386.deb libwine32
+    cp -r "$(find libwine32 -type d -name i386-windows)" "$(dirname "$(find /usr/lib -type d -name x86_64-windows)")/"
+    rm -rf libwine32 libwine_*' - "${packages[@]}"
+  as_root touch "$root/ready"
+}
+
+# All but TrayTest, which clicks on an icon in the window that Wine 8 makes for the notification area.
+run_suites() { # width
+  echo "== end-to-end tests of $1 under $(in_root wine --version)"
+  in_root env LANG=hu_HU.UTF-8 LC_ALL=hu_HU.UTF-8 HOME=/root LINDREL_WINE="$checkout/build/wine10/prefixes" \
+    LINDREL_PROGRAM="Z:$checkout/build/$1/lindrel/lindrel.exe" \
+    "$checkout/tests/wine-run.sh" "$checkout/build/x64/tests/e2e/e2e_tests.exe" --gtest_brief=1 --gtest_filter=-TrayTest.*
+}
+
+make_root
+failed=0
+for width in x64 x86; do run_suites $width || failed=1; done
+exit $failed
