@@ -23,24 +23,8 @@ bool SameName(const std::wstring& one, const std::wstring& other) {
                                 static_cast<int>(other.size()), TRUE) == CSTR_EQUAL;
 }
 
-// Keeps the system from asking for a disk when a drive is empty.
-class WithoutDiskBoxes {
-  public:
-    WithoutDiskBoxes() : changed_(SetThreadErrorMode(SEM_FAILCRITICALERRORS, &before_) != FALSE) {}
-    ~WithoutDiskBoxes() {
-        if (changed_) SetThreadErrorMode(before_, nullptr);
-    }
-    WithoutDiskBoxes(const WithoutDiskBoxes&) = delete;
-    WithoutDiskBoxes& operator=(const WithoutDiskBoxes&) = delete;
-
-  private:
-    DWORD before_ = 0;
-    bool changed_;
-};
-
 // Hands the names of the folders in a folder to a visitor until that returns false. Hidden ones are left out.
 void VisitFolders(const std::wstring& path, const std::function<bool(const std::wstring&)>& visitor) {
-    const WithoutDiskBoxes quiet;
     VisitMatches(Joined(path, L"*"), [&](const WIN32_FIND_DATAW& found) {
         const std::wstring name = found.cFileName;
         const bool hidden = (found.dwFileAttributes & FILE_ATTRIBUTE_HIDDEN) != 0;
@@ -66,11 +50,6 @@ bool HasFolders(const std::wstring& path) {
         return false;
     });
     return has;
-}
-
-bool IsFolderThere(const std::wstring& path) {
-    const WithoutDiskBoxes quiet;
-    return FolderIsThere(path);
 }
 
 // Index of the system's picture of a folder, closed or open.
@@ -171,7 +150,7 @@ HTREEITEM DirList::ChildNamed(HTREEITEM parent, const std::wstring& name) const 
 // The item of a folder that the tree may not show yet; nullptr when there is no such folder.
 HTREEITEM DirList::Reach(HTREEITEM parent, const std::wstring& name, const std::wstring& path) const {
     HTREEITEM item = ChildNamed(parent, name);
-    if (item == nullptr && IsFolderThere(path)) {
+    if (item == nullptr && FolderIsThere(path)) {
         item = Add(parent, name, parent == TVI_ROOT ? TVI_LAST : TVI_SORT);
         TVITEMW opener{};
         opener.mask = TVIF_CHILDREN;
