@@ -3,7 +3,6 @@
 #include <array>
 #include <iterator>
 #include <new>
-#include <numeric>
 #include <utility>
 
 #include "controls/CreateControl.h"
@@ -47,9 +46,9 @@ constexpr bool IsButton(int position) {
 }
 
 PictureList Pictures(int size, PictureLook look) {
-    std::array<int, kButtonCount> ids{};
-    std::iota(ids.begin(), ids.end(), IDI_ImageList1_1);
-    return {GetModuleHandleW(nullptr), ids, size, look};
+    static constexpr PictureStrip kStrips[] = {
+        {IDB_ImageList1_24, 24}, {IDB_ImageList1_30, 30}, {IDB_ImageList1_36, 36}, {IDB_ImageList1_48, 48}};
+    return {GetModuleHandleW(nullptr), kStrips, size, look};
 }
 
 }  // namespace

@@ -1,9 +1,12 @@
 #include "controls/Picture.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <new>
 
 #include "controls/Display.h"
+#include "controls/PixelBitmap.h"
+#include "controls/ScaledPictures.h"
 
 namespace lindrel {
 
@@ -19,25 +22,18 @@ std::uint32_t FaintAndGrey(std::uint32_t pixel) {
     return opacity << 24U | grey << 16U | grey << 8U | grey;
 }
 
-// The colours of a square icon, as a bitmap of its own.
-Owned<HBITMAP> FaintAndGrey(HBITMAP colours, int size) {
-    BITMAPINFO format{};
-    format.bmiHeader.biSize = sizeof format.bmiHeader;
-    format.bmiHeader.biWidth = size;
-    format.bmiHeader.biHeight = size;
-    format.bmiHeader.biPlanes = 1;
-    format.bmiHeader.biBitCount = 32;
-    void* bits = nullptr;
-    Owned<HBITMAP> result(CreateDIBSection(nullptr, &format, DIB_RGB_COLORS, &bits, nullptr, 0));
-    const HDC screen = GetDC(nullptr);
-    const bool copied =
-        result != nullptr && screen != nullptr &&
-        GetDIBits(screen, colours, 0, static_cast<UINT>(size), bits, &format, DIB_RGB_COLORS) == size;
-    ReleaseDC(nullptr, screen);
-    if (!copied) throw std::bad_alloc();
-    const std::span<std::uint32_t> pixels(static_cast<std::uint32_t*>(bits),
-                                          static_cast<std::size_t>(size * size));
-    for (std::uint32_t& pixel : pixels) pixel = FaintAndGrey(pixel);
+PixelBitmap Load(HINSTANCE instance, const PictureStrip& strip) {
+    const Owned<HBITMAP> loaded(static_cast<HBITMAP>(
+        LoadImageW(instance, MAKEINTRESOURCEW(strip.Id), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION)));
+    DIBSECTION parts{};
+    if (GetObjectW(loaded.get(), sizeof parts, &parts) != sizeof parts || parts.dsBm.bmBitsPixel != 32)
+        throw std::bad_alloc();
+    PixelBitmap result(parts.dsBm.bmWidth, parts.dsBm.bmHeight);
+    // From the bottom, as resources are.
+    const auto* const bits = static_cast<const std::uint32_t*>(parts.dsBm.bmBits);
+    for (int y = 0; y < result.Height(); ++y)
+        std::copy_n(bits + static_cast<std::ptrdiff_t>(y) * result.Width(), result.Width(),
+                    &result.At(0, result.Height() - 1 - y));
     return result;
 }
 
@@ -59,25 +55,16 @@ Picture::Picture(HINSTANCE instance, int id, int size)
     if (handle_ == nullptr) throw std::bad_alloc();
 }
 
-PictureList::PictureList(HINSTANCE instance, std::span<const int> ids, int size, PictureLook look)
-    : handle_(ImageList_Create(size, size, ILC_COLOR32 | ILC_MASK, static_cast<int>(ids.size()), 0)) {
-    if (handle_ == nullptr) throw std::bad_alloc();
-    for (const int id : ids) {
-        const Picture picture(instance, id, size);
-        if (look == PictureLook::Disabled)
-            AddDisabled(picture.Handle(), size);
-        else if (ImageList_AddIcon(Handle(), picture.Handle()) < 0)
-            throw std::bad_alloc();
-    }
-}
-
-void PictureList::AddDisabled(HICON icon, int size) {
-    ICONINFO parts{};
-    if (!GetIconInfo(icon, &parts)) throw std::bad_alloc();
-    const Owned<HBITMAP> colours(parts.hbmColor);
-    const Owned<HBITMAP> mask(parts.hbmMask);
-    const Owned<HBITMAP> faint = FaintAndGrey(colours.get(), size);
-    if (ImageList_Add(Handle(), faint.get(), mask.get()) < 0) throw std::bad_alloc();
+PictureList::PictureList(HINSTANCE instance, std::span<const PictureStrip> strips, int size,
+                         PictureLook look) {
+    const auto fits = [size](const PictureStrip& strip) { return strip.Size >= size; };
+    const auto found = std::ranges::find_if(strips, fits);
+    PixelBitmap pictures = Load(instance, found != strips.end() ? *found : strips.back());
+    if (pictures.Height() != size) pictures = Scaled(pictures, size);
+    if (look == PictureLook::Disabled)
+        for (std::uint32_t& pixel : pictures.Pixels()) pixel = FaintAndGrey(pixel);
+    handle_.reset(ImageList_Create(size, size, ILC_COLOR32, pictures.Width() / size, 0));
+    if (handle_ == nullptr || ImageList_Add(Handle(), pictures.Handle(), nullptr) < 0) throw std::bad_alloc();
 }
 
 }  // namespace lindrel

@@ -29,17 +29,23 @@ class Picture {
 // How a list shows its pictures. Those of disabled buttons are grey and faint.
 enum class PictureLook { Enabled, Disabled };
 
+// Pictures side by side in a bitmap of the resources, each as wide as the bitmap is high.
+struct PictureStrip {
+    int Id;
+    int Size;  // of each picture, in pixels
+};
+
 // Pictures of one size, for controls that show several. Destroyed with its owner.
 class PictureList {
   public:
     PictureList() = default;
-    // The icons of the resources in the given order. Throws std::bad_alloc when one is missing.
-    PictureList(HINSTANCE instance, std::span<const int> ids, int size, PictureLook look);
+    // The pictures of the strip that was drawn in this size, or else scaled from the next larger one, or from
+    // the largest. The strips show the same in growing sizes; there is at least one. Throws std::bad_alloc
+    // when one is missing.
+    PictureList(HINSTANCE instance, std::span<const PictureStrip> strips, int size, PictureLook look);
     HIMAGELIST Handle() const { return handle_.get(); }
 
   private:
-    void AddDisabled(HICON icon, int size);
-
     Owned<HIMAGELIST> handle_;
 };
 

@@ -1,10 +1,13 @@
 #!/usr/bin/env bash
-# Renders the drawings of pictures/*.svg into the icon files beside them, which are what the program is built from.
-# Run it after changing a drawing. Needs rsvg-convert, icotool, ImageMagick and Python.
+# Renders the drawings of pictures/*.svg into the icons and strips beside them, which are what the program is built
+# from. Run it after changing a drawing. Needs rsvg-convert, icotool, ImageMagick and Python.
 set -eu
 cd "$(dirname "$0")/pictures"
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
+
+# What the toolbar shows, in its order. Each size is one strip, so that the program loads one picture and not ten.
+toolbar=(mnuNew mnuOpen mnuSave mnuAdd mnuExport mnuEdit mnuFind mnuMove mnuDel mnuSelectAll)
 
 # What the picture's place asks for at 100, 125, 150 and 200 %. The shell shows the program's own in larger sizes too.
 sizes_of() { # name
@@ -17,12 +20,23 @@ sizes_of() { # name
 
 for drawing in *.svg; do
   name=${drawing%.svg}
-  rendered=()
   for size in $(sizes_of "$name"); do
     ../fit-to-pixels.py "$drawing" "$size" | rsvg-convert -f png -o "$work/plain.png"
     convert "$work/plain.png" -strip "PNG32:$work/$name-$size.png"
+  done
+done
+
+for drawing in *.svg; do
+  name=${drawing%.svg}
+  [[ $name != mnu* ]] || continue
+  rendered=()
+  for size in $(sizes_of "$name"); do
     [ "$size" -lt 256 ] || rendered+=(-r) # kept compressed, as the system expects it
     rendered+=("$work/$name-$size.png")
   done
   icotool -c -o "$name.ico" "${rendered[@]}"
+done
+
+for size in $(sizes_of mnu); do
+  (cd "$work" && convert "${toolbar[@]/%/-$size.png}" +append -define bmp3:alpha=true BMP3:-) >"ImageList1_$size.bmp"
 done

@@ -13,17 +13,11 @@
 #define IDI_TrayArea 102
 #define IDI_picGo 103
 #define IDI_Image1 104
-/* Of the toolbar's buttons. */
-#define IDI_ImageList1_1 111
-#define IDI_ImageList1_2 112
-#define IDI_ImageList1_3 113
-#define IDI_ImageList1_4 114
-#define IDI_ImageList1_5 115
-#define IDI_ImageList1_6 116
-#define IDI_ImageList1_7 117
-#define IDI_ImageList1_8 118
-#define IDI_ImageList1_9 119
-#define IDI_ImageList1_10 120
+/* Of the toolbar's buttons, side by side; the names end in the size. */
+#define IDB_ImageList1_24 111
+#define IDB_ImageList1_30 112
+#define IDB_ImageList1_36 113
+#define IDB_ImageList1_48 114
 
 /* The main window. */
 #define ID_frmStart_TabStrip1 1001

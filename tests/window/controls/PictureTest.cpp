@@ -21,11 +21,10 @@ HINSTANCE Instance() {
     return GetModuleHandleW(nullptr);
 }
 
-std::vector<int> Ids(int first, int last) {
-    std::vector<int> ids;
-    for (int id = first; id <= last; ++id) ids.push_back(id);
-    return ids;
-}
+// The toolbar's.
+constexpr std::array<PictureStrip, 4> kStrips{
+    {{IDB_ImageList1_24, 24}, {IDB_ImageList1_30, 30}, {IDB_ImageList1_36, 36}, {IDB_ImageList1_48, 48}}};
+constexpr int kPicturesOfToolbar = 10;
 
 // Sides of the pictures that an icon of the resources holds.
 std::vector<int> SizesIn(int id) {
@@ -57,9 +56,19 @@ TEST(PictureTest, EveryPictureIsThereInTheSizesOfItsPlace) {
     EXPECT_EQ(SizesIn(IDI_frmStart), (std::vector<int>{16, 20, 24, 32, 40, 48, 64, 256}));
     for (const int id : {IDI_TrayArea, IDI_Image1})
         EXPECT_EQ(SizesIn(id), (std::vector<int>{16, 20, 24, 32})) << id;
-    std::vector<int> larger = Ids(IDI_ImageList1_1, IDI_ImageList1_10);
-    larger.push_back(IDI_picGo);
-    for (const int id : larger) EXPECT_EQ(SizesIn(id), (std::vector<int>{24, 30, 36, 48})) << id;
+    EXPECT_EQ(SizesIn(IDI_picGo), (std::vector<int>{24, 30, 36, 48}));
+}
+
+TEST(PictureTest, EveryStripHoldsThePicturesOfTheToolbarInItsSize) {
+    for (const PictureStrip& strip : kStrips) {
+        const Owned<HBITMAP> loaded(static_cast<HBITMAP>(
+            LoadImageW(Instance(), MAKEINTRESOURCEW(strip.Id), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION)));
+        BITMAP bitmap{};
+        ASSERT_NE(GetObjectW(loaded.get(), sizeof bitmap, &bitmap), 0);
+        EXPECT_EQ(bitmap.bmWidth, kPicturesOfToolbar * strip.Size);
+        EXPECT_EQ(bitmap.bmHeight, strip.Size);
+        EXPECT_EQ(bitmap.bmBitsPixel, 32);
+    }
 }
 
 TEST(PictureTest, HasTheSizeThatWasAskedForAlsoOneThatWasNotDrawn) {
@@ -76,17 +85,6 @@ TEST(PictureTest, HasTheSizeThatWasAskedForAlsoOneThatWasNotDrawn) {
     }
 }
 
-TEST(PictureTest, NoTwoPicturesLookAlikeAndNoneIsBlank) {
-    std::vector<int> ids{IDI_frmStart, IDI_TrayArea, IDI_picGo, IDI_Image1};
-    for (const int id : Ids(IDI_ImageList1_1, IDI_ImageList1_10)) ids.push_back(id);
-    for (const int size : {16, 24, 32}) {
-        std::set<std::vector<COLORREF>> looks{
-            std::vector<COLORREF>(static_cast<std::size_t>(size * size), RGB(255, 255, 255))};
-        for (const int id : ids) looks.insert(Painted(Picture(Instance(), id, size).Handle(), size));
-        EXPECT_EQ(looks.size(), ids.size() + 1) << size;
-    }
-}
-
 // What a list shows of its picture at a position (0-based) on a white ground.
 std::vector<COLORREF> PaintedFrom(const PictureList& list, int position, int size) {
     return Drawn(size, [&](HDC canvas) {
@@ -96,11 +94,53 @@ std::vector<COLORREF> PaintedFrom(const PictureList& list, int position, int siz
     });
 }
 
+TEST(PictureTest, NoTwoPicturesLookAlikeAndNoneIsBlank) {
+    // Drawn ones and, from 42 on, scaled ones.
+    for (const int size : {24, 36, 42, 60}) {
+        std::set<std::vector<COLORREF>> looks{
+            std::vector<COLORREF>(static_cast<std::size_t>(size * size), RGB(255, 255, 255))};
+        for (const int id : {IDI_frmStart, IDI_TrayArea, IDI_picGo, IDI_Image1})
+            looks.insert(Painted(Picture(Instance(), id, size).Handle(), size));
+        const PictureList list(Instance(), kStrips, size, PictureLook::Enabled);
+        for (int i = 0; i < kPicturesOfToolbar; ++i) looks.insert(PaintedFrom(list, i, size));
+        EXPECT_EQ(looks.size(), 5U + kPicturesOfToolbar) << size;
+    }
+}
+
+TEST(PictureTest, AListHasTheSizeThatWasAskedForAlsoOneThatWasNotDrawn) {
+    for (const int size : {16, 24, 27, 30, 33, 36, 42, 48, 54, 72}) {
+        const PictureList list(Instance(), kStrips, size, PictureLook::Enabled);
+        EXPECT_EQ(ImageList_GetImageCount(list.Handle()), kPicturesOfToolbar);
+        int width = 0;
+        int height = 0;
+        EXPECT_TRUE(ImageList_GetIconSize(list.Handle(), &width, &height));
+        EXPECT_EQ(width, size);
+        EXPECT_EQ(height, size);
+    }
+}
+
+// How much of a picture's square it covers, on the whole.
+double Darkness(const std::vector<COLORREF>& pixels) {
+    double darkness = 0;
+    for (const COLORREF pixel : pixels)
+        darkness += 765 - GetRValue(pixel) - GetGValue(pixel) - GetBValue(pixel);
+    return darkness / (765.0 * static_cast<double>(pixels.size()));
+}
+
+TEST(PictureTest, AScaledPictureLooksLikeTheDrawnOne) {
+    const PictureList drawn(Instance(), kStrips, 48, PictureLook::Enabled);
+    for (const int size : {42, 72}) {
+        const PictureList scaled(Instance(), kStrips, size, PictureLook::Enabled);
+        for (int i = 0; i < kPicturesOfToolbar; ++i)
+            EXPECT_NEAR(Darkness(PaintedFrom(scaled, i, size)), Darkness(PaintedFrom(drawn, i, 48)), 0.02)
+                << i << " at " << size;
+    }
+}
+
 TEST(PictureTest, DisabledLooksAreGreyAndFaintAndLookLikeTheirPictures) {
     constexpr int kSize = 24;
-    const std::vector<int> ids = Ids(IDI_ImageList1_1, IDI_ImageList1_10);
-    const PictureList enabled(Instance(), ids, kSize, PictureLook::Enabled);
-    const PictureList disabled(Instance(), ids, kSize, PictureLook::Disabled);
+    const PictureList enabled(Instance(), kStrips, kSize, PictureLook::Enabled);
+    const PictureList disabled(Instance(), kStrips, kSize, PictureLook::Disabled);
     ASSERT_EQ(ImageList_GetImageCount(disabled.Handle()), 10);
     for (int i = 0; i < 10; ++i) {
         const std::vector<COLORREF> bright = PaintedFrom(enabled, i, kSize);
@@ -120,8 +160,8 @@ TEST(PictureTest, DisabledLooksAreGreyAndFaintAndLookLikeTheirPictures) {
 TEST(PictureTest, WhatIsNotInTheResourcesIsAnError) {
     constexpr int kNoIcon = 9999;
     EXPECT_THROW(Picture(Instance(), kNoIcon, 16), std::bad_alloc);
-    constexpr std::array<int, 2> kIds{IDI_frmStart, kNoIcon};
-    EXPECT_THROW(PictureList(Instance(), kIds, 16, PictureLook::Enabled), std::bad_alloc);
+    constexpr std::array<PictureStrip, 2> kMissing{{{kNoIcon, 16}, {IDB_ImageList1_24, 24}}};
+    EXPECT_THROW(PictureList(Instance(), kMissing, 16, PictureLook::Enabled), std::bad_alloc);
 }
 
 TEST(PictureTest, MovesTheIconAlong) {
@@ -132,18 +172,6 @@ TEST(PictureTest, MovesTheIconAlong) {
     Picture third;
     third = std::move(second);
     EXPECT_EQ(third.Handle(), icon);
-}
-
-TEST(PictureTest, AListHoldsThePicturesInTheirOrder) {
-    constexpr std::array<int, 2> kIds{IDI_ImageList1_1, IDI_ImageList1_2};
-    const PictureList list(Instance(), kIds, 24, PictureLook::Enabled);
-    ASSERT_EQ(ImageList_GetImageCount(list.Handle()), 2);
-    for (int i = 0; i < 2; ++i) {
-        const HICON icon = ImageList_GetIcon(list.Handle(), i, ILD_NORMAL);
-        EXPECT_EQ(Painted(icon, 24),
-                  Painted(Picture(Instance(), kIds.at(static_cast<std::size_t>(i)), 24).Handle(), 24));
-        EXPECT_TRUE(DestroyIcon(icon));
-    }
 }
 
 }  // namespace
