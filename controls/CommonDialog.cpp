@@ -1,17 +1,34 @@
 #include "controls/CommonDialog.h"
 
+#include <cderr.h>
 #include <commdlg.h>
 
 #include <algorithm>
 #include <vector>
 
 #include "book/Faults.h"
+#include "controls/SystemLibrary.h"
 
 namespace lindrel {
 
 namespace {
+
 constexpr std::size_t kLongestPath = 32768;
+
+// Opens one of the file dialogs; 0, or why no file was chosen. Their library brings the printing system
+// along, so it is loaded when the first dialog opens.
+DWORD Choose(bool save, OPENFILENAMEW& dialog) {
+    constexpr wchar_t kLibrary[] = L"comdlg32.dll";
+    const auto open =
+        SystemFunction<decltype(&GetOpenFileNameW)>(kLibrary, save ? "GetSaveFileNameW" : "GetOpenFileNameW");
+    const auto error = SystemFunction<decltype(&CommDlgExtendedError)>(kLibrary, "CommDlgExtendedError");
+    if (open == nullptr || error == nullptr) return CDERR_INITIALIZATION;
+    if (open(&dialog)) return 0;
+    const DWORD reason = error();
+    return reason != 0 ? reason : kDialogCancelled;
 }
+
+}  // namespace
 
 void CommonDialog::ShowOpen(HWND owner) {
     Show(owner, false, 0);
@@ -39,11 +56,9 @@ void CommonDialog::Show(HWND owner, bool save, DWORD flags) {
     dialog.lpstrDefExt = save && !DefaultExt.empty() ? DefaultExt.c_str() : nullptr;
     dialog.Flags = OFN_EXPLORER | OFN_HIDEREADONLY | OFN_NOCHANGEDIR | OFN_ENABLESIZING | flags;
 
-    if (!(save ? GetSaveFileNameW(&dialog) : GetOpenFileNameW(&dialog))) {
-        const DWORD error = CommDlgExtendedError();
-        if (error == 0) throw Fault(kDialogCancelled, L"A párbeszédablak bezárult");
-        throw Fault(static_cast<int>(error), L"A fájlválasztó ablak nem nyitható meg");
-    }
+    const DWORD reason = Choose(save, dialog);
+    if (reason == kDialogCancelled) throw Fault(kDialogCancelled, L"A párbeszédablak bezárult");
+    if (reason != 0) throw Fault(static_cast<int>(reason), L"A fájlválasztó ablak nem nyitható meg");
     FileName = path.data();
 }
 

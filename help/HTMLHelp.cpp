@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "controls/Shell.h"
-#include "controls/Windows.h"
+#include "controls/SystemLibrary.h"
 
 namespace lindrel {
 
@@ -17,12 +17,9 @@ bool shown = false;  // since the viewer was last told to close all
 // `file` is a path and, after ">", a window type; `command` is one of the viewer's HH_ commands.
 using HelpViewer = HWND(WINAPI*)(HWND owner, const wchar_t* file, UINT command, DWORD_PTR data);
 
-// The viewer is looked up when help is wanted, so that the program also starts where it is not
-// installed. It is never unloaded: its windows may still be open.
+// The program also starts where the viewer is not installed.
 HelpViewer InstalledViewer() {
-    const HMODULE library = LoadLibraryExW(L"hhctrl.ocx", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
-    if (library == nullptr) return nullptr;
-    return reinterpret_cast<HelpViewer>(reinterpret_cast<void*>(GetProcAddress(library, "HtmlHelpW")));
+    return SystemFunction<HelpViewer>(L"hhctrl.ocx", "HtmlHelpW");
 }
 
 }  // namespace

@@ -4,7 +4,7 @@
 #   tests/check-program.sh lindrel.exe
 set -u
 program=$1
-allowed=' advapi32 comctl32 comdlg32 gdi32 hhctrl kernel32 msvcrt ole32 oleaut32 shell32 shlwapi user32 uxtheme '
+allowed=' advapi32 comctl32 gdi32 hhctrl kernel32 msvcrt ole32 oleaut32 shell32 shlwapi user32 uxtheme '
 failed=0
 
 headers=$(x86_64-w64-mingw32-objdump -p "$program")
