@@ -39,7 +39,7 @@ void BookView::Create(HWND window) {
     window_ = window;
     TabStrip1 = TabStrip(CreateControl(window, WC_TABCONTROLW, L"Kategóriák", WS_TABSTOP | WS_CLIPSIBLINGS,
                                        ID_frmStart_TabStrip1));
-    for (int k = 1; k <= kCategories; ++k) TabStrip1.Add(L"");
+    for (int k = 1; k <= kCategories; ++k) TabStrip1.Add(FromBookText(open_.TheBook.CategoryNames(k)));
 
     ListURLs.Attach(CreateControl(window, WC_LISTVIEWW, L"Címek", WS_TABSTOP | CheckListView::kStyles,
                                   ID_frmStart_ListURLs, WS_EX_CLIENTEDGE));

@@ -12,6 +12,8 @@ namespace lindrel {
 
 class EntryFields {
   public:
+    explicit EntryFields(ToolTips& tool_tips) : tool_tips_(tool_tips) {}
+
     // Makes the controls on a window, in their tab order. Throws std::bad_alloc when the system cannot.
     void Create(HWND window);
     // Shows the button's picture at a resolution. Throws std::bad_alloc when it cannot be loaded.
@@ -35,10 +37,10 @@ class EntryFields {
     void txtURL_KeyPress(wchar_t KeyAscii) const;
     std::optional<LRESULT> OnUrlMessage(UINT message, WPARAM wparam, LPARAM lparam) const;
 
+    ToolTips& tool_tips_;
     HWND window_ = nullptr;
     TextBox txtSite, txtURL;
     PictureButton picGo;
-    ToolTips tool_tips_;
     Subclass url_messages_;
 };
 

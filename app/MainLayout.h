@@ -46,6 +46,7 @@ struct MainFrame {
     int ClientHeight = 0;  // what frame, title and menu leave
     int StatusBarHeight = 0;
     int LineHeight = 0;  // of a line of text
+    bool operator==(const MainFrame&) const = default;
 };
 
 // kLeastHeight, or more where large letters need it.

@@ -16,7 +16,7 @@ namespace lindrel {
 
 class SearchBox {
   public:
-    explicit SearchBox(const OpenBook& open) : open_(open) {}
+    SearchBox(const OpenBook& open, ToolTips& tool_tips) : open_(open), tool_tips_(tool_tips) {}
 
     // Makes the controls on a window, in their tab order. Throws std::bad_alloc when the system cannot.
     void Create(HWND window);
@@ -40,11 +40,11 @@ class SearchBox {
     std::optional<LRESULT> OnTextMessage(UINT message, WPARAM wparam, LPARAM lparam);
 
     const OpenBook& open_;
+    ToolTips& tool_tips_;
     HWND window_ = nullptr;
     ComboBox cmbFinders;
     TextBox txtFind;
     PictureButton Image1;
-    ToolTips tool_tips_;
     Subclass text_messages_;
     std::int16_t FindPosition = 0;  // 0-based place in the category where the next search starts
 };

@@ -140,13 +140,15 @@ void frmStart::OnBookDropped() {
 }
 
 void frmStart::Form_Load() {
+    const UINT dpi = DpiOf(Handle());
+    SetWindowPos(Handle(), nullptr, 0, 0, PixelsOf(kDesignedWidth, dpi), PixelsOf(kDesignedHeight, dpi),
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     CreateControls();
     ApplyResolution();
-    SetWindowPos(Handle(), nullptr, 0, 0, PixelsOf(kDesignedWidth, dpi_), PixelsOf(kDesignedHeight, dpi_),
-                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     file_menu_.ResetBook();
     open_.CurrentCategory = 1;
     loaded_ = true;
+    Form_Resize();
 }
 
 void frmStart::EnableCommand(int id, bool enabled) {

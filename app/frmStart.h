@@ -10,6 +10,8 @@
 // The file menu has a class of its own.
 #pragma once
 
+#include <optional>
+
 #include "app/BookDrop.h"
 #include "app/BookView.h"
 #include "app/EntryFields.h"
@@ -24,6 +26,7 @@
 #include "controls/Picture.h"
 #include "controls/ReturnedFocus.h"
 #include "controls/SessionHold.h"
+#include "controls/ToolTips.h"
 #include "tray/TrayArea.h"
 
 namespace lindrel {
@@ -90,6 +93,8 @@ class frmStart : public OwnWindow {
     bool loaded_ = false;  // Form_Load did all its work
     UINT dpi_ = USER_DEFAULT_SCREEN_DPI;
     WindowMetrics metrics_;
+    std::optional<MainFrame>
+        laid_out_;  // as the controls stand; empty when their font or pictures have changed
     Font font_;
     Picture large_icon_, small_icon_, tray_icon_;
     HWND remembered_focus_ = nullptr;
@@ -99,9 +104,10 @@ class frmStart : public OwnWindow {
     OpenBook open_;
     CommonDialog CommonDialog1;
     Toolbar toolbar_;
-    EntryFields fields_;
+    ToolTips tool_tips_;
+    EntryFields fields_{tool_tips_};
     BookView view_{open_, fields_};
-    SearchBox search_box_{open_};
+    SearchBox search_box_{open_, tool_tips_};
     FileMenu file_menu_{open_, view_, CommonDialog1};
     BookDrop book_drop_;
     lindrel::TrayArea TrayArea;

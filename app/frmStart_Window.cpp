@@ -37,6 +37,7 @@ void frmStart::ApplyResolution() {
     fields_.ApplyResolution(dpi_);
     search_box_.ApplyResolution(dpi_);
     metrics_ = WindowMetrics(dpi_);
+    laid_out_.reset();
 }
 
 // Comes often, and seldom with anything that is to be seen here.
@@ -62,7 +63,7 @@ void frmStart::ShowIcons() {
 
 void frmStart::Form_Resize() {
     RECT outer{};
-    if (IsIconic(Handle()) || !GetWindowRect(Handle(), &outer)) return;
+    if (!loaded_ || IsIconic(Handle()) || !GetWindowRect(Handle(), &outer)) return;
     const int width = outer.right - outer.left;
     const int height = outer.bottom - outer.top;
     // Another size raises another WM_SIZE, which has laid out the window when this call returns. A window
@@ -74,6 +75,8 @@ void frmStart::Form_Resize() {
                GetWindowRect(Handle(), &now) && !EqualRect(&now, &outer);
     };
     const MainFrame frame = Frame();
+    // Shown for the first time or again, a window is told the size that it has.
+    if (laid_out_ == frame) return;
     const ResizeStep step = JudgeSize(frame);
     if (step.Minimised) return;
     if (step.TooLow && resize(width, PixelsAtLeast(LeastHeight(frame), dpi_))) return;
@@ -82,6 +85,7 @@ void frmStart::Form_Resize() {
     view_.DockStatusBar();
     PlaceControls(Handle(), LayOut(frame), dpi_);
     fields_.ShowWholeTexts();
+    laid_out_ = frame;
 }
 
 // Zeros for what is not there yet.

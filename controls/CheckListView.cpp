@@ -27,7 +27,7 @@ void CheckListView::Attach(HWND list) {
     subclass_.Attach(list, [this](UINT message, WPARAM wparam, LPARAM lparam) {
         return OnMessage(message, wparam, lparam);
     });
-    ListView_SetExtendedListViewStyle(list, kExtendedStyles | LVS_EX_CHECKBOXES);
+    ListView_SetExtendedListViewStyle(list, kExtendedStyles);
     // The check marks are ours: the control asks for each row's.
     ListView_SetCallbackMask(list, LVIS_STATEIMAGEMASK);
     columns_.Attach(list);

@@ -130,8 +130,13 @@ void TabStrip::Add(std::wstring_view caption) const {
 
 void TabStrip::SetCaption(int position, std::wstring_view caption) const {
     std::wstring text = WithoutAccessKeys(caption);
+    std::wstring shown(text.size() + 2, L'\0');
     TCITEMW item{};
     item.mask = TCIF_TEXT;
+    item.pszText = shown.data();
+    item.cchTextMax = static_cast<int>(shown.size());
+    // At a new caption the control measures all of them.
+    if (TabCtrl_GetItem(Handle(), position - 1, &item) && text == shown.c_str()) return;
     item.pszText = text.data();
     TabCtrl_SetItem(Handle(), position - 1, &item);
 }
