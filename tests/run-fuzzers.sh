@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# Runs fuzz targets side by side, each for a number of seconds from its seed corpus. What they find new is dropped; an
-# input that fails is kept in the folder fuzz of their build.
-# Usage: run-fuzzers.sh SECONDS PROGRAM...
+# Runs fuzz targets side by side, each from its seed corpus up to a limit: -max_total_time=SECONDS or -runs=NUMBER. What
+# they find new is dropped; an input that fails is kept in the folder fuzz of their build.
+# Usage: run-fuzzers.sh LIMIT PROGRAM...
 set -eu
-seconds=$1
+limit=$1
 shift
 sources=$(cd "$(dirname "$0")/../fuzz" && pwd)
 
@@ -23,7 +23,7 @@ run_one() { # program
   corpus=$(mktemp -d)
   mapfile -t words < <(dictionary_of "$name")
   local result=0
-  "$1" -max_total_time="$seconds" -timeout=10 -max_len=8192 -print_final_stats=1 -verbosity=1 \
+  "$1" "$limit" -timeout=10 -max_len=8192 -print_final_stats=1 -verbosity=1 \
     -artifact_prefix="$(dirname "$1")/$name-" "${words[@]}" "$corpus" "$sources/corpus/$name" 2>&1 |
     grep -vE '^(#[0-9]+[[:space:]]+(NEW|REDUCE|pulse|RELOAD)|"|######)' | sed "s/^/$name: /" || result=$?
   rm -rf "$corpus"
