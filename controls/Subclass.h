@@ -20,9 +20,11 @@ class Subclass {
     Subclass(const Subclass&) = delete;
     Subclass& operator=(const Subclass&) = delete;
 
-    // From now on, until this object or the window is gone. Once, and in the window's thread. Throws
-    // std::bad_alloc when the system cannot.
+    // From now on, until Detach() or until this object or the window is gone. To one window at a time, and in
+    // the window's thread. Throws std::bad_alloc when the system cannot.
     void Attach(HWND window, Handler handler);
+    // The handler may ask for it itself.
+    void Detach();
 
     // Passes a message on to the window at once and returns its answer, for a handler that acts after the
     // window or changes the answer.
@@ -31,7 +33,6 @@ class Subclass {
   private:
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR id,
                                       DWORD_PTR data);
-    void Detach();
 
     HWND window_ = nullptr;
     Handler handler_;

@@ -25,16 +25,18 @@ std::wstring InLines(const std::wstring& text) {
 
 void ToolTips::Set(HWND window, HWND control, const std::wstring& text) {
     if (tips_ == nullptr) {
+        if (text.empty()) return;
         tips_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr,
                                 WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, CW_USEDEFAULT, CW_USEDEFAULT,
                                 CW_USEDEFAULT, CW_USEDEFAULT, window, nullptr, nullptr, nullptr);
         // Any width, which also makes the tips heed line breaks.
         SendMessageW(tips_, TTM_SETMAXTIPWIDTH, 0, SHRT_MAX);
     }
-    std::wstring shown = InLines(text);
     TTTOOLINFOW tool = ToolOf(window, control);
-    tool.lpszText = shown.data();
     SendMessageW(tips_, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+    if (text.empty()) return;
+    std::wstring shown = InLines(text);
+    tool.lpszText = shown.data();
     SendMessageW(tips_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
 }
 

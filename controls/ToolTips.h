@@ -9,8 +9,8 @@ namespace lindrel {
 
 class ToolTips {
   public:
-    // Sets or replaces the tip of a control in a window. The tips go with the window. When the system cannot
-    // make tips there are none, and nothing else is wrong.
+    // Sets or replaces the tip of a control in a window; an empty one takes it away. The tips go with the
+    // window. When the system cannot make tips there are none, and nothing else is wrong.
     void Set(HWND window, HWND control, const std::wstring& text);
 
   private:

@@ -55,11 +55,6 @@ void TrayArea::Place(HWND owner, Environment environment) {
     environment_ = environment;
     const DWORD visible = environment == Environment::Design ? WS_VISIBLE : 0u;
     Create(description, WS_CHILD | visible, 0, owner);
-    // The shell's broadcasts reach no child windows: the control hears them at its owner.
-    owner_.Attach(owner, [this](UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
-        if (message == TaskbarCreated() && added_) AddIconAgain();
-        return std::nullopt;
-    });
     record_.cbSize = kRecordSize;
     record_.hWnd = Handle();
     LetThrough(owner, TaskbarCreated());
@@ -158,6 +153,7 @@ void TrayArea::SetVisible(bool New_Visible) {
     } else if (Handle() != nullptr && environment_ == Environment::Running) {
         record_.uID = TrayIdentifier(std::uniform_real_distribution<double>(0.0, 1.0)(random_));
         AddIcon();
+        ListenForNewTaskbar();
     }
     Announce(L"Visible");
 }
@@ -174,7 +170,14 @@ void TrayArea::AddIcon() {
         PutToolTip();
     }
     taken_ = Tell(NIM_ADD);
-    added_ = true;
+}
+
+// The shell's broadcasts reach no child windows: the control hears them at its owner while it has an icon.
+void TrayArea::ListenForNewTaskbar() {
+    owner_.Attach(GetParent(Handle()), [this](UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
+        if (message == TaskbarCreated()) AddIconAgain();
+        return std::nullopt;
+    });
 }
 
 // Under its old identifier, so that a taskbar that still has the icon refuses it but lets it be changed.
@@ -187,7 +190,8 @@ void TrayArea::AddIconAgain() {
 void TrayArea::RemoveIcon() {
     // Refused when the shell has no such icon; then it is gone already.
     static_cast<void>(Tell(NIM_DELETE));
-    added_ = taken_ = false;
+    owner_.Detach();
+    taken_ = false;
 }
 
 // False when the shell is not there or knows no such icon; the user then sees none.

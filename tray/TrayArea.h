@@ -79,6 +79,7 @@ class TrayArea : public OwnWindow {
 
     void AddIcon();
     void AddIconAgain();
+    void ListenForNewTaskbar();
     void RemoveIcon();
     bool Tell(DWORD operation);
     void PutToolTip();
@@ -88,8 +89,7 @@ class TrayArea : public OwnWindow {
     NOTIFYICONDATAA record_{};
     std::mt19937 random_{std::random_device{}()};
     Environment environment_ = Environment::Running;
-    bool added_ = false;     // the shell was told to show the icon
-    bool taken_ = false;     // and did
+    bool taken_ = false;     // the shell shows the icon
     bool resizing_ = false;  // by the control itself
     Subclass owner_;
 };
