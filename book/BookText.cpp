@@ -139,31 +139,16 @@ std::wstring_view Trim(std::wstring_view text) {
     return text.substr(first, text.find_last_not_of(L' ') - first + 1);
 }
 
-CaselessNeedle::CaselessNeedle(std::string_view needle) : needle_(LowerCase(needle)) {
-    if (needle_.empty()) return;
-    lower_ = kOnes * Number(needle_.front());
-    upper_ = kOnes * Number(UpperCase(needle_.front()));
+CaselessNeedle::EitherCase::EitherCase(char lower) {
+    const std::uint64_t cases_differ = Number(lower) ^ Number(UpperCase(lower));
+    ignored_ = kOnes * cases_differ;
+    expected_ = kOnes * (Number(lower) | cases_differ);
 }
 
-// The next place of the needle's first letter in either case, or the size of the text. Looks at eight bytes
-// at a time; the last eight may overlap those before them.
-std::size_t CaselessNeedle::NextStart(std::string_view text, std::size_t from) const noexcept {
-    const auto marks = [this](std::uint64_t word) {
-        return ZeroBytes(word ^ lower_) | ZeroBytes(word ^ upper_);
-    };
-    if (text.size() < kWordBytes) {
-        const auto is_first = [this](char byte) { return LowerCase(byte) == needle_.front(); };
-        const auto rest = text.substr(std::min(from, text.size()));
-        return static_cast<std::size_t>(std::find_if(rest.begin(), rest.end(), is_first) - text.begin());
-    }
-    std::size_t place = from;
-    for (; place + kWordBytes <= text.size(); place += kWordBytes)
-        if (const std::uint64_t found = marks(WordAt(text, place)); found != 0)
-            return place + LowestMarked(found);
-    if (place >= text.size()) return text.size();
-    const std::size_t seen = place + kWordBytes - text.size();
-    const std::uint64_t found = marks(WordAt(text, text.size() - kWordBytes)) >> (8 * seen);
-    return found == 0 ? text.size() : place + LowestMarked(found);
+CaselessNeedle::CaselessNeedle(std::string_view needle) : needle_(LowerCase(needle)) {
+    if (needle_.empty()) return;
+    first_ = EitherCase(needle_.front());
+    last_ = EitherCase(needle_.back());
 }
 
 bool CaselessNeedle::MatchesAt(std::string_view text, std::size_t start) const noexcept {
@@ -172,14 +157,34 @@ bool CaselessNeedle::MatchesAt(std::string_view text, std::size_t start) const n
     return true;
 }
 
-std::size_t CaselessNeedle::FindIn(std::string_view text, std::size_t from) const noexcept {
-    if (from > text.size()) return std::string_view::npos;
-    if (needle_.empty()) return from;
-    if (needle_.size() > text.size()) return std::string_view::npos;
-    const std::size_t last_start = text.size() - needle_.size();
-    for (std::size_t start = NextStart(text, from); start <= last_start; start = NextStart(text, start + 1))
-        if (MatchesAt(text, start)) return start;
+// The first match that begins at a marked byte of the word at `start`.
+std::size_t CaselessNeedle::FindMarked(std::string_view text, std::size_t start,
+                                       std::uint64_t marks) const noexcept {
+    for (; marks != 0; marks &= marks - 1)
+        if (MatchesAt(text, start + LowestMarked(marks))) return start + LowestMarked(marks);
     return std::string_view::npos;
+}
+
+// Tries eight starts at a time: a match needs both its ends. The last eight may overlap those before them.
+std::size_t CaselessNeedle::FindIn(std::string_view text, std::size_t from) const noexcept {
+    if (from > text.size() || needle_.size() > text.size() - from) return std::string_view::npos;
+    if (needle_.empty()) return from;
+    const std::size_t to_end = needle_.size() - 1;
+    const std::size_t starts_end = text.size() - to_end;
+    if (starts_end - from < kWordBytes) {
+        for (std::size_t start = from; start < starts_end; ++start)
+            if (MatchesAt(text, start)) return start;
+        return std::string_view::npos;
+    }
+    const std::size_t last_word = starts_end - kWordBytes;
+    for (std::size_t word = from;; word = std::min(word + kWordBytes, last_word)) {
+        const std::uint64_t marks =
+            ZeroBytes(first_.Difference(WordAt(text, word)) | last_.Difference(WordAt(text, word + to_end)));
+        if (marks != 0)
+            if (const auto found = FindMarked(text, word, marks); found != std::string_view::npos)
+                return found;
+        if (word == last_word) return std::string_view::npos;
+    }
 }
 
 bool ContainsCaseless(std::wstring_view text, std::wstring_view needle) {

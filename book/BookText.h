@@ -44,13 +44,26 @@ class CaselessNeedle {
     bool IsIn(std::string_view text) const noexcept { return FindIn(text) != std::string_view::npos; }
 
   private:
-    std::size_t NextStart(std::string_view text, std::size_t from) const noexcept;
+    // A byte in lower and upper case, known by the bits in which the two agree: other bytes may pass too.
+    class EitherCase {
+      public:
+        EitherCase() = default;
+        explicit EitherCase(char lower);
+        // Zero in those of the eight bytes that pass.
+        std::uint64_t Difference(std::uint64_t word) const noexcept { return (word | ignored_) ^ expected_; }
+
+      private:
+        // Repeated in every byte.
+        std::uint64_t ignored_ = 0;
+        std::uint64_t expected_ = 0;
+    };
+
     bool MatchesAt(std::string_view text, std::size_t start) const noexcept;
+    std::size_t FindMarked(std::string_view text, std::size_t start, std::uint64_t marks) const noexcept;
 
     std::string needle_;  // in lower case
-    // Its first letter in both cases, repeated in every byte.
-    std::uint64_t lower_ = 0;
-    std::uint64_t upper_ = 0;
+    EitherCase first_;
+    EitherCase last_;
 };
 
 // The same for wide text, which need not fit into a book (such as text from the clipboard).

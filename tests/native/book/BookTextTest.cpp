@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace lindrel {
 namespace {
@@ -83,26 +84,56 @@ std::size_t PlainFind(const std::string& text, const std::string& needle, std::s
     return from > text.size() ? std::string::npos : LowerCase(text).find(LowerCase(needle), from);
 }
 
-TEST(BookTextTest, ContainmentIsFoundAtEveryPlaceOfTextsOfEveryLength) {
-    // Few different letters make many near misses. "`", "@" and "B" are next to "a" and "A".
-    constexpr char kLetters[] = "aA`b@B\xFB\xDB\xFA\xFC";
-    unsigned dice = 1;
-    const auto letters = [&](std::size_t length) {
+// Few different letters make many near misses. "`", "@" and "B" are next to "a" and "A"; \xA1 and \xBD have
+// all the bits in which \xA5 and its lower case agree.
+class Letters {
+  public:
+    std::size_t Roll(std::size_t sides) {
+        dice_ = dice_ * 1664525u + 1013904223u;
+        return (dice_ >> 16) % sides;
+    }
+    std::string Text(std::size_t length) {
+        constexpr std::string_view kLetters = "aA`b@B\xFB\xDB\xFA\xFC\xA5\xB9\xA1\xBD";
         std::string text;
-        while (text.size() < length) {
-            dice = dice * 1664525u + 1013904223u;
-            text += kLetters[(dice >> 16) % (sizeof kLetters - 1)];
-        }
+        while (text.size() < length) text += kLetters[Roll(kLetters.size())];
         return text;
-    };
+    }
+    // In either case, letter by letter.
+    std::string Mixed(std::string text) {
+        for (char& letter : text) letter = Roll(2) == 0 ? LowerCase(letter) : UpperCase(letter);
+        return text;
+    }
+
+  private:
+    unsigned dice_ = 1;
+};
+
+// Tries every start, with a text that ends where its memory does, so that a sanitizer sees a byte too many.
+void CompareWithPlainFind(const std::string& needle, const std::string& text) {
+    const CaselessNeedle prepared(needle);
+    const std::vector<char> exact(text.begin(), text.end());
+    for (std::size_t from = 0; from <= text.size() + 1; ++from)
+        ASSERT_EQ(prepared.FindIn({exact.data(), exact.size()}, from), PlainFind(text, needle, from))
+            << '"' << needle << "\" in \"" << text << "\" from " << from;
+}
+
+TEST(BookTextTest, ContainmentIsThatOfAPlainSearchInTextsOfEveryLength) {
+    Letters letters;
     for (std::size_t length = 0; length <= 40; ++length)
         for (std::size_t needle_length = 0; needle_length <= 10; ++needle_length)
-            for (int round = 0; round < 20; ++round) {
-                const std::string text = letters(length);
-                const std::string needle = letters(needle_length);
-                for (std::size_t from = 0; from <= length + 1; ++from)
-                    ASSERT_EQ(CaselessNeedle(needle).FindIn(text, from), PlainFind(text, needle, from))
-                        << '"' << needle << "\" in \"" << text << "\" from " << from;
+            for (int round = 0; round < 20; ++round)
+                CompareWithPlainFind(letters.Text(needle_length), letters.Text(length));
+}
+
+TEST(BookTextTest, APartOfATextIsFoundWhereverItIsAndHoweverLong) {
+    Letters letters;
+    for (std::size_t length = 1; length <= 40; ++length)
+        for (std::size_t start = 0; start < length; ++start)
+            for (std::size_t part = 1; part <= length - start; ++part) {
+                const std::string text = letters.Text(length);
+                const std::string needle = letters.Mixed(text.substr(start, part));
+                ASSERT_TRUE(CaselessNeedle(needle).IsIn(text)) << '"' << needle << "\" in \"" << text << '"';
+                CompareWithPlainFind(needle, text);
             }
 }
 
