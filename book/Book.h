@@ -54,6 +54,8 @@ class Book {
     std::string_view SiteNames(int index) const { return entries_.At(index).SiteName; }
     std::string_view SiteURLs(int index) const { return entries_.At(index).URL; }
     const AddressEntry& Entry(int index) const { return entries_.At(index); }
+    // `count` entries from an index on, for going through many of them. RangeFault if they are not all there.
+    EntryParts Entries(int index, int count) const { return entries_.Parts(index, count); }
     std::shared_ptr<const TextStore> Texts() const { return entries_.SharedTexts(); }
     // Number of elements that are stored. Not a test for an empty book: that may still have a blank element,
     // or those of the book before.

@@ -94,10 +94,21 @@ void EntrySequence::Recreate(int count) {
     gap_length_ = 0;
 }
 
+EntryParts EntrySequence::Parts(int index, int count) const {
+    if (count == 0) return {};
+    if (index < 1 || count < 0 || index - 1 > Size() - count) throw RangeFault();
+    const auto first = static_cast<std::size_t>(index - 1);
+    const auto wanted = static_cast<std::size_t>(count);
+    const std::size_t before_gap = first < gap_ ? std::min(wanted, gap_ - first) : 0;
+    const std::span<const AddressEntry> slots = slots_;
+    return {slots.subspan(first, before_gap),
+            slots.subspan(first + before_gap + gap_length_, wanted - before_gap)};
+}
+
 std::vector<AddressEntry> EntrySequence::Copy(int index, int count) const {
     std::vector<AddressEntry> copy;
     copy.reserve(static_cast<std::size_t>(count));
-    for (int i = index; i < index + count; ++i) copy.push_back(At(i));
+    for (const auto part : Parts(index, count)) copy.insert(copy.end(), part.begin(), part.end());
     return copy;
 }
 

@@ -3,6 +3,7 @@
 // that only grows; entries are views into it and cheap to copy.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <memory>
 #include <span>
@@ -31,6 +32,10 @@ struct AddressEntry {
     bool operator==(const AddressEntry&) const = default;
 };
 
+// A run of elements where it lies: those before the gap and those behind it. Valid until the sequence
+// changes.
+using EntryParts = std::array<std::span<const AddressEntry>, 2>;
+
 class EntrySequence {
   public:
     // Number of elements.
@@ -47,7 +52,9 @@ class EntrySequence {
     // Drops everything and starts again with `count` blank elements and an empty store.
     void Recreate(int count);
 
-    // Copies of `count` elements from the 1-based index on.
+    // `count` elements from the 1-based index on; RangeFault if they are not all there.
+    EntryParts Parts(int index, int count) const;
+    // Copies of them.
     std::vector<AddressEntry> Copy(int index, int count) const;
 
     TextStore& Texts() { return *texts_; }

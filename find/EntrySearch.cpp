@@ -25,11 +25,14 @@ Hits Collect(const Book& book, const Accepts& accepts) {
     const int last = std::min(book.EntryCount(), book.UpperBound());
     // Avoids copying the hits again and again. The memory costs nothing until it is used.
     hits.Items.reserve(static_cast<std::size_t>(last));
-    int category = 1;
-    for (int i = 1; i <= last; ++i) {
-        while (category < kCategories && book.CategoryStarts(category + 1) <= i) ++category;
-        const AddressEntry& entry = book.Entry(i);
-        if (accepts(entry)) hits.Items.push_back({i, category, entry});
+    for (int category = 1; category <= kCategories; ++category) {
+        int index = book.CategoryStarts(category);
+        const int count = std::clamp(last + 1 - index, 0, int{book.CategoryCounts(category)});
+        for (const auto part : book.Entries(index, count))
+            for (const AddressEntry& entry : part) {
+                if (accepts(entry)) hits.Items.push_back({index, category, entry});
+                ++index;
+            }
     }
     return hits;
 }
@@ -41,7 +44,8 @@ bool CarriesEnding(std::string_view url, const CaselessNeedle& ending) {
     constexpr std::size_t kAfterWebHost = kWebHost.size() + 1;
     constexpr std::size_t kAfterScheme = 4;
     static const CaselessNeedle web_host(kWebHost);
-    const bool on_web_host = web_host.IsIn(url.substr(0, kWebHost.size()));
+    // The usual spelling first, which is found at once.
+    const bool on_web_host = url.starts_with(kWebHost) || web_host.IsIn(url.substr(0, kWebHost.size()));
     return ending.FindIn(url, on_web_host ? kAfterWebHost : kAfterScheme) != std::string_view::npos;
 }
 

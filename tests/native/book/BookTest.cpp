@@ -188,6 +188,28 @@ TEST(BookTest, ABookThatCountsMoreThanItHasIsLeftAloneByFaults) {
     EXPECT_EQ(full.UpperBound(), 2);
 }
 
+TEST(BookTest, EntriesAreThoseFromAnIndexOnWhereverTheBookChangedLast) {
+    for (int changed = 1; changed <= 6; ++changed) {
+        Book book;
+        Add(book, 1, {"a", "b", "c", "d", "e", "f"});
+        book.DeleteEntry(1, changed, 1);
+        for (int index = 1; index <= 6; ++index)
+            for (int count = 0; count <= 6 - index; ++count) {
+                std::vector<AddressEntry> expected;
+                for (int i = index; i < index + count; ++i) expected.push_back(book.Entry(i));
+                std::vector<AddressEntry> entries;
+                for (const auto part : book.Entries(index, count))
+                    entries.insert(entries.end(), part.begin(), part.end());
+                EXPECT_EQ(entries, expected) << changed << ", " << count << " from " << index;
+            }
+        EXPECT_THROW(book.Entries(0, 1), RangeFault);
+        EXPECT_THROW(book.Entries(1, -1), RangeFault);
+        EXPECT_THROW(book.Entries(1, 6), RangeFault);
+        EXPECT_THROW(book.Entries(6, 1), RangeFault);
+        EXPECT_TRUE(book.Entries(7, 0)[0].empty());
+    }
+}
+
 TEST(BookTest, RowsStayReadableAfterTheBookIsGone) {
     CategoryRows rows;
     {

@@ -9,8 +9,10 @@
 #include <vector>
 
 #include "book/Book.h"
+#include "book/BookFile.h"
 #include "book/BookText.h"
 #include "book/EntrySequence.h"
+#include "book/PerCategory.h"
 
 namespace lindrel {
 namespace {
@@ -101,6 +103,34 @@ TEST(EntrySearchTest, EmptyBooksHaveNoHits) {
     Add(book, 3, {{L"Egy", L"http://egy.hu"}, {L"Kettő", L"http://ketto.hu"}});
     book.Reset();
     EXPECT_EQ(IndicesOf(FindEntries(book, L"", L"")), std::vector<int>{});
+}
+
+TEST(EntrySearchTest, AllIsFoundInPlaceAfterChangesAnywhere) {
+    for (int changed = 1; changed <= kCategories; ++changed) {
+        Book book;
+        for (int category = 1; category <= kCategories; ++category)
+            Add(book, category, {{L"Egy", L"http://egy.hu"}, {L"Kettő", L"http://ketto.hu"}});
+        Add(book, changed, {{L"Három", L"http://harom.hu"}});
+        book.DeleteEntry(changed, 2, 1);
+        const Hits hits = FindEntries(book, L"", L"hu");
+        ASSERT_EQ(hits.Items.size(), 24u);
+        for (int i = 1; i <= 24; ++i)
+            EXPECT_EQ(hits.Items[static_cast<std::size_t>(i - 1)],
+                      (Hit{i, book.CategoryOf(i), book.Entry(i)}));
+        EXPECT_EQ(IndicesOf(FindEntries(book, L"HÁROM", L"")), std::vector<int>{2 * changed});
+    }
+}
+
+TEST(EntrySearchTest, ABookThatCountsMoreThanItHasIsSearchedToItsEnd) {
+    Book book;
+    Add(book, 11, {{L"régi", L"http://regi.hu"}, {L"régi", L"http://regi.hu"}});
+    std::string file;
+    for (int header = 1; header <= 11; ++header) file += "#K\r\n";
+    file += "a\r\nhttp://a.hu\r\nb\r\nhttp://b.hu\r\n";
+    LoadBook(book, std::vector<char>(file.begin(), file.end()));
+    ASSERT_GT(book.EntryCount(), book.UpperBound());
+    const std::vector<Hit> expected = {{1, 11, book.Entry(1)}, {2, 11, book.Entry(2)}};
+    EXPECT_EQ(FindEntries(book, L"", L"").Items, expected);
 }
 
 TEST(EntrySearchTest, HitsStayReadableWhenTheirEntriesAreGone) {
