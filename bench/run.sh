@@ -1,11 +1,12 @@
 #!/usr/bin/env bash
-# Builds the benchmarks, runs them and prints a table: time, the floor that the label names, and how many times the
-# floor each takes. Arguments go to the benchmark program, such as --benchmark_filter=Load.
+# Builds the benchmarks, runs them in turns and prints a table: the least time, that of the floor which the label names,
+# and how many times the floor each takes. Arguments go to the benchmark program, such as --benchmark_filter=Load.
 set -eu
 cd "$(dirname "$0")/.."
 cmake --preset native >/dev/null
 cmake --build --preset native --target lindrel_bench >/dev/null
 results=$(mktemp)
 trap 'rm -f "$results"' EXIT
-build/native/bench/lindrel_bench --benchmark_out="$results" --benchmark_out_format=json "$@" >/dev/null 2>&1
+build/native/bench/lindrel_bench --benchmark_repetitions=9 --benchmark_enable_random_interleaving \
+  --benchmark_min_time=0.1 --benchmark_out="$results" --benchmark_out_format=json "$@" >/dev/null 2>&1
 python3 bench/ratios.py "$results"
