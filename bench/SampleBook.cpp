@@ -9,7 +9,6 @@
 #include <vector>
 
 #include "book/BookFile.h"
-#include "book/PerCategory.h"
 
 namespace lindrel::bench {
 
@@ -79,14 +78,19 @@ class TemporaryFolder {
 
 }  // namespace
 
-Book MakeLargestBook() {
+int EntriesOf(int category, int categories) {
+    if (category > categories) return 0;
+    return kMostEntries / categories + (category <= kMostEntries % categories ? 1 : 0);
+}
+
+Book MakeLargestBook(int categories) {
     Dice dice;
     Book book;
     int number = 0;
-    for (int category = 1; category <= kCategories; ++category) {
-        const int count = kMostEntries / kCategories + (category <= kMostEntries % kCategories ? 1 : 0);
+    for (int category = 1; category <= categories; ++category) {
         std::vector<NewEntry> entries;
-        for (int i = 0; i < count; ++i) entries.push_back(MakeEntry(dice, ++number));
+        for (int i = 0; i < EntriesOf(category, categories); ++i)
+            entries.push_back(MakeEntry(dice, ++number));
         book.AddEntry(category, entries);
     }
     return book;

@@ -138,8 +138,8 @@ def faults_name_tests_that_exist():
 def nobody_includes_the_app():
     for file in cpp_files():
         for include in includes(file):
-            if folder_of(include.name) == "app" and folder_of(file) not in ("app", "tests"):
-                yield file, include.line, f"only app/ and tests/ may include {include.name}"
+            if folder_of(include.name) == "app" and folder_of(file) not in ("app", "bench", "tests"):
+                yield file, include.line, f"only app/, bench/ and tests/ may include {include.name}"
 
 
 def the_book_stands_alone():
