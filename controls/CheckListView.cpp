@@ -59,10 +59,14 @@ void CheckListView::SetRows(int count, CellText text) {
     checked_.assign(static_cast<std::size_t>(count), false);
     text_ = std::move(text);
     selecting_ = true;
-    // Emptied first, so that neither selection nor scroll position survives.
+    // Not redrawn while it is empty, or its scroll bar would go and come back.
+    SetWindowRedraw(Handle(), FALSE);
+    // Emptied first, so that no selection survives.
     ListView_SetItemCountEx(Handle(), 0, 0);
     ListView_SetItemState(Handle(), -1, 0, LVIS_SELECTED | LVIS_FOCUSED);
     ListView_SetItemCountEx(Handle(), count, 0);
+    SetWindowRedraw(Handle(), TRUE);
+    if (count != 0) EnsureVisible(1);
     selecting_ = false;
 }
 

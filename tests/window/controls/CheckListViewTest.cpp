@@ -1,4 +1,5 @@
-// What a list with check boxes tells programs that read the screen aloud, and how long its marks take.
+// What a list with check boxes tells programs that read the screen aloud, how long its marks take, and how
+// little it moves when it gets new rows.
 
 #include <gtest/gtest.h>
 
@@ -84,6 +85,63 @@ TEST(CheckListViewTest, CheckingEveryRowTakesNoLongerThanFillingTheList) {
     EXPECT_LT(TimeOf(program, [](BookView& view) { view.SetAllChecks(true); }), filling);
     program.OnUi([](frmStart& form) { form.View().SaveCheckMarks(1); });
     EXPECT_LT(TimeOf(program, [](BookView& view) { view.RestoreCheckMarks(1); }), filling);
+}
+
+using Wanted = bool (*)(UINT message, LPARAM lparam);
+
+// Counts the messages of a window that are wanted, while a piece of code runs in the program's thread.
+int Count(const Program& program, HWND window, Wanted wanted,
+          const std::function<void(BookView& view)>& code) {
+    struct Counter {
+        Wanted IsWanted;
+        int Messages;
+    } counter{wanted, 0};
+    const SUBCLASSPROC count = [](HWND counted, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR,
+                                  DWORD_PTR data) {
+        auto* const of_window = reinterpret_cast<Counter*>(data);
+        if (of_window->IsWanted(message, lparam)) ++of_window->Messages;
+        return DefSubclassProc(counted, message, wparam, lparam);
+    };
+    program.OnUi([&](frmStart& form) {
+        EXPECT_TRUE(SetWindowSubclass(window, count, 1, reinterpret_cast<DWORD_PTR>(&counter)));
+        code(form.View());
+        EXPECT_TRUE(RemoveWindowSubclass(window, count, 1));
+    });
+    return counter.Messages;
+}
+
+bool IsSize(UINT message, LPARAM) {
+    return message == WM_SIZE;
+}
+bool IsColumnWidth(UINT message, LPARAM lparam) {
+    return message == WM_NOTIFY && reinterpret_cast<const NMHDR*>(lparam)->code == HDN_ITEMCHANGEDW;
+}
+
+TEST(CheckListViewTest, NewRowsMoveTheColumnsOnlyWhenTheScrollBarComesOrGoes) {
+    const Program program;
+    const HWND list = program.List().Handle();
+    const std::vector<Row> many(100, {L"N", L"http://n.hu"});
+    program.Add(2, many);
+    program.Add(1, many);
+    const auto fill = [](int category) {
+        return [category](BookView& view) { view.FillAddressList(category); };
+    };
+    EXPECT_EQ(Count(program, list, &IsSize, fill(2)), 0);
+    EXPECT_EQ(Count(program, list, &IsColumnWidth, fill(1)), 0);
+    EXPECT_EQ(Count(program, list, &IsColumnWidth, fill(3)), 2);
+    EXPECT_EQ(Count(program, list, &IsColumnWidth, fill(1)), 2);
+}
+
+TEST(CheckListViewTest, NewRowsAreShownFromTheFirstOn) {
+    const Program program;
+    program.Add(1, std::vector<Row>(100, {L"N", L"http://n.hu"}));
+    const HWND list = program.List().Handle();
+    program.OnUi([](frmStart& form) { form.View().SelectRow(100); });
+    EXPECT_GT(ListView_GetTopIndex(list), 0);
+    program.OnUi([](frmStart& form) { form.View().FillAddressList(1); });
+    program.Settle();
+    EXPECT_EQ(ListView_GetTopIndex(list), 0);
+    EXPECT_EQ(program.List().Selected(), 0);
 }
 
 }  // namespace
