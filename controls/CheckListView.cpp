@@ -65,6 +65,7 @@ void CheckListView::SetRows(int count, CellText text) {
     ListView_SetItemCountEx(Handle(), 0, 0);
     ListView_SetItemState(Handle(), -1, 0, LVIS_SELECTED | LVIS_FOCUSED);
     ListView_SetItemCountEx(Handle(), count, 0);
+    if (count > ListView_GetCountPerPage(Handle())) columns_.MakeRoomForScrollBar();
     SetWindowRedraw(Handle(), TRUE);
     if (count != 0) EnsureVisible(1);
     selecting_ = false;

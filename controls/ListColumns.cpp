@@ -1,5 +1,6 @@
 #include "controls/ListColumns.h"
 
+#include <algorithm>
 #include <new>
 #include <numeric>
 #include <utility>
@@ -57,12 +58,20 @@ void ListColumns::Fit() {
     fitting_ = false;
 }
 
+void ListColumns::MakeRoomForScrollBar() {
+    const bool shown = (GetWindowLongW(list_, GWL_STYLE) & WS_VSCROLL) != 0;
+    if (shown || set_by_user_ || std::exchange(fitting_, true)) return;
+    ShareOut(std::max(Room() - GetSystemMetricsForDpi(SM_CXVSCROLL, dpi_), 0));
+    fitting_ = false;
+}
+
 void ListColumns::ShareOut(int width) const {
     int shares_left = std::accumulate(shares_.begin(), shares_.end(), 0);
     for (int column = 0; column < static_cast<int>(shares_.size()); ++column) {
         const int share = shares_[static_cast<std::size_t>(column)];
         const int own = MulDiv(width, share, shares_left);
-        ListView_SetColumnWidth(list_, column, own);
+        // Even a column that has its width already would move all that is right of it.
+        if (ListView_GetColumnWidth(list_, column) != own) ListView_SetColumnWidth(list_, column, own);
         width -= own;
         shares_left -= share;
     }

@@ -19,6 +19,9 @@ class ListColumns {
     void Add(const std::wstring& caption, int share);
     // Columns that the user has made keep their width in inches when the resolution changes.
     void ApplyResolution(UINT dpi);
+    // Before the list, while it is not redrawn, gets its vertical scroll bar: spares fitting them on the
+    // screen.
+    void MakeRoomForScrollBar();
 
   private:
     std::optional<LRESULT> OnMessage(UINT message, WPARAM wparam, LPARAM lparam);
