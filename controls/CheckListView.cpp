@@ -104,6 +104,9 @@ int CheckListView::Selected() const {
 void CheckListView::Select(int position) {
     const bool outer = std::exchange(selecting_, true);
     constexpr UINT kState = LVIS_SELECTED | LVIS_FOCUSED;
+    // The control would look at every row between the two.
+    if (const int before = Selected(); before != 0 && before != position)
+        ListView_SetItemState(Handle(), before - 1, 0, LVIS_SELECTED);
     ListView_SetItemState(Handle(), position - 1, kState, kState);
     // Where arrow keys with Shift start, and on some systems plain ones.
     ListView_SetSelectionMark(Handle(), position - 1);

@@ -116,6 +116,9 @@ bool IsSize(UINT message, LPARAM) {
 bool IsColumnWidth(UINT message, LPARAM lparam) {
     return message == WM_NOTIFY && reinterpret_cast<const NMHDR*>(lparam)->code == HDN_ITEMCHANGEDW;
 }
+bool IsAny(UINT, LPARAM) {
+    return true;
+}
 
 TEST(CheckListViewTest, NewRowsMoveTheColumnsOnlyWhenTheScrollBarComesOrGoes) {
     const Program program;
@@ -142,6 +145,15 @@ TEST(CheckListViewTest, NewRowsAreShownFromTheFirstOn) {
     program.Settle();
     EXPECT_EQ(ListView_GetTopIndex(list), 0);
     EXPECT_EQ(program.List().Selected(), 0);
+}
+
+TEST(CheckListViewTest, SelectingAFarRowLooksAtFewOthers) {
+    const Program program;
+    program.Add(1, std::vector<Row>(32767, {L"N", L"http://n.hu"}));
+    const HWND header = ListView_GetHeader(program.List().Handle());
+    program.OnUi([](frmStart& form) { form.View().SelectRow(32767); });
+    EXPECT_LT(Count(program, header, &IsAny, [](BookView& view) { view.SelectRow(1); }), 1000);
+    EXPECT_EQ(program.List().Selected(), 1);
 }
 
 }  // namespace
