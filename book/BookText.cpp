@@ -77,13 +77,6 @@ constexpr auto kUpper = [] {
     return table;
 }();
 
-constexpr std::uint64_t kOnes = 0x0101010101010101;
-
-// Sets the high bit of each zero byte. Above the lowest one, bytes of 1 may be marked as well.
-constexpr std::uint64_t ZeroBytes(std::uint64_t word) {
-    return (word - kOnes) & ~word & kHighBits;
-}
-
 }  // namespace
 
 char32_t CharacterOf(char byte) {
