@@ -20,7 +20,9 @@ class EntryFields {
     void ApplyResolution(UINT dpi);
 
     void Show(const std::wstring& name, const std::wstring& address);
-    void Clear() { Show({}, {}); }
+    void Clear() {
+        if (HasName() || HasAddress()) Show({}, {});
+    }
     // Gives the fields whose texts do not fit tips with the whole. To be called when their sizes have
     // changed.
     void ShowWholeTexts();
