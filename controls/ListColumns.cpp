@@ -22,7 +22,6 @@ void ListColumns::Add(const std::wstring& caption, int share) {
     column.iSubItem = static_cast<int>(shares_.size());
     if (ListView_InsertColumn(list_, column.iSubItem, &column) == -1) throw std::bad_alloc();
     shares_.push_back(share);
-    shared_room_ = 0;
     Fit();
 }
 
@@ -54,7 +53,8 @@ void ListColumns::Fit() {
     if (std::exchange(fitting_, true)) return;
     // New widths can bring a scroll bar or take it away, and with it change the room that they share.
     constexpr int kTries = 4;
-    for (int i = 0; i < kTries && shared_room_ != Room(); ++i) ShareOut(shared_room_ = Room());
+    int shared = -1;
+    for (int i = 0; i < kTries && shared != Room(); ++i) ShareOut(shared = Room());
     fitting_ = false;
 }
 

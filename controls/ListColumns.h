@@ -36,7 +36,6 @@ class ListColumns {
     std::vector<int> shares_;
     UINT dpi_ = USER_DEFAULT_SCREEN_DPI;
     bool fitting_ = false;      // the program itself changes the widths
-    int shared_room_ = 0;       // the width in pixels that the columns were given last
     bool set_by_user_ = false;  // until the list is gone
 };
 
