@@ -7,28 +7,28 @@
 #include <iterator>
 #include <vector>
 
+#include "book/Patience.h"
+
 namespace lindrel {
 
 namespace {
 
-constexpr DWORD kPatience = 200;  // milliseconds
+constexpr std::chrono::milliseconds kPatience{200};
 
 // Another program has it open only for a moment, as a rule: the one that shows what was copied last.
 bool OpenPatiently(HWND owner) {
-    const ULONGLONG start = GetTickCount64();
-    for (DWORD pause = 5;; pause *= 2) {
+    Patience patience(kPatience);
+    do {
         if (OpenClipboard(owner)) return true;
-        const ULONGLONG waited = GetTickCount64() - start;
-        if (waited >= kPatience) return false;
-        Sleep(std::min(pause, kPatience - static_cast<DWORD>(waited)));
-    }
+    } while (patience.Pause());
+    return false;
 }
 
 // Data may be made only when it is asked for, by the program that offered it. One that hangs would hang us.
 bool OwnerAnswers() {
     const HWND owner = GetClipboardOwner();
     return owner == nullptr ||
-           SendMessageTimeoutW(owner, WM_NULL, 0, 0, SMTO_ABORTIFHUNG, kPatience, nullptr) != 0;
+           SendMessageTimeoutW(owner, WM_NULL, 0, 0, SMTO_ABORTIFHUNG, kPatience.count(), nullptr) != 0;
 }
 
 class OpenedClipboard {

@@ -6,7 +6,6 @@
 #include <shlobj.h>
 
 #include <future>
-#include <numeric>
 #include <thread>
 
 #include "tests/window/support/Drawn.h"
@@ -59,25 +58,22 @@ void OpenAndKeep(HWND window) {
     WaitUntil("the clipboard", [window] { return OpenClipboard(window) != FALSE; });
 }
 
-// The pauses that were made, and what happens in the third one.
-std::vector<DWORD> pauses;
-std::function<void()> in_third_pause;
-decltype(&::Sleep) real_pause = nullptr;
+// How often the clipboard was asked for, and what happens before the fourth time.
+int tries = 0;
+std::function<void()> before_fourth_try;
+decltype(&::OpenClipboard) real_open = nullptr;
 
-void WINAPI RecordPause(DWORD milliseconds) {
-    pauses.push_back(milliseconds);
-    if (pauses.size() == 3 && in_third_pause)
-        in_third_pause();
-    else
-        real_pause(milliseconds);
+BOOL WINAPI CountTry(HWND owner) {
+    if (++tries == 4 && before_fourth_try) before_fourth_try();
+    return real_open(owner);
 }
 
 class ClipboardTest : public ::testing::Test {
   protected:
     ClipboardTest() {
-        pauses.clear();
-        in_third_pause = nullptr;
-        real_pause = &::Sleep;
+        tries = 0;
+        before_fourth_try = nullptr;
+        real_open = &::OpenClipboard;
     }
     ~ClipboardTest() override { DestroyWindow(window); }
 
@@ -193,33 +189,31 @@ TEST_F(ClipboardTest, PicturesThatAreDrawingsStay) {
 TEST_F(ClipboardTest, AProgramThatSoonClosesItIsWaitedFor) {
     const auto while_busy = [](const std::function<void()>& use) {
         OtherProgram other(&OpenAndKeep);
-        pauses.clear();
-        in_third_pause = [&] { other.Go(); };
-        const ReplacedImport recording(&::Sleep, &RecordPause);
+        tries = 0;
+        before_fourth_try = [&] { other.Go(); };
+        const ReplacedImport counting(&::OpenClipboard, &CountTry);
         use();
+        EXPECT_EQ(tries, 4);
     };
     PutClipboardText(L"régi");
     while_busy([this] { SetClipboardText(window, L"új"); });
-    EXPECT_GE(pauses.size(), 3u);
     EXPECT_EQ(TextOnClipboard(), L"új");
     while_busy([this] { EXPECT_EQ(ClipboardText(window), L"új"); });
-    EXPECT_GE(pauses.size(), 3u);
 }
 
 TEST_F(ClipboardTest, AProgramThatKeepsItOpenIsLeftAloneSoon) {
     PutClipboardText(L"régi");
     {
         const OtherProgram other(&OpenAndKeep);
-        const ReplacedImport recording(&::Sleep, &RecordPause);
+        const ReplacedImport counting(&::OpenClipboard, &CountTry);
         for (const bool reading : {false, true}) {
-            pauses.clear();
+            tries = 0;
             if (reading)
                 EXPECT_EQ(ClipboardText(window), L"");
             else
                 SetClipboardText(window, L"új");
-            EXPECT_GE(pauses.size(), 3u);
-            EXPECT_TRUE(std::is_sorted(pauses.begin(), pauses.end() - 1));
-            EXPECT_LE(std::accumulate(pauses.begin(), pauses.end(), DWORD{0}), 200u);
+            // After pauses of 10, 20, 40, 80 and the remaining 50 milliseconds.
+            EXPECT_EQ(tries, 6);
         }
     }
     EXPECT_EQ(TextOnClipboard(), L"régi");
