@@ -115,9 +115,11 @@ void ListBox::Add(std::wstring_view text) const {
 
 void ComboBox::WidenList() const {
     std::vector<std::wstring> items;
+    items.reserve(static_cast<std::size_t>(Count()));
     for (int i = 0; i < Count(); ++i) items.push_back(Item(i));
     const int edges = GetSystemMetrics(SM_CXVSCROLL) + 4 * GetSystemMetrics(SM_CXEDGE);
-    Send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(WidestOf(*this, items) + edges));
+    const int width = WidestOf(*this, items) + edges;
+    Send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(width));
 }
 
 void TabStrip::Add(std::wstring_view caption) const {
@@ -135,8 +137,10 @@ void TabStrip::SetCaption(int position, std::wstring_view caption) const {
     item.mask = TCIF_TEXT;
     item.pszText = shown.data();
     item.cchTextMax = static_cast<int>(shown.size());
-    // At a new caption the control measures all of them.
-    if (TabCtrl_GetItem(Handle(), position - 1, &item) && text == shown.c_str()) return;
+    // At a new caption the control measures all of them. It may show its own text instead of filling the
+    // buffer.
+    if (TabCtrl_GetItem(Handle(), position - 1, &item) && item.pszText != nullptr && text == item.pszText)
+        return;
     item.pszText = text.data();
     TabCtrl_SetItem(Handle(), position - 1, &item);
 }

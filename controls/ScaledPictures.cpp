@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdint>
+#include <utility>
 
 namespace lindrel {
 
@@ -39,7 +41,7 @@ class Blend {
 
   private:
     static std::uint32_t Byte(double value) {
-        return std::min(static_cast<std::uint32_t>(value + 0.5), 255U);
+        return static_cast<std::uint32_t>(std::clamp(std::lround(value), 0L, 255L));
     }
 
     double opacity_ = 0;
