@@ -32,14 +32,8 @@ class Subclass {
 
   private:
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR id,
-                                      DWORD_PTR first);
-    static void MakeFirst(HWND window, Subclass* first);
-    static LRESULT PassOn(Subclass* next, HWND window, UINT message, WPARAM wparam, LPARAM lparam);
-    LRESULT OnMessage(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
+                                      DWORD_PTR data);
 
-    // All those of a window are one subclass to the system, which looks that up anew for each message. The
-    // last one attached comes first.
-    Subclass* next_ = nullptr;
     HWND window_ = nullptr;
     Handler handler_;
 };
