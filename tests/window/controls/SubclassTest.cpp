@@ -93,6 +93,58 @@ TEST_F(SubclassTest, OfSeveralTheLastIsAskedFirstAndEachGoesByItself) {
     EXPECT_EQ(TextOf(window), L"kettő");
 }
 
+TEST_F(SubclassTest, WhicheverGoesTheOthersStayInTheirOrder) {
+    for (int gone = 0; gone < 3; ++gone) {
+        Subclass handlers[3];
+        const std::wstring names[] = {L"egy", L"kettő", L"három"};
+        for (int i = 0; i < 3; ++i) handlers[i].Attach(window, Heard(names[i], std::nullopt));
+        handlers[gone].Detach();
+        Texts expected;
+        for (int i = 2; i >= 0; --i)
+            if (i != gone) expected.push_back(names[i] + L" új");
+        heard.clear();
+        SetText(L"új");
+        EXPECT_EQ(heard, expected) << gone;
+        // It can come back, as the last.
+        handlers[gone].Attach(window, Heard(names[gone], std::nullopt));
+        expected.insert(expected.begin(), names[gone] + L" új");
+        heard.clear();
+        SetText(L"új");
+        EXPECT_EQ(heard, expected) << gone;
+    }
+    EXPECT_EQ(SetText(L"szabad"), TRUE);
+    EXPECT_EQ(TextOf(window), L"szabad");
+}
+
+TEST_F(SubclassTest, AHandlerThatDetachesItselfPassesTheMessageOn) {
+    Subclass first;
+    Subclass second;
+    first.Attach(window, Heard(L"első", std::nullopt));
+    second.Attach(window, [&](UINT message, WPARAM, LPARAM) -> Answer {
+        if (message == WM_SETTEXT) second.Detach();
+        return std::nullopt;
+    });
+    EXPECT_EQ(SetText(L"egy"), TRUE);
+    EXPECT_EQ(SetText(L"kettő"), TRUE);
+    EXPECT_EQ(heard, (Texts{L"első egy", L"első kettő"}));
+    EXPECT_EQ(TextOf(window), L"kettő");
+}
+
+TEST_F(SubclassTest, EachOfSeveralHearsTheEndOfTheWindow) {
+    Subclass first;
+    Subclass second;
+    int ends = 0;
+    const auto count = [&](UINT message, WPARAM, LPARAM) -> Answer {
+        if (message != WM_NCDESTROY) return std::nullopt;
+        ++ends;
+        return Answer(1);
+    };
+    first.Attach(window, count);
+    second.Attach(window, count);
+    EXPECT_TRUE(DestroyWindow(window));
+    EXPECT_EQ(ends, 2);
+}
+
 TEST_F(SubclassTest, TheEndOfTheWindowIsHeardAndLeavesTheObjectAlone) {
     Subclass subclass;
     std::vector<UINT> messages;
