@@ -11,6 +11,8 @@ cmake --build --preset x64 --target lindrel startup_bench >/dev/null
 wine_environment
 make_template_prefix
 own_prefix
+# On the drive where users and notepad have it: on that of the checkout Wine looks for each library longer.
+cp -r build/x64/lindrel "$WINEPREFIX/drive_c/lindrel"
 start_display
-wine build/x64/bench/startup/startup_bench.exe "$rounds" "Z:$PWD/build/x64/lindrel/lindrel.exe" \
+wine build/x64/bench/startup/startup_bench.exe "$rounds" 'C:\lindrel\lindrel.exe' \
   'C:\windows\system32\notepad.exe' </dev/null
