@@ -48,7 +48,8 @@ LRESULT frmStart::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
             LimitSize(*reinterpret_cast<MINMAXINFO*>(lparam), LeastHeight(Frame()), DpiOf(Handle()));
             return 0;
         case WM_DPICHANGED:
-            // Its first size may already move most of the window to another screen.
+            // Its first size, before there are controls, may already put most of the window on another
+            // screen.
             if (loaded_) ApplyResolution();
             MoveTo(Handle(), *reinterpret_cast<const RECT*>(lparam));
             Form_Resize();

@@ -93,8 +93,8 @@ class frmStart : public OwnWindow {
     bool loaded_ = false;  // Form_Load did all its work
     UINT dpi_ = USER_DEFAULT_SCREEN_DPI;
     WindowMetrics metrics_;
-    std::optional<MainFrame>
-        laid_out_;  // as the controls stand; empty when their font or pictures have changed
+    // As the controls stand; empty when their font or pictures have changed.
+    std::optional<MainFrame> laid_out_;
     Font font_;
     Picture large_icon_, small_icon_, tray_icon_;
     HWND remembered_focus_ = nullptr;

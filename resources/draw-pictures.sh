@@ -20,21 +20,14 @@ sizes_of() { # name
 
 for drawing in *.svg; do
   name=${drawing%.svg}
+  rendered=()
   for size in $(sizes_of "$name"); do
     ../fit-to-pixels.py "$drawing" "$size" | rsvg-convert -f png -o "$work/plain.png"
     convert "$work/plain.png" -strip "PNG32:$work/$name-$size.png"
-  done
-done
-
-for drawing in *.svg; do
-  name=${drawing%.svg}
-  [[ $name != mnu* ]] || continue
-  rendered=()
-  for size in $(sizes_of "$name"); do
     [ "$size" -lt 256 ] || rendered+=(-r) # kept compressed, as the system expects it
     rendered+=("$work/$name-$size.png")
   done
-  icotool -c -o "$name.ico" "${rendered[@]}"
+  [[ $name == mnu* ]] || icotool -c -o "$name.ico" "${rendered[@]}"
 done
 
 for size in $(sizes_of mnu); do
