@@ -64,7 +64,6 @@ void Toolbar::Create(HWND window) {
     // The names are for tool tips and screen readers; none are drawn.
     SendMessageW(toolbar, TB_SETMAXTEXTROWS, 0, 0);
     AddButtons();
-    RemoveTipOfFirstButton();
 }
 
 void Toolbar::AddButtons() const {
@@ -82,6 +81,7 @@ void Toolbar::AddButtons() const {
         throw std::bad_alloc();
 }
 
+// Asked for its tips, the toolbar makes a window for them: not before the mouse is there.
 void Toolbar::RemoveTipOfFirstButton() const {
     TTTOOLINFOW first{};
     first.cbSize = sizeof first;
@@ -136,6 +136,7 @@ void Toolbar::ButtonClick(int Button) const {
 
 void Toolbar::Notify(const NMHDR& header) const {
     if (header.hwndFrom != toolbar_.Handle()) return;
+    if (header.code == TBN_HOTITEMCHANGE) RemoveTipOfFirstButton();
     if (header.code == TBN_DROPDOWN)
         ButtonDropDown(PositionOf(reinterpret_cast<const NMTOOLBARW&>(header).iItem));
     if (header.code == TBN_GETINFOTIPW) FillTip(reinterpret_cast<const NMTBGETINFOTIPW&>(header));

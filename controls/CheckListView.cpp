@@ -34,6 +34,46 @@ void CheckListView::Attach(HWND list) {
     empty_text_.Attach(list);
 }
 
+std::optional<LRESULT> CheckListView::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
+    switch (message) {
+        case WM_NOTIFY:
+            columns_.OnNotify(*reinterpret_cast<const NMHDR*>(lparam));
+            return std::nullopt;
+        case WM_SIZE:
+        case WM_PAINT:
+        case WM_PRINTCLIENT:
+        case WM_SYSCOLORCHANGE:
+        case WM_THEMECHANGED: {
+            const LRESULT result = subclass_.Default(message, wparam, lparam);
+            AfterMessage(message, wparam);
+            return result;
+        }
+        case WM_NCDESTROY:
+            Wrap(nullptr);
+            return std::nullopt;
+        default:
+            return OnInput(message, wparam, lparam);
+    }
+}
+
+void CheckListView::AfterMessage(UINT message, WPARAM wparam) {
+    switch (message) {
+        case WM_SIZE:
+            columns_.OnSize();
+            empty_text_.OnSize();
+            break;
+        case WM_PAINT:
+            empty_text_.OnPaint();
+            break;
+        case WM_PRINTCLIENT:
+            empty_text_.OnPrintClient(reinterpret_cast<HDC>(wparam));
+            break;
+        default:
+            MakeCheckBoxes(DpiOf(Handle()));  // drawn in the colours of the time when they were made
+            break;
+    }
+}
+
 void CheckListView::ApplyResolution(UINT dpi) {
     MakeCheckBoxes(dpi);
     columns_.ApplyResolution(dpi);

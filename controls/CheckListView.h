@@ -70,6 +70,8 @@ class CheckListView : public Control {
 
   private:
     std::optional<LRESULT> OnMessage(UINT message, WPARAM wparam, LPARAM lparam);
+    void AfterMessage(UINT message, WPARAM wparam);
+    std::optional<LRESULT> OnInput(UINT message, WPARAM wparam, LPARAM lparam);
     // The row at a point of the client area, 0 for none; `where` gets the LVHT_ flags.
     int RowAt(POINT point, UINT& where) const;
     bool ToggledByMouse(LPARAM point);

@@ -1,7 +1,6 @@
 // What the user does in the list with keys and mouse.
 
 #include "controls/CheckListView.h"
-#include "controls/Display.h"
 
 namespace lindrel {
 
@@ -76,7 +75,7 @@ POINT CheckListView::BelowSelectedRow() const {
     return below;
 }
 
-std::optional<LRESULT> CheckListView::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
+std::optional<LRESULT> CheckListView::OnInput(UINT message, WPARAM wparam, LPARAM lparam) {
     switch (message) {
         case WM_LBUTTONDOWN:
         case WM_LBUTTONDBLCLK:
@@ -99,15 +98,6 @@ std::optional<LRESULT> CheckListView::OnMessage(UINT message, WPARAM wparam, LPA
             // The header is a window of its own.
             if (reinterpret_cast<HWND>(wparam) != Handle() || !AskForMenu(lparam)) return std::nullopt;
             return 0;
-        case WM_SYSCOLORCHANGE:
-        case WM_THEMECHANGED: {
-            const LRESULT result = subclass_.Default(message, wparam, lparam);
-            MakeCheckBoxes(DpiOf(Handle()));  // drawn in the colours of the time when they were made
-            return result;
-        }
-        case WM_NCDESTROY:
-            Wrap(nullptr);
-            return std::nullopt;
         default:
             return std::nullopt;
     }

@@ -2,34 +2,26 @@
 
 namespace lindrel {
 
-void EmptyListText::Attach(HWND list) {
-    list_ = list;
-    subclass_.Attach(list, [this](UINT message, WPARAM wparam, LPARAM lparam) {
-        return OnMessage(message, wparam, lparam);
-    });
-}
-
 void EmptyListText::Set(const std::wstring& text) {
     text_ = text;
     InvalidateRect(list_, nullptr, TRUE);
 }
 
-std::optional<LRESULT> EmptyListText::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) const {
-    if ((message != WM_PAINT && message != WM_PRINTCLIENT && message != WM_SIZE) || !IsShown())
-        return std::nullopt;
-    const LRESULT result = subclass_.Default(message, wparam, lparam);
-    if (message == WM_PAINT) Paint();
-    if (message == WM_PRINTCLIENT) Draw(reinterpret_cast<HDC>(wparam));
-    // The middle has moved.
-    if (message == WM_SIZE) InvalidateRect(list_, nullptr, TRUE);
-    return result;
-}
-
-void EmptyListText::Paint() const {
+void EmptyListText::OnPaint() const {
+    if (!IsShown()) return;
     const HDC canvas = GetDC(list_);
     if (canvas == nullptr) return;  // the list stays blank
     Draw(canvas);
     ReleaseDC(list_, canvas);
+}
+
+void EmptyListText::OnPrintClient(HDC canvas) const {
+    if (IsShown()) Draw(canvas);
+}
+
+// The middle has moved.
+void EmptyListText::OnSize() const {
+    if (IsShown()) InvalidateRect(list_, nullptr, TRUE);
 }
 
 void EmptyListText::Draw(HDC canvas) const {

@@ -2,30 +2,30 @@
 // aloud find an empty list.
 #pragma once
 
-#include <optional>
 #include <string>
 
-#include "controls/Subclass.h"
 #include "controls/Windows.h"
 
 namespace lindrel {
 
 class EmptyListText {
   public:
-    // For a list view in report form. Throws std::bad_alloc when the system cannot.
-    void Attach(HWND list);
+    // For a list view in report form.
+    void Attach(HWND list) { list_ = list; }
     // May have several lines; an empty one says nothing.
     void Set(const std::wstring& text);
 
+    // What the list has just done: painted itself, also on a canvas that it was given, or taken another size.
+    void OnPaint() const;
+    void OnPrintClient(HDC canvas) const;
+    void OnSize() const;
+
   private:
-    std::optional<LRESULT> OnMessage(UINT message, WPARAM wparam, LPARAM lparam) const;
     bool IsShown() const { return !text_.empty() && ListView_GetItemCount(list_) == 0; }
-    void Paint() const;
     void Draw(HDC canvas) const;
     RECT Place() const;
 
     HWND list_ = nullptr;
-    Subclass subclass_;
     std::wstring text_;
 };
 

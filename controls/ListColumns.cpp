@@ -7,13 +7,6 @@
 
 namespace lindrel {
 
-void ListColumns::Attach(HWND list) {
-    list_ = list;
-    subclass_.Attach(list, [this](UINT message, WPARAM wparam, LPARAM lparam) {
-        return OnMessage(message, wparam, lparam);
-    });
-}
-
 void ListColumns::Add(const std::wstring& caption, int share) {
     std::wstring text = caption;
     LVCOLUMNW column{};
@@ -33,13 +26,13 @@ void ListColumns::ApplyResolution(UINT dpi) {
         Fit();
 }
 
-std::optional<LRESULT> ListColumns::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
-    if (message == WM_NOTIFY && IsResizedByUser(*reinterpret_cast<const NMHDR*>(lparam))) set_by_user_ = true;
-    if (message != WM_SIZE) return std::nullopt;
-    // Comes too when the vertical scroll bar appears or goes.
-    const LRESULT result = subclass_.Default(message, wparam, lparam);
+void ListColumns::OnNotify(const NMHDR& header) {
+    if (IsResizedByUser(header)) set_by_user_ = true;
+}
+
+// Comes too when the vertical scroll bar appears or goes.
+void ListColumns::OnSize() {
     if (!set_by_user_) Fit();
-    return result;
 }
 
 // By dragging a divider, by a double click on it, or by the list's own keys.
@@ -50,7 +43,8 @@ bool ListColumns::IsResizedByUser(const NMHDR& header) const {
 }
 
 void ListColumns::Fit() {
-    if (std::exchange(fitting_, true)) return;
+    // Until it is placed, the list has no width to share.
+    if (Room() == 0 || std::exchange(fitting_, true)) return;
     // New widths can bring a scroll bar or take it away, and with it change the room that they share.
     constexpr int kTries = 4;
     int shared = -1;

@@ -2,20 +2,19 @@
 // one; from then on all of them stay as they are.
 #pragma once
 
-#include <optional>
 #include <string>
 #include <vector>
 
-#include "controls/Subclass.h"
 #include "controls/Windows.h"
 
 namespace lindrel {
 
 class ListColumns {
   public:
-    // For a list view in report form, without columns. Throws std::bad_alloc when the system cannot.
-    void Attach(HWND list);
+    // For a list view in report form, without columns.
+    void Attach(HWND list) { list_ = list; }
     // A column at the right of the others. All shares together are the width of the list.
+    // Throws std::bad_alloc when the system cannot.
     void Add(const std::wstring& caption, int share);
     // Columns that the user has made keep their width in inches when the resolution changes.
     void ApplyResolution(UINT dpi);
@@ -23,8 +22,11 @@ class ListColumns {
     // screen.
     void MakeRoomForScrollBar();
 
+    // What the list hears: from its header, and that it has another size, once it has drawn the conclusions.
+    void OnNotify(const NMHDR& header);
+    void OnSize();
+
   private:
-    std::optional<LRESULT> OnMessage(UINT message, WPARAM wparam, LPARAM lparam);
     bool IsResizedByUser(const NMHDR& header) const;
     void Fit();
     void ShareOut(int width) const;
@@ -32,7 +34,6 @@ class ListColumns {
     int Room() const;
 
     HWND list_ = nullptr;
-    Subclass subclass_;
     std::vector<int> shares_;
     UINT dpi_ = USER_DEFAULT_SCREEN_DPI;
     bool fitting_ = false;      // the program itself changes the widths

@@ -3,7 +3,7 @@
 namespace lindrel {
 
 PlacedTogether::~PlacedTogether() {
-    if (pass_ == nullptr || !EndDeferWindowPos(pass_)) return;
+    if (pass_ == nullptr || !EndDeferWindowPos(pass_) || !IsWindowVisible(window_)) return;
     // The window itself too: it shows through a frame, which draws no background.
     for (const RECT& area : to_draw_)
         RedrawWindow(window_, &area, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);

@@ -5,6 +5,7 @@
 #include "resources/resource.h"
 #include "tests/window/support/Drawn.h"
 #include "tests/window/support/Program.h"
+#include "tests/window/support/RealInput.h"
 
 namespace lindrel::testing {
 namespace {
@@ -95,6 +96,10 @@ TEST_F(ToolbarTest, HasTenButtonsWithNamesAndPictures) {
 }
 
 TEST_F(ToolbarTest, AllButTheFirstButtonHaveToolTips) {
+    const RECT first = PlaceOf(1);
+    RealInput(program).Move(Toolbar(), {first.left + 12, first.top + 12});
+    WaitUntil("the first button under the mouse",
+              [this] { return SendMessageW(Toolbar(), TB_GETHOTITEM, 0, 0) == 0; });
     const std::vector<std::wstring> tips = program.Ask<std::vector<std::wstring>>([this](frmStart&) {
         const HWND toolbar = Toolbar();
         const auto window = reinterpret_cast<HWND>(SendMessageW(toolbar, TB_GETTOOLTIPS, 0, 0));
