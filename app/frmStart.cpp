@@ -85,6 +85,9 @@ LRESULT frmStart::OnControlMessage(UINT message, WPARAM wparam, LPARAM lparam) {
         case WM_SETFOCUS:
             RestoreFocus();
             return 0;
+        case WM_SETCURSOR:
+            tool_tips_.OnSetCursor(Handle());
+            return DefWindowProcW(Handle(), message, wparam, lparam);
         case WM_COMMAND:
             if (HIWORD(wparam) == EN_SETFOCUS && returned_focus_.Is(reinterpret_cast<HWND>(lparam))) return 0;
             OnCommand(LOWORD(wparam), HIWORD(wparam));

@@ -222,6 +222,9 @@ INT_PTR Dialog::OnSystemMessage(UINT message) {
         case WM_SYSCOLORCHANGE:
             PassOnColours(handle_);
             return TRUE;
+        case WM_SETCURSOR:
+            tool_tips_.OnSetCursor(handle_);
+            return FALSE;
         case WM_QUERYENDSESSION:
             SetWindowLongPtrW(handle_, DWLP_MSGRESULT, OnQueryEndSession() ? TRUE : FALSE);
             return TRUE;

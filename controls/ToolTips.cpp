@@ -24,14 +24,24 @@ std::wstring InLines(const std::wstring& text) {
 }  // namespace
 
 void ToolTips::Set(HWND window, HWND control, const std::wstring& text) {
-    if (tips_ == nullptr) {
-        if (text.empty()) return;
-        tips_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr,
-                                WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, CW_USEDEFAULT, CW_USEDEFAULT,
-                                CW_USEDEFAULT, CW_USEDEFAULT, window, nullptr, nullptr, nullptr);
-        // Any width, which also makes the tips heed line breaks.
-        SendMessageW(tips_, TTM_SETMAXTIPWIDTH, 0, SHRT_MAX);
-    }
+    if (tips_ == nullptr)
+        waiting_[control] = text;
+    else
+        Show(window, control, text);
+}
+
+void ToolTips::OnSetCursor(HWND window) {
+    if (tips_ != nullptr || waiting_.empty()) return;
+    tips_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP,
+                            CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, window, nullptr,
+                            nullptr, nullptr);
+    // Any width, which also makes the tips heed line breaks.
+    SendMessageW(tips_, TTM_SETMAXTIPWIDTH, 0, SHRT_MAX);
+    for (const auto& [control, text] : waiting_) Show(window, control, text);
+    waiting_.clear();
+}
+
+void ToolTips::Show(HWND window, HWND control, const std::wstring& text) const {
     TTTOOLINFOW tool = ToolOf(window, control);
     SendMessageW(tips_, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
     if (text.empty()) return;

@@ -1,6 +1,7 @@
 // Texts that appear while the mouse rests on a control.
 #pragma once
 
+#include <map>
 #include <string>
 
 #include "controls/Windows.h"
@@ -12,9 +13,14 @@ class ToolTips {
     // Sets or replaces the tip of a control in a window; an empty one takes it away. The tips go with the
     // window. When the system cannot make tips there are none, and nothing else is wrong.
     void Set(HWND window, HWND control, const std::wstring& text);
+    // For WM_SETCURSOR of the window: the mouse is there. No window waits for its tips before.
+    void OnSetCursor(HWND window);
 
   private:
+    void Show(HWND window, HWND control, const std::wstring& text) const;
+
     HWND tips_ = nullptr;
+    std::map<HWND, std::wstring> waiting_;  // texts by control, until the mouse comes
 };
 
 }  // namespace lindrel

@@ -12,6 +12,9 @@ std::wstring ToolTipOf(const Program& program, HWND control) {
         tool.hwnd = window;
         tool.uId = reinterpret_cast<UINT_PTR>(control);
         tool.lpszText = text.data();
+        // As the system tells of a mouse that has come.
+        SendMessageW(window, WM_SETCURSOR, reinterpret_cast<WPARAM>(control),
+                     MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
         for (HWND tips = FindWindowExW(nullptr, nullptr, TOOLTIPS_CLASSW, nullptr); tips != nullptr;
              tips = FindWindowExW(nullptr, tips, TOOLTIPS_CLASSW, nullptr))
             if (GetWindow(tips, GW_OWNER) == window && text[0] == L'\0')
