@@ -28,7 +28,7 @@ class DraggedFiles {
 
     // The one file; empty when there are several or none.
     std::wstring Only() const {
-        const auto files = static_cast<HDROP>(medium_.hGlobal);
+        auto* const files = static_cast<HDROP>(medium_.hGlobal);
         if (medium_.tymed != TYMED_HGLOBAL || DragQueryFileW(files, 0xFFFFFFFF, nullptr, 0) != 1) return {};
         std::wstring path(DragQueryFileW(files, 0, nullptr, 0), L'\0');
         DragQueryFileW(files, 0, path.data(), static_cast<UINT>(path.size()) + 1);

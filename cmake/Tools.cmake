@@ -13,9 +13,10 @@ add_custom_target(format-check COMMAND ${CLANG_FORMAT} --dry-run --Werror ${LIND
 # clang-tidy reads the compile commands of the build, which are GCC's.
 set(tidy ${CLANG_TIDY} --quiet -p ${CMAKE_BINARY_DIR} --extra-arg=-Wno-unknown-warning-option)
 if(WIN32)
-  # The windows' sources: by hand only, since the system's headers make it a matter of minutes. Handle types are
-  # pointers in disguise, its macros hide casts, texts for it are arrays, and what changes a control changes the form.
-  get_target_property(ui_sources lindrel_ui SOURCES)
+  # Handle types are pointers in disguise, the system's macros hide casts, texts for it are arrays, and what changes a
+  # control changes the form.
+  set(tidy_name sources.tidy.windows)
+  get_target_property(tidy_sources lindrel_ui SOURCES)
   set(unwanted -misc-misplaced-const -modernize-avoid-c-arrays -modernize-use-auto
     -readability-make-member-function-const)
   list(JOIN unwanted "," without)
@@ -26,18 +27,21 @@ if(WIN32)
       list(APPEND tidy --extra-arg=-isystem${folder})
     endif()
   endforeach()
-  add_custom_target(tidy COMMAND ${tidy} ${ui_sources} COMMENT "Checking the windows' sources" VERBATIM)
 else()
-  get_target_property(core_sources lindrel_core SOURCES)
-  add_custom_target(tidy COMMAND ${tidy} ${core_sources} COMMENT "Checking the portable sources" VERBATIM)
+  set(tidy_name sources.tidy)
+  get_target_property(tidy_sources lindrel_core SOURCES)
 endif()
+add_custom_target(tidy COMMAND ${tidy} ${tidy_sources} COMMENT "Checking the sources" VERBATIM)
 
-# Kept in good order with every run of the tests, once; folder by folder, so that they run side by side.
+# Kept in good order with every run of the tests, once.
 if(BUILD_TESTING AND NOT WIN32 AND NOT LINDREL_SANITIZE)
   add_test(NAME sources.format COMMAND ${CLANG_FORMAT} --dry-run --Werror ${LINDREL_SOURCES})
   add_test(NAME sources.rules COMMAND ${CMAKE_SOURCE_DIR}/tests/check-sources.py)
   add_test(NAME pages.links COMMAND ${CMAKE_SOURCE_DIR}/tests/check-pages.py)
-  foreach(source ${core_sources})
+endif()
+# Folder by folder, so that they run side by side.
+if(BUILD_TESTING AND NOT LINDREL_SANITIZE)
+  foreach(source ${tidy_sources})
     cmake_path(GET source PARENT_PATH folder)
     cmake_path(GET folder FILENAME folder)
     list(APPEND tidy_folders ${folder})
@@ -45,7 +49,7 @@ if(BUILD_TESTING AND NOT WIN32 AND NOT LINDREL_SANITIZE)
   endforeach()
   list(REMOVE_DUPLICATES tidy_folders)
   foreach(folder ${tidy_folders})
-    add_test(NAME sources.tidy.${folder} COMMAND ${tidy} ${${folder}_sources})
-    set_tests_properties(sources.tidy.${folder} PROPERTIES TIMEOUT 600)
+    add_test(NAME ${tidy_name}.${folder} COMMAND ${tidy} ${${folder}_sources})
+    set_tests_properties(${tidy_name}.${folder} PROPERTIES TIMEOUT 600)
   endforeach()
 endif()

@@ -39,7 +39,7 @@ void Anchors::Remember(HWND dialog, std::initializer_list<Control> controls) {
         RECT place{};
         GetWindowRect(control, &place);
         MapWindowPoints(HWND_DESKTOP, dialog, reinterpret_cast<POINT*>(&place), 2);
-        const auto named = std::find_if(
+        const auto* const named = std::find_if(
             controls.begin(), controls.end(),
             [control](const Control& candidate) { return candidate.Id == GetDlgCtrlID(control); });
         if (named != controls.end())

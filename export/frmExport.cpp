@@ -56,7 +56,8 @@ void frmExport::FillThemes() const {
         return;
     }
     const auto cmbTheme = Get<ComboBox>(ID_frmExport_cmbTheme);
-    for (const std::wstring& file : FilesMatching(styles + L"\\*.aut")) cmbTheme.Add(styles + L"\\" + file);
+    const std::wstring inside = styles + L'\\';
+    for (const std::wstring& file : FilesMatching(inside + L"*.aut")) cmbTheme.Add(inside + file);
     cmbTheme.WidenList();
 }
 
