@@ -2,6 +2,7 @@
 // another program has changed.
 
 #include "tests/window/app/FileSession.h"
+#include "tests/window/support/ReplacedImport.h"
 
 namespace lindrel::testing {
 namespace {
@@ -156,6 +157,27 @@ TEST_F(FileMenuFaultsTest, AnotherFileIsNotAskedAbout) {
     program.Box().Press(IDYES);
     ExpectSaved(path);
     EXPECT_EQ(TemporaryFolder::Read(path), ChangedBook());
+}
+
+HMODULE WINAPI LoadNothing(LPCWSTR, HANDLE, DWORD) {
+    SetLastError(ERROR_MOD_NOT_FOUND);
+    return nullptr;
+}
+
+TEST_F(FileMenuFaultsTest, WithoutTheLibraryOfTheFileDialogsTheBookStays) {
+    Change();
+    const MainState before = program.State();
+    {
+        const ReplacedImport missing(&LoadLibraryExW, &LoadNothing);
+        // As after a cancelled dialog.
+        for (const int command : {ID_mnuSave, ID_mnuSaveAs}) program.Run(command);
+    }
+    EXPECT_TRUE(program.NothingIsOpen());
+    EXPECT_EQ(program.State(), before);
+    // With the library it goes on.
+    program.Choose(ID_mnuSave);
+    program.FileDialog().Accept(folder.File(L"mégis.lnd"));
+    ExpectSaved(folder.File(L"mégis.lnd"));
 }
 
 }  // namespace

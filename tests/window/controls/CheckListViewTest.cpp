@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <chrono>
 #include <functional>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -87,10 +88,10 @@ TEST(CheckListViewTest, CheckingEveryRowTakesNoLongerThanFillingTheList) {
     EXPECT_LT(TimeOf(program, [](BookView& view) { view.RestoreCheckMarks(1); }), filling);
 }
 
-using Wanted = bool (*)(UINT message, LPARAM lparam);
+using Wanted = std::function<bool(UINT message, LPARAM lparam)>;
 
 // Counts the messages of a window that are wanted, while a piece of code runs in the program's thread.
-int Count(const Program& program, HWND window, Wanted wanted,
+int Count(const Program& program, HWND window, const Wanted& wanted,
           const std::function<void(BookView& view)>& code) {
     struct Counter {
         Wanted IsWanted;
@@ -133,6 +134,19 @@ TEST(CheckListViewTest, NewRowsMoveTheColumnsOnlyWhenTheScrollBarComesOrGoes) {
     EXPECT_EQ(Count(program, list, &IsColumnWidth, fill(1)), 0);
     EXPECT_EQ(Count(program, list, &IsColumnWidth, fill(3)), 2);
     EXPECT_EQ(Count(program, list, &IsColumnWidth, fill(1)), 2);
+}
+
+TEST(CheckListViewTest, ColumnsMakeRoomBeforeTheScrollBarComes) {
+    const Program program;
+    program.Add(2, std::vector<Row>(100, {L"N", L"http://n.hu"}));
+    std::string order;
+    const Wanted written_down = [&order](UINT message, LPARAM lparam) {
+        if (IsColumnWidth(message, lparam)) order += "column ";
+        if (IsSize(message, lparam)) order += "list ";
+        return false;
+    };
+    Count(program, program.List().Handle(), written_down, [](BookView& view) { view.FillAddressList(2); });
+    EXPECT_EQ(order, "column column list ");
 }
 
 TEST(CheckListViewTest, NewRowsAreShownFromTheFirstOn) {
