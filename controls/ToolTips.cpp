@@ -24,10 +24,9 @@ std::wstring InLines(const std::wstring& text) {
 }  // namespace
 
 void ToolTips::Set(HWND window, HWND control, const std::wstring& text) {
-    if (tips_ == nullptr)
-        waiting_[control] = text;
-    else
-        Show(window, control, text);
+    if (tips_ != nullptr) return Show(window, {control, text});
+    std::erase_if(waiting_, [control](const Tip& tip) { return tip.Control == control; });
+    waiting_.push_back({control, text});
 }
 
 void ToolTips::OnSetCursor(HWND window) {
@@ -37,15 +36,15 @@ void ToolTips::OnSetCursor(HWND window) {
                             nullptr, nullptr);
     // Any width, which also makes the tips heed line breaks.
     SendMessageW(tips_, TTM_SETMAXTIPWIDTH, 0, SHRT_MAX);
-    for (const auto& [control, text] : waiting_) Show(window, control, text);
+    for (const Tip& tip : waiting_) Show(window, tip);
     waiting_.clear();
 }
 
-void ToolTips::Show(HWND window, HWND control, const std::wstring& text) const {
-    TTTOOLINFOW tool = ToolOf(window, control);
+void ToolTips::Show(HWND window, const Tip& tip) const {
+    TTTOOLINFOW tool = ToolOf(window, tip.Control);
     SendMessageW(tips_, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
-    if (text.empty()) return;
-    std::wstring shown = InLines(text);
+    if (tip.Text.empty()) return;
+    std::wstring shown = InLines(tip.Text);
     tool.lpszText = shown.data();
     SendMessageW(tips_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
 }

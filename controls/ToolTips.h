@@ -1,8 +1,8 @@
 // Texts that appear while the mouse rests on a control.
 #pragma once
 
-#include <map>
 #include <string>
+#include <vector>
 
 #include "controls/Windows.h"
 
@@ -17,10 +17,15 @@ class ToolTips {
     void OnSetCursor(HWND window);
 
   private:
-    void Show(HWND window, HWND control, const std::wstring& text) const;
+    struct Tip {
+        HWND Control;
+        std::wstring Text;
+    };
+
+    void Show(HWND window, const Tip& tip) const;
 
     HWND tips_ = nullptr;
-    std::map<HWND, std::wstring> waiting_;  // texts by control, until the mouse comes
+    std::vector<Tip> waiting_;  // for the mouse; one of each control
 };
 
 }  // namespace lindrel
