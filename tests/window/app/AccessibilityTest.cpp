@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "Version.h"
 #include "resources/resource.h"
 #include "tests/window/support/Program.h"
 #include "tests/window/support/Text.h"
@@ -229,9 +230,9 @@ TEST_F(AccessibilityTest, TheDialogThatImports) {
 
 TEST_F(AccessibilityTest, TheAboutBox) {
     EXPECT_EQ(HeardOfDialog(ID_mnuAbout, L"Lindrel névjegye"),
-              (Lines{"#32770 'Lindrel névjegye'", "Static ''", "Static 'Lindrel'", "Static 'Version 1.0.0'",
-                     "Static ''", "Static '© 2026 Lindrel'", "SysLink '<a>https://lindrel.example/</a>'",
-                     "Static ''",
+              (Lines{"#32770 'Lindrel névjegye'", "Static ''", "Static 'Lindrel'",
+                     "Static 'Version " LINDREL_VERSION_TEXT "'", "Static ''", "Static '© 2026 Lindrel'",
+                     "SysLink '<a>https://lindrel.example/</a>'", "Static ''",
                      "Static 'Figyelmeztetés: Jelen számítógépes program a szerzői jog és nemzetközi "
                      "szerződések védelme alatt áll.'",
                      "Button 'OK'"}));
