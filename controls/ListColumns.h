@@ -22,7 +22,7 @@ class ListColumns {
     // screen.
     void MakeRoomForScrollBar();
 
-    // What the list hears: from its header, and that it has another size, once it has drawn the conclusions.
+    // What the list hears from its header, and its new size, once the list has dealt with it.
     void OnNotify(const NMHDR& header);
     void OnSize();
 

@@ -26,7 +26,7 @@ std::wstring InLines(const std::wstring& text) {
 void ToolTips::Set(HWND window, HWND control, const std::wstring& text) {
     if (tips_ != nullptr) return Show(window, {control, text});
     std::erase_if(waiting_, [control](const Tip& tip) { return tip.Control == control; });
-    waiting_.push_back({control, text});
+    if (!text.empty()) waiting_.push_back({control, text});
 }
 
 void ToolTips::OnSetCursor(HWND window) {

@@ -74,6 +74,8 @@ TEST_F(ToolTipsTest, TheLastTextCountsBeforeTheMouseAndAfter) {
 }
 
 TEST_F(ToolTipsTest, AWindowWithoutTipsGetsNone) {
+    tips.Set(window, first, L"egy");
+    tips.Set(window, first, L"");
     tips.OnSetCursor(window);
     EXPECT_EQ(TipsOf(window).size(), 0U);
 }
