@@ -3,22 +3,15 @@
 #include "controls/ToolTips.h"
 
 #include <string>
-#include <vector>
 
 #include "controls/Control.h"
 #include "resources/resource.h"
 #include "tests/window/support/Program.h"
 #include "tests/window/support/RealInput.h"
+#include "tests/window/support/ToolTipOf.h"
 
 namespace lindrel::testing {
 namespace {
-
-std::vector<HWND> TipsOf(HWND window) {
-    std::vector<HWND> found;
-    for (HWND tips = nullptr; (tips = FindWindowExW(nullptr, tips, TOOLTIPS_CLASSW, nullptr)) != nullptr;)
-        if (GetWindow(tips, GW_OWNER) == window) found.push_back(tips);
-    return found;
-}
 
 class ToolTipsTest : public ::testing::Test {
   protected:
@@ -27,17 +20,6 @@ class ToolTipsTest : public ::testing::Test {
     HWND Control(int id) const {
         return CreateWindowExW(0, WC_STATICW, L"", WS_CHILD, 0, 0, 10, 10, window,
                                reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr, nullptr);
-    }
-    std::wstring TipOf(HWND control) const {
-        wchar_t text[256] = L"";
-        TTTOOLINFOW tool{};
-        tool.cbSize = sizeof tool;
-        tool.hwnd = window;
-        tool.uId = reinterpret_cast<UINT_PTR>(control);
-        tool.lpszText = text;
-        for (const HWND each : TipsOf(window))
-            SendMessageW(each, TTM_GETTEXTW, 256, reinterpret_cast<LPARAM>(&tool));
-        return text;
     }
 
     const HWND window = CreateWindowExW(0, WC_STATICW, L"", WS_POPUP, 0, 0, 100, 20, nullptr, nullptr,
@@ -50,13 +32,13 @@ class ToolTipsTest : public ::testing::Test {
 TEST_F(ToolTipsTest, AreMadeWhenTheMouseComes) {
     tips.Set(window, first, L"egy");
     tips.Set(window, second, L"kettő");
-    EXPECT_EQ(TipsOf(window).size(), 0U);
+    EXPECT_EQ(TipWindowsOf(window).size(), 0U);
     tips.OnSetCursor(window);
-    EXPECT_EQ(TipsOf(window).size(), 1U);
-    EXPECT_EQ(TipOf(first), L"egy");
-    EXPECT_EQ(TipOf(second), L"kettő");
+    EXPECT_EQ(TipWindowsOf(window).size(), 1U);
+    EXPECT_EQ(TipFor(first), L"egy");
+    EXPECT_EQ(TipFor(second), L"kettő");
     tips.OnSetCursor(window);
-    EXPECT_EQ(TipsOf(window).size(), 1U);
+    EXPECT_EQ(TipWindowsOf(window).size(), 1U);
 }
 
 TEST_F(ToolTipsTest, TheLastTextCountsBeforeTheMouseAndAfter) {
@@ -65,23 +47,23 @@ TEST_F(ToolTipsTest, TheLastTextCountsBeforeTheMouseAndAfter) {
     tips.Set(window, second, L"kettő");
     tips.Set(window, second, L"három");
     tips.OnSetCursor(window);
-    EXPECT_EQ(TipOf(first), L"");
-    EXPECT_EQ(TipOf(second), L"három");
+    EXPECT_EQ(TipFor(first), L"");
+    EXPECT_EQ(TipFor(second), L"három");
     tips.Set(window, first, L"négy");
     tips.Set(window, second, L"");
-    EXPECT_EQ(TipOf(first), L"négy");
-    EXPECT_EQ(TipOf(second), L"");
+    EXPECT_EQ(TipFor(first), L"négy");
+    EXPECT_EQ(TipFor(second), L"");
 }
 
 TEST_F(ToolTipsTest, AWindowWithoutTipsGetsNone) {
     tips.Set(window, first, L"egy");
     tips.Set(window, first, L"");
     tips.OnSetCursor(window);
-    EXPECT_EQ(TipsOf(window).size(), 0U);
+    EXPECT_EQ(TipWindowsOf(window).size(), 0U);
 }
 
 std::wstring TextOfVisible(HWND window) {
-    for (const HWND tips : TipsOf(window))
+    for (const HWND tips : TipWindowsOf(window))
         if (IsWindowVisible(tips)) return TextOf(tips);
     return L"";
 }
