@@ -4,9 +4,10 @@
 set -eu
 cd "$(dirname "$0")"
 source tests/wine-env.sh
-install_packages
-# Every time in the packages is that of the commit. A copy without its history is given it.
-export SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(git log -1 --format=%ct)}
+install_packages "${packages_to_build[@]}" "${packages_to_pack[@]}"
+# Every time in the packages is that of the sources.
+SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(packaging/sources.sh date)}
+export SOURCE_DATE_EPOCH
 umask 022
 stage=build/package
 rm -rf "$stage" dist

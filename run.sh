@@ -4,7 +4,7 @@
 set -eu
 cd "$(dirname "$0")"
 source tests/wine-env.sh
-install_packages
+install_packages "${packages_to_build[@]}" "${packages_to_start[@]}"
 echo "== building the program"
 cmake --preset x64 >/dev/null
 cmake --build --preset x64 --target lindrel help_file

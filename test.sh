@@ -1,20 +1,39 @@
 #!/usr/bin/env bash
-# Builds everything and runs every test: natively, with sanitizers, and under Wine. Ends with CTest's summary.
-#   ./test.sh --wine10   runs the end-to-end tests of both widths under Debian 13's Wine 10 instead
+# Builds and tests. Ends with CTest's summary.
+#   ./test.sh            what a change needs each time: the portable code with sanitizers, the windows and the program
+#                        under Wine
+#   ./test.sh --all      everything: both widths, packages, clang-tidy, fuzzing, long walks, Wine 10 where root can be had
+#   ./test.sh --wine10   the end-to-end tests of both widths under Debian 13's Wine 10
 set -eu
 cd "$(dirname "$0")"
 source tests/wine-env.sh
-install_packages
+packages=("${packages_to_build[@]}" "${packages_to_start[@]}" "${packages_to_test[@]}")
+run=short
+builds=(sanitize x64)
+options=()
+case "${1:-}" in
+  '') ;;
+  --all)
+    run=all
+    packages+=("${packages_to_pack[@]}" "${packages_to_test_all[@]}")
+    builds=(native sanitize x64 x86 fuzz)
+    ;;
+  --wine10)
+    run=wine10
+    packages+=("${packages_to_pack[@]}")
+    builds=(x64 x86)
+    ;;
+  *) sed -n '2,/^set/{s/^# \?//p}' "$0" >&2; exit 2 ;;
+esac
+install_packages "${packages[@]}"
 wine_environment
 
-presets=(native sanitize x64 x86 fuzz)
-[ "${1:-}" != --wine10 ] || presets=(x64 x86)
-for preset in "${presets[@]}"; do
-  echo "== building $preset"
-  cmake --preset "$preset" >/dev/null
-  cmake --build --preset "$preset" -- -k 0
+for build in "${builds[@]}"; do
+  echo "== building $build"
+  cmake --preset "$build" -DLINDREL_COMPLETE=ON >/dev/null
+  cmake --build --preset "$build" -j "$(nproc)" -- -k 0
 done
-[ "${1:-}" != --wine10 ] || exec tests/wine10.sh
 make_template_prefix
-echo "== testing (the installer's test downloads Wine's 32-bit libraries, 95 MB, into build/ when they are not there)"
-exec ctest --preset all -j "$(nproc)"
+echo "== testing"
+# More runs than processors: under Wine they wait for each other's answers much of their time.
+exec ctest --preset "$run" -j $(($(nproc) + 1))

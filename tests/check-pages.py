@@ -27,13 +27,12 @@ MADE = ("build/", "dist/")  # what commands make
 complaints = []
 
 
-def tracked():
-    command = ["git", "ls-files", "-z", "--cached", "--others", "--exclude-standard"]
-    names = subprocess.run(command, cwd=ROOT, check=True, capture_output=True, text=True).stdout.split("\0")
-    return {name for name in names if name and (ROOT / name).exists()}
+def files_of_project():
+    command = [ROOT / "packaging" / "sources.sh", "files"]
+    return set(subprocess.run(command, check=True, capture_output=True, text=True).stdout.split("\0")) - {""}
 
 
-FILES = tracked()
+FILES = files_of_project()
 PLACES = FILES | {folder.as_posix() for name in FILES for folder in pathlib.PurePath(name).parents}
 PAGES = {name: (ROOT / name).read_text(encoding="utf-8") for name in FILES if name.endswith(".md")}
 PRESETS = {preset["name"] for kind in ("configurePresets", "testPresets")

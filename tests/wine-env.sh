@@ -4,13 +4,12 @@
 lindrel_root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 lindrel_wine="${LINDREL_WINE:-$lindrel_root/build/wine}"
 
-# Packages of the whole project, one list for all scripts.
-lindrel_packages=(
-  cmake ninja-build g++ git
-  g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix wine wine64
-  libgtest-dev libbenchmark-dev clang clang-format clang-tidy libclang-rt-14-dev universal-ctags
-  xvfb openbox xdotool imagemagick locales fonts-liberation python3 procps
-  fp-utils librsvg2-bin icoutils chromium nsis)
+# Debian's packages by what they are for; the scripts name the lists that they need.
+packages_to_build=(cmake ninja-build g++-mingw-w64-x86-64-posix fp-utils python3)
+packages_to_start=(wine wine64 xvfb openbox xdotool imagemagick locales fonts-liberation procps)
+packages_to_pack=(g++-mingw-w64-i686-posix nsis librsvg2-bin imagemagick)
+packages_to_test=(g++ git libgtest-dev clang-format universal-ctags chromium)
+packages_to_test_all=(libbenchmark-dev clang clang-tidy libclang-rt-14-dev)
 
 # Runs a command as root, or says which one root has to run.
 as_root() {
@@ -24,27 +23,41 @@ as_root() {
   fi
 }
 
-# Installs what is missing, and says first what that is.
+# Whether the command `as_root` would ask nobody for anything.
+can_be_root() { [ "$(id -u)" = 0 ] || sudo -n true 2>/dev/null; }
+
+# Debian's tool, in a locale that every system has, asking nothing.
+apt() { as_root env LC_ALL=C.UTF-8 DEBIAN_FRONTEND=noninteractive apt-get -q "$@"; }
+
+# Runs a command whose output matters only when it fails.
+quietly() {
+  local output
+  output=$("$@" 2>&1) || { printf '%s\n' "$output" >&2; return 1; }
+}
+
+# Installs what is missing of the packages named, and says first what that is and how much has to be downloaded.
 install_packages() {
-  local missing=() package
-  for package in "${lindrel_packages[@]}"; do
+  local missing=() package options=(install -y --no-install-recommends) bytes
+  for package in "$@"; do
     dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' || missing+=("$package")
   done
-  if [ ${#missing[@]} -gt 0 ]; then
-    echo "== installing ${#missing[@]} Debian packages and what they need: ${missing[*]}"
-    as_root apt-get update -q
-    as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${missing[@]}"
-  fi
+  [ ${#missing[@]} -gt 0 ] || return 0
+  quietly apt update
+  bytes=$(apt --print-uris "${options[@]}" "${missing[@]}" | awk "/^'/ { bytes += \$3 } END { print bytes + 0 }")
+  echo "== installing ${#missing[@]} Debian packages and what they need, $((bytes / 1000000 + 1)) MB to download: ${missing[*]}"
+  apt "${options[@]}" "${missing[@]}"
+}
+
+# The Hungarian locale makes 1250 the ANSI code page and Wine's own dialogs Hungarian.
+wine_environment() {
   if ! locale -a 2>/dev/null | grep -qix 'hu_HU\.utf-\?8'; then
     echo "== making the locale hu_HU.UTF-8"
     # Exit code 1 means warnings about the source of the locale; the locale is made all the same.
     as_root localedef -i hu_HU -f UTF-8 hu_HU.UTF-8 || [ $? = 1 ]
   fi
-}
-
-# The Hungarian locale makes 1250 the ANSI code page and Wine's own dialogs Hungarian.
-wine_environment() {
-  export LANG=hu_HU.UTF-8 LC_ALL=hu_HU.UTF-8 WINEDEBUG=${WINEDEBUG:--all} WINEDLLOVERRIDES="mscoree=;mshtml="
+  # A shell that began before the locale was made does not find it, and complains; all that it starts does.
+  { export LANG=hu_HU.UTF-8 LC_ALL=hu_HU.UTF-8; } 2>/dev/null
+  export WINEDEBUG=${WINEDEBUG:--all} WINEDLLOVERRIDES="mscoree=;mshtml="
   unset WAYLAND_DISPLAY
 }
 
@@ -94,6 +107,94 @@ end_own_prefix() {
   rm -rf "$WINEPREFIX"
 }
 
+# Sessions: a prefix with Wine's server and a display, which together take longer to start than most tests to run. One
+# serves many runs, one at a time. It is left to the next run only by a run that ended well and left nothing behind, and
+# goes when nobody has taken it for some seconds.
+
+# Takes a session that is free, or makes one; sets WINEPREFIX and DISPLAY. Descriptor 9 locks it as long as the script
+# lives, so nothing that the script starts may have it.
+take_session() {
+  local number=0
+  mkdir -p "$lindrel_wine/sessions"
+  until flock -n 9 2>/dev/null; do
+    number=$((number + 1))
+    exec 9>"$lindrel_wine/sessions/$number.lock"
+  done
+  session=$lindrel_wine/sessions/$number
+  export WINEPREFIX=$session/prefix
+  # Missing too when a run was killed with its session.
+  [ -e "$session/free" ] || start_session 9>&-
+  rm "$session/free"
+  DISPLAY=$(<"$session/display")
+  export DISPLAY
+}
+
+start_session() {
+  end_session
+  mkdir -p "$session"
+  copy_prefix "$WINEPREFIX"
+  start_display
+  echo "$DISPLAY" >"$session/display"
+  echo "${wine_processes[*]}" >"$session/processes"
+  wine "$program_64" /c exit </dev/null >/dev/null 2>&1
+  what_is_there >"$session/there"
+  touch "$session/free"
+  setsid bash -c 'source "$1/tests/wine-env.sh"; session=$2; keep_session' - "$lindrel_root" "$session" \
+    </dev/null >/dev/null 2>&1 &
+  echo $! >"$session/keeper"
+}
+program_64='C:\windows\system32\cmd.exe'
+
+end_session() {
+  [ -d "$session" ] || return 0
+  WINEPREFIX=$session/prefix wineserver -k 2>/dev/null
+  WINEPREFIX=$session/prefix wineserver -w 2>/dev/null
+  [ ! -s "$session/processes" ] || kill $(<"$session/processes") 2>/dev/null
+  chmod -R u+w "$session"
+  rm -rf "$session"
+}
+
+# Leaves the session to others, or ends it with what the run has left behind: 1 when there is something.
+leave_session() {
+  local left deadline=$((SECONDS + 10))
+  until left=$(diff "$session/there" <(what_is_there)); do
+    # What a program has started may need a moment to end.
+    [ $SECONDS -lt $deadline ] || break
+    read -rt 0.1 <> <(:) || true
+  done
+  if [ -z "$left" ]; then
+    touch "$session/free"
+    return 0
+  fi
+  printf 'This run leaves something behind:\n%s\n' "$left"
+  end_session
+  return 1
+}
+
+# Files outside of the system's own folders, and programs that are not Wine's.
+what_is_there() {
+  (cd "$WINEPREFIX/drive_c" && find . -path ./windows -prune -o -print | sort)
+  local process
+  for process in $(grep -lszZxF "WINEPREFIX=$WINEPREFIX" /proc/[0-9]*/environ | tr '\0' '\n'); do
+    { tr '\0' ' ' <"${process%environ}cmdline"; echo; } 2>/dev/null
+  done | grep -i '\.exe' | grep -vi '^C:\\windows' | sort
+}
+
+# Ends the session once it has been free for some seconds. Every session has such a process.
+keep_session() {
+  export WINEPREFIX=$session/prefix
+  exec 9>"$session.lock"
+  while [ "$(cat "$session/keeper" 2>/dev/null)" = $$ ]; do
+    read -rt 2 <> <(:) || true
+    flock -n 9 || continue
+    # Taken and killed, or free for long.
+    if [ ! -e "$session/free" ] || [ $(($(date +%s) - $(stat -c %Y "$session/free"))) -gt 10 ]; then
+      end_session
+    fi
+    flock -u 9
+  done
+}
+
 # The 32-bit libraries that an installer needs, out of Wine's own package of that width. The package is not installed:
 # it would need i386 beside amd64 in the whole system.
 lindrel_libraries_32=(
@@ -103,17 +204,17 @@ lindrel_libraries_32=(
 download_libraries_32() {
   local target="$lindrel_wine/32/i386-windows" apt="$lindrel_wine/apt"
   [ ! -d "$target" ] || return 0
-  echo "== downloading Wine's 32-bit libraries (95 MB), for the test of the installer"
+  echo "== downloading Wine's 32-bit libraries (95 MB)"
   rm -rf "$apt"
   mkdir -p "$apt/lists/partial" "$apt/archives/partial" "$apt/libraries"
-  local options=(-qq -o Dir::State::lists="$apt/lists" -o Dir::Cache="$apt" -o APT::Architectures::=amd64
-    -o APT::Architectures::=i386 -o APT::Sandbox::User=root)
+  local options=(-qq -o Dir::State::lists="$apt/lists" -o Dir::Cache="$apt" -o APT::Architectures=amd64,i386
+    -o APT::Sandbox::User=root)
   # A list that cannot be had matters only when the package is in none of the others; the download says so.
-  apt-get "${options[@]}" update 2>/dev/null || true
-  (cd "$apt" && apt-get "${options[@]}" download "libwine:i386=$(dpkg-query -W -f='${Version}' libwine)")
-  local members=("${lindrel_libraries_32[@]/#/./usr/lib/i386-linux-gnu/wine/i386-windows/}")
+  apt-get "${options[@]}" update >/dev/null 2>&1 || true
+  (cd "$apt" && quietly apt-get "${options[@]}" download "libwine:i386=$(dpkg-query -W -f='${Version}' libwine)")
+  local members=("${lindrel_libraries_32[@]/%/.dll}" cmd.exe)
   dpkg-deb --fsys-tarfile "$apt"/libwine_*.deb |
-    tar -x -C "$apt/libraries" --transform='s|.*/||' "${members[@]/%/.dll}"
+    tar -x -C "$apt/libraries" --transform='s|.*/||' "${members[@]/#/./usr/lib/i386-linux-gnu/wine/i386-windows/}"
   # Comes with the 64-bit package already.
   cp "$(dirname "$(dpkg-query -L libwine | grep -m1 '/x86_64-windows/ntdll.dll$')")/../i386-windows/zlib1.dll" \
     "$apt/libraries/"
@@ -137,6 +238,23 @@ use_libraries_32() {
   wine reg add "$shortcuts" /ve /d 'C:\windows\system32\shell32.dll' >/dev/null
   wine reg add "$shortcuts" /v ThreadingModel /d Apartment >/dev/null
 }
+
+# A program of 32 bits that every prefix with these libraries has. Some machines cannot run one (their kernels have 32-bit
+# emulation switched off), which only trying tells; LINDREL_32_BIT=no tries in vain.
+program_32='C:\windows\syswow64\cmd.exe'
+ends_with_32() { # command that runs a program of Windows
+  [ "${LINDREL_32_BIT:-}" != no ] || return 1
+  local code=0
+  "$@" "$program_32" /c exit 32 </dev/null >/dev/null 2>&1 || code=$?
+  [ $code = 32 ]
+}
+
+# The same in a prefix of its own, which it leaves.
+runs_32_bit() (
+  own_prefix
+  use_libraries_32
+  ends_with_32 timeout -k 5 60 wine
+)
 
 # Starts a display with a window manager, of 1280x1024 or another size, and sets DISPLAY. The processes' numbers are in wine_processes.
 wine_processes=()

@@ -1,23 +1,14 @@
 #!/usr/bin/env bash
-# Runs one Windows program under Wine with a prefix and a display of its own, so that several can run at once:
+# Runs one Windows program under Wine, in a session that no other run has at the time, so that several can run at once:
 #   tests/wine-run.sh program.exe argument...
-# The exit code is the program's; 124 when it does not end within LINDREL_WINE_TIMEOUT seconds.
+# The exit code is the program's; 124 when it does not end within LINDREL_WINE_TIMEOUT seconds; 1 when it leaves a file or
+# a process behind.
 set -u
 source "$(dirname "$0")/wine-env.sh"
 wine_environment
 make_template_prefix
-WINEPREFIX=$(mktemp -d "$lindrel_wine/run.XXXXXX")
-export WINEPREFIX
-clean_up() {
-  wineserver -k 2>/dev/null
-  wineserver -w 2>/dev/null
-  stop_display
-  rm -rf "$WINEPREFIX"
-}
-trap clean_up EXIT
 trap 'exit 143' INT TERM
-copy_prefix "$WINEPREFIX"
-start_display || exit 1
+take_session || exit 1
 
 # Wine 8 now and then forgets a thread of a program that has ended, and the process then never goes. Its exit code is
 # known all the same: it stands in the last field of its state.
@@ -34,10 +25,11 @@ end_forgotten() { # process of timeout, file for the exit code
     seen=$state
   done
 }
-timeout -k 10 "${LINDREL_WINE_TIMEOUT:-900}" wine "$@" </dev/null &
+timeout -k 10 "${LINDREL_WINE_TIMEOUT:-900}" wine "$@" </dev/null 9>&- &
 program=$!
-end_forgotten $program "$WINEPREFIX/exit-code" &
+end_forgotten $program "$session/exit-code" 9>&- &
 wait $program
 result=$?
-[ ! -s "$WINEPREFIX/exit-code" ] || result=$(<"$WINEPREFIX/exit-code")
+[ ! -s "$session/exit-code" ] || result=$(<"$session/exit-code")
+if [ "$result" = 0 ]; then leave_session || result=1; else end_session; fi
 exit "$result"

@@ -1,7 +1,9 @@
 #!/usr/bin/env bash
-# Runs the end-to-end tests of both widths under Debian 13's Wine 10, in a root of its own below build/wine10. Needs root,
-# and the builds x64 and x86. Called by ./test.sh --wine10.
+# Runs the end-to-end tests on the program of one width under Debian 13's Wine 10, in a root of its own below build/wine10:
+#   tests/wine10.sh x64|x86
+# Needs root, and the builds x64 and x86. Ends with 77 when it cannot be tried here.
 set -eu
+width=$1
 cd "$(dirname "$0")/.."
 source tests/wine-env.sh
 checkout=$PWD
@@ -16,13 +18,16 @@ in_root() { # mounts that nobody else sees, gone with the command
     mount --rbind /dev "$root/dev"
     mkdir -p "$root$checkout"
     mount --bind "$checkout" "$root$checkout"
-    exec chroot "$root" env -u WINEPREFIX PATH=/usr/sbin:/usr/bin:/sbin:/bin "$@"' - "$root" "$checkout" "$@"
+    exec chroot "$root" env -u WINEPREFIX LANG=C.UTF-8 LC_ALL=C.UTF-8 PATH=/usr/sbin:/usr/bin:/sbin:/bin "$@"' \
+    - "$root" "$checkout" "$@"
 }
+
+cannot() { echo "$width cannot be run here: $*"; exit 77; }
 
 make_root() {
   [ ! -e "$root/ready" ] || return 0
   echo "== making a root with Debian 13 and its Wine (about 700 MB of downloads) in build/wine10"
-  command -v debootstrap >/dev/null || as_root apt-get install -y -q debootstrap
+  install_packages debootstrap
   mkdir -p "$root"
   [ -e "$root/etc/debian_version" ] || as_root debootstrap --variant=minbase --include=ca-certificates trixie "$root"
   in_root bash -eu -c '
@@ -34,21 +39,25 @@ make_root() {
     # The half of the 32-bit Wine that runs beside the 64-bit one.
     cd /tmp
     apt-get download libwine:i386
+    # With that architecture among the system's, wine would look for a 32-bit half of its own.
+    dpkg --remove-architecture i386
     dpkg-deb -x libwine_*_i386.deb libwine32
     cp -r "$(find libwine32 -type d -name i386-windows)" "$(dirname "$(find /usr/lib -type d -name x86_64-windows)")/"
     rm -rf libwine32 libwine_*' - "${packages[@]}"
   as_root touch "$root/ready"
 }
 
-# All but TrayTest, which clicks on an icon in the window that Wine 8 makes for the notification area.
-run_suites() { # width
-  echo "== end-to-end tests of $1 under $(in_root wine --version)"
-  in_root env LANG=hu_HU.UTF-8 LC_ALL=hu_HU.UTF-8 HOME=/root LINDREL_WINE="$checkout/build/wine10/prefixes" \
-    LINDREL_PROGRAM="Z:$checkout/build/$1/lindrel/lindrel.exe" \
-    "$checkout/tests/wine-run.sh" "$checkout/build/x64/tests/e2e/e2e_tests.exe" --gtest_brief=1 --gtest_filter=-TrayTest.*
+run_in_session() { # arguments of tests/wine-run.sh, perhaps with assignments before them
+  in_root env HOME=/root LINDREL_WINE="$checkout/build/wine10/prefixes" "$@"
 }
 
+can_be_root || cannot "only root can make a root for Wine 10"
+as_root unshare -m true 2>/dev/null || cannot "there are no namespaces for a root of its own"
 make_root
-failed=0
-for width in x64 x86; do run_suites $width || failed=1; done
-exit $failed
+if [ "$width" = x86 ]; then
+  ends_with_32 run_in_session "$checkout/tests/wine-run.sh" || cannot "32-bit programs cannot be started"
+fi
+echo "== end-to-end tests of $width under $(in_root wine --version)"
+# All but TrayTest, which clicks on an icon in the window that Wine 8 makes for the notification area.
+run_in_session LINDREL_PROGRAM="Z:$checkout/build/$width/lindrel/lindrel.exe" \
+  "$checkout/tests/wine-run.sh" "$checkout/build/x64/tests/e2e/e2e_tests.exe" --gtest_brief=1 --gtest_filter=-TrayTest.*

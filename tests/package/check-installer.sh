@@ -13,12 +13,18 @@ version=$(sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=//p' build/x64/CMakeCache.txt)
 installer=$PWD/dist/lindrel-$version-telepito.exe
 stage=$PWD/build/package
 make_template_prefix
+# In shells of their own, whose errors are not those of this one.
+why_not=
+if ! bash -c 'source tests/wine-env.sh; set -e; download_libraries_32'; then
+  why_not="Wine's 32-bit libraries cannot be had here"
+elif ! bash -c 'source tests/wine-env.sh; wine_environment; runs_32_bit'; then
+  why_not="32-bit programs cannot be started here"
+fi
 own_prefix
-# In a shell of its own, whose errors are not those of this one.
-if bash -c 'source tests/wine-env.sh; set -e; download_libraries_32'; then
+if [ -z "$why_not" ]; then
   use_libraries_32
 else
-  echo "Wine's 32-bit libraries cannot be had here: the same installer is tried as a 64-bit program."
+  echo "$why_not: the same installer is tried as a 64-bit program."
   installer=$PWD/build/wine/telepito-64.exe
   packaging/make-installer.sh "$version" "$stage" "$installer" amd64-unicode
 fi
@@ -141,7 +147,7 @@ themes=$newer/x64/Lindrel/styles
 echo newer >>"$themes/vilagos.aut"
 echo newer >>"$themes/sotet.aut"
 mv "$themes/nyomtathato.aut" "$themes/legujabb.aut"
-packaging/make-installer.sh 9.9.9 "$newer" "$newer/telepito.exe"
+packaging/make-installer.sh 9.9.9 "$newer" "$newer/telepito.exe" "${why_not:+amd64-unicode}"
 echo mine >>"$folder/styles/sotet.aut"
 echo mine >"$folder/styles/sajat.aut"
 rm "$folder/styles/szines.aut"

@@ -197,10 +197,10 @@ void ShippedProgram::ClickAnywhere(HWND window, POINT place, bool right) {
     Demand(SetCursorPos(place.x, place.y) != FALSE, "the mouse pointer");
     INPUT input{};
     input.type = INPUT_MOUSE;
-    INPUT inputs[] = {input, input};
+    std::vector<INPUT> inputs(2, input);
     inputs[0].mi.dwFlags = right ? MOUSEEVENTF_RIGHTDOWN : MOUSEEVENTF_LEFTDOWN;
     inputs[1].mi.dwFlags = right ? MOUSEEVENTF_RIGHTUP : MOUSEEVENTF_LEFTUP;
-    Demand(SendInput(2, inputs, sizeof(INPUT)) == 2, "the system took not all of the input");
+    SendInputs(std::move(inputs));
 }
 
 void ShippedProgram::AnswerFileDialog(const std::wstring& path) const {

@@ -20,7 +20,7 @@ namespace {
 // One line for a control: class, 'name', what else is known of it.
 using Lines = std::vector<std::string>;
 
-std::string TextOf(BSTR text) {
+std::string NarrowText(BSTR text) {
     const std::string narrow = text != nullptr ? Narrow(text) : "";
     SysFreeString(text);
     return narrow;
@@ -69,10 +69,10 @@ std::string LineOf(HWND window) {
     object->get_accKeyboardShortcut(self, &key);
     const std::wstring kind = ClassOf(window);
     std::string line =
-        Narrow(kind) + " '" + TextOf(name) + "'" + RoleOf(*object, self) + StateOf(*object, self);
+        Narrow(kind) + " '" + NarrowText(name) + "'" + RoleOf(*object, self) + StateOf(*object, self);
     if (kind == L"ComboBox" || kind == L"ListBox" || kind == L"SysListView32" || kind == L"SysTreeView32")
         line += LabelOf(window);
-    if (const std::string shortcut = TextOf(key); !shortcut.empty()) line += " " + shortcut;
+    if (const std::string shortcut = NarrowText(key); !shortcut.empty()) line += " " + shortcut;
     object->Release();
     return line;
 }

@@ -108,6 +108,13 @@ class DragWindow {
 
     HWND Handle() const { return window_; }
     bool CursorSays(DWORD effect) const { return source_.Shown == effect; }
+    // The mouse's moves go nowhere else any more.
+    bool IsDragging() const {
+        GUITHREADINFO info{};
+        info.cbSize = sizeof info;
+        return GetGUIThreadInfo(GetWindowThreadProcessId(window_, nullptr), &info) &&
+               info.hwndCapture != nullptr;
+    }
     bool HasEnded() const { return ended_; }
 
   private:
@@ -169,6 +176,7 @@ class BookDropTest : public FileSession {
         // Beside it, where nothing lies over either.
         const DragWindow from(files, {place.right + 20, place.top + 20});
         hands.Hold(from.Handle(), {30, 30});
+        WaitUntil("the start of the drag", [&] { return from.IsDragging(); });
         hands.Move(program.Control(ID_frmStart_ListURLs), {100, 100});
         EXPECT_TRUE(Eventually([&] { return from.CursorSays(cursor); })) << "the cursor says otherwise";
         hands.LetGo();

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "controls/Control.h"
+#include "tests/window/support/Boxes.h"
 #include "tests/window/support/Text.h"
 
 namespace lindrel::testing {

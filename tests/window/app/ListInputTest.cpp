@@ -12,12 +12,12 @@
 namespace lindrel::testing {
 namespace {
 
-struct MenuItem {
+struct RowMenuItem {
     std::wstring Caption;  // with its shortcut; empty for a separator
     UINT Id = 0;
     bool Enabled = true;
     bool Default = false;
-    bool operator==(const MenuItem&) const = default;
+    bool operator==(const RowMenuItem&) const = default;
 };
 
 std::vector<UINT> beeps;
@@ -63,9 +63,9 @@ class ListInputTest : public ::testing::Test {
         hands.Press(VK_ESCAPE);
         WaitUntil("the menu to go", [this] { return PoppedUpMenu(program.Thread()) == nullptr; });
     }
-    std::vector<MenuItem> ItemsOf(HWND popup) const {
+    std::vector<RowMenuItem> ItemsOf(HWND popup) const {
         const auto menu = reinterpret_cast<HMENU>(SendMessageW(popup, MN_GETHMENU, 0, 0));
-        std::vector<MenuItem> items;
+        std::vector<RowMenuItem> items;
         for (int i = 0; i < GetMenuItemCount(menu); ++i) {
             wchar_t caption[80] = L"";
             GetMenuStringW(menu, static_cast<UINT>(i), caption, 80, MF_BYPOSITION);
@@ -77,7 +77,7 @@ class ListInputTest : public ::testing::Test {
         }
         return items;
     }
-    static std::vector<MenuItem> RowMenu() {
+    static std::vector<RowMenuItem> RowMenu() {
         return {{L"Ugorj az oldalra\tCtrl+G", ID_mnuGoto, true, true},
                 {},
                 {L"Cím módosítása...\tCtrl+E", ID_mnuEdit},
@@ -142,7 +142,7 @@ TEST_F(ListInputTest, ARightClickSelectsTheRowAndOpensItsMenu) {
 TEST_F(ListInputTest, TheMenuFollowsTheMenuBar) {
     program.OnUi([](frmStart& form) { form.EnableCommand(ID_mnuMove, false); });
     hands.RightClick(list, TextOf(1));
-    std::vector<MenuItem> expected = RowMenu();
+    std::vector<RowMenuItem> expected = RowMenu();
     expected[3].Enabled = false;
     EXPECT_EQ(ItemsOf(WaitForMenu()), expected);
     LeaveMenu();

@@ -25,7 +25,7 @@ void PrintTo(const Reason& reason, std::ostream* out) {
 }
 
 std::vector<Reason> reasons;
-bool icon_is_there = false;
+bool icon_is_shown = false;
 
 // In the places of the system's, from before the program's start until after its end. They are called on its
 // thread only.
@@ -33,7 +33,7 @@ class RecordingSystem {
   public:
     RecordingSystem() {
         reasons.clear();
-        icon_is_there = false;
+        icon_is_shown = false;
     }
 
   private:
@@ -46,8 +46,8 @@ class RecordingSystem {
         return TRUE;
     }
     static BOOL WINAPI NotifyIcon(DWORD operation, NOTIFYICONDATAA*) {
-        if (operation == NIM_ADD) icon_is_there = true;
-        if (operation == NIM_DELETE) icon_is_there = false;
+        if (operation == NIM_ADD) icon_is_shown = true;
+        if (operation == NIM_DELETE) icon_is_shown = false;
         return TRUE;
     }
     ReplacedImport give_{&ShutdownBlockReasonCreate, &Give};
@@ -68,7 +68,7 @@ class SessionEndTest : private BeforeTheProgram, public FileSession {
     Reason Given(const wchar_t* text) const { return {program.Main(), text, true}; }
     Reason TakenBack() const { return {program.Main(), L"", true}; }
     bool InTray() const {
-        return !IsWindowVisible(program.Main()) && program.Ask<bool>([](frmStart&) { return icon_is_there; });
+        return !IsWindowVisible(program.Main()) && program.Ask<bool>([](frmStart&) { return icon_is_shown; });
     }
     // For a window that answers without a question.
     static LRESULT Query(HWND window) { return AnswerToEndSession(window); }
@@ -101,7 +101,7 @@ TEST_F(SessionEndTest, WithoutChangesNothingIsAskedAndTheTrayStays) {
     EXPECT_TRUE(InTray());
     End(program.Main(), true);
     EXPECT_EQ(program.WaitForEnd(), 0);
-    EXPECT_FALSE(icon_is_there);
+    EXPECT_FALSE(icon_is_shown);
 }
 
 TEST_F(SessionEndTest, NoLetsTheSessionEndAndTheEndAsksNothingMore) {

@@ -10,11 +10,11 @@ namespace lindrel::testing {
 namespace {
 
 // What is drawn into a window, in the program's thread.
-std::vector<std::pair<HWND, std::wstring>> drawn;
+std::vector<std::pair<HWND, std::wstring>> texts_drawn;
 RECT place_of_last{};
 decltype(&DrawTextW) real_draw_text = nullptr;
 int WINAPI WriteDown(HDC canvas, LPCWSTR text, int length, LPRECT place, UINT format) {
-    drawn.emplace_back(WindowFromDC(canvas), text);
+    texts_drawn.emplace_back(WindowFromDC(canvas), text);
     place_of_last = *place;
     return real_draw_text(canvas, text, length, place, format);
 }
@@ -30,9 +30,9 @@ class EmptyListTextTest : public FindSession {
         const ReplacedImport recorder(real_draw_text, &WriteDown);
         std::vector<std::wstring> texts;
         program.OnUi([&](frmStart&) {
-            drawn.clear();
+            texts_drawn.clear();
             RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
-            for (const auto& [where, text] : drawn)
+            for (const auto& [where, text] : texts_drawn)
                 if (where == window) texts.push_back(text);
         });
         return texts;

@@ -3,26 +3,14 @@
 #include <chrono>
 #include <stdexcept>
 
+#include "tests/window/support/RealKeys.h"
+
 namespace lindrel::testing {
 
 namespace {
 
 // How long a user waits for an effect before pressing a key again.
 constexpr std::chrono::seconds kPatience{5};
-
-void Send(std::vector<INPUT> inputs) {
-    if (SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT)) != inputs.size())
-        throw std::runtime_error("the system took not all of the input");
-}
-
-INPUT Key(WORD key, DWORD flags) {
-    INPUT input{};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wVk = key;
-    input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
-    input.ki.dwFlags = flags;
-    return input;
-}
 
 INPUT Mouse(DWORD flags) {
     INPUT input{};
@@ -48,13 +36,7 @@ RealInput::RealInput(const Program& program) : program_(program) {
 }
 
 void RealInput::Press(WORD key, const std::vector<WORD>& held) const {
-    std::vector<INPUT> inputs;
-    for (const WORD each : held) inputs.push_back(Key(each, 0));
-    inputs.push_back(Key(key, 0));
-    inputs.push_back(Key(key, KEYEVENTF_KEYUP));
-    for (auto each = held.rbegin(); each != held.rend(); ++each)
-        inputs.push_back(Key(*each, KEYEVENTF_KEYUP));
-    Send(std::move(inputs));
+    PressRealKey({key, held});
     program_.Settle();
 }
 
@@ -73,13 +55,13 @@ void RealInput::Click(HWND window, POINT place, int times) const {
         inputs.push_back(Mouse(MOUSEEVENTF_LEFTDOWN));
         inputs.push_back(Mouse(MOUSEEVENTF_LEFTUP));
     }
-    Send(std::move(inputs));
+    SendInputs(std::move(inputs));
     program_.Settle();
 }
 
 void RealInput::RightClick(HWND window, POINT place) const {
     MoveTo(window, place);
-    Send({Mouse(MOUSEEVENTF_RIGHTDOWN), Mouse(MOUSEEVENTF_RIGHTUP)});
+    SendInputs({Mouse(MOUSEEVENTF_RIGHTDOWN), Mouse(MOUSEEVENTF_RIGHTUP)});
     program_.Settle();
 }
 
@@ -91,7 +73,7 @@ void RealInput::Drag(HWND window, POINT from, POINT to) const {
 
 void RealInput::Hold(HWND window, POINT place) const {
     MoveTo(window, place);
-    Send({Mouse(MOUSEEVENTF_LEFTDOWN)});
+    SendInputs({Mouse(MOUSEEVENTF_LEFTDOWN)});
     program_.Settle();
 }
 
@@ -101,7 +83,7 @@ void RealInput::Move(HWND window, POINT place) const {
 }
 
 void RealInput::LetGo() const {
-    Send({Mouse(MOUSEEVENTF_LEFTUP)});
+    SendInputs({Mouse(MOUSEEVENTF_LEFTUP)});
     program_.Settle();
 }
 

@@ -25,12 +25,12 @@ INPUT CharacterInput(wchar_t unit, bool up) {
     return input;
 }
 
-void Send(std::vector<INPUT> inputs) {
+}  // namespace
+
+void SendInputs(std::vector<INPUT> inputs) {
     const UINT sent = SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
     if (sent != inputs.size()) throw std::runtime_error("the system took not all of the input");
 }
-
-}  // namespace
 
 void PressRealKey(const Stroke& stroke) {
     std::vector<INPUT> inputs;
@@ -39,7 +39,7 @@ void PressRealKey(const Stroke& stroke) {
     inputs.push_back(KeyInput(stroke.Key, true));
     for (auto key = stroke.Held.rbegin(); key != stroke.Held.rend(); ++key)
         inputs.push_back(KeyInput(*key, true));
-    Send(std::move(inputs));
+    SendInputs(std::move(inputs));
 }
 
 void TypeRealText(std::wstring_view text) {
@@ -48,7 +48,7 @@ void TypeRealText(std::wstring_view text) {
         inputs.push_back(CharacterInput(unit, false));
         inputs.push_back(CharacterInput(unit, true));
     }
-    Send(std::move(inputs));
+    SendInputs(std::move(inputs));
 }
 
 void WaitUntilInFront(DWORD thread) {

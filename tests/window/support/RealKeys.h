@@ -14,8 +14,10 @@ struct Stroke {
     std::vector<WORD> Held = {};
 };
 
-// They go to whatever is in front; see WaitUntilInFront. Throw std::runtime_error when the system does not
-// take them all.
+// All of them at once. Throws std::runtime_error when the system does not take them all.
+void SendInputs(std::vector<INPUT> inputs);
+
+// They go to whatever is in front; see WaitUntilInFront.
 void PressRealKey(const Stroke& stroke);
 void TypeRealText(std::wstring_view text);
 
