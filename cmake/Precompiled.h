@@ -1,5 +1,5 @@
-// What most sources include and the compiler takes longest to read, read once for all sources of a build. No source
-// counts on it: clang-tidy reads each one without it.
+// What most sources include and the compiler takes longest to read, read once for all sources of a build. No
+// source counts on it: clang-tidy reads each one without it.
 #pragma once
 
 #include <algorithm>

@@ -15,7 +15,7 @@ take_session || exit 1
 end_forgotten() { # process of timeout, file for the exit code
   local program state fields
   while kill -0 "$1" 2>/dev/null; do
-    read -rt 2 <> <(:) || true
+    read -rt 1 <> <(:) || true
     program=$(pgrep -P "$1") || continue
     read -r state fields < <(sed 's/.*) //' "/proc/$program/stat" 2>/dev/null) || continue
     if [ "$state" = Z ] && [ "${seen:-}" = Z ]; then
@@ -25,11 +25,14 @@ end_forgotten() { # process of timeout, file for the exit code
     seen=$state
   done
 }
-timeout -k 10 "${LINDREL_WINE_TIMEOUT:-900}" wine "$@" </dev/null 9>&- &
+# Into a file, since what it starts of Wine's own may go on, and would keep a pipe open that somebody reads.
+timeout -k 10 "${LINDREL_WINE_TIMEOUT:-900}" wine "$@" </dev/null >"$session/output" 2>&1 9>&- &
 program=$!
-end_forgotten $program "$session/exit-code" 9>&- &
+end_forgotten $program "$session/exit-code" >/dev/null 9>&- &
+tail -n +1 -f -s 0.1 --pid=$program "$session/output" 9>&-
 wait $program
 result=$?
 [ ! -s "$session/exit-code" ] || result=$(<"$session/exit-code")
+rm -f "$session/exit-code"
 if [ "$result" = 0 ]; then leave_session || result=1; else end_session; fi
 exit "$result"

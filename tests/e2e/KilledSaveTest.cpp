@@ -10,6 +10,7 @@
 
 #include "resources/resource.h"
 #include "tests/e2e/support/ShippedProgram.h"
+#include "tests/support/Times.h"
 #include "tests/window/support/Program.h"
 
 namespace lindrel::testing {
@@ -52,7 +53,8 @@ TEST_F(KilledSaveTest, ThereIsTheOldBookOrTheNewOneAndNothingElseAfterTheNextSav
     std::uniform_int_distribution<int> milliseconds(0, 60);
 
     int first = 1;  // of the entries that the file holds
-    for (int kill = 0; kill < 20; ++kill) {
+    const int kills = Times(20, 5);
+    for (int kill = 0; kill < kills; ++kill) {
         {
             const ShippedProgram program;
             OpenAndDeleteTheFirst(program, kEntries - first + 1);
@@ -67,7 +69,7 @@ TEST_F(KilledSaveTest, ThereIsTheOldBookOrTheNewOneAndNothingElseAfterTheNextSav
         ASSERT_TRUE(saved || bytes == BookFrom(first, kEntries)) << "kill " << kill;
         if (saved) ++first;
     }
-    std::cout << first - 1 << " of 20 kills came after the save\n";
+    std::cout << first - 1 << " of " << kills << " kills came after the save\n";
     const ShippedProgram program;
     OpenAndDeleteTheFirst(program, kEntries - first + 1);
     program.PressUntil({'S', {VK_CONTROL}}, "the box that tells of the save", [&] {

@@ -21,7 +21,7 @@ bool ClickIcon(bool right, HWND main) {
     if (area != nullptr)
         ShippedProgram::ClickAnywhere(
             area, {GetSystemMetrics(SM_CXSMICON) / 2, GetSystemMetrics(SM_CYSMICON) / 2}, right);
-    return Eventually([main] { return IsWindowVisible(main) != FALSE; }, std::chrono::seconds(2));
+    return Eventually([main] { return IsWindowVisible(main) != FALSE; }, kPatience);
 }
 
 TEST(TrayTest, EitherButtonOnTheIconBringsTheWindowBack) {

@@ -16,9 +16,6 @@ namespace lindrel::testing {
 
 namespace {
 
-// How long a user waits for an effect before pressing a key again.
-constexpr std::chrono::seconds kPatience{5};
-
 void Demand(bool good, const char* what) {
     if (!good) throw std::runtime_error(what);
 }
@@ -107,14 +104,15 @@ ShippedProgram::ShippedProgram() {
             if (ClassOf(window) == L"frmStart") main_ = window;
         return main_ != nullptr;
     });
-    Demand(WaitForInputIdle(process_.hProcess, 20000) == 0, "the program does not come to rest");
+    Demand(WaitForInputIdle(process_.hProcess, kDeadlineInMilliseconds) == 0,
+           "the program does not come to rest");
     WaitUntilInFront();
 }
 
 ShippedProgram::~ShippedProgram() {
     if (WaitForSingleObject(process_.hProcess, 0) != WAIT_OBJECT_0) {
         EXPECT_TRUE(TerminateProcess(process_.hProcess, 99));
-        EXPECT_EQ(WaitForSingleObject(process_.hProcess, 20000), WAIT_OBJECT_0);
+        EXPECT_EQ(WaitForSingleObject(process_.hProcess, kDeadlineInMilliseconds), WAIT_OBJECT_0);
     }
     EXPECT_TRUE(CloseHandle(process_.hThread));
     EXPECT_TRUE(CloseHandle(process_.hProcess));
@@ -303,7 +301,8 @@ RECT ShippedProgram::ToolbarButton(int position) const {
 }
 
 DWORD ShippedProgram::WaitForEnd() const {
-    Demand(WaitForSingleObject(process_.hProcess, 20000) == WAIT_OBJECT_0, "the program does not end");
+    Demand(WaitForSingleObject(process_.hProcess, kDeadlineInMilliseconds) == WAIT_OBJECT_0,
+           "the program does not end");
     DWORD code = 0;
     Demand(GetExitCodeProcess(process_.hProcess, &code) != FALSE, "the exit code");
     return code;

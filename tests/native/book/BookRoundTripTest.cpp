@@ -14,6 +14,7 @@
 #include "book/BookHeaders.h"
 #include "book/BookText.h"
 #include "book/PerCategory.h"
+#include "tests/support/Times.h"
 
 namespace lindrel {
 namespace {
@@ -114,12 +115,13 @@ const Texts kAnyNames = {"a",  "b c", "index.hu", "http://n.hu", "www.n.hu", "",
 const Texts kAddresses = {"http://u.hu", "www.u.hu", "mailto:u@u.hu", "index.hu", "C:\\a b.htm", "",
                           "#u",          "#",        "#http://u.hu"};
 
-TEST_F(BookRoundTripTest, AHundredThousandBooksAreNeverReadAmissInSilence) {
-    for (int round = 0; round < 100000; ++round) {
+TEST_F(BookRoundTripTest, ManyBooksAreNeverReadAmissInSilence) {
+    const int rounds = testing::Times(100000, 20000);
+    for (int round = 0; round < rounds; ++round) {
         ASSERT_TRUE(ExpectReadBackOrAsked(RandomBook(kAnyNames, kAddresses))) << "round " << round;
         ASSERT_FALSE(HasFailure()) << "round " << round;
     }
-    for (const int times : seen) EXPECT_GT(times, 1000);
+    for (const int times : seen) EXPECT_GT(times, rounds / 100);
 }
 
 // Names that are no addresses, and addresses as they are: such books are read back whatever begins with "#".

@@ -16,6 +16,7 @@
 #include "book/Book.h"
 #include "book/BookFile.h"
 #include "tests/native/support/TemporaryFolder.h"
+#include "tests/support/Times.h"
 
 namespace lindrel {
 namespace {
@@ -55,7 +56,8 @@ void LetRunAndKill(pid_t child, std::chrono::microseconds time) {
 
 TEST(KilledSaveTest, ThereIsTheOldBookOrTheNewOneAndNothingElseAfterTheNextSave) {
     const unsigned long seed = FromEnvironment("LINDREL_SEED", std::random_device{}());
-    const unsigned long kills = FromEnvironment("LINDREL_KILLS", 200);
+    const unsigned long kills =
+        FromEnvironment("LINDREL_KILLS", static_cast<unsigned long>(testing::Times(200, 50)));
     std::cout << "LINDREL_SEED=" << seed << " LINDREL_KILLS=" << kills << std::endl;
     std::mt19937 random(static_cast<std::mt19937::result_type>(seed));
     std::uniform_int_distribution<int> microseconds(0, 20000);

@@ -6,16 +6,15 @@
 #include <vector>
 
 #include "resources/resource.h"
+#include "tests/support/Times.h"
 #include "tests/window/support/Program.h"
 #include "tests/window/support/SystemObjects.h"
 
 namespace lindrel::testing {
 namespace {
 
-constexpr int kTimes = 200;
-
 // Does something some times, which fills the system's caches, then again and again.
-void ExpectNothingLeft(const std::function<void(int times)>& repeat, int times = kTimes) {
+void ExpectNothingLeft(const std::function<void(int times)>& repeat, int times = Times(200, 30)) {
     repeat(10);
     const SystemObjects before = CountSystemObjects();
     repeat(times);
@@ -173,16 +172,16 @@ TEST_F(LeaksTest, SavingLeavesNothing) {
 
 TEST_F(LeaksTest, TheWholeProgramLeavesNothing) {
     // Beside the one of the fixture, on a thread of its own.
-    constexpr int kStarts = 20;
+    const int starts = Times(20, 10);
     const auto start = Repeating([] { const Program another; });
     start(2);
     const SystemObjects before = CountSystemObjects();
-    start(kStarts);
+    start(starts);
     SystemObjects after = CountSystemObjects();
     // Wine keeps two handles of each window that has ever taken drops, and an event of each lock that two
     // threads have ever wanted at once: what leaks, leaks each time.
-    EXPECT_LT(after.Handles - before.Handles - 2 * kStarts, kStarts / 2);
-    EXPECT_LT(after.GdiObjects - before.GdiObjects, kStarts / 2);
+    EXPECT_LT(after.Handles - before.Handles - 2 * starts, starts / 2);
+    EXPECT_LT(after.GdiObjects - before.GdiObjects, starts / 2);
     after.Handles = before.Handles;
     after.GdiObjects = before.GdiObjects;
     EXPECT_EQ(after, before);

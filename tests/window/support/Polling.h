@@ -14,7 +14,13 @@ class DeadlinePassed : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-inline constexpr std::chrono::seconds kDeadline{20};
+// Long enough for a machine that has much else to do.
+inline constexpr std::chrono::seconds kDeadline{60};
+inline constexpr unsigned long kDeadlineInMilliseconds = 1000 * kDeadline.count();
+
+// How long a user waits for an effect before pressing a key or clicking again: where input can miss a window
+// that is still on its way to its place or to the front.
+inline constexpr std::chrono::seconds kPatience{20};
 
 // Asks until the answer is true. Throws DeadlinePassed, naming what was waited for.
 void WaitUntil(const std::string& what, const std::function<bool()>& answer,

@@ -120,7 +120,7 @@ void Program::Choose(int menu_id) const {
 void Program::Settle() const {
     const HANDLE idle = CreateEventW(nullptr, TRUE, FALSE, nullptr);
     PostMessageW(ear_, kTellWhenIdle, reinterpret_cast<WPARAM>(idle), 0);
-    const DWORD waited = WaitForSingleObject(idle, static_cast<DWORD>(kDeadline.count() * 1000));
+    const DWORD waited = WaitForSingleObject(idle, kDeadlineInMilliseconds);
     // An event that is still to be set must stay valid.
     if (waited != WAIT_OBJECT_0) throw DeadlinePassed("the program does not come to rest");
     CloseHandle(idle);

@@ -9,9 +9,6 @@ namespace lindrel::testing {
 
 namespace {
 
-// How long a user waits for an effect before pressing a key again.
-constexpr std::chrono::seconds kPatience{5};
-
 INPUT Mouse(DWORD flags) {
     INPUT input{};
     input.type = INPUT_MOUSE;

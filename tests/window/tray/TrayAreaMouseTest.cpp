@@ -123,7 +123,7 @@ TEST_F(TrayAreaMouseTest, TheRealIconHearsBothButtonsAndGoes) {
     const auto click_until_heard = [this](DWORD down, DWORD up, std::size_t count) {
         return PumpEventually([&] {
             RealClick(*IconOnScreen(), down, up);
-            return PumpEventually([&] { return heard.size() >= count; }, std::chrono::seconds(2));
+            return PumpEventually([&] { return heard.size() >= count; }, kPatience);
         });
     };
     ASSERT_TRUE(click_until_heard(MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP, 2));

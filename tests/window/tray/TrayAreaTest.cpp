@@ -235,7 +235,7 @@ TEST_F(TrayAreaTest, TheBroadcastOfANewTaskbarReachesTheControlOfAHiddenWindow) 
     Show();
     DWORD_PTR result = 0;
     SendMessageTimeoutW(HWND_BROADCAST, RegisterWindowMessageW(L"TaskbarCreated"), 0, 0, SMTO_ABORTIFHUNG,
-                        20000, &result);
+                        kDeadlineInMilliseconds, &result);
     const std::vector<Call> again = Taken();
     ASSERT_EQ(again.size(), 2u);
     EXPECT_EQ(again[0].Operation, static_cast<DWORD>(NIM_ADD));
