@@ -129,8 +129,10 @@ TEST_F(LeaksTest, MenusThatPopUpLeaveNothing) {
     dialog.Cancel();
 }
 
-TEST_F(LeaksTest, TheLargestCategoryIsFilledAgainAndAgain) {
-    program.Add(1, std::vector<Row>(32767, {L"Név", L"http://nev.hu"}));
+TEST_F(LeaksTest, ALargeCategoryIsFilledAgainAndAgain) {
+    // The test takes long to read so many rows, the program does not.
+    const auto rows = static_cast<std::size_t>(Times(32767, 3000));
+    program.Add(1, std::vector<Row>(rows, {L"Név", L"http://nev.hu"}));
     program.Run(ID_mnuSelectAll);
     const MainState full = program.State();
     ExpectNothingLeft([&](int times) {

@@ -13,9 +13,11 @@ namespace lindrel::testing {
 
 namespace {
 
-// Windows, menus and icons share one table of at most this many places.
+// Windows, menus and icons share one table of at most this many places. Free places are taken first, so that
+// nothing comes after as many in a row as the program never has at once.
 constexpr std::uintptr_t kFirstUserHandle = 0x20;
 constexpr std::uintptr_t kLastUserHandle = 0xFFFE;
+constexpr std::uintptr_t kMostFreeInARow = 2048;
 constexpr std::uintptr_t kLastHandle = 0x4000;  // many times what the program ever has
 
 int CountWindows() {
@@ -33,23 +35,25 @@ int CountWindows() {
     return static_cast<int>(windows.size());
 }
 
-int CountMenus() {
-    int count = 0;
-    for (auto handle = kFirstUserHandle; handle <= kLastUserHandle; handle += 2)
-        if (IsMenu(reinterpret_cast<HMENU>(handle))) ++count;
-    return count;
+bool IsIcon(HICON handle) {
+    ICONINFO icon{};
+    if (!GetIconInfo(handle, &icon)) return false;
+    DeleteObject(icon.hbmMask);
+    if (icon.hbmColor != nullptr) DeleteObject(icon.hbmColor);
+    return true;
 }
 
-int CountIcons() {
-    int count = 0;
-    for (auto handle = kFirstUserHandle; handle <= kLastUserHandle; handle += 2) {
-        ICONINFO icon{};
-        if (!GetIconInfo(reinterpret_cast<HICON>(handle), &icon)) continue;
-        DeleteObject(icon.hbmMask);
-        if (icon.hbmColor != nullptr) DeleteObject(icon.hbmColor);
-        ++count;
+void CountMenusAndIcons(SystemObjects& counts) {
+    std::uintptr_t free_in_a_row = 0;
+    for (auto handle = kFirstUserHandle; handle <= kLastUserHandle && free_in_a_row < kMostFreeInARow;
+         handle += 2) {
+        const bool is_menu = IsMenu(reinterpret_cast<HMENU>(handle)) != FALSE;
+        const bool is_icon = !is_menu && IsIcon(reinterpret_cast<HICON>(handle));
+        if (is_menu) ++counts.Menus;
+        if (is_icon) ++counts.Icons;
+        const bool is_free = !is_menu && !is_icon && !IsWindow(reinterpret_cast<HWND>(handle));
+        free_in_a_row = is_free ? free_in_a_row + 1 : 0;
     }
-    return count;
 }
 
 // The table of the process' GDI objects, which its environment block points to.
@@ -86,7 +90,12 @@ int CountHandles() {
 }  // namespace
 
 SystemObjects CountSystemObjects() {
-    return {CountWindows(), CountMenus(), CountIcons(), CountGdiObjects(), CountHandles()};
+    SystemObjects counts;
+    counts.Windows = CountWindows();
+    CountMenusAndIcons(counts);
+    counts.GdiObjects = CountGdiObjects();
+    counts.Handles = CountHandles();
+    return counts;
 }
 
 void PrintTo(const SystemObjects& objects, std::ostream* out) {
