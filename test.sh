@@ -35,5 +35,5 @@ for build in "${builds[@]}"; do
 done
 make_template_prefix
 echo "== testing"
-# More runs than processors: under Wine they wait for each other's answers much of their time.
-exec ctest --preset "$run" -j $(($(nproc) + 1))
+
+exec ctest --preset "$run" -j "$(nproc)"
