@@ -35,5 +35,4 @@ for build in "${builds[@]}"; do
 done
 make_template_prefix
 echo "== testing"
-
 exec ctest --preset "$run" -j "$(nproc)"
