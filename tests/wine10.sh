@@ -8,7 +8,7 @@ cd "$(dirname "$0")/.."
 source tests/wine-env.sh
 checkout=$PWD
 root=$PWD/build/wine10/root
-packages=(wine wine64 xvfb openbox locales procps fonts-liberation)
+packages=(wine wine64 xvfb openbox xdotool locales procps fonts-liberation)
 
 in_root() { # mounts that nobody else sees, gone with the command
   as_root unshare -m bash -c '
@@ -39,7 +39,7 @@ make_root() {
     # The half of the 32-bit Wine that runs beside the 64-bit one.
     cd /tmp
     apt-get download libwine:i386
-    # With that architecture among the system's, wine would look for a 32-bit half of its own.
+    # While dpkg knows that architecture, wine looks for a 32-bit half of its own.
     dpkg --remove-architecture i386
     dpkg-deb -x libwine_*_i386.deb libwine32
     cp -r "$(find libwine32 -type d -name i386-windows)" "$(dirname "$(find /usr/lib -type d -name x86_64-windows)")/"

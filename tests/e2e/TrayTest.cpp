@@ -1,6 +1,10 @@
 // Tray mode of the shipped program, with real clicks on the icon in the notification area.
 
+#include <commctrl.h>
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <chrono>
 
 #include "tests/e2e/support/ShippedProgram.h"
 #include "tests/window/support/Program.h"
@@ -14,14 +18,23 @@ HWND NotificationArea() {
     return area != nullptr && IsWindowVisible(area) ? area : nullptr;
 }
 
-// Clicks the icon and tells whether that brought the window back. The notification area may still be on its
-// way to its place; then the click misses, and a user would click again.
-bool ClickIcon(bool right, HWND main) {
+bool TipIsShown(HWND area) {
+    const std::vector<HWND> windows = WindowsOf(GetWindowThreadProcessId(area, nullptr));
+    return std::any_of(windows.begin(), windows.end(),
+                       [](HWND window) { return ClassOf(window) == TOOLTIPS_CLASSW; });
+}
+
+// Rests the pointer on the icon until its tip is shown. The notification area may still be on its way to its
+// place, and a click that came before it would miss.
+void ClickIcon(bool right) {
     const HWND area = NotificationArea();
-    if (area != nullptr)
-        ShippedProgram::ClickAnywhere(
-            area, {GetSystemMetrics(SM_CXSMICON) / 2, GetSystemMetrics(SM_CYSMICON) / 2}, right);
-    return Eventually([main] { return IsWindowVisible(main) != FALSE; }, kPatience);
+    const POINT middle{GetSystemMetrics(SM_CXSMICON) / 2, GetSystemMetrics(SM_CYSMICON) / 2};
+    int moves = 0;
+    WaitUntil("the icon's tip", [&] {
+        ShippedProgram::PointAt(area, {middle.x + ++moves % 2, middle.y});
+        return Eventually([area] { return TipIsShown(area); }, std::chrono::seconds(3));
+    });
+    ShippedProgram::ClickAnywhere(area, middle, right);
 }
 
 TEST(TrayTest, EitherButtonOnTheIconBringsTheWindowBack) {
@@ -41,7 +54,8 @@ TEST(TrayTest, EitherButtonOnTheIconBringsTheWindowBack) {
         WaitUntil("the hidden window", [&] { return !IsWindowVisible(program.Main()); });
         WaitUntil("the icon", [] { return NotificationArea() != nullptr; });
 
-        WaitUntil("the window", [&] { return ClickIcon(right, program.Main()); });
+        ClickIcon(right);
+        WaitUntil("the window", [&] { return IsWindowVisible(program.Main()) != FALSE; });
         WaitUntil("the icon's end", [] { return NotificationArea() == nullptr; });
         RECT after{};
         ASSERT_TRUE(GetWindowRect(program.Main(), &after));

@@ -9,5 +9,6 @@ sums="$PWD/dist/SHA256SUMS"
 other=$(mktemp -d "${TMPDIR:-/tmp}/másik mappa.XXXXXX")
 trap 'rm -rf "$other"' EXIT
 tests/package/copy-as-archive.sh "$other"
-CCACHE_DISABLE=1 "$other/package.sh" >"$other/report" 2>&1 || { cat "$other/report"; exit 1; }
+mkdir "$other/build"
+CCACHE_DISABLE=1 "$other/package.sh" >"$other/build/report" 2>&1 || { cat "$other/build/report"; exit 1; }
 diff "$sums" "$other/dist/SHA256SUMS"

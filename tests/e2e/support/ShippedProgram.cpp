@@ -190,9 +190,13 @@ void ShippedProgram::Click(HWND window, POINT place, bool right) const {
     ClickAnywhere(window, place, right);
 }
 
-void ShippedProgram::ClickAnywhere(HWND window, POINT place, bool right) {
+void ShippedProgram::PointAt(HWND window, POINT place) {
     Demand(ClientToScreen(window, &place) != FALSE, "a place of the window");
     Demand(SetCursorPos(place.x, place.y) != FALSE, "the mouse pointer");
+}
+
+void ShippedProgram::ClickAnywhere(HWND window, POINT place, bool right) {
+    PointAt(window, place);
     INPUT input{};
     input.type = INPUT_MOUSE;
     std::vector<INPUT> inputs(2, input);

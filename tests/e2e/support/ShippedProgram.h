@@ -45,7 +45,8 @@ class ShippedProgram {
     void Type(const std::wstring& text) const;
     // At a place of a window's client area.
     void Click(HWND window, POINT place, bool right = false) const;
-    // The same in a window of another program.
+    // The same in a window of another program; and without a click.
+    static void PointAt(HWND window, POINT place);
     static void ClickAnywhere(HWND window, POINT place, bool right = false);
 
     BoxOnScreen Box() const { return WaitForBox(thread_id_); }

@@ -101,8 +101,7 @@ std::optional<POINT> IconOnScreen() {
     return POINT{(place.left + place.right) / 2, (place.top + place.bottom) / 2};
 }
 
-void RealClick(POINT place, DWORD down, DWORD up) {
-    ASSERT_TRUE(SetCursorPos(place.x, place.y));
+void RealClick(DWORD down, DWORD up) {
     INPUT inputs[2]{};
     inputs[0].type = INPUT_MOUSE;
     inputs[0].mi.dwFlags = down;
@@ -114,20 +113,22 @@ void RealClick(POINT place, DWORD down, DWORD up) {
 TEST_F(TrayAreaMouseTest, TheRealIconHearsBothButtonsAndGoes) {
     UseTheRealShell();
     HearEverything();
-    control->MouseMove = nullptr;  // as many as the pointer makes
+    bool pointed_at = false;
+    control->MouseMove = [&] { pointed_at = true; };
     control->SetIcon(icon);
     control->SetToolTip(L"Lindrel");
     control->SetVisible(true);
     ASSERT_TRUE(PumpEventually([] { return IconOnScreen().has_value(); }));
-    // The icon may still be on its way to its place; then a click misses, and a user would click again.
-    const auto click_until_heard = [this](DWORD down, DWORD up, std::size_t count) {
-        return PumpEventually([&] {
-            RealClick(*IconOnScreen(), down, up);
-            return PumpEventually([&] { return heard.size() >= count; }, kPatience);
-        });
-    };
-    ASSERT_TRUE(click_until_heard(MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP, 2));
-    ASSERT_TRUE(click_until_heard(MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP, 4));
+    // The icon may still be on its way to its place, where a click would miss it.
+    int moves = 0;
+    ASSERT_TRUE(PumpEventually([&] {
+        const std::optional<POINT> place = IconOnScreen();
+        if (place) EXPECT_TRUE(SetCursorPos(place->x + ++moves % 2, place->y));
+        return pointed_at;
+    }));
+    RealClick(MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP);
+    RealClick(MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP);
+    ASSERT_TRUE(PumpEventually([this] { return heard.size() >= 4; }));
     EXPECT_EQ(heard, (Texts{L"MouseDown 1", L"MouseUp 1", L"MouseDown 2", L"MouseUp 2"}));
     control->SetVisible(false);
     EXPECT_TRUE(PumpEventually([] { return !IconOnScreen().has_value(); }));
