@@ -123,7 +123,9 @@ TEST_F(TrayAreaMouseTest, TheRealIconHearsBothButtonsAndGoes) {
     int moves = 0;
     ASSERT_TRUE(PumpEventually([&] {
         const std::optional<POINT> place = IconOnScreen();
-        if (place) EXPECT_TRUE(SetCursorPos(place->x + ++moves % 2, place->y));
+        if (place) {
+            EXPECT_TRUE(SetCursorPos(place->x + ++moves % 2, place->y));
+        }
         return pointed_at;
     }));
     RealClick(MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP);
