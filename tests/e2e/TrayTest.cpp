@@ -32,7 +32,7 @@ void ClickIcon(bool right) {
     int moves = 0;
     WaitUntil("the icon's tip", [&] {
         ShippedProgram::PointAt(area, {middle.x + ++moves % 2, middle.y});
-        return Eventually([area] { return TipIsShown(area); }, std::chrono::seconds(3));
+        return Eventually([area] { return TipIsShown(area); }, std::chrono::seconds(5));
     });
     ShippedProgram::ClickAnywhere(area, middle, right);
 }
