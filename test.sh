@@ -10,7 +10,6 @@ source tests/wine-env.sh
 packages=("${packages_to_build[@]}" "${packages_to_start[@]}" "${packages_to_test[@]}")
 run=short
 builds=(sanitize x64)
-options=()
 case "${1:-}" in
   '') ;;
   --all)

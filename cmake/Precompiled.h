@@ -13,7 +13,7 @@
 
 #ifdef _WIN32
 #include <windows.h>
-// It must come first.
+// These need <windows.h> before them.
 #include <commctrl.h>
 #include <windowsx.h>
 #endif

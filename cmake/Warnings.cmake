@@ -10,7 +10,7 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   target_compile_options(lindrel_warnings INTERFACE -Wduplicated-cond -Wlogical-op -Wno-restrict)
 endif()
 if(MINGW)
-  # Casts of function and handle types are the system's own habit. Behind a precompiled header GCC 12 no longer knows
-  # wchar.h for the system's, and sees its wmemcpy read and write too far, which it does not.
+  # Casts of function and handle types are the system's own habit. With a precompiled header GCC 12 takes wchar.h
+  # for one of ours, and warns that its wmemcpy reads and writes too far, which it does not.
   target_compile_options(lindrel_warnings INTERFACE -Wno-old-style-cast -Wno-array-bounds -Wno-stringop-overread)
 endif()

@@ -6,7 +6,7 @@
 source "$(dirname "${BASH_SOURCE[0]}")/wine-env.sh"
 
 start_session() {
-  install_packages
+  install_packages "${packages_to_build[@]}" "${packages_to_start[@]}"
   wine_environment
   make_template_prefix
   WINEPREFIX=$(mktemp -d "$lindrel_wine/run.XXXXXX")

@@ -1,5 +1,6 @@
 # Sourced by the scripts that run something under Wine: packages, prefixes and displays.
-# Everything lives under build/wine of the checkout, or where LINDREL_WINE says, and is gone when the script that asked for it ends.
+# Everything lives under build/wine of the checkout, or where LINDREL_WINE says. Prefixes and displays go with the script
+# that made them, sessions some seconds after the last run.
 
 lindrel_root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 lindrel_wine="${LINDREL_WINE:-$lindrel_root/build/wine}"
@@ -125,12 +126,12 @@ take_session() {
   # A program and Wine's server wait for each other all the time. On one processor they take turns in less time than two
   # take to wake each other. Where this cannot be had it only takes longer.
   taskset -cp $(((number - 1) % $(nproc))) $$ >/dev/null 2>&1 || true
-  # Missing too when a run was killed with its session.
+  # A run that was killed has left no such file; its session starts anew.
   [ -e "$session/free" ] || start_session 9>&-
   rm "$session/free"
   DISPLAY=$(<"$session/display")
   export DISPLAY
-  # Where every run of a new session finds it.
+  # Where a new display has the pointer, wherever the last run left it.
   xdotool mousemove 640 512 9>&- || return 1
 }
 
@@ -141,14 +142,14 @@ start_session() {
   start_display
   echo "$DISPLAY" >"$session/display"
   echo "${wine_processes[*]}" >"$session/processes"
-  wine "$program_64" /c exit </dev/null >/dev/null 2>&1
+  # Starts the server, with which Wine's services start.
+  wine 'C:\windows\system32\cmd.exe' /c exit </dev/null >/dev/null 2>&1
   what_is_there >"$session/there"
   touch "$session/free"
   setsid bash -c 'source "$1/tests/wine-env.sh"; session=$2; keep_session' - "$lindrel_root" "$session" \
     </dev/null >/dev/null 2>&1 &
   echo $! >"$session/keeper"
 }
-program_64='C:\windows\system32\cmd.exe'
 
 end_session() {
   [ -d "$session" ] || return 0
@@ -244,8 +245,8 @@ use_libraries_32() {
   wine reg add "$shortcuts" /v ThreadingModel /d Apartment >/dev/null
 }
 
-# A program of 32 bits that every prefix with these libraries has. Some machines cannot run one (their kernels have 32-bit
-# emulation switched off), which only trying tells; LINDREL_32_BIT=no tries in vain.
+# Whether a 32-bit program can be started, found out by starting one that every prefix with these libraries has. Kernels
+# with 32-bit emulation switched off end it with a fault. LINDREL_32_BIT=no stands in for such a kernel.
 program_32='C:\windows\syswow64\cmd.exe'
 ends_with_32() { # command that runs a program of Windows
   [ "${LINDREL_32_BIT:-}" != no ] || return 1
@@ -254,7 +255,7 @@ ends_with_32() { # command that runs a program of Windows
   [ $code = 32 ]
 }
 
-# The same in a prefix of its own, which it leaves.
+# The same with the libraries above, in a prefix that goes again.
 runs_32_bit() (
   own_prefix
   use_libraries_32

@@ -25,7 +25,8 @@ end_forgotten() { # process of timeout, file for the exit code
     seen=$state
   done
 }
-# Into a file, since what it starts of Wine's own may go on, and would keep a pipe open that somebody reads.
+# The output goes through a file: a process of Wine's own that the program starts may outlive it, and would keep CTest
+# waiting at a pipe.
 timeout -k 10 "${LINDREL_WINE_TIMEOUT:-900}" wine "$@" </dev/null >"$session/output" 2>&1 9>&- &
 program=$!
 end_forgotten $program "$session/exit-code" >/dev/null 9>&- &

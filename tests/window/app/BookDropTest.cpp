@@ -108,7 +108,7 @@ class DragWindow {
 
     HWND Handle() const { return window_; }
     bool CursorSays(DWORD effect) const { return source_.Shown == effect; }
-    // The mouse's moves go nowhere else any more.
+    // From here on the drag hears of the mouse's moves.
     bool IsDragging() const {
         GUITHREADINFO info{};
         info.cbSize = sizeof info;

@@ -13,8 +13,8 @@ namespace lindrel::testing {
 
 namespace {
 
-// Windows, menus and icons share one table of at most this many places. Free places are taken first, so that
-// nothing comes after as many in a row as the program never has at once.
+// Windows, menus and icons share one table of at most this many places. New objects take the first free
+// places, so nothing comes after a gap larger than the program ever needed at once.
 constexpr std::uintptr_t kFirstUserHandle = 0x20;
 constexpr std::uintptr_t kLastUserHandle = 0xFFFE;
 constexpr std::uintptr_t kMostFreeInARow = 2048;
