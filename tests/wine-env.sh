@@ -126,8 +126,8 @@ take_session() {
   # A program and Wine's server wait for each other all the time. On one processor they take turns in less time than two
   # take to wake each other. Where this cannot be had it only takes longer.
   taskset -cp $(((number - 1) % $(nproc))) $$ >/dev/null 2>&1 || true
-  # A run that was killed has left no such file; its session starts anew.
-  [ -e "$session/free" ] || start_session 9>&-
+  # A run that was killed has left no such file, and a machine that was switched off nobody who keeps the session.
+  [ -e "$session/free" ] && is_kept || start_session 9>&-
   rm "$session/free"
   DISPLAY=$(<"$session/display")
   export DISPLAY
@@ -146,16 +146,26 @@ start_session() {
   wine 'C:\windows\system32\cmd.exe' /c exit </dev/null >/dev/null 2>&1
   what_is_there >"$session/there"
   touch "$session/free"
+  # Locked as long as the keeper lives.
+  exec 8>"$session/kept"
+  flock 8
   setsid bash -c 'source "$1/tests/wine-env.sh"; session=$2; keep_session' - "$lindrel_root" "$session" \
     </dev/null >/dev/null 2>&1 &
+  exec 8>&-
   echo $! >"$session/keeper"
 }
+
+is_kept() { ! flock -n "$session/kept" true; }
 
 end_session() {
   [ -d "$session" ] || return 0
   WINEPREFIX=$session/prefix wineserver -k 2>/dev/null
   WINEPREFIX=$session/prefix wineserver -w 2>/dev/null
-  [ ! -s "$session/processes" ] || kill $(<"$session/processes") 2>/dev/null
+  local process
+  for process in $(cat "$session/processes" 2>/dev/null); do
+    # Since the machine was switched off, its number may be another's.
+    grep -qszxF "WINEPREFIX=$session/prefix" "/proc/$process/environ" && kill "$process" 2>/dev/null
+  done
   chmod -R u+w "$session"
   rm -rf "$session"
 }

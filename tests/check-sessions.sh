@@ -1,0 +1,46 @@
+#!/usr/bin/env bash
+# That runs under Wine share a session, find none that is dead, fail when they leave something behind, and that no
+# session outlives them for long.
+set -eu
+cd "$(dirname "$0")/.."
+source tests/wine-env.sh
+wine_environment
+make_template_prefix
+# Sessions of this test's own, for which the template serves as it stands.
+template=$lindrel_wine/template
+LINDREL_WINE=$(mktemp -d "$lindrel_wine/sessions.XXXXXX")
+export LINDREL_WINE
+ln -s "$template" "$LINDREL_WINE/template"
+session=$LINDREL_WINE/sessions/1
+trap 'end_session; rm -rf "$LINDREL_WINE"' EXIT
+
+fail() { echo "$*"; exit 1; }
+run() { # expected exit code, command line of Windows
+  local code=0
+  tests/wine-run.sh 'C:\windows\system32\cmd.exe' /c "$2" >"$LINDREL_WINE/said" || code=$?
+  [ $code = "$1" ] || { cat "$LINDREL_WINE/said"; fail "$2: exit code $code instead of $1"; }
+}
+processes_of_session() { grep -lszxF "WINEPREFIX=$session/prefix" /proc/[0-9]*/environ | cut -d/ -f3 || true; }
+
+run 0 'exit 0'
+keeper=$(<"$session/keeper")
+run 0 'exit 0'
+[ "$(<"$session/keeper")" = "$keeper" ] || fail "two runs do not share their session"
+
+# As when the machine is switched off.
+kill -9 $(processes_of_session)
+[ -e "$session/free" ] || fail "the session is not free any more"
+run 0 'exit 0'
+
+run 3 'exit 3'
+[ ! -e "$session" ] || fail "a run that failed leaves its session to others"
+run 1 'echo x > C:\left.txt'
+grep -qx '> ./left.txt' "$LINDREL_WINE/said" || fail "the file that is left behind is not named"
+
+run 0 'exit 0'
+touch -d '1 minute ago' "$session/free"
+deadline=$((SECONDS + 30))
+until [ ! -e "$session" ] && [ -z "$(processes_of_session)" ]; do
+  [ $SECONDS -lt $deadline ] || fail "a session that nobody takes stays"
+  read -rt 0.1 <> <(:) || true
+done
