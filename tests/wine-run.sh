@@ -26,8 +26,9 @@ end_forgotten() { # process of timeout, file for the exit code
   done
 }
 # The output goes through a file: a process of Wine's own that the program starts may outlive it, and would keep CTest
-# waiting at a pipe.
-timeout -k 10 "${LINDREL_WINE_TIMEOUT:-900}" wine "$@" </dev/null >"$session/output" 2>&1 9>&- &
+# waiting at a pipe. It is empty before anything reads it, or the last run's output is read too.
+: >"$session/output"
+timeout -k 10 "${LINDREL_WINE_TIMEOUT:-900}" wine "$@" </dev/null >>"$session/output" 2>&1 9>&- &
 program=$!
 end_forgotten $program "$session/exit-code" >/dev/null 9>&- &
 tail -n +1 -f -s 0.1 --pid=$program "$session/output" 9>&-

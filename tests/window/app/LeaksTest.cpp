@@ -14,7 +14,7 @@ namespace lindrel::testing {
 namespace {
 
 // Does something some times, which fills the system's caches, then again and again.
-void ExpectNothingLeft(const std::function<void(int times)>& repeat, int times = Times(200, 30)) {
+void ExpectNothingLeft(const std::function<void(int times)>& repeat, int times = Times(200, 12)) {
     repeat(10);
     const SystemObjects before = CountSystemObjects();
     repeat(times);
@@ -131,7 +131,7 @@ TEST_F(LeaksTest, MenusThatPopUpLeaveNothing) {
 
 TEST_F(LeaksTest, ALargeCategoryIsFilledAgainAndAgain) {
     // The test takes long to read so many rows, the program does not.
-    const auto rows = static_cast<std::size_t>(Times(32767, 3000));
+    const auto rows = static_cast<std::size_t>(Times(32767, 1000));
     program.Add(1, std::vector<Row>(rows, {L"Név", L"http://nev.hu"}));
     program.Run(ID_mnuSelectAll);
     const MainState full = program.State();
@@ -174,7 +174,7 @@ TEST_F(LeaksTest, SavingLeavesNothing) {
 
 TEST_F(LeaksTest, TheWholeProgramLeavesNothing) {
     // Beside the one of the fixture, on a thread of its own.
-    const int starts = Times(20, 10);
+    const int starts = Times(20, 8);
     const auto start = Repeating([] { const Program another; });
     start(2);
     const SystemObjects before = CountSystemObjects();

@@ -22,7 +22,7 @@ std::uint32_t NumberFrom(const char* variable, std::uint32_t otherwise) {
 
 TEST(RandomWalkTest, TheProgramAgreesWithTwelveLists) {
     const std::uint32_t seed = NumberFrom("LINDREL_WALK_SEED", std::random_device()());
-    const std::uint32_t steps = NumberFrom("LINDREL_WALK_STEPS", static_cast<std::uint32_t>(Times(500, 100)));
+    const std::uint32_t steps = NumberFrom("LINDREL_WALK_STEPS", static_cast<std::uint32_t>(Times(500, 60)));
     std::cout << "LINDREL_WALK_SEED=" << seed << " LINDREL_WALK_STEPS=" << steps << std::endl;
     RandomUser user(seed);
     try {
