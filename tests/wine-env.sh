@@ -124,8 +124,8 @@ take_session() {
   session=$lindrel_wine/sessions/$number
   export WINEPREFIX=$session/prefix
   # A program and Wine's server wait for each other all the time. On one processor they take turns in less time than two
-  # take to wake each other. Where this cannot be had it only takes longer.
-  taskset -cp $(((number - 1) % $(nproc))) $$ >/dev/null 2>&1 || true
+  # take to wake each other. Where this cannot be had it only takes longer. Long runs do without: users have several.
+  [ -n "${LINDREL_LONG:-}" ] || taskset -cp $(((number - 1) % $(nproc))) $$ >/dev/null 2>&1 || true
   # A run that was killed has left no such file, and a machine that was switched off nobody who keeps the session.
   [ -e "$session/free" ] && is_kept || start_session 9>&-
   rm "$session/free"
