@@ -58,7 +58,7 @@ wine_environment() {
   fi
   # A shell that began before the locale was made does not find it, and complains; all that it starts does.
   { export LANG=hu_HU.UTF-8 LC_ALL=hu_HU.UTF-8; } 2>/dev/null
-  export WINEDEBUG=${WINEDEBUG:--all} WINEDLLOVERRIDES="mscoree=;mshtml="
+  export WINEDEBUG=${WINEDEBUG:--all} WINEDLLOVERRIDES="mscoree=;mshtml=;winemenubuilder.exe="
   unset WAYLAND_DISPLAY
 }
 
