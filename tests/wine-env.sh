@@ -287,7 +287,8 @@ start_display() {
   DISPLAY=":$(cat "$number_file")"
   export DISPLAY
   rm -f "$number_file"
-  openbox --sm-disable >/dev/null 2>&1 &
+  # Its log goes where everything else is.
+  XDG_CACHE_HOME=$lindrel_wine/cache openbox --sm-disable >/dev/null 2>&1 &
   wine_processes+=($!)
 }
 

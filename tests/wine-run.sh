@@ -12,18 +12,22 @@ take_session || exit 1
 
 # Wine 8 now and then forgets a thread of a program that has ended, and the process then never goes. Its exit code is
 # known all the same: it stands in the last field of its state.
+# It starts nothing each second, which a busy machine would feel.
 end_forgotten() { # process of timeout, file for the exit code
-  local program state fields
-  while kill -0 "$1" 2>/dev/null; do
-    read -rt 1 <> <(:) || true
-    program=$(pgrep -P "$1") || continue
-    read -r state fields < <(sed 's/.*) //' "/proc/$program/stat" 2>/dev/null) || continue
-    if [ "$state" = Z ] && [ "${seen:-}" = Z ]; then
+  local program fields state seen='' silence
+  exec {silence}<> <(:)
+  while kill -0 "$1"; do
+    read -rt 1 -u "$silence" || true
+    # There is no line end behind the number.
+    read -r program <"/proc/$1/task/$1/children" || [ -n "$program" ] || continue
+    read -r fields <"/proc/$program/stat" || continue
+    fields=${fields##*) } state=${fields%% *}
+    if [ "$state" = Z ] && [ "$seen" = Z ]; then
       echo $((${fields##* } >> 8)) >"$2"
       kill -9 "$program"
     fi
     seen=$state
-  done
+  done 2>/dev/null
 }
 # The output goes through a file: a process of Wine's own that the program starts may outlive it, and would keep CTest
 # waiting at a pipe. It is empty before anything reads it, or the last run's output is read too.

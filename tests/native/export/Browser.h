@@ -66,10 +66,10 @@ class Browser {
   private:
     std::string Run(const std::string& arguments) const {
         const std::string command =
-            "timeout -k 5 100 chromium --headless --no-sandbox --disable-gpu "
-            "--disable-dev-shm-usage --user-data-dir='" +
-            (folder_.Path() / "profile").string() + "' " + arguments + " 2>'" +
-            (folder_.Path() / "log").string() + "'";
+            "cd '" + folder_.Path().string() +
+            "' && HOME=\"$PWD\" timeout -k 5 100 chromium --headless --no-sandbox --disable-gpu "
+            "--disable-dev-shm-usage --user-data-dir=profile " +
+            arguments + " 2>log";
         std::FILE* const pipe = ::popen(command.c_str(), "r");
         if (pipe == nullptr) throw std::runtime_error("no shell");
         std::string output;
