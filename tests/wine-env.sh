@@ -142,7 +142,11 @@ start_session() {
   start_display
   echo "$DISPLAY" >"$session/display"
   echo "${wine_processes[*]}" >"$session/processes"
-  # Starts the server, with which Wine's services start.
+  # A program that waits for good: with the last one, Wine's server and services end, and a run that came just then would
+  # lose them.
+  mkfifo "$session/silence"
+  wine 'C:\windows\system32\cmd.exe' <>"$session/silence" >/dev/null 2>&1 &
+  # Returns when the services are there.
   wine 'C:\windows\system32\cmd.exe' /c exit </dev/null >/dev/null 2>&1
   what_is_there >"$session/there"
   touch "$session/free"
