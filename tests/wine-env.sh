@@ -191,13 +191,14 @@ leave_session() {
   return 1
 }
 
-# Files outside of the system's own folders, and programs that are not Wine's.
+# Files outside of the system's own folders, and programs that are not Wine's, which just after their start still have
+# the name of its loader before their own.
 what_is_there() {
   (cd "$WINEPREFIX/drive_c" && find . -path ./windows -prune -o -print | sort)
   local process
   for process in $(grep -lszZxF "WINEPREFIX=$WINEPREFIX" /proc/[0-9]*/environ | tr '\0' '\n'); do
     { tr '\0' ' ' <"${process%environ}cmdline"; echo; } 2>/dev/null
-  done | grep -i '\.exe' | grep -vi '^C:\\windows' | sort
+  done | grep -i '\.exe' | grep -viE '^(/[^ ]*/wine(64)? )?C:\\windows' | sort
 }
 
 # Ends the session once it has been free for some seconds. Every session has such a process.
