@@ -198,7 +198,7 @@ what_is_there() {
   local process
   for process in $(grep -lszZxF "WINEPREFIX=$WINEPREFIX" /proc/[0-9]*/environ | tr '\0' '\n'); do
     { tr '\0' ' ' <"${process%environ}cmdline"; echo; } 2>/dev/null
-  done | grep -i '\.exe' | grep -viE '^(/[^ ]*/wine(64)? )?C:\\windows' | sort
+  done | grep -i '\.exe' | grep -viE '^([^ ]*/[^ ]* )*C:\\windows' | sort
 }
 
 # Ends the session once it has been free for some seconds. Every session has such a process.
