@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# That runs under Wine share a session, find none that is dead, fail when they leave something behind, and that no
-# session outlives them for long.
+# That runs under Wine share a session, never get a dead one, and fail when they leave something behind; and that a
+# session ends soon after the last of them.
 set -eu
 cd "$(dirname "$0")/.."
 source tests/wine-env.sh

@@ -142,8 +142,8 @@ start_session() {
   start_display
   echo "$DISPLAY" >"$session/display"
   echo "${wine_processes[*]}" >"$session/processes"
-  # A program that waits for good: with the last one, Wine's server and services end, and a run that came just then would
-  # lose them.
+  # A program that waits forever. Wine's server and services end with the last program, and a run that began just then
+  # would find them gone.
   mkfifo "$session/silence"
   wine 'C:\windows\system32\cmd.exe' <>"$session/silence" >/dev/null 2>&1 &
   # Returns when the services are there.
@@ -191,8 +191,8 @@ leave_session() {
   return 1
 }
 
-# Files outside of the system's own folders, and programs that are not Wine's, which just after their start still have
-# the name of its loader before their own.
+# Files outside of the system's own folders, and programs that are not Wine's. While a program starts, its loader's path
+# stands before its own.
 what_is_there() {
   (cd "$WINEPREFIX/drive_c" && find . -path ./windows -prune -o -print | sort)
   local process

@@ -12,7 +12,7 @@ take_session || exit 1
 
 # Wine 8 now and then forgets a thread of a program that has ended, and the process then never goes. Its exit code is
 # known all the same: it stands in the last field of its state.
-# It starts nothing each second, which a busy machine would feel.
+# Starting other programs every second to look for it would slow a busy machine down.
 end_forgotten() { # process of timeout, file for the exit code
   local program fields state seen='' silence
   exec {silence}<> <(:)

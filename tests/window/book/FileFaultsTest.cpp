@@ -1,5 +1,5 @@
 // What can go wrong when a file is opened or replaced on Windows: each time the fault, the bytes that are
-// there afterwards, everything that stands in the folder, and that it does not last too long.
+// there afterwards, everything that stands in the folder, and how often it is tried.
 #include <gtest/gtest.h>
 
 #include <chrono>

@@ -68,7 +68,7 @@ BOOL WINAPI CountTry(HWND owner) {
     return real_open(owner);
 }
 
-// How often what is on the clipboard was asked for, in vain.
+// How often the clipboard was asked for data. It gives none: whoever promised it may hang.
 int demands = 0;
 
 HANDLE WINAPI CountDemand(UINT) {
