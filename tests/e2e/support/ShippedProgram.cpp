@@ -93,11 +93,9 @@ ShippedProgram::ShippedProgram() {
     std::wstring command = L'"' + PathOfProgram() + L'"';
     STARTUPINFOW start{};
     start.cb = sizeof start;
-    // Wine refuses a process once in a long while.
-    for (int attempt = 1; !CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr,
-                                          nullptr, &start, &process_);
-         ++attempt)
-        Demand(attempt < 3, "the program cannot be started");
+    Demand(CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
+                          &process_) != FALSE,
+           "the program cannot be started");
     thread_id_ = process_.dwThreadId;
     WaitUntil("the main window", [this] {
         for (const HWND window : WindowsOf(thread_id_))

@@ -14,8 +14,6 @@ namespace {
 
 class frmAddTest : public ::testing::Test {
   protected:
-    frmAddTest() { EmptyTheClipboard(); }
-
     DialogOnScreen Open() const {
         program.Choose(ID_mnuAdd);
         return program.Dialog(L"Új oldal hozzáadása");

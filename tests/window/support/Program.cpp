@@ -14,6 +14,7 @@
 #include "book/Files.h"
 #include "resources/resource.h"
 #include "tests/window/support/ControlsOnScreen.h"
+#include "tests/window/support/RealClipboard.h"
 #include "tests/window/support/Text.h"
 
 namespace lindrel::testing {
@@ -56,6 +57,7 @@ HWND MakeEar() {
 }  // namespace
 
 Program::Program() {
+    EmptyTheClipboard();
     std::atomic<HWND> ear{nullptr};
     thread_ = std::thread([this, &ear] {
         thread_id_ = GetCurrentThreadId();

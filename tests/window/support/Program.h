@@ -39,7 +39,7 @@ using Row = std::pair<std::wstring, std::wstring>;  // name and address
 
 class Program {
   public:
-    // Starts the program and waits for its main window.
+    // Starts the program and waits for its main window. Nothing is on the clipboard, whatever ran before.
     Program();
     // Ends it whatever is open, without saving.
     ~Program();
