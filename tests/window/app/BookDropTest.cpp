@@ -4,10 +4,10 @@
 #include <ole2.h>
 #include <shlobj.h>
 
-#include <atomic>
+#include <chrono>
 #include <cstring>
 #include <filesystem>
-#include <thread>
+#include <optional>
 
 #include "tests/window/app/FileSession.h"
 #include "tests/window/support/RealInput.h"
@@ -71,77 +71,48 @@ class Dragged final : public IDataObject {
     std::vector<std::wstring> files_;
 };
 
-// Drops when the left button is let go.
+// Brings what is dragged to a place of a window, and lets it go there once the cursor says what it should.
+// The source of a drag says itself when that is; a real button would have to reach it while the display still
+// gives the focus to other windows.
 class Source final : public IDropSource {
   public:
+    Source(const RealInput& hands, HWND window, POINT place, DWORD cursor)
+        : hands_(hands), window_(window), place_(place), cursor_(cursor) {}
+
     STDMETHODIMP QueryInterface(REFIID id, void** object) override {
         *object = IsEqualIID(id, IID_IUnknown) || IsEqualIID(id, IID_IDropSource) ? this : nullptr;
         return *object != nullptr ? S_OK : E_NOINTERFACE;
     }
     STDMETHODIMP_(ULONG) AddRef() override { return 2; }
     STDMETHODIMP_(ULONG) Release() override { return 1; }
-    STDMETHODIMP QueryContinueDrag(BOOL escaped, DWORD keys) override {
-        if (escaped) return DRAGDROP_S_CANCEL;
-        return (keys & MK_LBUTTON) != 0 ? S_OK : DRAGDROP_S_DROP;
+    // Asked several times in a second.
+    STDMETHODIMP QueryContinueDrag(BOOL escaped, DWORD) override {
+        if (escaped || std::chrono::steady_clock::now() > deadline_) return DRAGDROP_S_CANCEL;
+        if (!moved_) {
+            moved_ = true;
+            hands_.Move(window_, place_);
+        } else if (!arrived_) {
+            arrived_ = true;
+            shown_.reset();  // was for the place before
+        } else if (shown_ == cursor_) {
+            return DRAGDROP_S_DROP;
+        }
+        return S_OK;
     }
     STDMETHODIMP GiveFeedback(DWORD effect) override {
-        Shown = effect;
+        shown_ = effect;
         return DRAGDROP_S_USEDEFAULTCURSORS;
     }
 
-    std::atomic<DWORD> Shown{0xFFFF};  // what the cursor says
-};
-
-// Another program's window, on a thread of its own: what is in it can be dragged away with the mouse.
-class DragWindow {
-  public:
-    DragWindow(std::vector<std::wstring> files, POINT place) : dragged_(std::move(files)) {
-        thread_ = std::thread([this, place] { Run(place); });
-        WaitUntil("the window to drag from", [this] { return window_ != nullptr; });
-    }
-    ~DragWindow() {
-        PostMessageW(window_, WM_CLOSE, 0, 0);
-        thread_.join();
-    }
-    DragWindow(const DragWindow&) = delete;
-    DragWindow& operator=(const DragWindow&) = delete;
-
-    HWND Handle() const { return window_; }
-    bool CursorSays(DWORD effect) const { return source_.Shown == effect; }
-    // From here on the drag hears of the mouse's moves.
-    bool IsDragging() const {
-        GUITHREADINFO info{};
-        info.cbSize = sizeof info;
-        return GetGUIThreadInfo(GetWindowThreadProcessId(window_, nullptr), &info) &&
-               info.hwndCapture != nullptr;
-    }
-    bool HasEnded() const { return ended_; }
-
   private:
-    void Run(POINT place) {
-        EXPECT_EQ(OleInitialize(nullptr), S_OK);
-        const HWND made = CreateWindowExW(WS_EX_TOPMOST | WS_EX_NOACTIVATE, L"Static", L"",
-                                          WS_POPUP | WS_VISIBLE | SS_NOTIFY, place.x, place.y, 60, 60,
-                                          nullptr, nullptr, nullptr, nullptr);
-        window_ = made;
-        MSG message{};
-        while (IsWindow(made) && GetMessageW(&message, nullptr, 0, 0) > 0) {
-            if (message.message == WM_LBUTTONDOWN) {
-                DWORD effect = 0;
-                EXPECT_EQ(DoDragDrop(&dragged_, &source_, kAll, &effect), DRAGDROP_S_DROP);
-                ended_ = true;
-            } else {
-                DispatchMessageW(&message);
-            }
-        }
-        OleUninitialize();
-    }
-
-    Dragged dragged_;
-    Source source_;
-    std::atomic<HWND> window_{nullptr};
-    std::atomic<bool> ended_{false};
-    std::thread thread_;
+    const RealInput& hands_;
+    HWND window_;
+    POINT place_;
+    DWORD cursor_;
+    std::optional<DWORD> shown_;
+    bool moved_ = false;
+    bool arrived_ = false;
+    const std::chrono::steady_clock::time_point deadline_ = std::chrono::steady_clock::now() + kDeadline;
 };
 
 class BookDropTest : public FileSession {
@@ -168,19 +139,17 @@ class BookDropTest : public FileSession {
         });
         return effects;
     }
-    // Drags files from another window to the middle of the main window's list and lets them go.
+    // Drags files to the middle of the main window's list with the mouse, and lets them go.
     void Drag(const std::vector<std::wstring>& files, DWORD cursor) const {
-        RECT place{};
-        ASSERT_TRUE(GetWindowRect(program.Main(), &place));
         const RealInput hands(program);
-        // Beside it, where nothing lies over either.
-        const DragWindow from(files, {place.right + 20, place.top + 20});
-        hands.Hold(from.Handle(), {30, 30});
-        WaitUntil("the start of the drag", [&] { return from.IsDragging(); });
-        hands.Move(program.Control(ID_frmStart_ListURLs), {100, 100});
-        EXPECT_TRUE(Eventually([&] { return from.CursorSays(cursor); })) << "the cursor says otherwise";
-        hands.LetGo();
-        WaitUntil("the end of the drag", [&] { return from.HasEnded(); });
+        ASSERT_EQ(OleInitialize(nullptr), S_OK);
+        Dragged dragged(files);
+        Source source(hands, program.Control(ID_frmStart_ListURLs), {100, 100}, cursor);
+        DWORD effect = kAll;
+        EXPECT_EQ(DoDragDrop(&dragged, &source, kAll, &effect), DRAGDROP_S_DROP)
+            << "the cursor says otherwise";
+        EXPECT_EQ(effect, cursor);
+        OleUninitialize();
     }
     MainState Opened(const std::wstring& path) const {
         MainState state = EmptyState();

@@ -16,11 +16,6 @@ INPUT Mouse(DWORD flags) {
     return input;
 }
 
-void MoveTo(HWND window, POINT place) {
-    if (!ClientToScreen(window, &place) || !SetCursorPos(place.x, place.y))
-        throw std::runtime_error("the mouse pointer");
-}
-
 }  // namespace
 
 RealInput::RealInput(const Program& program) : program_(program) {
@@ -30,6 +25,16 @@ RealInput::RealInput(const Program& program) : program_(program) {
         return GetForegroundWindow() == program_.Main() && GetGUIThreadInfo(program_.Thread(), &info) &&
                info.hwndFocus != nullptr;
     });
+}
+
+// In two steps, as a hand that comes near. The display tells a window late where the pointer was, and Wine
+// then puts it back there. By the second step it has told everything from before the first, and the program
+// has heard it; what still comes is one pixel off.
+void RealInput::MoveTo(HWND window, POINT place) const {
+    if (!ClientToScreen(window, &place) || !SetCursorPos(place.x + 1, place.y))
+        throw std::runtime_error("the mouse pointer");
+    program_.Settle();
+    if (!SetCursorPos(place.x, place.y)) throw std::runtime_error("the mouse pointer");
 }
 
 void RealInput::Press(WORD key, const std::vector<WORD>& held) const {

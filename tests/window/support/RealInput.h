@@ -29,6 +29,8 @@ class RealInput {
     void LetGo() const;
 
   private:
+    void MoveTo(HWND window, POINT place) const;
+
     const Program& program_;
 };
 
