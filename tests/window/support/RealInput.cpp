@@ -67,24 +67,16 @@ void RealInput::RightClick(HWND window, POINT place) const {
     program_.Settle();
 }
 
-void RealInput::Drag(HWND window, POINT from, POINT to) const {
-    Hold(window, from);
-    Move(window, to);
-    LetGo();
-}
-
-void RealInput::Hold(HWND window, POINT place) const {
-    MoveTo(window, place);
-    SendInputs({Mouse(MOUSEEVENTF_LEFTDOWN)});
-    program_.Settle();
-}
-
 void RealInput::Move(HWND window, POINT place) const {
     MoveTo(window, place);
     program_.Settle();
 }
 
-void RealInput::LetGo() const {
+void RealInput::Drag(HWND window, POINT from, POINT to) const {
+    MoveTo(window, from);
+    SendInputs({Mouse(MOUSEEVENTF_LEFTDOWN)});
+    program_.Settle();
+    Move(window, to);
     SendInputs({Mouse(MOUSEEVENTF_LEFTUP)});
     program_.Settle();
 }

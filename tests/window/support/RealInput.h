@@ -22,11 +22,9 @@ class RealInput {
     // At a place of a window's client area.
     void Click(HWND window, POINT place, int times = 1) const;
     void RightClick(HWND window, POINT place) const;
-    void Drag(HWND window, POINT from, POINT to) const;
-    // The steps of a drag with the left button.
-    void Hold(HWND window, POINT place) const;
     void Move(HWND window, POINT place) const;
-    void LetGo() const;
+    // With the left button held.
+    void Drag(HWND window, POINT from, POINT to) const;
 
   private:
     void MoveTo(HWND window, POINT place) const;
