@@ -1,5 +1,5 @@
-// A book file that is dragged onto the main window: through the drop target that the system knows, and with a
-// real mouse.
+// A book file that is dragged onto the main window: through the drop target that the system knows, and
+// through the system's own drag with a real pointer.
 
 #include <ole2.h>
 #include <shlobj.h>
@@ -71,13 +71,11 @@ class Dragged final : public IDataObject {
     std::vector<std::wstring> files_;
 };
 
-// Brings what is dragged to a place of a window, and lets it go there once the cursor says what it should.
-// The source of a drag says itself when that is; a real button would have to reach it while the display still
-// gives the focus to other windows.
+// Drops once the cursor says what it should. When to drop is for the source to say; it does not wait for a
+// mouse button, whose release goes to another window when the focus has just changed.
 class Source final : public IDropSource {
   public:
-    Source(const RealInput& hands, HWND window, POINT place, DWORD cursor)
-        : hands_(hands), window_(window), place_(place), cursor_(cursor) {}
+    explicit Source(DWORD cursor) : cursor_(cursor) {}
 
     STDMETHODIMP QueryInterface(REFIID id, void** object) override {
         *object = IsEqualIID(id, IID_IUnknown) || IsEqualIID(id, IID_IDropSource) ? this : nullptr;
@@ -88,16 +86,7 @@ class Source final : public IDropSource {
     // Asked several times in a second.
     STDMETHODIMP QueryContinueDrag(BOOL escaped, DWORD) override {
         if (escaped || std::chrono::steady_clock::now() > deadline_) return DRAGDROP_S_CANCEL;
-        if (!moved_) {
-            moved_ = true;
-            hands_.Move(window_, place_);
-        } else if (!arrived_) {
-            arrived_ = true;
-            shown_.reset();  // was for the place before
-        } else if (shown_ == cursor_) {
-            return DRAGDROP_S_DROP;
-        }
-        return S_OK;
+        return shown_ == cursor_ ? DRAGDROP_S_DROP : S_OK;
     }
     STDMETHODIMP GiveFeedback(DWORD effect) override {
         shown_ = effect;
@@ -105,13 +94,8 @@ class Source final : public IDropSource {
     }
 
   private:
-    const RealInput& hands_;
-    HWND window_;
-    POINT place_;
     DWORD cursor_;
     std::optional<DWORD> shown_;
-    bool moved_ = false;
-    bool arrived_ = false;
     const std::chrono::steady_clock::time_point deadline_ = std::chrono::steady_clock::now() + kDeadline;
 };
 
@@ -139,12 +123,12 @@ class BookDropTest : public FileSession {
         });
         return effects;
     }
-    // Drags files to the middle of the main window's list with the mouse, and lets them go.
+    // Drags files with the mouse, which is over the main window's list, and lets them go there.
     void Drag(const std::vector<std::wstring>& files, DWORD cursor) const {
-        const RealInput hands(program);
+        RealInput(program).Move(program.Control(ID_frmStart_ListURLs), {100, 100});
         ASSERT_EQ(OleInitialize(nullptr), S_OK);
         Dragged dragged(files);
-        Source source(hands, program.Control(ID_frmStart_ListURLs), {100, 100}, cursor);
+        Source source(cursor);
         DWORD effect = kAll;
         EXPECT_EQ(DoDragDrop(&dragged, &source, kAll, &effect), DRAGDROP_S_DROP)
             << "the cursor says otherwise";
