@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# That runs under Wine share a session, never get a dead one, and fail when they leave something behind; and that a
-# session ends soon after the last of them.
+# That runs under Wine share a session, never get a dead one, and fail when they leave something behind; that a session
+# ends soon after the last of them; and that programs start wherever the system has put their heap.
 set -eu
 cd "$(dirname "$0")/.."
 source tests/wine-env.sh
@@ -44,3 +44,12 @@ until [ ! -e "$session" ] && [ -z "$(processes_of_session)" ]; do
   [ $SECONDS -lt $deadline ] || fail "a session that nobody takes stays"
   read -rt 0.1 <> <(:) || true
 done
+
+# Takes the page at 7FFE0000, as a heap does by chance, where Wine's preloader has not reserved it.
+c++ -x c++ -shared -fPIC -o "$LINDREL_WINE/heap.so" - <<'end'
+#include <sys/mman.h>
+static void* page = mmap(reinterpret_cast<void*>(0x7FFE0000), 1, PROT_NONE,
+                         MAP_PRIVATE | MAP_ANONYMOUS | MAP_FIXED_NOREPLACE, -1, 0);
+end
+export LD_PRELOAD=$LINDREL_WINE/heap.so
+run 0 'exit 0'

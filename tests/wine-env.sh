@@ -5,9 +5,10 @@
 lindrel_root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 lindrel_wine="${LINDREL_WINE:-$lindrel_root/build/wine}"
 
-# Debian's packages by what they are for; the scripts name the lists that they need.
+# Debian's packages by what they are for; the scripts name the lists that they need. Without its preloader, Wine 8 cannot
+# start one program in 4,000: where the heap, at a random place, covers the page at 7FFE0000.
 packages_to_build=(cmake ninja-build g++-mingw-w64-x86-64-posix fp-utils python3)
-packages_to_start=(wine wine64 xvfb openbox xdotool imagemagick locales fonts-liberation procps)
+packages_to_start=(wine wine64 wine64-preloader xvfb openbox xdotool imagemagick locales fonts-liberation procps)
 packages_to_pack=(g++-mingw-w64-i686-posix nsis librsvg2-bin imagemagick)
 packages_to_test=(g++ git libgtest-dev clang-format universal-ctags chromium)
 packages_to_test_all=(libbenchmark-dev clang clang-tidy libclang-rt-14-dev)

@@ -93,9 +93,9 @@ ShippedProgram::ShippedProgram() {
     std::wstring command = L'"' + PathOfProgram() + L'"';
     STARTUPINFOW start{};
     start.cb = sizeof start;
-    Demand(CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
-                          &process_) != FALSE,
-           "the program cannot be started");
+    if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
+                        &process_))
+        throw std::runtime_error("the program cannot be started: error " + std::to_string(GetLastError()));
     thread_id_ = process_.dwThreadId;
     WaitUntil("the main window", [this] {
         for (const HWND window : WindowsOf(thread_id_))
