@@ -141,6 +141,7 @@ start_session() {
   mkdir -p "$session"
   copy_prefix "$WINEPREFIX"
   start_display
+  forget_held_keys
   echo "$DISPLAY" >"$session/display"
   echo "${wine_processes[*]}" >"$session/processes"
   # A program that waits forever. Wine's server and services end with the last program, and a run that began just then
@@ -158,6 +159,14 @@ start_session() {
     </dev/null >/dev/null 2>&1 &
   exec 8>&-
   echo $! >"$session/keeper"
+}
+
+# Takes Ctrl, Alt and Shift off the display's keyboard. It tells a window that gets the focus which keys are down, late
+# when the machine is busy, and knows nothing of those that a test holds down: Wine then lets them go. Those that the
+# display does not have it leaves alone.
+forget_held_keys() {
+  xkbcomp "$DISPLAY" - 2>/dev/null |
+    sed -E '/^ *<([LR]CTL|LFSH|RTSH|[LR]ALT|ALT|META|LVL3|MDSW)> = /d' | xkbcomp -w 0 - "$DISPLAY"
 }
 
 is_kept() { ! flock -n "$session/kept" true; }
@@ -283,7 +292,7 @@ wine_processes=()
 start_display() {
   local number_file
   number_file=$(mktemp)
-  Xvfb -displayfd 7 -screen 0 "${1:-1280x1024}x24" -nolisten tcp 7>"$number_file" >/dev/null 2>&1 &
+  Xvfb -displayfd 7 -noreset -screen 0 "${1:-1280x1024}x24" -nolisten tcp 7>"$number_file" >/dev/null 2>&1 &
   wine_processes+=($!)
   local deadline=$((SECONDS + 30))
   until [ -s "$number_file" ]; do

@@ -72,9 +72,9 @@ TEST_F(KilledSaveTest, ThereIsTheOldBookOrTheNewOneAndNothingElseAfterTheNextSav
     std::cout << first - 1 << " of " << kills << " kills came after the save\n";
     const ShippedProgram program;
     OpenAndDeleteTheFirst(program, kEntries - first + 1);
-    program.PressUntil({'S', {VK_CONTROL}}, "the box that tells of the save", [&] {
-        return program.Title() == L"Lindrel -a.lnd" && !IsWindowEnabled(program.Main());
-    });
+    program.Press({'S', {VK_CONTROL}});
+    WaitUntil("the box that tells of the save",
+              [&] { return program.Title() == L"Lindrel -a.lnd" && !IsWindowEnabled(program.Main()); });
     program.Box().Press(IDOK);
     EXPECT_EQ(TemporaryFolder::Read(book), BookFrom(first + 1, kEntries));
     EXPECT_EQ(folder.Names(), std::vector<std::wstring>{L"a.lnd"});

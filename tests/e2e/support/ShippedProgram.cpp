@@ -3,8 +3,6 @@
 #include <commctrl.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <stdexcept>
@@ -131,48 +129,23 @@ void ShippedProgram::Press(const Stroke& stroke) const {
     PressRealKey(stroke);
 }
 
-void ShippedProgram::PressUntil(const Stroke& stroke, const std::string& what,
-                                const std::function<bool()>& effect) const {
-    WaitUntil(what, [&] {
-        Press(stroke);
-        return Eventually(effect, kPatience);
-    });
-}
-
 void ShippedProgram::OpenMenu(WORD key) const {
     // Menus follow a pointer that rests on the menu bar, where a click may have left it.
     Demand(SetCursorPos(GetSystemMetrics(SM_CXSCREEN) - 1, GetSystemMetrics(SM_CYSCREEN) - 1) != FALSE,
            "the mouse pointer");
-    WaitUntil("the open menu", [&] {
-        // Where the letter was pressed without its Alt, Alt alone has highlighted the menu bar.
-        if (IsInMenuBar()) Press({VK_ESCAPE});
-        Press({key, {VK_MENU}});
-        return Eventually([this] { return PoppedUpMenu() != nullptr; }, kPatience);
-    });
-}
-
-bool ShippedProgram::IsInMenuBar() const {
-    GUITHREADINFO info{};
-    info.cbSize = sizeof info;
-    return GetGUIThreadInfo(thread_id_, &info) && (info.flags & GUI_INMENUMODE) != 0;
+    Press({key, {VK_MENU}});
+    WaitUntil("the open menu", [this] { return PoppedUpMenu() != nullptr; });
 }
 
 DialogOnScreen ShippedProgram::OpenDialog(const Stroke& stroke, const std::wstring& caption) const {
-    PressUntil(stroke, "the dialog", [&] {
-        const std::vector<HWND> windows = WindowsOf(thread_id_);
-        return std::any_of(windows.begin(), windows.end(),
-                           [&](HWND window) { return DialogOnScreen(window).Caption() == caption; });
-    });
+    Press(stroke);
     const DialogOnScreen dialog = WaitForDialog(thread_id_, caption);
     WaitUntil("the dialog in front", [&] { return GetForegroundWindow() == dialog.Handle(); });
     return dialog;
 }
 
 void ShippedProgram::OpenBook(const std::wstring& path) const {
-    PressUntil({'O', {VK_CONTROL}}, "the file dialog", [this] {
-        const std::vector<HWND> windows = WindowsOf(thread_id_);
-        return std::any_of(windows.begin(), windows.end(), &IsFileDialog);
-    });
+    Press({'O', {VK_CONTROL}});
     AnswerFileDialog(path);
     const std::wstring title = L"Lindrel -" + path.substr(path.rfind(L'\\') + 1);
     WaitUntil("the opened book", [&] { return Title() == title; });

@@ -2,7 +2,6 @@
 // system's input, looked at from outside. Nothing of the program is linked in but the ids of its controls.
 #pragma once
 
-#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -31,9 +30,6 @@ class ShippedProgram {
 
     // Real input to whatever is in front; `Press` and `Type` first wait until that is the program's.
     void Press(const Stroke& stroke) const;
-    // For a stroke with a held key, which a window that has just come to the front can miss: presses it
-    // again, as a user would, until it has its effect.
-    void PressUntil(const Stroke& stroke, const std::string& what, const std::function<bool()>& effect) const;
     // Opens a menu of the menu bar by its access key, and waits until it is open.
     void OpenMenu(WORD key) const;
     // The menu that has popped up; null while there is none.
@@ -75,7 +71,6 @@ class ShippedProgram {
 
   private:
     void WaitUntilInFront() const;
-    bool IsInMenuBar() const;
     RECT LabelOf(int row) const;  // client coordinates
 
     PROCESS_INFORMATION process_{};

@@ -164,8 +164,7 @@ TEST_F(ListInputTest, KeysOpenTheMenuAtTheSelectedRow) {
     };
     hands.Press(VK_APPS);
     expect_menu();
-    hands.PressUntil(VK_F10, {VK_SHIFT}, "the menu",
-                     [this] { return PoppedUpMenu(program.Thread()) != nullptr; });
+    hands.Press(VK_F10, {VK_SHIFT});
     expect_menu();
 }
 
@@ -206,8 +205,8 @@ TEST_F(ListInputTest, ControlCCopiesTheAddressOfTheRow) {
     hands.Press('C', {VK_CONTROL});  // no row is selected
     EXPECT_EQ(TextOnClipboard(), L"régi");
     program.OnUi([](frmStart& form) { form.View().SelectRow(3); });
-    hands.PressUntil('C', {VK_CONTROL}, "the address on the clipboard",
-                     [] { return TextOnClipboard() == L"http://harom.hu"; });
+    hands.Press('C', {VK_CONTROL});
+    EXPECT_EQ(TextOnClipboard(), L"http://harom.hu");
     // In a text box it copies what is selected there.
     program.ClickRow(2);
     const HWND field = program.Control(ID_frmStart_txtURL);
@@ -215,8 +214,8 @@ TEST_F(ListInputTest, ControlCCopiesTheAddressOfTheRow) {
         SetFocus(field);
         SendMessageW(field, EM_SETSEL, 7, 12);
     });
-    hands.PressUntil('C', {VK_CONTROL}, "the selected text on the clipboard",
-                     [] { return TextOnClipboard() == L"ketto"; });
+    hands.Press('C', {VK_CONTROL});
+    EXPECT_EQ(TextOnClipboard(), L"ketto");
     EXPECT_EQ(program.State(), Picked(2));
 }
 

@@ -18,10 +18,6 @@ class DeadlinePassed : public std::runtime_error {
 inline constexpr std::chrono::seconds kDeadline{60};
 inline constexpr unsigned long kDeadlineInMilliseconds = 1000 * kDeadline.count();
 
-// How long a user waits for an effect before pressing a key or clicking again: where input can miss a window
-// that is still on its way to its place or to the front.
-inline constexpr std::chrono::seconds kPatience{20};
-
 // Asks until the answer is true. Throws DeadlinePassed, naming what was waited for.
 void WaitUntil(const std::string& what, const std::function<bool()>& answer,
                std::chrono::milliseconds deadline = kDeadline);

@@ -1,6 +1,5 @@
 #include "tests/window/support/RealInput.h"
 
-#include <chrono>
 #include <stdexcept>
 
 #include "tests/window/support/RealKeys.h"
@@ -40,14 +39,6 @@ void RealInput::MoveTo(HWND window, POINT place) const {
 void RealInput::Press(WORD key, const std::vector<WORD>& held) const {
     PressRealKey({key, held});
     program_.Settle();
-}
-
-void RealInput::PressUntil(WORD key, const std::vector<WORD>& held, const std::string& what,
-                           const std::function<bool()>& effect) const {
-    WaitUntil(what, [&] {
-        Press(key, held);
-        return Eventually(effect, kPatience);
-    });
 }
 
 void RealInput::Click(HWND window, POINT place, int times) const {

@@ -1,7 +1,6 @@
 // Keys and mouse through the system's input, as a user's hands give them, to whatever is in front.
 #pragma once
 
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -15,10 +14,6 @@ class RealInput {
     explicit RealInput(const Program& program);
 
     void Press(WORD key, const std::vector<WORD>& held = {}) const;
-    // For a key with a held one, which a window that has just come to the front can miss: presses it again,
-    // as a user would, until it has its effect.
-    void PressUntil(WORD key, const std::vector<WORD>& held, const std::string& what,
-                    const std::function<bool()>& effect) const;
     // At a place of a window's client area.
     void Click(HWND window, POINT place, int times = 1) const;
     void RightClick(HWND window, POINT place) const;
