@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # That runs under Wine share a session, never get a dead one, and fail when they leave something behind; that a session
-# ends soon after the last of them; and that programs start wherever the system has put their heap.
+# ends soon after the last of them; that keys which a test holds down are not on the display; and that programs start
+# wherever the system has put their heap.
 set -eu
 cd "$(dirname "$0")/.."
 source tests/wine-env.sh
@@ -26,6 +27,9 @@ run 0 'exit 0'
 keeper=$(<"$session/keeper")
 run 0 'exit 0'
 [ "$(<"$session/keeper")" = "$keeper" ] || fail "two runs do not share their session"
+keyboard=$(xkbcomp "$(<"$session/display")" - 2>/dev/null)
+[[ $keyboard == *"key <SPCE>"* ]] || fail "the display does not tell its keys"
+[[ ! $keyboard =~ "key <"(LCTL|LFSH|LALT)">" ]] || fail "the display has ${BASH_REMATCH[1]}"
 
 # As when the machine is switched off.
 kill -9 $(processes_of_session)
