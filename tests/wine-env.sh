@@ -292,7 +292,7 @@ wine_processes=()
 start_display() {
   local number_file
   number_file=$(mktemp)
-  # Otherwise it starts anew, with all keys, whenever its only program leaves.
+  # By default a display starts over, with all its keys, when its last program leaves.
   Xvfb -displayfd 7 -noreset -screen 0 "${1:-1280x1024}x24" -nolisten tcp 7>"$number_file" >/dev/null 2>&1 &
   wine_processes+=($!)
   local deadline=$((SECONDS + 30))
