@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # That runs under Wine share a session, never get a dead one, and fail when they leave something behind; that a session
-# ends soon after the last of them; that keys which a test holds down are not on the display; and that programs start
-# wherever the system has put their heap.
+# ends soon after the last of them; that displays have no modifier keys; and that programs start wherever the system has
+# put their heap.
 set -eu
 cd "$(dirname "$0")/.."
 source tests/wine-env.sh

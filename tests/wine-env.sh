@@ -5,8 +5,8 @@
 lindrel_root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 lindrel_wine="${LINDREL_WINE:-$lindrel_root/build/wine}"
 
-# Debian's packages by what they are for; the scripts name the lists that they need. Without its preloader, Wine 8 cannot
-# start one program in 4,000: where the heap, at a random place, covers the page at 7FFE0000.
+# Debian's packages by what they are for; the scripts name the lists that they need. Without its preloader, Wine 8
+# fails to start one program in 4,000: one whose heap happens to cover the page at 7FFE0000.
 packages_to_build=(cmake ninja-build g++-mingw-w64-x86-64-posix fp-utils python3)
 packages_to_start=(wine wine64 wine64-preloader xvfb openbox xdotool imagemagick locales fonts-liberation procps)
 packages_to_pack=(g++-mingw-w64-i686-posix nsis librsvg2-bin imagemagick)
@@ -141,7 +141,7 @@ start_session() {
   mkdir -p "$session"
   copy_prefix "$WINEPREFIX"
   start_display
-  forget_held_keys
+  remove_modifier_keys
   echo "$DISPLAY" >"$session/display"
   echo "${wine_processes[*]}" >"$session/processes"
   # A program that waits forever. Wine's server and services end with the last program, and a run that began just then
@@ -161,10 +161,10 @@ start_session() {
   echo $! >"$session/keeper"
 }
 
-# Takes Ctrl, Alt and Shift off the display's keyboard. It tells a window that gets the focus which keys are down, late
-# when the machine is busy, and knows nothing of those that a test holds down: Wine then lets them go. Those that the
-# display does not have it leaves alone.
-forget_held_keys() {
+# Removes Ctrl, Alt and Shift from the display's keyboard. When a window gets the focus, the display tells it which keys
+# are down, on a busy machine late, and it does not know of those that a test holds down: Wine then releases them. Wine
+# leaves alone keys that the display does not have.
+remove_modifier_keys() {
   xkbcomp "$DISPLAY" - 2>/dev/null |
     sed -E '/^ *<([LR]CTL|LFSH|RTSH|[LR]ALT|ALT|META|LVL3|MDSW)> = /d' | xkbcomp -w 0 - "$DISPLAY"
 }
