@@ -15,10 +15,10 @@
 #include "bench/SampleBook.h"
 #include "book/Book.h"
 #include "book/BookFile.h"
-#include "book/BookText.h"
 #include "book/EntrySequence.h"
-#include "book/Files.h"
 #include "book/PerCategory.h"
+#include "files/Files.h"
+#include "text/BookText.h"
 
 namespace lindrel::bench {
 namespace {

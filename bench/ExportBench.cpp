@@ -11,14 +11,14 @@
 
 #include "bench/SampleBook.h"
 #include "book/Book.h"
-#include "book/File.h"
-#include "book/Files.h"
-#include "book/OutputFile.h"
 #include "book/PerCategory.h"
 #include "export/Favorites.h"
 #include "export/HtmlPage.h"
 #include "export/Shortcut.h"
 #include "export/TextList.h"
+#include "files/File.h"
+#include "files/Files.h"
+#include "files/OutputFile.h"
 
 namespace lindrel::bench {
 namespace {

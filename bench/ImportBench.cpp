@@ -15,10 +15,10 @@
 
 #include "bench/SampleBook.h"
 #include "book/Book.h"
-#include "book/Files.h"
-#include "import/DecodedText.h"
+#include "files/Files.h"
 #include "import/HtmlLinks.h"
 #include "import/PageText.h"
+#include "text/DecodedText.h"
 
 extern char** environ;
 

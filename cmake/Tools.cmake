@@ -2,7 +2,7 @@
 # the portable sources in the native build, for those of the windows in a Windows build.
 find_program(CLANG_FORMAT clang-format)
 find_program(CLANG_TIDY clang-tidy)
-foreach(folder ${LINDREL_FOLDERS} tests bench fuzz)
+foreach(folder src tests bench fuzz)
   list(APPEND patterns ${CMAKE_SOURCE_DIR}/${folder}/*.cpp ${CMAKE_SOURCE_DIR}/${folder}/*.h)
 endforeach()
 file(GLOB_RECURSE LINDREL_SOURCES CONFIGURE_DEPENDS ${patterns})

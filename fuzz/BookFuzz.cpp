@@ -7,8 +7,8 @@
 
 #include "book/Book.h"
 #include "book/BookFile.h"
-#include "book/Faults.h"
 #include "book/PerCategory.h"
+#include "faults/Faults.h"
 #include "fuzz/PlainBook.h"
 
 namespace lindrel {

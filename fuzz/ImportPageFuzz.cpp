@@ -8,12 +8,12 @@
 #include <vector>
 
 #include "book/Book.h"
-#include "book/BookText.h"
-#include "book/Faults.h"
-#include "book/Latin2.h"
-#include "book/Utf8.h"
+#include "faults/Faults.h"
 #include "import/HtmlLinks.h"
 #include "import/PageText.h"
+#include "text/BookText.h"
+#include "text/Latin2.h"
+#include "text/Utf8.h"
 
 namespace lindrel {
 namespace {

@@ -4,11 +4,11 @@
 #include <string>
 #include <string_view>
 
-#include "book/Faults.h"
-#include "book/Utf8.h"
 #include "export/Shortcut.h"
+#include "faults/Faults.h"
 #include "import/Shortcuts.h"
-#include "import/TextFile.h"
+#include "text/TextFile.h"
+#include "text/Utf8.h"
 
 namespace lindrel {
 namespace {

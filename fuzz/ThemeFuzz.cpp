@@ -7,11 +7,11 @@
 
 #include "Version.h"
 #include "book/Book.h"
-#include "book/BookText.h"
-#include "book/Faults.h"
-#include "book/Latin2.h"
 #include "book/PerCategory.h"
 #include "export/HtmlPage.h"
+#include "faults/Faults.h"
+#include "text/BookText.h"
+#include "text/Latin2.h"
 
 namespace lindrel {
 namespace {

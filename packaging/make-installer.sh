@@ -17,7 +17,7 @@ export LC_ALL=C.UTF-8
 list Theme "$stage/x64/Lindrel/styles" >"$stage/themes.nsh"
 list Licence "$stage/LICENSES" >"$stage/licences.nsh"
 # The strip beside the first and the last page.
-rsvg-convert --width 96 resources/pictures/frmStart.svg |
+rsvg-convert --width 96 src/resources/pictures/frmStart.svg |
   convert -size 164x314 xc:'#e6ecf4' - -gravity center -composite -alpha off -type TrueColor BMP3:"$stage/side.bmp"
 makensis -V2 -WX -INPUTCHARSET UTF8 "-XTarget ${4:-x86-unicode}" "-DVERSION=$version" "-DSTAGE=$stage" "-DOUTPUT=$installer" \
   packaging/lindrel.nsi

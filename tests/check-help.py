@@ -112,7 +112,7 @@ def windows_of(chm):
 
 def menu_of(sources):
     """The program's menu: for each item "Menu > Item" its shortcut."""
-    resource = (sources / "app/frmStart.rc").read_text(encoding="utf-8")
+    resource = (sources / "src/app/frmStart.rc").read_text(encoding="utf-8")
     menu_bar = re.search(r"^IDR_frmStart MENU\b.*?^END$", resource, re.MULTILINE | re.DOTALL).group()
     items, menu = {}, ""
     for kind, caption in re.findall(r'(POPUP|MENUITEM) "([^"]*)"', menu_bar):
@@ -200,8 +200,7 @@ def texts_of(sources):
     """Every text that the program can show, one a line; pieces of one literal are joined."""
     code = "\n".join(
         path.read_text(encoding="utf-8")
-        for folder in ("app", "book", "controls", "edit", "export", "find", "help", "import")
-        for path in sorted((sources / folder).glob("*.cpp")) + sorted((sources / folder).glob("*.rc")))
+        for path in sorted((sources / "src").glob("*/*.cpp")) + sorted((sources / "src").glob("*/*.rc")))
     literals = re.findall(r'"(?:[^"\\\n]|\\.)*"(?:\s*L?"(?:[^"\\\n]|\\.)*")*', code)
     return "\n".join(re.sub(r'"\s*L?"', "", literal)[1:-1] for literal in literals)
 

@@ -6,8 +6,8 @@
 #include <memory>
 
 #include "bench/window/UiThread.h"
-#include "controls/Control.h"
 #include "resources/resource.h"
+#include "window/Control.h"
 
 namespace lindrel::bench {
 

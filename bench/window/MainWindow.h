@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "controls/Windows.h"
+#include "window/Windows.h"
 
 namespace lindrel::bench {
 

@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <stdexcept>
 
-#include "book/Files.h"
+#include "files/Files.h"
 #include "resources/resource.h"
 
 namespace lindrel::testing {

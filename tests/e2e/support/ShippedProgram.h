@@ -6,10 +6,10 @@
 #include <utility>
 #include <vector>
 
-#include "controls/Windows.h"
 #include "tests/window/support/Boxes.h"
 #include "tests/window/support/Polling.h"
 #include "tests/window/support/RealKeys.h"
+#include "window/Windows.h"
 
 namespace lindrel::testing {
 

@@ -11,9 +11,9 @@
 
 #include "book/Book.h"
 #include "book/CheckMarks.h"
-#include "book/Faults.h"
-#include "book/Files.h"
 #include "book/PerCategory.h"
+#include "faults/Faults.h"
+#include "files/Files.h"
 #include "tests/native/support/TemporaryFolder.h"
 
 namespace lindrel {

@@ -12,9 +12,9 @@
 #include "book/Book.h"
 #include "book/BookFile.h"
 #include "book/BookHeaders.h"
-#include "book/BookText.h"
 #include "book/PerCategory.h"
 #include "tests/support/Times.h"
+#include "text/BookText.h"
 
 namespace lindrel {
 namespace {

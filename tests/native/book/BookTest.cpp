@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "book/BookFile.h"
-#include "book/Faults.h"
 #include "book/PerCategory.h"
 #include "edit/CheckedRuns.h"
+#include "faults/Faults.h"
 
 namespace lindrel {
 namespace {

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "book/Faults.h"
+#include "faults/Faults.h"
 
 namespace lindrel {
 namespace {

@@ -12,7 +12,7 @@
 #include <string_view>
 #include <vector>
 
-#include "book/Files.h"
+#include "files/Files.h"
 #include "tests/native/support/TemporaryFolder.h"
 
 namespace lindrel::testing {

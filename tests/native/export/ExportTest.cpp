@@ -11,17 +11,17 @@
 #include <vector>
 
 #include "book/Book.h"
-#include "book/BookText.h"
-#include "book/Faults.h"
-#include "book/File.h"
-#include "book/Latin2.h"
 #include "export/Favorites.h"
 #include "export/HtmlPage.h"
 #include "export/HtmlText.h"
 #include "export/Shortcut.h"
 #include "export/TextList.h"
+#include "faults/Faults.h"
+#include "files/File.h"
 #include "tests/native/support/AnyText.h"
 #include "tests/native/support/TemporaryFolder.h"
+#include "text/BookText.h"
+#include "text/Latin2.h"
 
 namespace lindrel {
 namespace {

@@ -11,9 +11,9 @@
 #include <vector>
 
 #include "book/Book.h"
-#include "book/BookText.h"
 #include "export/HtmlPage.h"
 #include "tests/native/export/Browser.h"
+#include "text/BookText.h"
 
 namespace lindrel::testing {
 

@@ -10,9 +10,9 @@
 
 #include "book/Book.h"
 #include "book/BookFile.h"
-#include "book/BookText.h"
 #include "book/EntrySequence.h"
 #include "book/PerCategory.h"
+#include "text/BookText.h"
 
 namespace lindrel {
 namespace {

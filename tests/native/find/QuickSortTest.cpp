@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "book/Faults.h"
+#include "faults/Faults.h"
 
 namespace lindrel {
 namespace {

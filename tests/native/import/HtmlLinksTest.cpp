@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "book/Book.h"
-#include "book/Faults.h"
 #include "export/HtmlPage.h"
+#include "faults/Faults.h"
 #include "tests/native/support/PrintEntry.h"
 
 namespace lindrel {

@@ -8,10 +8,10 @@
 #include <utility>
 #include <vector>
 
-#include "book/BookText.h"
-#include "book/Utf8.h"
-#include "import/DecodedText.h"
 #include "tests/native/support/AnyText.h"
+#include "text/BookText.h"
+#include "text/DecodedText.h"
+#include "text/Utf8.h"
 
 namespace lindrel {
 namespace {

@@ -9,10 +9,10 @@
 #include <vector>
 
 #include "book/Book.h"
-#include "book/Faults.h"
-#include "book/File.h"
-#include "book/Files.h"
 #include "export/Shortcut.h"
+#include "faults/Faults.h"
+#include "files/File.h"
+#include "files/Files.h"
 #include "tests/native/support/AnyText.h"
 #include "tests/native/support/PrintEntry.h"
 #include "tests/native/support/TemporaryFolder.h"

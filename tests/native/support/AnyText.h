@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string>
 
-#include "import/TextFile.h"
+#include "text/TextFile.h"
 
 namespace lindrel::testing {
 

@@ -8,7 +8,7 @@
 #include <system_error>
 #include <vector>
 
-#include "book/Files.h"
+#include "files/Files.h"
 
 namespace lindrel::testing {
 

@@ -9,9 +9,9 @@
 #include <string>
 #include <vector>
 
-#include "controls/Control.h"
 #include "tests/window/support/Boxes.h"
 #include "tests/window/support/Text.h"
+#include "window/Control.h"
 
 namespace lindrel::testing {
 namespace {

@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <thread>
 
-#include "controls/Shell.h"
+#include "system/Shell.h"
 #include "tests/window/app/FileSession.h"
 
 namespace lindrel::testing {

@@ -8,8 +8,8 @@
 #include <optional>
 #include <string>
 
-#include "controls/Shell.h"
 #include "resources/resource.h"
+#include "system/Shell.h"
 #include "tests/window/support/Program.h"
 
 namespace lindrel::testing {

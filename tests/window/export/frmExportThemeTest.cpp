@@ -2,8 +2,8 @@
 
 #include <filesystem>
 
-#include "book/Files.h"
-#include "controls/Shell.h"
+#include "files/Files.h"
+#include "system/Shell.h"
 #include "tests/window/export/ExportSession.h"
 
 namespace lindrel::testing {

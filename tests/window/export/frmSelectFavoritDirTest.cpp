@@ -4,15 +4,15 @@
 #include <map>
 #include <stdexcept>
 
-#include "book/BookText.h"
-#include "book/Faults.h"
-#include "book/Files.h"
-#include "book/Folder.h"
 #include "export/Favorites.h"
+#include "faults/Faults.h"
+#include "files/Files.h"
+#include "files/Folder.h"
 #include "tests/window/export/ExportSession.h"
 #include "tests/window/support/DeepFolder.h"
 #include "tests/window/support/Expectations.h"
 #include "tests/window/support/FavoritesFolder.h"
+#include "text/BookText.h"
 
 namespace lindrel::testing {
 namespace {

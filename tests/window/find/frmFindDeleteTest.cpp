@@ -1,7 +1,7 @@
 // Deleting the selected hit and the checked ones.
 
-#include "book/BookText.h"
 #include "tests/window/find/FindSession.h"
+#include "text/BookText.h"
 
 namespace lindrel::testing {
 namespace {

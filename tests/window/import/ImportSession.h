@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "book/BookText.h"
 #include "resources/resource.h"
 #include "tests/window/support/Program.h"
+#include "text/BookText.h"
 
 namespace lindrel::testing {
 

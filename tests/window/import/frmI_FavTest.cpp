@@ -3,10 +3,10 @@
 #include <filesystem>
 #include <memory>
 
-#include "book/Faults.h"
-#include "book/Files.h"
 #include "export/Favorites.h"
 #include "export/Shortcut.h"
+#include "faults/Faults.h"
+#include "files/Files.h"
 #include "import/Shortcuts.h"
 #include "tests/window/import/ImportSession.h"
 #include "tests/window/support/DeepFolder.h"

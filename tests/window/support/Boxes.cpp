@@ -7,9 +7,9 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "controls/Control.h"
 #include "tests/window/support/Polling.h"
 #include "tests/window/support/Text.h"
+#include "window/Control.h"
 
 namespace lindrel::testing {
 

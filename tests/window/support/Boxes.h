@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "controls/Windows.h"
+#include "window/Windows.h"
 
 namespace lindrel::testing {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "controls/Windows.h"
+#include "window/Windows.h"
 
 namespace lindrel::testing {
 

@@ -6,10 +6,10 @@
 #include <string>
 #include <vector>
 
-#include "book/Files.h"
-#include "book/Folder.h"
-#include "book/Path.h"
-#include "controls/Windows.h"
+#include "files/Files.h"
+#include "files/Folder.h"
+#include "files/Path.h"
+#include "window/Windows.h"
 
 namespace lindrel::testing {
 

@@ -4,7 +4,7 @@
 
 #include <stdexcept>
 
-#include "controls/Shell.h"
+#include "system/Shell.h"
 
 namespace lindrel::testing {
 

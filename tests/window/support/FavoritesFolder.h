@@ -5,8 +5,8 @@
 #include <filesystem>
 #include <string>
 
-#include "controls/Windows.h"
 #include "tests/window/support/Program.h"
+#include "window/Windows.h"
 
 namespace lindrel::testing {
 

@@ -1,7 +1,7 @@
 // The system's setting of larger letters.
 #pragma once
 
-#include "controls/Windows.h"
+#include "window/Windows.h"
 
 namespace lindrel::testing {
 

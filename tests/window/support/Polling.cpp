@@ -1,6 +1,6 @@
 #include "tests/window/support/Polling.h"
 
-#include "controls/Windows.h"
+#include "window/Windows.h"
 
 namespace lindrel::testing {
 

@@ -10,12 +10,12 @@
 
 #include "app/Program.h"
 #include "book/BookFile.h"
-#include "book/BookText.h"
-#include "book/Files.h"
+#include "files/Files.h"
 #include "resources/resource.h"
 #include "tests/window/support/ControlsOnScreen.h"
 #include "tests/window/support/RealClipboard.h"
 #include "tests/window/support/Text.h"
+#include "text/BookText.h"
 
 namespace lindrel::testing {
 

@@ -6,7 +6,7 @@
 #include <set>
 #include <string>
 
-#include "controls/Windows.h"
+#include "window/Windows.h"
 
 namespace lindrel::testing {
 

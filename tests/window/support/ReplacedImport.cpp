@@ -4,7 +4,7 @@
 #include <span>
 #include <stdexcept>
 
-#include "controls/Windows.h"
+#include "window/Windows.h"
 
 namespace lindrel::testing {
 

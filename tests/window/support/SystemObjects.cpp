@@ -7,7 +7,7 @@
 #include <set>
 #include <stdexcept>
 
-#include "controls/Windows.h"
+#include "window/Windows.h"
 
 namespace lindrel::testing {
 

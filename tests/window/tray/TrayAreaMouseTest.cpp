@@ -6,7 +6,7 @@
 #include <optional>
 #include <stdexcept>
 
-#include "controls/PendingFault.h"
+#include "faults/PendingFault.h"
 #include "tests/window/support/Polling.h"
 #include "tests/window/tray/TraySession.h"
 

@@ -1,0 +1,76 @@
+#include "app/Program.h"
+
+#include <ole2.h>
+
+#include <new>
+#include <string>
+
+#include "app/frmStart.h"
+#include "faults/Faults.h"
+#include "faults/PendingFault.h"
+#include "system/MsgBox.h"
+
+namespace lindrel {
+
+namespace {
+
+// COM, which the shell needs to open folders and addresses, and the window to have files dropped on it.
+class ComApartment {
+  public:
+    ComApartment() : usable_(SUCCEEDED(OleInitialize(nullptr))) {}
+    ~ComApartment() {
+        if (usable_) OleUninitialize();
+    }
+    ComApartment(const ComApartment&) = delete;
+    ComApartment& operator=(const ComApartment&) = delete;
+
+  private:
+    bool usable_;
+};
+
+int RunMessageLoop(frmStart& form) {
+    MSG message{};
+    while (const BOOL got = GetMessageW(&message, nullptr, 0, 0)) {
+        if (got == -1) throw std::bad_alloc();
+        if (!form.PreTranslate(message)) {
+            TranslateMessage(&message);
+            DispatchMessageW(&message);
+        }
+        ThrowPendingFault();
+    }
+    return static_cast<int>(message.wParam);
+}
+
+}  // namespace
+
+int RunProgram(HINSTANCE instance, int show) {
+    // A drive without a disk is an error like any other, not a box of the system's.
+    SetErrorMode(GetErrorMode() | SEM_FAILCRITICALERRORS);
+    const ComApartment com;
+    INITCOMMONCONTROLSEX classes{};
+    classes.dwSize = sizeof classes;
+    classes.dwICC = ICC_WIN95_CLASSES | ICC_STANDARD_CLASSES | ICC_LINK_CLASS;
+    // Fails only where version 6 of the common controls is missing; creating the window then says so.
+    static_cast<void>(InitCommonControlsEx(&classes));
+
+    frmStart form(instance);
+    try {
+        form.Show(show);
+        return RunMessageLoop(form);
+    } catch (...) {
+        const Fault fault = CurrentFault();
+        const std::wstring number = std::to_wstring(fault.Number());
+        try {
+            MsgBox(form.Handle(),
+                   L"Futásidejű hiba: " + number + L"\r\n\r\n" + fault.Meaning() +
+                       L".\r\n\r\nA program bezárul.",
+                   MB_OK | MB_ICONERROR);
+            form.OfferToSave(SaveQuestion::Closing);
+        } catch (...) {
+            // A second fault while the first is reported: there is nobody left to tell.
+        }
+        return 1;
+    }
+}
+
+}  // namespace lindrel

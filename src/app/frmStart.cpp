@@ -1,0 +1,199 @@
+#include "app/frmStart.h"
+
+#include <new>
+
+#include "app/MenuCommands.h"
+#include "app/PlaceControls.h"
+#include "help/HTMLHelp.h"
+#include "resources/resource.h"
+
+namespace lindrel {
+
+namespace {
+
+constexpr wchar_t kWindowClass[] = L"frmStart";
+constexpr int kDesignedWidth = 11400;
+constexpr int kDesignedHeight = 7500;
+
+void MoveTo(HWND window, const RECT& place) {
+    SetWindowPos(window, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+}  // namespace
+
+frmStart::frmStart(HINSTANCE instance) : instance_(instance) {}
+
+void frmStart::Show(int show) {
+    shortcuts_ = LoadAcceleratorsW(instance_, MAKEINTRESOURCEW(IDR_frmStart));
+    if (shortcuts_ == nullptr) throw std::bad_alloc();
+    WNDCLASSEXW description{};
+    description.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
+    description.lpszMenuName = MAKEINTRESOURCEW(IDR_frmStart);
+    description.lpszClassName = kWindowClass;
+    Create(description, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT);
+    ShowWindow(Handle(), show);
+    UpdateWindow(Handle());
+}
+
+LRESULT frmStart::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
+    switch (message) {
+        case WM_CREATE:
+            Form_Load();
+            return 0;
+        case WM_SIZE:
+            Form_Resize();
+            return 0;
+        case WM_GETMINMAXINFO:
+            LimitSize(*reinterpret_cast<MINMAXINFO*>(lparam), LeastHeight(Frame()), DpiOf(Handle()));
+            return 0;
+        case WM_DPICHANGED:
+            // Its first size, before there are controls, may already put most of the window on another
+            // screen.
+            if (loaded_) ApplyResolution();
+            MoveTo(Handle(), *reinterpret_cast<const RECT*>(lparam));
+            Form_Resize();
+            return 0;
+        case WM_SYSCOLORCHANGE:
+            PassOnColours(Handle());
+            return 0;
+        case WM_SETTINGCHANGE:
+        case WM_THEMECHANGED:
+            OnSettingsChange();
+            return DefWindowProcW(Handle(), message, wparam, lparam);
+        case WM_QUERYENDSESSION:
+            return OnQueryEndSession() ? TRUE : FALSE;
+        case WM_ENDSESSION:
+            OnEndSession(wparam != FALSE);
+            return 0;
+        case WM_CLOSE:
+            if (OfferToSave(SaveQuestion::Closing) != SaveAnswer::CalledOff) DestroyWindow(Handle());
+            return 0;
+        case WM_DESTROY:
+            Form_Unload();
+            return 0;
+        default:
+            return OnControlMessage(message, wparam, lparam);
+    }
+}
+
+LRESULT frmStart::OnControlMessage(UINT message, WPARAM wparam, LPARAM lparam) {
+    switch (message) {
+        case WM_ACTIVATE:
+            OnActivate(wparam);
+            return 0;
+        case WM_SETFOCUS:
+            RestoreFocus();
+            return 0;
+        case WM_SETCURSOR:
+            tool_tips_.OnSetCursor(Handle());
+            return DefWindowProcW(Handle(), message, wparam, lparam);
+        case WM_COMMAND:
+            if (HIWORD(wparam) == EN_SETFOCUS && returned_focus_.Is(reinterpret_cast<HWND>(lparam))) return 0;
+            OnCommand(LOWORD(wparam), HIWORD(wparam));
+            return 0;
+        case FileDrop::kMessage:
+            OnBookDropped();
+            return 0;
+        case WM_DRAWITEM:
+            // The picture buttons draw themselves.
+            return SendMessageW(reinterpret_cast<const DRAWITEMSTRUCT*>(lparam)->hwndItem, message, wparam,
+                                lparam);
+        case WM_NOTIFY:
+            return OnNotify(*reinterpret_cast<const NMHDR*>(lparam));
+        default:
+            return DefWindowProcW(Handle(), message, wparam, lparam);
+    }
+}
+
+void frmStart::OnCommand(int id, int event) {
+    static constexpr MenuCommand<frmStart> kCommands[] = {
+        {ID_mnuKat, &frmStart::mnuKat_Click},
+        {ID_mnuAdd, &frmStart::mnuAdd_Click},
+        {ID_mnuEdit, &frmStart::mnuEdit_Click},
+        {ID_mnuFind, &frmStart::mnuFind_Click},
+        {ID_mnuMove, &frmStart::mnuMove_Click},
+        {ID_mnuDel, &frmStart::mnuDel_Click},
+        {ID_mnuSelectAll, &frmStart::mnuSelectAll_Click},
+        {ID_mnuToDesktop, &frmStart::mnuToDesktop_Click},
+        {ID_mnuGridLines, &frmStart::mnuGridLines_Click},
+        {ID_mnuTray, &frmStart::mnuTray_Click},
+        {ID_mnuImport, &frmStart::mnuImport_Click},
+        {ID_mnuExport, &frmStart::mnuExport_Click},
+        {ID_mnuGoto, &frmStart::mnuGoto_Click},
+        {ID_mnuHelp, &frmStart::mnuHelp_Click},
+        {ID_mnuGoHome, &frmStart::mnuGoHome_Click},
+        {ID_mnuAbout, &frmStart::mnuAbout_Click},
+    };
+    if (toolbar_.OnCommand(id) || file_menu_.OnCommand(id) || view_.OnCommand(id) || fields_.OnCommand(id) ||
+        search_box_.OnCommand(id, event))
+        return;
+    RunMenuCommand<frmStart>(*this, kCommands, id);
+}
+
+LRESULT frmStart::OnNotify(const NMHDR& header) {
+    toolbar_.Notify(header);
+    return view_.Notify(header);
+}
+
+// Whether the session may end, as far as the book is concerned. An open dialog answers for itself.
+bool frmStart::OnQueryEndSession() {
+    session_.Release();  // an earlier question may have been refused
+    if (!open_.Modified) return true;
+    // A program without a visible window is ended when it does not answer at once.
+    if (TrayArea.Visible()) LeaveTray();
+    session_.Hold(Handle(), L"A könyv módosításai még nincsenek mentve.");
+    // With a box or dialog open a command is under way; saving in its middle could write half of its work.
+    if (!IsWindowEnabled(Handle())) return false;
+    // After a refusal the reason stays until the system has shown it.
+    if (OfferToSave(SaveQuestion::Closing) == SaveAnswer::CalledOff) return false;
+    session_.Release();
+    return true;
+}
+
+void frmStart::OnEndSession(bool ending) {
+    session_.Release();
+    if (!ending) return;
+    // The process can be gone as soon as this returns: what other programs show for it must go now.
+    TrayArea.SetVisible(false);
+    CloseHelp();
+    // An installer that asked waits for the program to end. A box or dialog that is open would take the end
+    // of its owner for a fault; then the system ends the process.
+    if (IsWindowEnabled(Handle())) DestroyWindow(Handle());
+}
+
+void frmStart::OnBookDropped() {
+    // A command that was on its way has opened a dialog, which works on the open book.
+    if (!IsWindowEnabled(Handle())) return;
+    // Another program's dialog may have taken the front meanwhile; the book is opened all the same.
+    static_cast<void>(SetForegroundWindow(Handle()));
+    file_menu_.OpenDropped(book_drop_.TakePath());
+}
+
+void frmStart::Form_Load() {
+    const UINT dpi = DpiOf(Handle());
+    SetWindowPos(Handle(), nullptr, 0, 0, PixelsOf(kDesignedWidth, dpi), PixelsOf(kDesignedHeight, dpi),
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    CreateControls();
+    ApplyResolution();
+    file_menu_.ResetBook();
+    open_.CurrentCategory = 1;
+    loaded_ = true;
+    Form_Resize();
+}
+
+void frmStart::EnableCommand(int id, bool enabled) {
+    const UINT state = enabled ? MF_ENABLED : MF_GRAYED;
+    EnableMenuItem(GetMenu(Handle()), static_cast<UINT>(id), MF_BYCOMMAND | state);
+    toolbar_.Update();
+}
+
+void frmStart::Form_Unload() {
+    CloseHelp();
+    book_drop_.Detach();
+    // A window that could not be made has no message loop to end; the quit message would swallow the report
+    // of the failure.
+    if (loaded_) PostQuitMessage(0);
+}
+
+}  // namespace lindrel

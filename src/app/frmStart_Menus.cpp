@@ -1,0 +1,210 @@
+// The commands of the menus, all but those of the file menu.
+
+#include <shlobj.h>
+
+#include "app/frmStart.h"
+#include "edit/CheckedRuns.h"
+#include "edit/DeleteQuestions.h"
+#include "edit/frmAdd.h"
+#include "edit/frmEditKats.h"
+#include "edit/frmEditRec.h"
+#include "edit/frmMove.h"
+#include "export/ExportedEntries.h"
+#include "export/Shortcut.h"
+#include "export/frmExport.h"
+#include "files/Files.h"
+#include "find/frmFind.h"
+#include "help/HTMLHelp.h"
+#include "help/HomePage.h"
+#include "help/frmAbout.h"
+#include "import/frmImport.h"
+#include "resources/resource.h"
+#include "system/MsgBox.h"
+#include "system/Shell.h"
+#include "text/BookText.h"
+
+namespace lindrel {
+
+// Categories and entries.
+
+void frmStart::mnuKat_Click() {
+    frmEditKats dialog(open_);
+    dialog.ShowModal(Handle());
+    if (dialog.Renamed()) view_.UpdateTabCaptions();
+}
+
+void frmStart::mnuAdd_Click() {
+    view_.SaveCheckMarks(open_.CurrentCategory);
+    frmAdd(open_).ShowModal(Handle());
+    if (open_.ResultTag.empty()) return;
+    // Selects the row at the same place, not the new one: the user goes on from there.
+    const int position = view_.SelectedRow();
+    open_.ResultTag.clear();
+    view_.FillAddressList(open_.CurrentCategory);
+    view_.RestoreCheckMarks(open_.CurrentCategory);
+    view_.SelectRow(position);
+}
+
+void frmStart::mnuEdit_Click() {
+    if (view_.SelectedRow() == 0) return;
+    view_.SaveCheckMarks(open_.CurrentCategory);
+    frmEditRec(open_, [this] { return view_.SelectedRow(); }).ShowModal(Handle());
+    if (open_.ResultTag.empty()) return;
+    int position = view_.SelectedRow();
+    view_.FillAddressList(open_.CurrentCategory);
+    if (open_.ResultTag == L"m")
+        view_.SetAllChecks(false);
+    else
+        view_.RestoreCheckMarks(open_.CurrentCategory);
+    open_.ResultTag.clear();
+    // The last row may have been moved away.
+    if (view_.RowCount() < position) --position;
+    view_.SelectRow(position);
+}
+
+void frmStart::mnuFind_Click() {
+    // Category 12 is ignored: the command has always refused a book with entries only there.
+    if (open_.TheBook.CategoryStarts(kCategories) == 1) {
+        MsgBox(Handle(), L"Az adatbázisban még nincsenek címek");
+        return;
+    }
+    view_.SaveCheckMarks(open_.CurrentCategory);
+    frmFind(open_).ShowModal(Handle());
+    view_.FillAddressList(open_.CurrentCategory);
+    view_.RestoreCheckMarks(open_.CurrentCategory);
+}
+
+void frmStart::mnuMove_Click() {
+    const bool something_chosen = open_.TheBook.Marks.CheckedCount() != 0 || fields_.HasAddress();
+    if (!something_chosen || view_.RowCount() == 0) return SoundNothingToDo();
+    frmMove dialog(open_, view_.SelectedRow(), view_.CheckedRows());
+    dialog.ShowModal(Handle());
+    if (dialog.Moved()) view_.FillAddressList(open_.CurrentCategory);
+}
+
+void frmStart::mnuDel_Click() {
+    // In the search box the Del key deletes text.
+    if (search_box_.HasFocus()) return;
+    const int checked = open_.TheBook.Marks.CheckedCount();
+    if (checked == 0 && (!fields_.HasAddress() || view_.SelectedRow() == 0)) return SoundNothingToDo();
+
+    if (checked != 0) {
+        if (!MayDeleteChecked(Handle(), checked)) return;
+        DeleteRuns(open_.TheBook, open_.CurrentCategory, view_.CheckedRows());
+    } else {
+        if (!MayDeleteSelected(Handle())) return;
+        open_.TheBook.DeleteEntry(open_.CurrentCategory, view_.SelectedRow(), 1);
+    }
+    open_.TheBook.Marks.SetCheckedCount(0);
+    const int place = view_.FocusedRow();
+    view_.FillAddressList(open_.CurrentCategory);
+    view_.FocusRow(place);
+    open_.Modified = true;
+}
+
+void frmStart::mnuSelectAll_Click() {
+    // Category 12 is ignored: for a book with entries only there the command has never done anything.
+    if (open_.TheBook.CategoryStarts(kCategories) == 1) return;
+    view_.SetAllChecks(open_.TheBook.Marks.CheckedCount() == 0);
+}
+
+void frmStart::mnuToDesktop_Click() {
+    constexpr wchar_t kNotCreated[] = L"Nem jött létre a parancsikon";
+    Book& book = open_.TheBook;
+    const int position = view_.SelectedRow();
+    if (position == 0) return;
+    const int entry = book.IndexOf(open_.CurrentCategory, position);
+    const std::wstring question =
+        L"Létrehozzam a < " + FromBookText(book.SiteNames(entry)) + L" > cím parancsikonját az Asztalon ?";
+    if (MsgBox(Handle(), question, MB_OKCANCEL | MB_ICONQUESTION) != IDOK) return;
+
+    const std::optional<std::wstring> desktop = ShellFolder(CSIDL_DESKTOPDIRECTORY);
+    if (!desktop) {
+        MsgBox(Handle(), kNotCreated, MB_OK | MB_ICONEXCLAMATION, kErrorTitle);
+        return;
+    }
+    // The entry takes the name of its file. Neither the list nor Modified shows it: users have never been
+    // asked to save because of a shortcut.
+    std::string name(book.SiteNames(entry));
+    MakeShortcutFileName(name);
+    book.SetSiteName(entry, name);
+    try {
+        WriteFileBytes(DesktopPath(*desktop) + L"\\" + FromBookText(name) + L".url",
+                       ShortcutFile(book.SiteURLs(entry)));
+    } catch (const FileFault&) {
+        MsgBox(Handle(), kNotCreated, MB_OK | MB_ICONEXCLAMATION, kErrorTitle);
+    }
+}
+
+// How the program shows itself.
+
+void frmStart::mnuGridLines_Click() {
+    const HMENU menu = GetMenu(Handle());
+    const bool shown = (GetMenuState(menu, ID_mnuGridLines, MF_BYCOMMAND) & MF_CHECKED) == 0;
+    CheckMenuItem(menu, ID_mnuGridLines, shown ? MF_CHECKED : MF_UNCHECKED);
+    view_.ShowGridLines(shown);
+}
+
+void frmStart::mnuTray_Click() {
+    ShowWindow(Handle(), SW_HIDE);
+    TrayArea.SetToolTip(kApplicationTitle);
+    TrayArea.SetVisible(true);
+    // Without an icon there would be no way back.
+    if (!TrayArea.IsTaken()) LeaveTray();
+}
+
+void frmStart::LeaveTray() {
+    ShowWindow(Handle(), SW_SHOW);
+    // Refused while another program keeps the front; the window is there all the same.
+    static_cast<void>(SetForegroundWindow(Handle()));
+    TrayArea.SetVisible(false);
+}
+
+// Import, export, the page of the shown entry.
+
+void frmStart::mnuImport_Click() {
+    view_.SaveCheckMarks(open_.CurrentCategory);
+    frmImport dialog(open_, CommonDialog1);
+    dialog.ShowModal(Handle());
+    if (dialog.Imported()) view_.FillAddressList(open_.CurrentCategory);
+    view_.RestoreCheckMarks(open_.CurrentCategory);
+}
+
+void frmStart::mnuExport_Click() {
+    view_.SaveCheckMarks(open_.CurrentCategory);
+    bool something_checked = false;
+    for (int c = 1; c <= kCategories; ++c)
+        something_checked = something_checked || IsExported(open_.TheBook, c);
+    if (!something_checked) {
+        MsgBox(Handle(),
+               L"Kérem jelölje be (pipazza ki) az exportálni kívánt címeket /akár több kategóriából is/.",
+               MB_OK, L"Nincsenek kijelölve címek");
+        return;
+    }
+    frmExport(open_, CommonDialog1).ShowModal(Handle());
+}
+
+void frmStart::mnuGoto_Click() {
+    fields_.picGo_Click();
+}
+
+// Help.
+
+void frmStart::mnuHelp_Click() {
+    constexpr std::int16_t kHelpOfTheProgram = 1;
+    if (!FileIsThere(HelpFilePath(kHelpOfTheProgram))) {
+        MsgBox(Handle(), L"Nem találom az lnd.chm fájlt", MB_OK, kErrorTitle);
+        return;
+    }
+    ShowHelp(kHelpOfTheProgram, L"main");
+}
+
+void frmStart::mnuGoHome_Click() {
+    OpenAddress(Handle(), kHomePage);
+}
+
+void frmStart::mnuAbout_Click() {
+    frmAbout().ShowModal(Handle());
+}
+
+}  // namespace lindrel

@@ -1,0 +1,34 @@
+// Moves the checked entries of the shown category, or the selected one when none is checked, to another
+// category.
+#pragma once
+
+#include <vector>
+
+#include "book/OpenBook.h"
+#include "edit/CheckedRuns.h"
+#include "window/Dialog.h"
+
+namespace lindrel {
+
+class frmMove : public Dialog {
+  public:
+    // The 1-based position of the selected row, 0 for none, and the runs of the checked rows of the shown
+    // category.
+    frmMove(OpenBook& open, int selected_row, std::vector<RowRun> checked_runs);
+
+    // Whether entries have left the shown category.
+    bool Moved() const { return moved_; }
+
+  private:
+    void Form_Load() override;
+    void OnCommand(int id, int event) override;
+    void cmdOk_Click();
+    void cmdCancel_Click() { Unload(); }
+
+    OpenBook& open_;
+    int selected_row_;
+    std::vector<RowRun> checked_runs_;
+    bool moved_ = false;
+};
+
+}  // namespace lindrel

@@ -1,0 +1,52 @@
+// Exports the checked entries of chosen categories as a web page, a text list or shortcut files.
+#pragma once
+
+#include <string>
+
+#include "book/OpenBook.h"
+#include "export/HtmlPage.h"
+#include "system/CommonDialog.h"
+#include "window/Dialog.h"
+
+namespace lindrel {
+
+class frmExport : public Dialog {
+  public:
+    frmExport(OpenBook& open, CommonDialog& file_dialog);
+
+  private:
+    // In the order of cmbType.
+    enum Kind { WebPage, TextFile, Favorites };
+
+    void Form_Load() override;
+    void OnCommand(int id, int event) override;
+    void cmbType_Click();
+    void cmdOK_Click();
+    void cmdCancel_Click() { Unload(); }
+    void cmdBrowse_Click();
+    void OnTheme(int event) const;
+    void cmbTheme_Change(const std::wstring& theme) const;
+    void cmbTheme_LostFocus() const;
+
+    Kind ChosenKind() const;
+    void FillThemes() const;
+    void SetPageOptionsEnabled(bool disable) const;
+
+    // The steps of the export button. Those that return a bool return false when the user has called the
+    // export off, and throw what choosing or writing throws.
+    bool Export(Kind kind);
+    bool ExportToFile(Kind kind);
+    bool ExportToFavorites();
+    bool ChooseFile(std::wstring& path);
+    void DropCategoriesNotChosen();
+    void WriteHtmlPage(const std::wstring& fileName) const;
+    void WriteTextList(const std::wstring& fileName) const;
+    // Title, colours and fragments of the page. Tells the user when the theme named is not there.
+    PageStyle ReadTheme() const;
+
+    OpenBook& open_;
+    CommonDialog& file_dialog_;
+    BookFilterAfterwards book_filter_;
+};
+
+}  // namespace lindrel

@@ -1,0 +1,23 @@
+#include "faults/PendingFault.h"
+
+#include <exception>
+
+#include <windows.h>
+
+namespace lindrel {
+
+namespace {
+thread_local std::exception_ptr pending;
+}
+
+void KeepPendingFault() noexcept {
+    if (!pending) pending = std::current_exception();
+    // GetMessage does not return for a message that another thread sent. A full queue needs no waking.
+    static_cast<void>(PostThreadMessageW(GetCurrentThreadId(), WM_NULL, 0, 0));
+}
+
+void ThrowPendingFault() {
+    if (pending) std::rethrow_exception(std::exchange(pending, nullptr));
+}
+
+}  // namespace lindrel

@@ -1,0 +1,75 @@
+#include "import/Shortcuts.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <utility>
+
+#include "faults/Faults.h"
+#include "files/File.h"
+#include "files/Files.h"
+#include "files/Folder.h"
+#include "text/BookText.h"
+#include "text/DecodedText.h"
+#include "text/TextLines.h"
+
+namespace lindrel {
+
+namespace {
+
+// Length of ".url", in any case.
+constexpr std::size_t kExtensionLength = 4;
+// Users know that larger folders are refused, and split them.
+constexpr std::size_t kMostShortcuts = 255;
+
+bool IsShortcutName(const std::wstring& name) {
+    return name.size() >= kExtensionLength &&
+           LowerCase(ToBookText(name.substr(name.size() - kExtensionLength))) == ".url";
+}
+
+struct ShortcutFile {
+    std::string Name;  // as book text
+    Path FileName;
+};
+
+std::vector<ShortcutFile> FilesOf(const Path& folder) {
+    std::vector<ShortcutFile> files;
+    for (const Path& file : FilesIn(folder))
+        if (const std::wstring name = WideText(file); IsShortcutName(name))
+            files.push_back({ToBookText(name), file});
+    std::sort(files.begin(), files.end(), [](const ShortcutFile& a, const ShortcutFile& b) {
+        return std::pair(LowerCase(a.Name), a.FileName) < std::pair(LowerCase(b.Name), b.FileName);
+    });
+    return files;
+}
+
+}  // namespace
+
+std::string ShortcutAddress(std::vector<char> file) {
+    const TextFile lines = TextFileOf(std::move(file));
+    const std::string_view text = lines.Text();
+    const std::size_t second = BehindLineEnd(text, EndOfLine(text, 0));
+    if (second == text.size()) throw EndOfFileFault();
+    const DecodedText line(text.substr(second, EndOfLine(text, second) - second), lines.Encoding);
+
+    static const CaselessNeedle key("URL=");
+    const std::size_t found = key.FindIn(line.Text());
+    // Without the key three characters are lost: shortcuts of other programs have always been imported like
+    // that.
+    const std::size_t behind_key = found == std::string_view::npos ? 3 : found + 4;
+    if (line.Text().size() < behind_key) throw ArgumentFault();
+    return line.Address(behind_key, line.Text().size());
+}
+
+std::vector<NewEntry> ShortcutsOfFolder(const Path& folder) {
+    std::vector<NewEntry> staged;
+    const Path exact = ExactPath(folder);
+    for (const ShortcutFile& file : FilesOf(folder))
+        NamingTheFile(WideText(Joined(folder, file.FileName)), [&] {
+            std::string address = ShortcutAddress(ReadFileBytes(Joined(exact, file.FileName)));
+            if (staged.size() == kMostShortcuts) throw OverflowFault();
+            staged.push_back({file.Name.substr(0, file.Name.size() - kExtensionLength), std::move(address)});
+        });
+    return staged;
+}
+
+}  // namespace lindrel

@@ -1,0 +1,133 @@
+#include "import/frmImport.h"
+
+#include <exception>
+
+#include "edit/BookField.h"
+#include "files/Files.h"
+#include "files/Folder.h"
+#include "import/PageText.h"
+#include "import/Shortcuts.h"
+#include "import/frmI_Fav.h"
+#include "resources/resource.h"
+#include "system/MsgBox.h"
+#include "system/Shell.h"
+#include "system/WaitCursor.h"
+#include "window/PopupMenu.h"
+
+namespace lindrel {
+
+frmImport::frmImport(OpenBook& open, CommonDialog& file_dialog)
+    : Dialog(IDD_frmImport), open_(open), file_dialog_(file_dialog), book_filter_(file_dialog) {}
+
+void frmImport::Form_Load() {
+    Get<CheckBox>(ID_frmImport_from_0).SetChecked(true);
+    FillWithCategories(Get<ComboBox>(ID_frmImport_cmbKateg), open_.TheBook, open_.CurrentCategory);
+    SetToolTip(ID_frmImport_cmbKateg, L"az új címek ebbe a kategóriába importálódnak");
+}
+
+void frmImport::OnCommand(int id, int) {
+    switch (id) {
+        case ID_frmImport_from_0:
+        case ID_frmImport_from_1:
+            return from_Click();
+        case ID_frmImport_Label2:
+            return Label2_MouseDown();
+        case ID_mnuOnline:
+            return mnuOnline_Click();
+        case ID_mnuAll:
+            return mnuAll_Click();
+        case ID_frmImport_cmdOK:
+            return cmdOK_Click();
+        case ID_frmImport_cmdCancel:
+        case IDCANCEL:
+            return cmdCancel_Click();
+        default:
+            return;
+    }
+}
+
+// The mouse opens the menu when it goes down, as with any menu; the keyboard clicks the button.
+bool frmImport::PreTranslate(const MSG& message) {
+    const bool pressed = message.message == WM_LBUTTONDOWN || message.message == WM_LBUTTONDBLCLK;
+    if (!pressed || message.hwnd != Item(ID_frmImport_Label2)) return false;
+    FocusOn(ID_frmImport_Label2);
+    Label2_MouseDown();
+    return true;
+}
+
+void frmImport::from_Click() const {
+    Get<Control>(ID_frmImport_Label2).Enable(Get<CheckBox>(ID_frmImport_from_0).IsChecked());
+}
+
+void frmImport::Label2_MouseDown() {
+    if (!Get<CheckBox>(ID_frmImport_from_0).IsChecked()) return;
+    const PopupMenu menu(GetModuleHandleW(nullptr), IDR_frmImport);
+    menu.CheckRadio(ID_mnuOnline, ID_mnuAll, choice_ == LinkChoice::Online ? ID_mnuOnline : ID_mnuAll);
+    RECT button{};
+    GetWindowRect(Item(ID_frmImport_Label2), &button);
+    menu.OpenBelow(button, Handle());
+}
+
+void frmImport::cmdOK_Click() {
+    constexpr wchar_t kFailed[] = L"Az importálás nem sikerült.";
+    // Faults of the folder import have always ended in the run-time error report.
+    if (!Get<CheckBox>(ID_frmImport_from_0).IsChecked()) return ImportFavoritesFolder();
+
+    file_dialog_.Filter = L"weblapok (*.htm)|*.htm;*.html";
+    file_dialog_.DialogTitle = L"Válasszon ki egy weblapot";
+    file_dialog_.FileName.clear();
+    try {
+        do file_dialog_.ShowOpen(Handle());
+        while (!FileExists(Handle(), file_dialog_.FileName));
+        ImportHtmlLinks(file_dialog_.FileName);
+        file_dialog_.Filter = kBookFilter;
+    } catch (const OverflowFault&) {
+        MsgBox(Handle(), kFailed, MB_OK, L"Túl sok címet tartalmaz a weblap");
+    } catch (const EndOfFileFault&) {
+        MsgBox(Handle(), kFailed, MB_OK, L"Hibás a weblap");
+    } catch (const std::exception&) {
+        // No message for a cancelled file dialog, a page that cannot be read or does not fit in memory, or an
+        // address without a closing quotation mark.
+        return;
+    }
+}
+
+void frmImport::ImportHtmlLinks(const std::wstring& fileName) {
+    std::vector<NewEntry> links;
+    {
+        const WaitCursor hourglass;
+        const TextFile page = TextOfPage(ReadFileBytes(fileName));
+        links = LinksOfPage(page.Text(), page.Encoding, choice_);
+    }
+    AddToChosenCategory(links);
+    ShowResult(links.size());
+    imported_ = true;
+}
+
+void frmImport::ImportFavoritesFolder() {
+    frmI_Fav picker(FavoritesPath());
+    picker.ShowModal(Handle());
+    // A cancelled choice gives an empty path, which is no folder.
+    if (!FolderIsThere(picker.ChosenFolder())) return;
+
+    const std::vector<NewEntry> entries = ShortcutsOfFolder(picker.ChosenFolder());
+    if (entries.empty()) {
+        MsgBox(Handle(), L"Salynálom, de a megadott könyvtárban nem találtam kedvenc weblapokat");
+        return;
+    }
+    ShowResult(entries.size());
+    AddToChosenCategory(entries);
+    imported_ = true;
+}
+
+void frmImport::AddToChosenCategory(const std::vector<NewEntry>& entries) {
+    if (entries.empty()) return;
+    open_.TheBook.AddEntry(Get<ComboBox>(ID_frmImport_cmbKateg).Selected() + 1, entries);
+    open_.Modified = true;
+}
+
+void frmImport::ShowResult(std::size_t count) const {
+    MsgBox(Handle(), L"Az importálás eredménye: " + std::to_wstring(count) + L" új cím");
+}
+
+}  // namespace lindrel

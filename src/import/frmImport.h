@@ -1,0 +1,46 @@
+// Adds addresses to a category: the links of web pages, or the shortcut files of a folder. Stays open, so
+// that several can be imported in a row.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "book/OpenBook.h"
+#include "import/HtmlLinks.h"
+#include "system/CommonDialog.h"
+#include "window/Dialog.h"
+
+namespace lindrel {
+
+class frmImport : public Dialog {
+  public:
+    frmImport(OpenBook& open, CommonDialog& file_dialog);
+
+    // Whether a list that shows the book may be out of date.
+    bool Imported() const { return imported_; }
+
+  private:
+    void Form_Load() override;
+    void OnCommand(int id, int event) override;
+    bool PreTranslate(const MSG& message) override;
+    void from_Click() const;
+    void Label2_MouseDown();
+    void mnuOnline_Click() { choice_ = LinkChoice::Online; }
+    void mnuAll_Click() { choice_ = LinkChoice::All; }
+    void cmdOK_Click();
+    void cmdCancel_Click() { Unload(); }
+
+    // Throw what reading throws; nothing is added then.
+    void ImportHtmlLinks(const std::wstring& fileName);
+    void ImportFavoritesFolder();
+    void AddToChosenCategory(const std::vector<NewEntry>& entries);
+    void ShowResult(std::size_t count) const;
+
+    OpenBook& open_;
+    CommonDialog& file_dialog_;
+    BookFilterAfterwards book_filter_;
+    LinkChoice choice_ = LinkChoice::Online;
+    bool imported_ = false;
+};
+
+}  // namespace lindrel

@@ -1,0 +1,87 @@
+#include "list/ListColumns.h"
+
+#include <algorithm>
+#include <new>
+#include <numeric>
+#include <utility>
+
+namespace lindrel {
+
+void ListColumns::Add(const std::wstring& caption, int share) {
+    std::wstring text = caption;
+    LVCOLUMNW column{};
+    column.mask = LVCF_TEXT | LVCF_SUBITEM;
+    column.pszText = text.data();
+    column.iSubItem = static_cast<int>(shares_.size());
+    if (ListView_InsertColumn(list_, column.iSubItem, &column) == -1) throw std::bad_alloc();
+    shares_.push_back(share);
+    Fit();
+}
+
+void ListColumns::ApplyResolution(UINT dpi) {
+    const UINT before = std::exchange(dpi_, dpi);
+    if (set_by_user_)
+        Scale(before, dpi);
+    else
+        Fit();
+}
+
+void ListColumns::OnNotify(const NMHDR& header) {
+    if (IsResizedByUser(header)) set_by_user_ = true;
+}
+
+// Comes too when the vertical scroll bar appears or goes.
+void ListColumns::OnSize() {
+    if (!set_by_user_) Fit();
+}
+
+// By dragging a divider, by a double click on it, or by the list's own keys.
+bool ListColumns::IsResizedByUser(const NMHDR& header) const {
+    if (header.code != HDN_ITEMCHANGEDW && header.code != HDN_ITEMCHANGEDA) return false;
+    const HDITEMW* const item = reinterpret_cast<const NMHEADERW&>(header).pitem;
+    return !fitting_ && item != nullptr && (item->mask & HDI_WIDTH) != 0;
+}
+
+void ListColumns::Fit() {
+    // Until it is placed, the list has no width to share.
+    if (Room() == 0 || std::exchange(fitting_, true)) return;
+    // New widths can bring a scroll bar or take it away, and with it change the room that they share.
+    constexpr int kTries = 4;
+    int shared = -1;
+    for (int i = 0; i < kTries && shared != Room(); ++i) ShareOut(shared = Room());
+    fitting_ = false;
+}
+
+void ListColumns::MakeRoomForScrollBar() {
+    const bool shown = (GetWindowLongW(list_, GWL_STYLE) & WS_VSCROLL) != 0;
+    if (shown || set_by_user_ || std::exchange(fitting_, true)) return;
+    ShareOut(std::max(Room() - GetSystemMetricsForDpi(SM_CXVSCROLL, dpi_), 0));
+    fitting_ = false;
+}
+
+void ListColumns::ShareOut(int width) const {
+    int shares_left = std::accumulate(shares_.begin(), shares_.end(), 0);
+    for (int column = 0; column < static_cast<int>(shares_.size()); ++column) {
+        const int share = shares_[static_cast<std::size_t>(column)];
+        const int own = MulDiv(width, share, shares_left);
+        // Even a column that has its width already would move all that is right of it.
+        if (ListView_GetColumnWidth(list_, column) != own) ListView_SetColumnWidth(list_, column, own);
+        width -= own;
+        shares_left -= share;
+    }
+}
+
+void ListColumns::Scale(UINT from_dpi, UINT to_dpi) const {
+    for (int column = 0; column < static_cast<int>(shares_.size()); ++column)
+        ListView_SetColumnWidth(list_, column,
+                                MulDiv(ListView_GetColumnWidth(list_, column), static_cast<int>(to_dpi),
+                                       static_cast<int>(from_dpi)));
+}
+
+int ListColumns::Room() const {
+    RECT client{};
+    GetClientRect(list_, &client);
+    return client.right;
+}
+
+}  // namespace lindrel

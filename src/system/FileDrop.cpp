@@ -1,0 +1,125 @@
+#include "system/FileDrop.h"
+
+#include <ole2.h>
+#include <shellapi.h>
+
+#include <atomic>
+#include <new>
+
+#include "faults/PendingFault.h"
+#include "system/Shell.h"
+
+namespace lindrel {
+
+namespace {
+
+// What is dragged, as file names; freed with its owner.
+class DraggedFiles {
+  public:
+    explicit DraggedFiles(IDataObject* data) {
+        FORMATETC files{CF_HDROP, nullptr, DVASPECT_CONTENT, -1, TYMED_HGLOBAL};
+        if (data == nullptr || data->GetData(&files, &medium_) != S_OK) medium_ = {};
+    }
+    ~DraggedFiles() { ReleaseStgMedium(&medium_); }
+    DraggedFiles(const DraggedFiles&) = delete;
+    DraggedFiles& operator=(const DraggedFiles&) = delete;
+
+    // The one file; empty when there are several or none.
+    std::wstring Only() const {
+        auto* const files = static_cast<HDROP>(medium_.hGlobal);
+        if (medium_.tymed != TYMED_HGLOBAL || DragQueryFileW(files, 0xFFFFFFFF, nullptr, 0) != 1) return {};
+        std::wstring path(DragQueryFileW(files, 0, nullptr, 0), L'\0');
+        DragQueryFileW(files, 0, path.data(), static_cast<UINT>(path.size()) + 1);
+        return path;
+    }
+
+  private:
+    STGMEDIUM medium_{};
+};
+
+// Path of the one file that is dragged, if it has the extension; otherwise empty.
+std::wstring DraggedFile(IDataObject* data, const std::wstring& extension) {
+    const std::wstring path = DraggedFiles(data).Only();
+    if (path.size() <= extension.size()) return {};
+    const std::wstring end = path.substr(path.size() - extension.size());
+    const bool wanted = CompareStringOrdinal(end.c_str(), -1, extension.c_str(), -1, TRUE) == CSTR_EQUAL;
+    return wanted && FileIsThere(path) ? path : std::wstring();
+}
+
+}  // namespace
+
+// COM's interfaces have no virtual destructors; Release() deletes the object as what it is.
+#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
+
+// Belongs to the system from its registration to its end.
+class FileDrop::Target final : public IDropTarget {
+  public:
+    explicit Target(FileDrop& owner) : owner_(owner) {}
+
+    STDMETHODIMP QueryInterface(REFIID id, void** object) override {
+        if (object == nullptr) return E_POINTER;
+        *object = IsEqualIID(id, IID_IUnknown) || IsEqualIID(id, IID_IDropTarget) ? this : nullptr;
+        if (*object == nullptr) return E_NOINTERFACE;
+        AddRef();
+        return S_OK;
+    }
+    STDMETHODIMP_(ULONG) AddRef() override { return ++references_; }
+    STDMETHODIMP_(ULONG) Release() override {
+        const ULONG left = --references_;
+        if (left == 0) delete this;
+        return left;
+    }
+
+    STDMETHODIMP DragEnter(IDataObject* data, DWORD, POINTL, DWORD* effect) override {
+        if (effect == nullptr) return E_INVALIDARG;
+        path_ = Guarded<std::wstring>({}, [&] { return DraggedFile(data, owner_.extension_); });
+        *effect = Allowed(*effect);
+        return S_OK;
+    }
+    STDMETHODIMP DragOver(DWORD, POINTL, DWORD* effect) override {
+        if (effect == nullptr) return E_INVALIDARG;
+        *effect = Allowed(*effect);
+        return S_OK;
+    }
+    STDMETHODIMP DragLeave() override {
+        path_.clear();
+        return S_OK;
+    }
+    STDMETHODIMP Drop(IDataObject*, DWORD, POINTL, DWORD* effect) override {
+        if (effect == nullptr) return E_INVALIDARG;
+        *effect = Allowed(*effect);
+        if (*effect == DROPEFFECT_NONE) return S_OK;
+        owner_.path_ = std::exchange(path_, {});
+        // If the queue is full nothing happens, and the user drops the file again.
+        static_cast<void>(PostMessageW(owner_.window_, kMessage, 0, 0));
+        return S_OK;
+    }
+
+  private:
+    // The window is disabled while a dialog or box of it is open.
+    DWORD Allowed(DWORD offered) const {
+        if (path_.empty() || !IsWindowEnabled(owner_.window_)) return DROPEFFECT_NONE;
+        if ((offered & DROPEFFECT_COPY) != 0) return DROPEFFECT_COPY;
+        return offered & DROPEFFECT_LINK;
+    }
+
+    FileDrop& owner_;
+    std::wstring path_;  // of the file over the window
+    std::atomic<ULONG> references_{1};
+};
+
+void FileDrop::Attach(HWND window) {
+    auto* const target = new Target(*this);
+    const HRESULT registered = RegisterDragDrop(window, target);
+    target->Release();
+    if (FAILED(registered)) throw std::bad_alloc();
+    window_ = window;
+}
+
+void FileDrop::Detach() {
+    if (window_ == nullptr) return;
+    RevokeDragDrop(window_);
+    window_ = nullptr;
+}
+
+}  // namespace lindrel

@@ -1,0 +1,111 @@
+#include "system/Shell.h"
+
+#include <shellapi.h>
+#include <shlobj.h>
+#include <shlwapi.h>
+
+#include <algorithm>
+#include <vector>
+
+#include "files/FileSearch.h"
+#include "system/AddressKind.h"
+#include "system/MsgBox.h"
+
+namespace lindrel {
+
+std::wstring ProgramFolder() {
+    std::vector<wchar_t> path(MAX_PATH);
+    DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
+    while (length == path.size()) {
+        path.resize(path.size() * 2);
+        length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
+    }
+    const std::wstring full(path.data(), length);
+    return full.substr(0, full.rfind(L'\\'));
+}
+
+std::vector<std::wstring> FilesMatching(const std::wstring& pattern) {
+    std::vector<std::wstring> names;
+    VisitMatches(pattern, [&](const WIN32_FIND_DATAW& found) {
+        if (!IsFolder(found)) names.emplace_back(found.cFileName);
+        return true;
+    });
+    SortNames(names);
+    return names;
+}
+
+bool FileIsThere(const std::wstring& path) {
+    return !FilesMatching(path).empty();
+}
+
+bool FileExists(HWND owner, const std::wstring& path) {
+    if (FileIsThere(path)) return true;
+    MsgBox(owner, L"A megadott fájl nem létezik", MB_OK, kErrorTitle);
+    return false;
+}
+
+namespace {
+
+bool MayStartAProgram(const std::wstring& address) {
+    switch (Classify(address)) {
+        case AddressKind::Web:
+            return false;
+        case AddressKind::Document:
+            break;
+        case AddressKind::Unsure:
+            return true;
+    }
+    const std::vector<std::wstring> extensions = ExtensionsOf(address);
+    return std::any_of(extensions.begin(), extensions.end(), [](const std::wstring& extension) {
+        return AssocIsDangerous(extension.c_str()) != FALSE;
+    });
+}
+
+constexpr std::size_t kLine = 80;
+
+std::wstring InLines(std::wstring text) {
+    for (std::size_t end = kLine; end < text.size(); end += kLine + 2) text.insert(end, L"\r\n");
+    return text;
+}
+
+// For a message box: when the address is so long that the box would not fit on the screen, its beginning and
+// its end, which tells what it opens.
+std::wstring Shown(const std::wstring& address) {
+    constexpr std::size_t kHalf = 10 * kLine;
+    if (address.size() <= 2 * kHalf) return InLines(address);
+    return InLines(address.substr(0, kHalf)) + L"\r\n\u2026\r\n" +
+           InLines(address.substr(address.size() - kHalf));
+}
+
+bool UserAgreesToOpen(HWND owner, const std::wstring& address) {
+    const std::wstring question =
+        L"Ez a cím programot is elindíthat:\r\n\r\n" + Shown(address) + L"\r\n\r\nBiztosan megnyitja?";
+    return MsgBox(owner, question, MB_YESNO | MB_ICONWARNING | MB_DEFBUTTON2) == IDYES;
+}
+
+}  // namespace
+
+INT_PTR OpenAddress(HWND owner, const std::wstring& address) {
+    if (MayStartAProgram(address) && !UserAgreesToOpen(owner, address)) return SE_ERR_ACCESSDENIED;
+    return reinterpret_cast<INT_PTR>(
+        ShellExecuteW(nullptr, nullptr, address.c_str(), nullptr, nullptr, SW_SHOWNORMAL));
+}
+
+std::optional<std::wstring> ShellFolder(int csidl) {
+    PIDLIST_ABSOLUTE place = nullptr;
+    if (FAILED(SHGetSpecialFolderLocation(nullptr, csidl, &place))) return std::nullopt;
+    wchar_t path[MAX_PATH] = L"";
+    const bool known = SHGetPathFromIDListW(place, path) != FALSE;
+    CoTaskMemFree(place);
+    if (!known) return std::nullopt;
+    return path;
+}
+
+std::wstring FavoritesPath() {
+    if (const std::optional<std::wstring> favorites = ShellFolder(CSIDL_FAVORITES)) return *favorites;
+    wchar_t path[MAX_PATH] = L"";
+    const UINT length = GetWindowsDirectoryW(path, MAX_PATH);
+    return length < MAX_PATH ? std::wstring(path, length) : std::wstring();
+}
+
+}  // namespace lindrel

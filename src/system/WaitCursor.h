@@ -1,0 +1,19 @@
+// The hourglass, for as long as the object lives.
+#pragma once
+
+#include "window/Windows.h"
+
+namespace lindrel {
+
+class WaitCursor {
+  public:
+    WaitCursor() : before_(SetCursor(LoadCursorW(nullptr, IDC_WAIT))) {}
+    ~WaitCursor() { SetCursor(before_); }
+    WaitCursor(const WaitCursor&) = delete;
+    WaitCursor& operator=(const WaitCursor&) = delete;
+
+  private:
+    HCURSOR before_;
+};
+
+}  // namespace lindrel

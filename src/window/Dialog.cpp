@@ -1,0 +1,239 @@
+#include "window/Dialog.h"
+
+#include <cstdlib>
+#include <new>
+#include <vector>
+
+#include "faults/PendingFault.h"
+#include "window/Display.h"
+
+namespace lindrel {
+
+namespace {
+
+constexpr UINT kApplyResolution = WM_APP;
+
+// A DIALOGEX template begins with a fixed part, then menu, window class and title, each a text or a number
+// marked by 0xFFFF, then the font's size, weight, style and face.
+#pragma pack(push, 2)
+struct DialogTemplateEx {
+    WORD version;
+    WORD signature;
+    DWORD help_id;
+    DWORD extended_style;
+    DWORD style;
+    WORD items;
+    short x, y, width, height;
+};
+#pragma pack(pop)
+
+const WORD* AfterTextOrNumber(const WORD* at) {
+    if (*at == 0xFFFF) return at + 2;
+    while (*at != 0) ++at;
+    return at + 1;
+}
+
+const WORD* AlignedToDword(const WORD* at, const WORD* base) {
+    return (at - base) % 2 == 0 ? at : at + 1;
+}
+
+// The template from the resources with the user's message font instead of its own; the dialog manager scales
+// the dialog to that font.
+std::vector<WORD> TemplateInMessageFont(HINSTANCE module, int template_id) {
+    const HRSRC resource = FindResourceW(module, MAKEINTRESOURCEW(template_id), RT_DIALOG);
+    const HGLOBAL loaded = resource != nullptr ? LoadResource(module, resource) : nullptr;
+    const auto* const base = static_cast<const WORD*>(loaded != nullptr ? LockResource(loaded) : nullptr);
+    if (base == nullptr) throw std::bad_alloc();
+    const WORD* const end = base + SizeofResource(module, resource) / sizeof(WORD);
+
+    const WORD* at = base + sizeof(DialogTemplateEx) / sizeof(WORD);
+    for (int text = 0; text < 3; ++text) at = AfterTextOrNumber(at);
+    const WORD* const font = at;
+    constexpr int kSizeWeightStyle = 3;
+    const WORD* const items = AlignedToDword(AfterTextOrNumber(font + kSizeWeightStyle), base);
+
+    const UINT dpi = GetDpiForSystem();
+    const LOGFONTW message_font = MessageFont(dpi);
+    std::vector<WORD> changed(base, font);
+    changed.push_back(static_cast<WORD>(MulDiv(std::abs(message_font.lfHeight), 72, static_cast<int>(dpi))));
+    changed.push_back(static_cast<WORD>(message_font.lfWeight));
+    changed.push_back(static_cast<WORD>(message_font.lfItalic | message_font.lfCharSet << 8));
+    for (const wchar_t* face = message_font.lfFaceName; *face != 0; ++face)
+        changed.push_back(static_cast<WORD>(*face));
+    changed.push_back(0);
+    if (changed.size() % 2 != 0) changed.push_back(0);
+    changed.insert(changed.end(), items, end);
+    return changed;
+}
+
+// Disables the owner while the dialog is up.
+class DisabledOwner {
+  public:
+    explicit DisabledOwner(HWND owner) : owner_(owner) {
+        if (owner_ != nullptr) was_disabled_ = EnableWindow(owner_, FALSE) != FALSE;
+    }
+    ~DisabledOwner() { GiveBack(); }
+    DisabledOwner(const DisabledOwner&) = delete;
+    DisabledOwner& operator=(const DisabledOwner&) = delete;
+
+    // Must come before the dialog is destroyed, or the system would activate some other program's window.
+    void GiveBack() {
+        if (owner_ != nullptr && !was_disabled_) EnableWindow(owner_, TRUE);
+        owner_ = nullptr;
+    }
+
+  private:
+    HWND owner_;
+    bool was_disabled_ = false;
+};
+
+}  // namespace
+
+Dialog::~Dialog() {
+    if (handle_ != nullptr) DestroyWindow(handle_);
+}
+
+void Dialog::ShowModal(HWND owner) {
+    DisabledOwner disabled(owner);
+    try {
+        Create(owner);
+        RunModalLoop();
+        Form_Unload();
+    } catch (...) {
+        disabled.GiveBack();
+        if (handle_ != nullptr) DestroyWindow(handle_);
+        throw;
+    }
+    disabled.GiveBack();
+    DestroyWindow(handle_);
+}
+
+void Dialog::Create(HWND owner) {
+    const HINSTANCE module = GetModuleHandleW(nullptr);
+    const std::vector<WORD> dialog_template = TemplateInMessageFont(module, template_id_);
+    ending_ = false;
+    const HWND created =
+        CreateDialogIndirectParamW(module, reinterpret_cast<const DLGTEMPLATE*>(dialog_template.data()),
+                                   owner, &Dialog::Procedure, reinterpret_cast<LPARAM>(this));
+    ThrowPendingFault();
+    if (created == nullptr) throw std::bad_alloc();
+    CentreOnOwner(handle_, owner);
+    if (!ending_) ShowWindow(handle_, SW_SHOW);
+}
+
+void Dialog::RunModalLoop() {
+    while (!ending_) {
+        MSG message{};
+        const BOOL got = GetMessageW(&message, nullptr, 0, 0);
+        if (got == -1) throw std::bad_alloc();
+        if (got == 0) {
+            // The program is ending: the outer loop must end too.
+            PostQuitMessage(static_cast<int>(message.wParam));
+            return;
+        }
+        const bool own = message.hwnd == handle_ || IsChild(handle_, message.hwnd);
+        if (!(own && PreTranslate(message)) && !IsDialogMessageW(handle_, &message)) {
+            TranslateMessage(&message);
+            DispatchMessageW(&message);
+        }
+        ThrowPendingFault();
+    }
+}
+
+void Dialog::OnCommand(int id, int) {
+    if (id == IDCANCEL) Unload();
+}
+
+LRESULT Dialog::OnNotify(const NMHDR&) {
+    return 0;
+}
+
+bool Dialog::OnMessage(UINT, WPARAM, LPARAM, LRESULT&) {
+    return false;
+}
+
+bool Dialog::PreTranslate(const MSG&) {
+    return false;
+}
+
+void Dialog::FocusOn(int id) const {
+    SendMessageW(handle_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Item(id)), TRUE);
+}
+
+bool Dialog::OnQueryEndSession() {
+    if (!HoldsSession()) return true;
+    session_.Hold(handle_, L"Egy párbeszédablak még nyitva van.");
+    return false;
+}
+
+INT_PTR CALLBACK Dialog::Procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam) {
+    if (message == WM_INITDIALOG) {
+        auto* const dialog = reinterpret_cast<Dialog*>(lparam);
+        dialog->handle_ = handle;
+        SetWindowLongPtrW(handle, DWLP_USER, lparam);
+    }
+    auto* const dialog = reinterpret_cast<Dialog*>(GetWindowLongPtrW(handle, DWLP_USER));
+    if (dialog == nullptr) return FALSE;
+    if (message == WM_NCDESTROY) {
+        dialog->handle_ = nullptr;
+        return FALSE;
+    }
+    return Guarded<INT_PTR>(FALSE, [&] { return dialog->Handle(message, wparam, lparam); });
+}
+
+INT_PTR Dialog::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
+    LRESULT result = 0;
+    if (OnMessage(message, wparam, lparam, result)) {
+        SetWindowLongPtrW(handle_, DWLP_MSGRESULT, result);
+        return TRUE;
+    }
+    switch (message) {
+        case WM_INITDIALOG: {
+            const HWND before = GetFocus();
+            Form_Load();
+            ApplyResolution(DpiOf(handle_));
+            return GetFocus() == before ? TRUE : FALSE;
+        }
+        case WM_DPICHANGED:
+            // Posted, to come after the dialog manager's own work. If the queue is full, its font stays.
+            static_cast<void>(PostMessageW(handle_, kApplyResolution, LOWORD(wparam), 0));
+            return FALSE;
+        case kApplyResolution:
+            ApplyResolution(static_cast<UINT>(wparam));
+            return TRUE;
+        case WM_ACTIVATE:
+            returned_focus_.OnActivate(wparam);
+            return FALSE;
+        case WM_COMMAND:
+            if (HIWORD(wparam) == EN_SETFOCUS && returned_focus_.Is(reinterpret_cast<HWND>(lparam)))
+                return TRUE;
+            OnCommand(LOWORD(wparam), HIWORD(wparam));
+            return TRUE;
+        case WM_NOTIFY:
+            SetWindowLongPtrW(handle_, DWLP_MSGRESULT, OnNotify(*reinterpret_cast<const NMHDR*>(lparam)));
+            return TRUE;
+        default:
+            return OnSystemMessage(message);
+    }
+}
+
+INT_PTR Dialog::OnSystemMessage(UINT message) {
+    switch (message) {
+        case WM_SYSCOLORCHANGE:
+            PassOnColours(handle_);
+            return TRUE;
+        case WM_SETCURSOR:
+            tool_tips_.OnSetCursor(handle_);
+            return FALSE;
+        case WM_QUERYENDSESSION:
+            SetWindowLongPtrW(handle_, DWLP_MSGRESULT, OnQueryEndSession() ? TRUE : FALSE);
+            return TRUE;
+        case WM_ENDSESSION:
+            session_.Release();
+            return TRUE;
+        default:
+            return FALSE;
+    }
+}
+
+}  // namespace lindrel

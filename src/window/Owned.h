@@ -1,0 +1,23 @@
+// Handles of the system that are given back with their owner: Owned<HBITMAP>, Owned<HFONT>, Owned<HICON>,
+// Owned<HIMAGELIST> and Owned<HMENU>. A null handle owns nothing.
+#pragma once
+
+#include <memory>
+#include <type_traits>
+
+#include "window/Windows.h"
+
+namespace lindrel {
+
+struct GiveBack {
+    void operator()(HBITMAP bitmap) const noexcept { DeleteObject(bitmap); }
+    void operator()(HFONT font) const noexcept { DeleteObject(font); }
+    void operator()(HICON icon) const noexcept { DestroyIcon(icon); }
+    void operator()(HIMAGELIST list) const noexcept { ImageList_Destroy(list); }
+    void operator()(HMENU menu) const noexcept { DestroyMenu(menu); }
+};
+
+template <typename Handle>
+using Owned = std::unique_ptr<std::remove_pointer_t<Handle>, GiveBack>;
+
+}  // namespace lindrel

@@ -1,0 +1,54 @@
+#include "window/PopupMenu.h"
+
+#include <new>
+
+namespace lindrel {
+
+namespace {
+
+void Append(HMENU menu, HMENU bar, int command) {
+    wchar_t caption[128] = L"";
+    MENUITEMINFOW item{};
+    item.cbSize = sizeof item;
+    item.fMask = MIIM_FTYPE | MIIM_ID | MIIM_STATE | MIIM_STRING;
+    item.fType = MFT_SEPARATOR;
+    item.dwTypeData = caption;
+    item.cch = 128;
+    if (command != 0 && !GetMenuItemInfoW(bar, static_cast<UINT>(command), FALSE, &item))
+        throw std::bad_alloc();
+    if (!InsertMenuItemW(menu, static_cast<UINT>(GetMenuItemCount(menu)), TRUE, &item))
+        throw std::bad_alloc();
+}
+
+}  // namespace
+
+PopupMenu::PopupMenu(HINSTANCE instance, int id) {
+    const Owned<HMENU> loaded(LoadMenuW(instance, MAKEINTRESOURCEW(id)));
+    menu_.reset(GetSubMenu(loaded.get(), 0));
+    // From here on it belongs to this object only.
+    if (menu_ == nullptr || !RemoveMenu(loaded.get(), 0, MF_BYPOSITION)) throw std::bad_alloc();
+}
+
+PopupMenu::PopupMenu(HMENU bar, std::span<const int> commands) : menu_(CreatePopupMenu()) {
+    for (const int command : commands) Append(menu_.get(), bar, command);
+    SetMenuDefaultItem(menu_.get(), 0, TRUE);
+}
+
+void PopupMenu::CheckRadio(int first, int last, int chosen) const {
+    CheckMenuRadioItem(menu_.get(), static_cast<UINT>(first), static_cast<UINT>(last),
+                       static_cast<UINT>(chosen), MF_BYCOMMAND);
+}
+
+void PopupMenu::OpenAt(POINT at, HWND owner) const {
+    TrackPopupMenuEx(menu_.get(), TPM_LEFTALIGN | TPM_TOPALIGN | TPM_RIGHTBUTTON, at.x, at.y, owner, nullptr);
+}
+
+void PopupMenu::OpenBelow(const RECT& control, HWND owner) const {
+    TPMPARAMS beside{};
+    beside.cbSize = sizeof beside;
+    beside.rcExclude = control;
+    TrackPopupMenuEx(menu_.get(), TPM_LEFTALIGN | TPM_TOPALIGN | TPM_VERTICAL, control.left, control.bottom,
+                     owner, &beside);
+}
+
+}  // namespace lindrel

@@ -1,0 +1,43 @@
+#include "window/Subclass.h"
+
+#include <new>
+#include <utility>
+
+#include "faults/PendingFault.h"
+
+namespace lindrel {
+
+Subclass::~Subclass() {
+    Detach();
+}
+
+void Subclass::Attach(HWND window, Handler handler) {
+    handler_ = std::move(handler);
+    // Under a number of its own, so that a window can have several.
+    const auto self = reinterpret_cast<UINT_PTR>(this);
+    if (!SetWindowSubclass(window, &Subclass::Procedure, self, self)) throw std::bad_alloc();
+    window_ = window;
+}
+
+void Subclass::Detach() {
+    if (window_ == nullptr) return;
+    RemoveWindowSubclass(window_, &Subclass::Procedure, reinterpret_cast<UINT_PTR>(this));
+    window_ = nullptr;
+}
+
+LRESULT Subclass::Default(UINT message, WPARAM wparam, LPARAM lparam) const {
+    return DefSubclassProc(window_, message, wparam, lparam);
+}
+
+LRESULT CALLBACK Subclass::Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR,
+                                     DWORD_PTR data) {
+    auto* const self = reinterpret_cast<Subclass*>(data);
+    using Answer = std::optional<LRESULT>;
+    const Answer answer = Guarded<Answer>(0, [&] { return self->handler_(message, wparam, lparam); });
+    // The last message always reaches the window.
+    if (message == WM_NCDESTROY) self->Detach();
+    if (answer && message != WM_NCDESTROY) return *answer;
+    return DefSubclassProc(window, message, wparam, lparam);
+}
+
+}  // namespace lindrel

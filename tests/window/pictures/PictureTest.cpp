@@ -1,0 +1,178 @@
+// The pictures in the resources: all there, in every size, drawn and not blank.
+
+#include "pictures/Picture.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstring>
+#include <new>
+#include <set>
+#include <utility>
+#include <vector>
+
+#include "resources/resource.h"
+#include "tests/window/support/Drawn.h"
+
+namespace lindrel::testing {
+namespace {
+
+HINSTANCE Instance() {
+    return GetModuleHandleW(nullptr);
+}
+
+// The toolbar's.
+constexpr std::array<PictureStrip, 4> kStrips{
+    {{IDB_ImageList1_24, 24}, {IDB_ImageList1_30, 30}, {IDB_ImageList1_36, 36}, {IDB_ImageList1_48, 48}}};
+constexpr int kPicturesOfToolbar = 10;
+
+// Sides of the pictures that an icon of the resources holds.
+std::vector<int> SizesIn(int id) {
+    const HRSRC found = FindResourceW(nullptr, MAKEINTRESOURCEW(id), RT_GROUP_ICON);
+    if (found == nullptr) return {};
+    const auto* const bytes = static_cast<const BYTE*>(LockResource(LoadResource(nullptr, found)));
+    constexpr std::size_t kHeader = 6;
+    constexpr std::size_t kEntry = 14;
+    WORD count = 0;
+    std::memcpy(&count, bytes + 4, sizeof count);
+    std::vector<int> sizes;
+    for (std::size_t i = 0; i < count; ++i) {
+        const int width = bytes[kHeader + i * kEntry];
+        EXPECT_EQ(width, bytes[kHeader + i * kEntry + 1]);
+        sizes.push_back(width == 0 ? 256 : width);
+    }
+    return sizes;
+}
+
+// What an icon looks like on a white ground.
+std::vector<COLORREF> Painted(HICON icon, int size) {
+    return Drawn(size, [&](HDC canvas) {
+        EXPECT_TRUE(DrawIconEx(canvas, 0, 0, icon, size, size, 0,
+                               static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)), DI_NORMAL));
+    });
+}
+
+TEST(PictureTest, EveryPictureIsThereInTheSizesOfItsPlace) {
+    EXPECT_EQ(SizesIn(IDI_frmStart), (std::vector<int>{16, 20, 24, 32, 40, 48, 64, 256}));
+    for (const int id : {IDI_TrayArea, IDI_Image1})
+        EXPECT_EQ(SizesIn(id), (std::vector<int>{16, 20, 24, 32})) << id;
+    EXPECT_EQ(SizesIn(IDI_picGo), (std::vector<int>{24, 30, 36, 48}));
+}
+
+TEST(PictureTest, EveryStripHoldsThePicturesOfTheToolbarInItsSize) {
+    for (const PictureStrip& strip : kStrips) {
+        const Owned<HBITMAP> loaded(static_cast<HBITMAP>(
+            LoadImageW(Instance(), MAKEINTRESOURCEW(strip.Id), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION)));
+        BITMAP bitmap{};
+        ASSERT_NE(GetObjectW(loaded.get(), sizeof bitmap, &bitmap), 0);
+        EXPECT_EQ(bitmap.bmWidth, kPicturesOfToolbar * strip.Size);
+        EXPECT_EQ(bitmap.bmHeight, strip.Size);
+        EXPECT_EQ(bitmap.bmBitsPixel, 32);
+    }
+}
+
+TEST(PictureTest, HasTheSizeThatWasAskedForAlsoOneThatWasNotDrawn) {
+    for (const int size : {16, 20, 24, 28, 32, 36, 40, 48, 64}) {
+        const Picture picture(Instance(), IDI_frmStart, size);
+        ICONINFO parts{};
+        ASSERT_TRUE(GetIconInfo(picture.Handle(), &parts));
+        BITMAP bitmap{};
+        ASSERT_NE(GetObjectW(parts.hbmColor, sizeof bitmap, &bitmap), 0);
+        EXPECT_EQ(bitmap.bmWidth, size);
+        EXPECT_EQ(bitmap.bmHeight, size);
+        EXPECT_TRUE(DeleteObject(parts.hbmColor));
+        EXPECT_TRUE(DeleteObject(parts.hbmMask));
+    }
+}
+
+// What a list shows of its picture at a position (0-based) on a white ground.
+std::vector<COLORREF> PaintedFrom(const PictureList& list, int position, int size) {
+    return Drawn(size, [&](HDC canvas) {
+        const RECT all{0, 0, size, size};
+        FillRect(canvas, &all, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
+        EXPECT_TRUE(ImageList_Draw(list.Handle(), position, canvas, 0, 0, ILD_TRANSPARENT));
+    });
+}
+
+TEST(PictureTest, NoTwoPicturesLookAlikeAndNoneIsBlank) {
+    // Drawn ones and, from 42 on, scaled ones.
+    for (const int size : {24, 36, 42, 60}) {
+        std::set<std::vector<COLORREF>> looks{
+            std::vector<COLORREF>(static_cast<std::size_t>(size * size), RGB(255, 255, 255))};
+        for (const int id : {IDI_frmStart, IDI_TrayArea, IDI_picGo, IDI_Image1})
+            looks.insert(Painted(Picture(Instance(), id, size).Handle(), size));
+        const PictureList list(Instance(), kStrips, size, PictureLook::Enabled);
+        for (int i = 0; i < kPicturesOfToolbar; ++i) looks.insert(PaintedFrom(list, i, size));
+        EXPECT_EQ(looks.size(), 5U + kPicturesOfToolbar) << size;
+    }
+}
+
+TEST(PictureTest, AListHasTheSizeThatWasAskedForAlsoOneThatWasNotDrawn) {
+    for (const int size : {16, 24, 27, 30, 33, 36, 42, 48, 54, 72}) {
+        const PictureList list(Instance(), kStrips, size, PictureLook::Enabled);
+        EXPECT_EQ(ImageList_GetImageCount(list.Handle()), kPicturesOfToolbar);
+        int width = 0;
+        int height = 0;
+        EXPECT_TRUE(ImageList_GetIconSize(list.Handle(), &width, &height));
+        EXPECT_EQ(width, size);
+        EXPECT_EQ(height, size);
+    }
+}
+
+// How much of a picture's square it covers, on the whole.
+double Darkness(const std::vector<COLORREF>& pixels) {
+    double darkness = 0;
+    for (const COLORREF pixel : pixels)
+        darkness += 765 - GetRValue(pixel) - GetGValue(pixel) - GetBValue(pixel);
+    return darkness / (765.0 * static_cast<double>(pixels.size()));
+}
+
+TEST(PictureTest, AScaledPictureLooksLikeTheDrawnOne) {
+    const PictureList drawn(Instance(), kStrips, 48, PictureLook::Enabled);
+    for (const int size : {42, 72}) {
+        const PictureList scaled(Instance(), kStrips, size, PictureLook::Enabled);
+        for (int i = 0; i < kPicturesOfToolbar; ++i)
+            EXPECT_NEAR(Darkness(PaintedFrom(scaled, i, size)), Darkness(PaintedFrom(drawn, i, 48)), 0.02)
+                << i << " at " << size;
+    }
+}
+
+TEST(PictureTest, DisabledLooksAreGreyAndFaintAndLookLikeTheirPictures) {
+    constexpr int kSize = 24;
+    const PictureList enabled(Instance(), kStrips, kSize, PictureLook::Enabled);
+    const PictureList disabled(Instance(), kStrips, kSize, PictureLook::Disabled);
+    ASSERT_EQ(ImageList_GetImageCount(disabled.Handle()), 10);
+    for (int i = 0; i < 10; ++i) {
+        const std::vector<COLORREF> bright = PaintedFrom(enabled, i, kSize);
+        const std::vector<COLORREF> faint = PaintedFrom(disabled, i, kSize);
+        for (std::size_t at = 0; at < faint.size(); ++at) {
+            // On white, four tenths of a colour's darkness are left.
+            const double brightness =
+                (GetRValue(bright[at]) * 54 + GetGValue(bright[at]) * 183 + GetBValue(bright[at]) * 19) /
+                256.0;
+            EXPECT_NEAR(GetRValue(faint[at]), 255 - (255 - brightness) * 0.4, 3) << i << " at " << at;
+            EXPECT_EQ(GetRValue(faint[at]), GetGValue(faint[at])) << i;
+            EXPECT_EQ(GetGValue(faint[at]), GetBValue(faint[at])) << i;
+        }
+    }
+}
+
+TEST(PictureTest, WhatIsNotInTheResourcesIsAnError) {
+    constexpr int kNoIcon = 9999;
+    EXPECT_THROW(Picture(Instance(), kNoIcon, 16), std::bad_alloc);
+    constexpr std::array<PictureStrip, 2> kMissing{{{kNoIcon, 16}, {IDB_ImageList1_24, 24}}};
+    EXPECT_THROW(PictureList(Instance(), kMissing, 16, PictureLook::Enabled), std::bad_alloc);
+}
+
+TEST(PictureTest, MovesTheIconAlong) {
+    Picture first(Instance(), IDI_frmStart, 16);
+    const HICON icon = first.Handle();
+    Picture second(std::move(first));
+    EXPECT_EQ(second.Handle(), icon);
+    Picture third;
+    third = std::move(second);
+    EXPECT_EQ(third.Handle(), icon);
+}
+
+}  // namespace
+}  // namespace lindrel::testing
