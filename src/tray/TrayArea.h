@@ -38,7 +38,7 @@ class TrayArea : public OwnWindow {
     ~TrayArea() override { Destroy(); }
 
     // Makes the control's own window, a child of its owner; once, before an icon can be shown. The owner is a
-    // main window of the same thread and holds one such control. Throws std::bad_alloc when the system
+    // main window of the same thread and holds one such control. Throws SystemFault when the system
     // cannot; then there is no control.
     void Place(HWND owner, Environment environment = Environment::Running);
 
