@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <optional>
 
 #include "resources/resource.h"
 #include "tests/window/support/Program.h"
@@ -60,9 +61,10 @@ DWORD WINAPI Reason() {
     return reason;
 }
 
-const auto find_function = &GetProcAddress;
+decltype(&GetProcAddress) find_function = nullptr;
 
 FARPROC WINAPI FindFunction(HMODULE module, LPCSTR name) {
+    if (IS_INTRESOURCE(name)) return find_function(module, name);
     if (std::strcmp(name, "GetOpenFileNameW") == 0)
         return reinterpret_cast<FARPROC>(reinterpret_cast<void*>(&OpenDialog));
     if (std::strcmp(name, "GetSaveFileNameW") == 0)
@@ -83,6 +85,9 @@ class FileDialogTest : public ::testing::Test {
         reason = 0;
         program.Add(1, {{L"Név", L"http://nev.hu"}});
         program.ClickBox(1);
+        program.Settle();
+        find_function = &GetProcAddress;
+        functions_.emplace(&GetProcAddress, &FindFunction);
     }
     Asked AskedBy(int command) {
         program.Run(command);
@@ -104,8 +109,10 @@ class FileDialogTest : public ::testing::Test {
         program.Settle();
     }
 
-    ReplacedImport functions{&GetProcAddress, &FindFunction};
     Program program;
+
+  private:
+    std::optional<ReplacedImport> functions_;
 };
 
 TEST_F(FileDialogTest, BooksPagesTextsAndThemesAreAskedForByTheirPatterns) {
