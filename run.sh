@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Builds the program and starts it under Wine. With a display the window opens and the script waits for it. Without
-# one it opens the sample book on a display of its own, by the keyboard, and saves a picture of the window.
+# Builds the program and starts it under Wine. With a display it opens the window and waits until that is
+# closed. Without one it opens the sample book on a virtual display, by keyboard, and saves a picture of the window.
 set -eu
 cd "$(dirname "$0")"
 source tests/wine-env.sh
@@ -26,7 +26,7 @@ start_display
 echo "== starting Lindrel on a display of its own"
 wine "$exe" >/dev/null 2>&1 &
 
-# Asks for a window by the pattern of its title until it is there.
+# Polls until there is a window whose title matches a pattern.
 wait_for_title() {
   local deadline=$((SECONDS + 60))
   until xdotool search --onlyvisible --name "$1" >/dev/null 2>&1; do

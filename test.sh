@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Builds and tests. Ends with CTest's summary.
-#   ./test.sh            what a change needs each time: the portable code with sanitizers, the windows and the program
-#                        under Wine
-#   ./test.sh --all      everything: both widths, packages, clang-tidy, fuzzing, long walks, Wine 10 where root can be had
+#   ./test.sh            what every change needs: the portable code with sanitizers, the windows and the program under
+#                        Wine
+#   ./test.sh --all      everything: both widths, packages, clang-tidy, fuzzing, long walks, Wine 10 if root is available
 #   ./test.sh --wine10   the end-to-end tests of both widths under Debian 13's Wine 10
 set -eu
 cd "$(dirname "$0")"

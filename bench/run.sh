@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Builds the benchmarks, runs them in turns and prints a table: the least time, that of the floor which the label names,
-# and how many times the floor each takes. Arguments go to the benchmark program, such as --benchmark_filter=Load.
+# Builds the benchmarks, runs them in random order and prints a table: the least time of each, that of its floor, and the
+# ratio. Arguments go to the benchmark program, such as --benchmark_filter=Load.
 set -eu
 cd "$(dirname "$0")/.."
 cmake --preset native >/dev/null

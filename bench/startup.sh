@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# How long Lindrel takes from its start to a usable window, and its memory then, beside Wine's notepad, in turns:
+# Measures the time from the start of Lindrel to a usable window, and its memory, in turns with Wine's notepad:
 #   bench/startup.sh [rounds]
-# In a prefix and on a display of its own, where nothing else runs. "ratio" is how many times as long Lindrel takes.
+# Uses a prefix and a display of its own. "ratio" is Lindrel's time divided by notepad's.
 set -eu
 cd "$(dirname "$0")/.."
 rounds=${1:-15}
@@ -11,7 +11,7 @@ cmake --build --preset x64 --target lindrel startup_bench >/dev/null
 wine_environment
 make_template_prefix
 own_prefix
-# On the drive where users and notepad have it: on that of the checkout Wine looks for each library longer.
+# On drive C, where notepad is too: on the drive of the checkout Wine takes longer to find each library.
 cp -r build/x64/lindrel "$WINEPREFIX/drive_c/lindrel"
 start_display
 wine build/x64/bench/startup/startup_bench.exe "$rounds" 'C:\lindrel\lindrel.exe' \

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# How long a user waits in the largest book until the window is painted: opening it, changing its tab, searching it;
-# what the bare list control and the reading of the file take of that; and the memory:
+# Measures how long a user waits until the window is painted with the largest book: opening it, changing tabs, searching;
+# as floors, the bare list control and the reading of the file; and the memory:
 #   bench/window.sh [rounds]
-# In a prefix and on a display of its own, where nothing else runs. "frames" is the median in frames of 16 ms.
+# Uses a prefix and a display of its own. "frames" is the median in frames of 16 ms.
 set -eu
 cd "$(dirname "$0")/.."
 rounds=${1:-25}

@@ -1,5 +1,5 @@
-# Targets that look after the sources: `format` rewrites them, `format-check` and `tidy` only complain. `tidy` is for
-# the portable sources in the native build, for those of the windows in a Windows build.
+# Targets for the sources: `format` rewrites them, `format-check` and `tidy` only report. `tidy` checks the portable
+# sources in a native build and those of the windows in a Windows build.
 find_program(CLANG_FORMAT clang-format)
 find_program(CLANG_TIDY clang-tidy)
 foreach(folder src tests bench fuzz)
@@ -10,7 +10,7 @@ add_custom_target(format COMMAND ${CLANG_FORMAT} -i ${LINDREL_SOURCES} COMMENT "
 add_custom_target(format-check COMMAND ${CLANG_FORMAT} --dry-run --Werror ${LINDREL_SOURCES}
   COMMENT "Checking the format of the sources" VERBATIM)
 
-# clang-tidy reads each source without the header that GCC has precompiled.
+# clang-tidy cannot use the header that GCC has precompiled.
 set(tidy_commands ${CMAKE_BINARY_DIR}/tidy/compile_commands.json)
 add_custom_command(OUTPUT ${tidy_commands} DEPENDS ${CMAKE_BINARY_DIR}/compile_commands.json
   COMMAND ${CMAKE_COMMAND} -E copy ${CMAKE_BINARY_DIR}/compile_commands.json ${tidy_commands}
@@ -19,8 +19,8 @@ add_custom_command(OUTPUT ${tidy_commands} DEPENDS ${CMAKE_BINARY_DIR}/compile_c
 add_custom_target(tidy_commands ALL DEPENDS ${tidy_commands})
 set(tidy ${CLANG_TIDY} --quiet -p ${CMAKE_BINARY_DIR}/tidy --extra-arg=-Wno-unknown-warning-option)
 if(WIN32)
-  # Handle types are pointers in disguise, the system's macros hide casts, texts for it are arrays, and what changes a
-  # control changes the form.
+  # Win32 is full of what these checks dislike: handles are pointers, macros hide casts, texts are arrays; and a
+  # function that changes a control should not be const.
   set(tidy_name sources.tidy.windows)
   get_target_property(tidy_sources lindrel_ui SOURCES)
   set(unwanted -misc-misplaced-const -modernize-avoid-c-arrays -modernize-use-auto
@@ -28,7 +28,7 @@ if(WIN32)
   list(JOIN unwanted "," without)
   list(APPEND tidy --checks=${without} --extra-arg=--target=${CMAKE_SYSTEM_PROCESSOR}-w64-mingw32)
   foreach(folder ${CMAKE_CXX_IMPLICIT_INCLUDE_DIRECTORIES})
-    # Clang has its own headers for what depends on the compiler.
+    # Clang has its own versions of GCC's internal headers.
     if(NOT folder MATCHES "/lib/gcc/.*/include(-fixed)?$")
       list(APPEND tidy --extra-arg=-isystem${folder})
     endif()
@@ -40,13 +40,13 @@ endif()
 add_custom_target(tidy COMMAND ${tidy} ${tidy_sources} COMMENT "Checking the sources" VERBATIM)
 add_dependencies(tidy tidy_commands)
 
-# Kept in good order with every run of the tests, once.
+# Once in each run of the tests.
 if(BUILD_TESTING AND WIN32)
   add_test(NAME sources.format COMMAND ${CLANG_FORMAT} --dry-run --Werror ${LINDREL_SOURCES})
   add_test(NAME sources.rules COMMAND ${CMAKE_SOURCE_DIR}/tests/check-sources.py)
   add_test(NAME pages.links COMMAND ${CMAKE_SOURCE_DIR}/tests/check-pages.py)
 endif()
-# Folder by folder, so that they run side by side.
+# One test for each folder, so that they run in parallel.
 if(BUILD_TESTING AND NOT LINDREL_SANITIZE)
   foreach(source ${tidy_sources})
     cmake_path(GET source PARENT_PATH folder)

@@ -1,8 +1,8 @@
-# Cross compilation for Windows with mingw-w64. LINDREL_WINDOWS_CPU says for which: x86_64 or i686.
+# Cross compilation for Windows with mingw-w64. LINDREL_WINDOWS_CPU is the target: x86_64 or i686.
 if(NOT LINDREL_WINDOWS_CPU MATCHES "^(x86_64|i686)$")
   message(FATAL_ERROR "LINDREL_WINDOWS_CPU must be x86_64 or i686, not \"${LINDREL_WINDOWS_CPU}\"")
 endif()
-# Compiler checks are projects of their own and read this file again.
+# Compiler checks are projects of their own, which read this file too.
 list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES LINDREL_WINDOWS_CPU)
 
 set(CMAKE_SYSTEM_NAME Windows)
@@ -15,6 +15,6 @@ set(CMAKE_FIND_ROOT_PATH /usr/${target})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
-# One exe that runs on every Windows, without the compiler's own DLLs.
+# A single exe that needs none of the compiler's DLLs.
 set(CMAKE_EXE_LINKER_FLAGS_INIT -static)
 set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_CURRENT_LIST_DIR}/../tests/wine-run.sh)

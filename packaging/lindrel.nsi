@@ -2,7 +2,7 @@
 ;   VERSION   1.2.3
 ;   STAGE     the folder of packaging/make-installer.sh
 ;   OUTPUT    the installer to write
-; It installs no book, and removes none: only files that it put there itself, and folders only when they are empty.
+; It neither installs nor removes books. It removes only files that it has installed, and folders only if they are empty.
 
 Unicode true
 SetCompressor /SOLID lzma
@@ -23,8 +23,8 @@ OutFile "${OUTPUT}"
 InstallDir "$LOCALAPPDATA\Programs\Lindrel"
 InstallDirRegKey HKCU "${UNINSTALL_KEY}" "InstallLocation"
 
-; What was installed of the themes: a line "<MD5> <file>" for each. A theme whose sum is another one by now has been
-; changed by the user and is not touched any more, neither by an upgrade nor when Lindrel is removed.
+; The installed themes: a line "<MD5> <file>" for each. A theme with another sum has been changed by the user; neither an
+; upgrade nor the uninstaller touches it.
 !define THEMES "$INSTDIR\styles"
 !define THEME_SUMS "$INSTDIR\styles.md5"
 
@@ -54,8 +54,8 @@ VIAddVersionKey /LANG=${LANG_HUNGARIAN} "ProductVersion" "${VERSION}"
 VIAddVersionKey /LANG=${LANG_HUNGARIAN} "LegalCopyright" "© 2026 Lindrel"
 
 !macro SharedFunctions un
-  ; Windows lets nobody write to a program that runs or to a help file that is open. A silent run gives up, with exit
-  ; code 2, before it has changed anything.
+  ; Windows does not allow writing to a running program or an open help file. A silent run ends with exit code 2 before
+  ; it has changed anything.
   Function ${un}WaitUntilClosed
     ${For} $R0 1 2
       StrCpy $R1 "$INSTDIR\lindrel.exe"
@@ -106,7 +106,7 @@ VIAddVersionKey /LANG=${LANG_HUNGARIAN} "LegalCopyright" "© 2026 Lindrel"
 !insertmacro SharedFunctions ""
 !insertmacro SharedFunctions "un."
 
-; An upgrade goes where the program is.
+; An upgrade replaces the program where it is.
 Function StayWhereItIs
   ReadRegStr $R0 HKCU "${UNINSTALL_KEY}" "InstallLocation"
   ${If} $R0 != ""
@@ -123,7 +123,7 @@ Function .onInit
   ${EndIf}
 FunctionEnd
 
-; Puts a theme in its place unless the user has one of that name, and notes its sum when it is as shipped.
+; Installs a theme unless the user has one of that name, and records its sum if it is as shipped.
 !macro Theme file
   File "/oname=$PLUGINSDIR\theme" "${STAGE}/x64/Lindrel/styles/${file}"
   VPatch::GetFileMD5 "$PLUGINSDIR\theme"

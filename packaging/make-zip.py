@@ -17,7 +17,7 @@ def main(archive, folder, seconds):
             if path.is_file():
                 entry = zipfile.ZipInfo(path.relative_to(root.parent).as_posix(), date)
                 entry.compress_type = zipfile.ZIP_DEFLATED
-                entry.create_system = 0  # as made on Windows, whatever this machine is
+                entry.create_system = 0  # as if made on Windows
                 target.writestr(entry, path.read_bytes(), compresslevel=9)
 
 

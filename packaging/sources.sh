@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# What the project is made of, asked of its history, or of the folder itself where it came without one (an archive, a
-# plain copy):
-#   packaging/sources.sh files   its files, from the root, each ended by a NUL
+# Lists the sources by the history of the project, or by the folder itself if there is no history (an archive, a plain
+# copy):
+#   packaging/sources.sh files   the files, relative to the root, each followed by a NUL
 #   packaging/sources.sh date    the time of the commit, or of the newest file, in seconds since 1970
 set -eu
 cd "$(dirname "$0")/.."
 
-# A copy may lie in somebody else's repository, or in one that belongs to another user.
+# A copy may lie inside somebody else's repository, or belong to another user.
 has_history() {
   command -v git >/dev/null && [ "$(git rev-parse --show-toplevel 2>/dev/null)" = "$(pwd -P)" ]
 }
@@ -16,7 +16,7 @@ files_of_folder() { find . \( -path ./build -o -path ./dist -o -path ./.git \) -
 case "$1" in
   files)
     if has_history; then
-      # The history still lists what is removed but not yet committed so.
+      # Git still lists files that are deleted but not yet committed as such.
       comm -z -23 <(git ls-files -z --cached --others --exclude-standard | sort -z) <(git ls-files -z --deleted | sort -z)
     else
       files_of_folder

@@ -15,7 +15,7 @@ import sys
 
 COMPILERS = {"x64": "x86_64-w64-mingw32-g++-posix", "x86": "i686-w64-mingw32-g++-posix"}
 GCC_LICENCE = "GPL-3.0-or-later WITH GCC-exception-3.1"
-LIBRARIES = {  # what the linker takes from outside the project: what it is, and its licence
+LIBRARIES = {  # what the linker takes from outside the project, with its licence
     "libstdc++.a": ("C++ standard library", GCC_LICENCE),
     "libgcc.a": ("compiler support", GCC_LICENCE),
     "libgcc_eh.a": ("exceptions", GCC_LICENCE),
@@ -57,7 +57,7 @@ def write_licences(folder):
         source = about(package)["source"]
         if texts.setdefault(source, text) != text:
             sys.exit(f"the packages of {source} differ in their licences")
-    # The texts name others that every system of this kind has; a Windows machine has none of them.
+    # The texts refer to licences that every Debian system has, and Windows has not.
     for name in sorted(set(re.findall(r"common-licenses/([A-Z][A-Za-z0-9.-]*[A-Za-z0-9])", "".join(texts.values())))):
         texts[name] = (COMMON_LICENCES / name).read_text(encoding="utf-8")
     target = pathlib.Path(folder)
