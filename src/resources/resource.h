@@ -1,6 +1,6 @@
 /* Ids of every window, control and command: ID_<window>_<control> (control arrays end in their index),
-   IDD_<window> for dialog templates, ID_<menu item> for commands. A control's id is its child-window id, so a
-   program outside can find it. Each window has a block of a hundred. */
+   IDD_<window> for dialog templates, ID_<menu item> for commands. A control's id is its child-window id, so
+   other programs can find it. Each window has a block of a hundred. */
 #ifndef LINDREL_RESOURCE_H
 #define LINDREL_RESOURCE_H
 
@@ -8,12 +8,12 @@
 /* The drop-down menu of the toolbar's fifth button. */
 #define IDR_frmStart_Toolbar_5 101
 
-/* Pictures. The program's own comes first, so that it stands for the program file too. */
+/* Pictures. The first icon is the one that Windows shows for the exe. */
 #define IDI_frmStart 101
 #define IDI_TrayArea 102
 #define IDI_picGo 103
 #define IDI_Image1 104
-/* Of the toolbar's buttons, side by side; the names end in the size. */
+/* The pictures of the toolbar side by side; the names end in the size in pixels. */
 #define IDB_ImageList1_24 111
 #define IDB_ImageList1_30 112
 #define IDB_ImageList1_36 113

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# That the sources need no history: an archive of them in another folder says so in one line, gives its packages the same
-# date, configures, and knows its files.
+# Checks that the sources need no history: an archive of them in another folder says in one line that there is none, dates
+# its packages the same, configures, and lists its files.
 set -eu
 cd "$(dirname "$0")/../.."
 other=$(mktemp -d "${TMPDIR:-/tmp}/másik mappa.XXXXXX")

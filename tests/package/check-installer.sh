@@ -1,19 +1,19 @@
 #!/usr/bin/env bash
-# A life of the installer under Wine: it installs, the program works, an upgrade keeps what the user has changed, and in
-# the end nothing is left but what the user has made:
+# Installs, upgrades and uninstalls under Wine: the program works, an upgrade keeps what the user has changed, and in the
+# end only what the user has made is left:
 #   tests/package/check-installer.sh <e2e_tests.exe>
 set -eu
 e2e_tests=$1
 cd "$(dirname "$0")/../.."
 source tests/wine-env.sh
 wine_environment
-# The menu builder would put the start menu's entries into the menus of this machine's user.
+# Or Wine would add the entries of the start menu to the menus of this machine's user.
 export WINEDLLOVERRIDES="$WINEDLLOVERRIDES;winemenubuilder.exe=d"
 version=$(sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=//p' build/x64/CMakeCache.txt)
 installer=$PWD/dist/lindrel-$version-telepito.exe
 stage=$PWD/build/package
 make_template_prefix
-# In shells of their own, whose errors are not those of this one.
+# In subshells, so that their failures do not end this script.
 why_not=
 if ! bash -c 'source tests/wine-env.sh; set -e; download_libraries_32'; then
   why_not="Wine's 32-bit libraries cannot be had here"
@@ -36,7 +36,7 @@ menu="$user/AppData/Roaming/Microsoft/Windows/Start Menu/Programs/Lindrel"
 key='HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Lindrel'
 
 fail() { echo "$*"; exit 1; }
-# Lists, in any order, that must be the same: what is expected, and what there is.
+# Compares two lists in any order: expected and actual.
 same() { diff <(sort <<<"$2") <(sort <<<"$3") || fail "$1 (< expected, > there)"; }
 run() { timeout -k 10 120 wine "$@" </dev/null 2>/dev/null; }
 eventually() {
@@ -65,7 +65,7 @@ values() { run reg query "$key" | tr -d '\r' | sed -n 's/^ \{4\}//p'; }
 gone() { [ ! -e "$1" ]; }
 uninstall() {
   run "$folder/uninstall.exe" /S
-  # It works in a copy of itself; the first process has ended by then.
+  # The uninstaller runs from a copy of itself; the first process ends before it is done.
   eventually "the uninstaller's end" gone "$folder/uninstall.exe"
   eventually "the registry's entry to go" entry_is_gone
 }
@@ -73,7 +73,7 @@ entry_is_gone() { ! run reg query "$key" >/dev/null; }
 
 run reg query "$key" >/dev/null && fail "there is an entry before anything is installed"
 
-# As every Windows has them.
+# Folders that every Windows has.
 mkdir -p "${folder%/*}"
 run reg add "${key%\\*}" >/dev/null
 
@@ -134,7 +134,7 @@ eventually "the main window" xdotool search --onlyvisible --name '^Lindrel $' >/
 sums() { (cd "$folder" && find . -type f -exec sha256sum {} +); }
 before=$(sums)
 same "the installer's exit code" 2 "$(exit_code "$installer" /S)"
-# Told where it is, the uninstaller works itself instead of in a copy, and its exit code can be had.
+# With this argument the uninstaller runs without a copy of itself, so that its exit code is known.
 same "the uninstaller's exit code" 2 "$(exit_code "$folder/uninstall.exe" /S "_?=$place")"
 same "the installed files" "$before" "$(sums)"
 run taskkill /f /im lindrel.exe >/dev/null

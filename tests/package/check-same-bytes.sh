@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# That the packages in dist/ come out the same, byte for byte, when the sources are built again from nothing in another
-# folder, as they come in an archive: without their history, each file with the time of the commit.
+# Checks that the packages in dist/ are the same, byte for byte, when they are built again from scratch in another folder
+# from an archive of the sources: without history, each file with the time of the commit.
 set -eu
 cd "$(dirname "$0")/../.."
 sums="$PWD/dist/SHA256SUMS"

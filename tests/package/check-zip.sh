@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
-# What is in the zips; and that the program of the 64-bit one works where it was unpacked, even when that is a folder
-# with blanks and accents to which nobody may write:
+# Checks the contents of the zips, and that the 64-bit program works where it was unpacked, even in a write-protected
+# folder whose name has blanks and accents:
 #   tests/package/check-zip.sh <e2e_tests.exe>
 set -eu
 e2e_tests=$1
 cd "$(dirname "$0")/../.."
 source tests/wine-env.sh
 wine_environment
-# To root every folder is writable, unless it does without that right.
+# Root could write to any folder, so it gives up that capability.
 if [ "$(id -u)" = 0 ] && [ -z "${LINDREL_PLAIN_ROOT:-}" ]; then
   LINDREL_PLAIN_ROOT=1 exec setpriv --bounding-set=-dac_override,-dac_read_search "$0" "$e2e_tests"
 fi

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Copies the sources into a folder as an archive of the commit would hold them: without their history, each file with the
-# time of the commit.
+# Copies the sources into a folder as an archive of the commit would have them: without history, each file with the time
+# of the commit.
 #   tests/package/copy-as-archive.sh <folder>
 set -eu
 cd "$(dirname "$0")/../.."
