@@ -17,8 +17,8 @@
 #include "book/Book.h"
 #include "files/Files.h"
 #include "import/HtmlLinks.h"
-#include "import/PageText.h"
-#include "text/DecodedText.h"
+#include "import/PageEncoding.h"
+#include "text/TextFile.h"
 
 extern char** environ;
 

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "book/Book.h"
-#include "text/DecodedText.h"
+#include "text/TextFile.h"
 
 namespace lindrel {
 

@@ -9,8 +9,7 @@
 #include "files/Files.h"
 #include "files/Folder.h"
 #include "text/BookText.h"
-#include "text/DecodedText.h"
-#include "text/TextLines.h"
+#include "text/TextFile.h"
 
 namespace lindrel {
 
@@ -46,18 +45,17 @@ std::vector<ShortcutFile> FilesOf(const Path& folder) {
 
 std::string ShortcutAddress(std::vector<char> file) {
     const TextFile lines = TextFileOf(std::move(file));
-    const std::string_view text = lines.Text();
-    const std::size_t second = BehindLineEnd(text, EndOfLine(text, 0));
-    if (second == text.size()) throw EndOfFileFault();
-    const DecodedText line(text.substr(second, EndOfLine(text, second) - second), lines.Encoding);
+    std::string_view text = lines.Text();
+    TakeLine(text);
+    if (text.empty()) throw EndOfFileFault();
+    const DecodedText line(TakeLine(text), lines.Encoding);
 
     static const CaselessNeedle key("URL=");
     const std::size_t found = key.FindIn(line.Text());
-    // Without the key three characters are lost: shortcuts of other programs have always been imported like
-    // that.
-    const std::size_t behind_key = found == std::string_view::npos ? 3 : found + 4;
-    if (line.Text().size() < behind_key) throw ArgumentFault();
-    return line.Address(behind_key, line.Text().size());
+    // Without a key the line loses three characters: users know such shortcuts to be imported like that.
+    const std::size_t address = found == std::string_view::npos ? 3 : found + 4;
+    if (line.Text().size() < address) throw ArgumentFault();
+    return line.Address(address, line.Text().size());
 }
 
 std::vector<NewEntry> ShortcutsOfFolder(const Path& folder) {

@@ -5,7 +5,7 @@
 #include "edit/BookField.h"
 #include "files/Files.h"
 #include "files/Folder.h"
-#include "import/PageText.h"
+#include "import/PageEncoding.h"
 #include "import/Shortcuts.h"
 #include "import/frmI_Fav.h"
 #include "resources/resource.h"

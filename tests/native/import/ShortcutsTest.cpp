@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <bit>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -106,7 +107,7 @@ TEST_F(ShortcutsTest, FilesAreReadInUtf8OrUtf16AndWithAnyLineEnd) {
         const std::string file = "[InternetShortcut]" + end + "URL=" + address + end + "IconIndex=1";
         EXPECT_EQ(AddressIn(file), expected);
         EXPECT_EQ(AddressIn("\xEF\xBB\xBF" + file), expected);
-        for (const ByteOrder order : {ByteOrder::LittleEndian, ByteOrder::BigEndian})
+        for (const std::endian order : {std::endian::little, std::endian::big})
             EXPECT_EQ(AddressIn(testing::Utf16(
                           U"\uFEFF[InternetShortcut]\r\nURL=http://t\u0171z.hu/\u0440?\u20AC", order)),
                       expected);
