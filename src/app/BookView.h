@@ -18,7 +18,7 @@ class BookView {
   public:
     BookView(OpenBook& open, EntryFields& fields) : open_(open), fields_(fields) {}
 
-    // Makes the controls on a window, in their tab order. Throws std::bad_alloc when the system cannot.
+    // Makes the controls on a window, in their tab order. Throws SystemFault when the system cannot.
     void Create(HWND window);
     void ApplyResolution(UINT dpi);
     // Places the status bar at the bottom of the window.

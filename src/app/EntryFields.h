@@ -14,9 +14,9 @@ class EntryFields {
   public:
     explicit EntryFields(ToolTips& tool_tips) : tool_tips_(tool_tips) {}
 
-    // Makes the controls on a window, in their tab order. Throws std::bad_alloc when the system cannot.
+    // Makes the controls on a window, in their tab order. Throws SystemFault when the system cannot.
     void Create(HWND window);
-    // Shows the button's picture at a resolution. Throws std::bad_alloc when it cannot be loaded.
+    // Shows the button's picture at a resolution. Throws SystemFault when it cannot be loaded.
     void ApplyResolution(UINT dpi);
 
     void Show(const std::wstring& name, const std::wstring& address);

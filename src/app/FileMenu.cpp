@@ -7,6 +7,7 @@
 #include "book/BookFile.h"
 #include "files/Files.h"
 #include "resources/resource.h"
+#include "system/FileDialog.h"
 #include "system/MsgBox.h"
 #include "system/Shell.h"
 #include "system/WaitCursor.h"
@@ -115,24 +116,21 @@ SaveAnswer FileMenu::OfferToSave(SaveQuestion question) {
 
 bool FileMenu::ChooseBookFile(Choice choice) {
     const bool open = choice == Choice::Open;
-    CommonDialog1.InitDir = ProgramFolder() + L"\\";  // a drive alone would mean its current folder
-    CommonDialog1.DefaultExt = L"lnd";
-    CommonDialog1.FileName = open ? L"" : FileNameOf(open_.OpenedFile);
+    FileDialogOptions options;
+    options.Title = open ? L"File megnyitása" : L"File mentése";
+    options.Filter = L"Lindrel fájlok (*.lnd)|*.lnd";
+    options.FileName = open ? L"" : FileNameOf(open_.OpenedFile);
+    options.DefaultExt = L"lnd";
+    options.InitDir = ProgramFolder() + L"\\";  // a drive alone would mean its current folder
+    options.AskToOverwrite = choice == Choice::FirstSave;
     try {
-        do {
-            CommonDialog1.DialogTitle = open ? L"File megnyitása" : L"File mentése";
-            if (open)
-                CommonDialog1.ShowOpen(window_);
-            else
-                CommonDialog1.ShowSave(window_, choice == Choice::FirstSave
-                                                    ? CommonDialog::Existing::AskToOverwrite
-                                                    : CommonDialog::Existing::Accept);
-        } while (open && !FileExists(window_, CommonDialog1.FileName));
-    } catch (const Fault&) {
-        return false;  // cancelled, or the dialog could not be shown
+        const std::optional<std::wstring> path =
+            open ? ChooseExistingFile(window_, std::move(options)) : ChooseFileToSave(window_, options);
+        if (path) open_.OpenedFile = *path;
+        return path.has_value();
+    } catch (const SystemFault&) {
+        return false;  // the user has been told
     }
-    open_.OpenedFile = CommonDialog1.FileName;
-    return true;
 }
 
 bool FileMenu::LoadBook(const std::wstring& path) {

@@ -7,7 +7,6 @@
 #include "app/BookView.h"
 #include "book/OpenBook.h"
 #include "files/File.h"
-#include "system/CommonDialog.h"
 
 namespace lindrel {
 
@@ -23,8 +22,7 @@ enum class SaveAnswer {
 
 class FileMenu {
   public:
-    FileMenu(OpenBook& open, BookView& view, CommonDialog& file_dialog)
-        : open_(open), view_(view), CommonDialog1(file_dialog) {}
+    FileMenu(OpenBook& open, BookView& view) : open_(open), view_(view) {}
 
     // The window that bears the title and owns the boxes.
     void Attach(HWND window) { window_ = window; }
@@ -70,7 +68,6 @@ class FileMenu {
 
     OpenBook& open_;
     BookView& view_;
-    CommonDialog& CommonDialog1;
     HWND window_ = nullptr;
     // The file that the book was read from or written to last, as it was then.
     std::wstring known_file_;

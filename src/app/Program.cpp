@@ -2,7 +2,6 @@
 
 #include <ole2.h>
 
-#include <new>
 #include <string>
 
 #include "app/frmStart.h"
@@ -31,7 +30,7 @@ class ComApartment {
 int RunMessageLoop(frmStart& form) {
     MSG message{};
     while (const BOOL got = GetMessageW(&message, nullptr, 0, 0)) {
-        if (got == -1) throw std::bad_alloc();
+        if (got == -1) throw SystemFault(L"üzenet fogadása", GetLastError());
         if (!form.PreTranslate(message)) {
             TranslateMessage(&message);
             DispatchMessageW(&message);

@@ -2,9 +2,9 @@
 
 #include <array>
 #include <iterator>
-#include <new>
 #include <utility>
 
+#include "faults/Faults.h"
 #include "resources/resource.h"
 #include "window/Display.h"
 #include "window/PopupMenu.h"
@@ -77,7 +77,7 @@ void Toolbar::AddButtons() const {
     }
     if (!SendMessageW(toolbar_.Handle(), TB_ADDBUTTONSW, buttons.size(),
                       reinterpret_cast<LPARAM>(buttons.data())))
-        throw std::bad_alloc();
+        throw SystemFault(L"az eszköztár gombjainak létrehozása", GetLastError());
 }
 
 // Asked for its tips, the toolbar makes a window for them: not before the mouse is there.

@@ -9,9 +9,9 @@ namespace lindrel {
 
 class Toolbar {
   public:
-    // Makes the toolbar on a window with a menu bar. Throws std::bad_alloc when the system cannot.
+    // Makes the toolbar on a window with a menu bar. Throws SystemFault when the system cannot.
     void Create(HWND window);
-    // Shows the pictures at a resolution. Throws std::bad_alloc when one cannot be loaded; the old ones stay
+    // Shows the pictures at a resolution. Throws SystemFault when one cannot be loaded; the old ones stay
     // then.
     void ApplyResolution(UINT dpi);
     // Looks at the menu bar anew.

@@ -1,9 +1,8 @@
 #include "app/frmStart.h"
 
-#include <new>
-
 #include "app/MenuCommands.h"
 #include "app/PlaceControls.h"
+#include "faults/Faults.h"
 #include "help/HTMLHelp.h"
 #include "resources/resource.h"
 
@@ -26,7 +25,7 @@ frmStart::frmStart(HINSTANCE instance) : instance_(instance) {}
 
 void frmStart::Show(int show) {
     shortcuts_ = LoadAcceleratorsW(instance_, MAKEINTRESOURCEW(IDR_frmStart));
-    if (shortcuts_ == nullptr) throw std::bad_alloc();
+    if (shortcuts_ == nullptr) throw SystemFault(L"a billentyűparancsok betöltése", GetLastError());
     WNDCLASSEXW description{};
     description.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
     description.lpszMenuName = MAKEINTRESOURCEW(IDR_frmStart);

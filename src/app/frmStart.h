@@ -16,7 +16,6 @@
 #include "book/OpenBook.h"
 #include "find/SearchBox.h"
 #include "pictures/Picture.h"
-#include "system/CommonDialog.h"
 #include "system/FileDrop.h"
 #include "tray/TrayArea.h"
 #include "window/Display.h"
@@ -33,14 +32,13 @@ class frmStart : public OwnWindow {
     // Destroys the window, which is still there only when a fault ends the program.
     ~frmStart() override { Destroy(); }
 
-    // Makes and shows the window. Throws std::bad_alloc when the system cannot.
+    // Makes and shows the window. Throws SystemFault when the system cannot.
     void Show(int show);
     // Shortcuts and keyboard navigation; true when the message is done with.
     bool PreTranslate(MSG& message);
 
     OpenBook& OpenedBook() { return open_; }
     BookView& View() { return view_; }
-    const CommonDialog& FileDialog() const { return CommonDialog1; }
     SaveAnswer OfferToSave(SaveQuestion question) { return file_menu_.OfferToSave(question); }
     // Of the menu bar and, with it, of the toolbar.
     void EnableCommand(int id, bool enabled);
@@ -98,13 +96,12 @@ class frmStart : public OwnWindow {
     SessionHold session_;
 
     OpenBook open_;
-    CommonDialog CommonDialog1;
     Toolbar toolbar_;
     ToolTips tool_tips_;
     EntryFields fields_{tool_tips_};
     BookView view_{open_, fields_};
     SearchBox search_box_{open_, tool_tips_};
-    FileMenu file_menu_{open_, view_, CommonDialog1};
+    FileMenu file_menu_{open_, view_};
     FileDrop book_drop_{L".lnd"};
     lindrel::TrayArea TrayArea;
 };

@@ -164,7 +164,7 @@ void frmStart::LeaveTray() {
 
 void frmStart::mnuImport_Click() {
     view_.SaveCheckMarks(open_.CurrentCategory);
-    frmImport dialog(open_, CommonDialog1);
+    frmImport dialog(open_);
     dialog.ShowModal(Handle());
     if (dialog.Imported()) view_.FillAddressList(open_.CurrentCategory);
     view_.RestoreCheckMarks(open_.CurrentCategory);
@@ -181,7 +181,7 @@ void frmStart::mnuExport_Click() {
                MB_OK, L"Nincsenek kijelölve címek");
         return;
     }
-    frmExport(open_, CommonDialog1).ShowModal(Handle());
+    frmExport(open_).ShowModal(Handle());
 }
 
 void frmStart::mnuGoto_Click() {

@@ -10,6 +10,7 @@
 #include "files/Files.h"
 #include "files/Folder.h"
 #include "resources/resource.h"
+#include "system/FileDialog.h"
 #include "system/MsgBox.h"
 #include "system/Shell.h"
 #include "text/BookText.h"
@@ -30,8 +31,7 @@ constexpr std::initializer_list<int> kFavoritesFrame = {ID_frmExport_Frame2, ID_
 
 }  // namespace
 
-frmExport::frmExport(OpenBook& open, CommonDialog& file_dialog)
-    : Dialog(IDD_frmExport), open_(open), file_dialog_(file_dialog), book_filter_(file_dialog) {}
+frmExport::frmExport(OpenBook& open) : Dialog(IDD_frmExport), open_(open) {}
 
 void frmExport::Form_Load() {
     const auto cmbType = Get<ComboBox>(ID_frmExport_cmbType);
@@ -117,16 +117,16 @@ void frmExport::cmbTheme_LostFocus() const {
 }
 
 void frmExport::cmdBrowse_Click() {
-    file_dialog_.Filter = L"arculatfájlok (*.aut)|*.aut";
-    file_dialog_.FileName.clear();
-    file_dialog_.DialogTitle = L"Arculatfájl kiválasztása";
+    std::optional<std::wstring> theme;
     try {
-        file_dialog_.ShowOpen(Handle());
-    } catch (const Fault&) {
-        return;  // cancelled: the theme stays as it was
+        theme = ChooseFileToOpen(
+            Handle(), {.Title = L"Arculatfájl kiválasztása", .Filter = L"arculatfájlok (*.aut)|*.aut"});
+    } catch (const SystemFault&) {
+        return;  // the user has been told
     }
-    Get<Control>(ID_frmExport_cmbTheme).SetText(file_dialog_.FileName);
-    cmbTheme_Change(file_dialog_.FileName);
+    if (!theme) return;
+    Get<Control>(ID_frmExport_cmbTheme).SetText(*theme);
+    cmbTheme_Change(*theme);
 }
 
 void frmExport::cmdOK_Click() {
@@ -135,10 +135,7 @@ void frmExport::cmdOK_Click() {
         FocusOn(ID_frmExport_lstSource);
         return;
     }
-    const Kind kind = ChosenKind();
-    file_dialog_.Filter = kind == TextFile ? L"szövegfájlok (*.txt)|*.txt" : L"weblapok (*.htm)|*.htm";
-    file_dialog_.DefaultExt = kind == TextFile ? L"txt" : L"htm";
-    if (!Export(kind)) return;
+    if (!Export(ChosenKind())) return;
     open_.TheBook.Marks.ForgetAll();
     Unload();
 }
@@ -148,32 +145,35 @@ bool frmExport::Export(Kind kind) {
     if (kind == Favorites) return ExportToFavorites();
     try {
         return ExportToFile(kind);
-    } catch (const Fault& fault) {
+    } catch (const Fault&) {
         // A failure to write has always closed the dialog without a message.
-        if (fault.Number() != kDialogCancelled) Unload();
+        Unload();
         return false;
     }
 }
 
 bool frmExport::ExportToFile(Kind kind) {
-    std::wstring path;
-    if (!ChooseFile(path)) return false;
+    const std::optional<std::wstring> path = ChooseFile(kind);
+    if (!path) return false;
     DropCategoriesNotChosen();
     if (kind == WebPage)
-        WriteHtmlPage(path);
+        WriteHtmlPage(*path);
     else
-        WriteTextList(path);
+        WriteTextList(*path);
     return true;
 }
 
-bool frmExport::ChooseFile(std::wstring& path) {
-    file_dialog_.FileName.clear();
-    file_dialog_.DialogTitle = L"Exportálás";
-    file_dialog_.ShowSave(Handle(), CommonDialog::Existing::Accept);
-    path = file_dialog_.FileName;
-    return !FileIsThere(path) ||
-           MsgBox(Handle(), L"Felülírjam a már létező állományt ?", MB_OKCANCEL | MB_ICONEXCLAMATION,
-                  L"Figyelem: már van ilyen fájl!") == IDOK;
+// Nothing if the user cancels the dialog or does not want to overwrite the file.
+std::optional<std::wstring> frmExport::ChooseFile(Kind kind) const {
+    const bool text = kind == TextFile;
+    const std::optional<std::wstring> path = ChooseFileToSave(
+        Handle(), {.Title = L"Exportálás",
+                   .Filter = text ? L"szövegfájlok (*.txt)|*.txt" : L"weblapok (*.htm)|*.htm",
+                   .DefaultExt = text ? L"txt" : L"htm"});
+    if (!path || !FileIsThere(*path)) return path;
+    const int answer = MsgBox(Handle(), L"Felülírjam a már létező állományt ?",
+                              MB_OKCANCEL | MB_ICONEXCLAMATION, L"Figyelem: már van ilyen fájl!");
+    return answer == IDOK ? path : std::nullopt;
 }
 
 // The lines of the list stand for the categories with checked entries, in their order.

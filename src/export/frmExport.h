@@ -1,18 +1,18 @@
 // Exports the checked entries of chosen categories as a web page, a text list or shortcut files.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "book/OpenBook.h"
 #include "export/HtmlPage.h"
-#include "system/CommonDialog.h"
 #include "window/Dialog.h"
 
 namespace lindrel {
 
 class frmExport : public Dialog {
   public:
-    frmExport(OpenBook& open, CommonDialog& file_dialog);
+    explicit frmExport(OpenBook& open);
 
   private:
     // In the order of cmbType.
@@ -37,7 +37,7 @@ class frmExport : public Dialog {
     bool Export(Kind kind);
     bool ExportToFile(Kind kind);
     bool ExportToFavorites();
-    bool ChooseFile(std::wstring& path);
+    std::optional<std::wstring> ChooseFile(Kind kind) const;
     void DropCategoriesNotChosen();
     void WriteHtmlPage(const std::wstring& fileName) const;
     void WriteTextList(const std::wstring& fileName) const;
@@ -45,8 +45,6 @@ class frmExport : public Dialog {
     PageStyle ReadTheme() const;
 
     OpenBook& open_;
-    CommonDialog& file_dialog_;
-    BookFilterAfterwards book_filter_;
 };
 
 }  // namespace lindrel

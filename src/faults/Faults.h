@@ -54,6 +54,15 @@ class EndOfFileFault : public Fault {
     EndOfFileFault() : Fault(62, L"Olvasás a fájl vége után") {}
 };
 
+// Something that Windows was asked for and refused: a window, a picture, a menu. Number() is the system's
+// error number, 0 if it gave none; Meaning() tells what was asked for.
+class SystemFault : public Fault {
+  public:
+    // `asked_for` as it completes "Windows could not do this: ", in Hungarian.
+    SystemFault(const std::wstring& asked_for, unsigned long error)
+        : Fault(static_cast<int>(error), L"A Windows ezt nem tudta teljesíteni: " + asked_for) {}
+};
+
 // A file or folder that cannot be opened, created, read or written. Meaning() is the system's reason for a
 // file, and for a folder what could not be done.
 class FileFault : public Fault {

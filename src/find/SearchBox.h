@@ -18,9 +18,9 @@ class SearchBox {
   public:
     SearchBox(const OpenBook& open, ToolTips& tool_tips) : open_(open), tool_tips_(tool_tips) {}
 
-    // Makes the controls on a window, in their tab order. Throws std::bad_alloc when the system cannot.
+    // Makes the controls on a window, in their tab order. Throws SystemFault when the system cannot.
     void Create(HWND window);
-    // Shows the button's picture at a resolution. Throws std::bad_alloc when it cannot be loaded.
+    // Shows the button's picture at a resolution. Throws SystemFault when it cannot be loaded.
     void ApplyResolution(UINT dpi);
 
     // WM_COMMAND of the window. True when the id is that of one of these controls.

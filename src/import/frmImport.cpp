@@ -9,6 +9,7 @@
 #include "import/Shortcuts.h"
 #include "import/frmI_Fav.h"
 #include "resources/resource.h"
+#include "system/FileDialog.h"
 #include "system/MsgBox.h"
 #include "system/Shell.h"
 #include "system/WaitCursor.h"
@@ -16,8 +17,7 @@
 
 namespace lindrel {
 
-frmImport::frmImport(OpenBook& open, CommonDialog& file_dialog)
-    : Dialog(IDD_frmImport), open_(open), file_dialog_(file_dialog), book_filter_(file_dialog) {}
+frmImport::frmImport(OpenBook& open) : Dialog(IDD_frmImport), open_(open) {}
 
 void frmImport::Form_Load() {
     Get<CheckBox>(ID_frmImport_from_0).SetChecked(true);
@@ -73,21 +73,17 @@ void frmImport::cmdOK_Click() {
     // Faults of the folder import have always ended in the run-time error report.
     if (!Get<CheckBox>(ID_frmImport_from_0).IsChecked()) return ImportFavoritesFolder();
 
-    file_dialog_.Filter = L"weblapok (*.htm)|*.htm;*.html";
-    file_dialog_.DialogTitle = L"Válasszon ki egy weblapot";
-    file_dialog_.FileName.clear();
     try {
-        do file_dialog_.ShowOpen(Handle());
-        while (!FileExists(Handle(), file_dialog_.FileName));
-        ImportHtmlLinks(file_dialog_.FileName);
-        file_dialog_.Filter = kBookFilter;
+        const std::optional<std::wstring> page = ChooseExistingFile(
+            Handle(), {.Title = L"Válasszon ki egy weblapot", .Filter = L"weblapok (*.htm)|*.htm;*.html"});
+        if (page) ImportHtmlLinks(*page);
     } catch (const OverflowFault&) {
         MsgBox(Handle(), kFailed, MB_OK, L"Túl sok címet tartalmaz a weblap");
     } catch (const EndOfFileFault&) {
         MsgBox(Handle(), kFailed, MB_OK, L"Hibás a weblap");
     } catch (const std::exception&) {
-        // No message for a cancelled file dialog, a page that cannot be read or does not fit in memory, or an
-        // address without a closing quotation mark.
+        // No message for a page that cannot be read or does not fit in memory, or for an address without a
+        // closing quotation mark.
         return;
     }
 }

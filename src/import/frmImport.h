@@ -7,14 +7,13 @@
 
 #include "book/OpenBook.h"
 #include "import/HtmlLinks.h"
-#include "system/CommonDialog.h"
 #include "window/Dialog.h"
 
 namespace lindrel {
 
 class frmImport : public Dialog {
   public:
-    frmImport(OpenBook& open, CommonDialog& file_dialog);
+    explicit frmImport(OpenBook& open);
 
     // Whether a list that shows the book may be out of date.
     bool Imported() const { return imported_; }
@@ -37,8 +36,6 @@ class frmImport : public Dialog {
     void ShowResult(std::size_t count) const;
 
     OpenBook& open_;
-    CommonDialog& file_dialog_;
-    BookFilterAfterwards book_filter_;
     LinkChoice choice_ = LinkChoice::Online;
     bool imported_ = false;
 };

@@ -2,13 +2,15 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <new>
 
+#include "faults/Faults.h"
 #include "pictures/PixelBitmap.h"
 
 namespace lindrel {
 
 namespace {
+
+constexpr wchar_t kAskedFor[] = L"a jelölőnégyzetek rajzolása";
 
 struct Size {
     int Width;
@@ -19,13 +21,13 @@ struct Size {
 PixelBitmap DrawOn(std::uint32_t ground, HIMAGELIST pictures, int index, const Size& size, int top) {
     PixelBitmap bitmap(size.Width, size.Height);
     const HDC canvas = CreateCompatibleDC(nullptr);
-    if (canvas == nullptr) throw std::bad_alloc();
+    if (canvas == nullptr) throw SystemFault(kAskedFor, GetLastError());
     std::ranges::fill(bitmap.Pixels(), ground);
     const HGDIOBJ before = SelectObject(canvas, bitmap.Handle());
     const bool drawn = ImageList_Draw(pictures, index, canvas, 0, top, ILD_TRANSPARENT) && GdiFlush();
     SelectObject(canvas, before);
     DeleteDC(canvas);
-    if (!drawn) throw std::bad_alloc();
+    if (!drawn) throw SystemFault(kAskedFor, GetLastError());
     return bitmap;
 }
 
@@ -47,7 +49,8 @@ Owned<HIMAGELIST> InMiddleOf(HIMAGELIST pictures, int height) {
     constexpr std::uint32_t kBlack = 0;
     constexpr std::uint32_t kWhite = 0xFFFFFF;
     Size size{0, 0};
-    if (!ImageList_GetIconSize(pictures, &size.Width, &size.Height)) throw std::bad_alloc();
+    if (!ImageList_GetIconSize(pictures, &size.Width, &size.Height))
+        throw SystemFault(kAskedFor, GetLastError());
     const int top = (height - size.Height) / 2;
     size.Height = height;
     const int count = ImageList_GetImageCount(pictures);
@@ -56,7 +59,8 @@ Owned<HIMAGELIST> InMiddleOf(HIMAGELIST pictures, int height) {
         const PixelBitmap picture = DrawOn(kBlack, pictures, i, size, top);
         const PixelBitmap on_white = DrawOn(kWhite, pictures, i, size, top);
         std::ranges::transform(picture.Pixels(), on_white.Pixels(), picture.Pixels().begin(), WithAlpha);
-        if (ImageList_Add(higher.get(), picture.Handle(), nullptr) == -1) throw std::bad_alloc();
+        if (ImageList_Add(higher.get(), picture.Handle(), nullptr) == -1)
+            throw SystemFault(kAskedFor, GetLastError());
     }
     return higher;
 }

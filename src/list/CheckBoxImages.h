@@ -7,7 +7,7 @@
 namespace lindrel {
 
 // The same pictures in the same order, each in the middle of a higher one. `height` is in pixels and not less
-// than that of the pictures. Throws std::bad_alloc when the system cannot.
+// than that of the pictures. Throws SystemFault when the system cannot.
 Owned<HIMAGELIST> InMiddleOf(HIMAGELIST pictures, int height);
 
 }  // namespace lindrel

@@ -22,7 +22,7 @@ class CheckListView : public Control {
     using CellText = std::function<std::wstring(int position, int column)>;
 
     // Wraps a list view that was made with kStyles. Its parent passes the WM_NOTIFY messages of the control
-    // to Notify(). Throws std::bad_alloc when the system cannot.
+    // to Notify(). Throws SystemFault when the system cannot.
     void Attach(HWND list);
     static constexpr DWORD kStyles = LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL | LVS_SHOWSELALWAYS;
 

@@ -1,9 +1,10 @@
 #include "list/ListColumns.h"
 
 #include <algorithm>
-#include <new>
 #include <numeric>
 #include <utility>
+
+#include "faults/Faults.h"
 
 namespace lindrel {
 
@@ -13,7 +14,8 @@ void ListColumns::Add(const std::wstring& caption, int share) {
     column.mask = LVCF_TEXT | LVCF_SUBITEM;
     column.pszText = text.data();
     column.iSubItem = static_cast<int>(shares_.size());
-    if (ListView_InsertColumn(list_, column.iSubItem, &column) == -1) throw std::bad_alloc();
+    if (ListView_InsertColumn(list_, column.iSubItem, &column) == -1)
+        throw SystemFault(L"oszlop hozzáadása a listához", GetLastError());
     shares_.push_back(share);
     Fit();
 }

@@ -14,7 +14,7 @@ class ListColumns {
     // For a list view in report form, without columns.
     void Attach(HWND list) { list_ = list; }
     // A column at the right of the others. All shares together are the width of the list.
-    // Throws std::bad_alloc when the system cannot.
+    // Throws SystemFault when the system cannot.
     void Add(const std::wstring& caption, int share);
     // Columns that the user has made keep their width in inches when the resolution changes.
     void ApplyResolution(UINT dpi);

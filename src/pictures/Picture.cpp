@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <new>
 
+#include "faults/Faults.h"
 #include "pictures/PixelBitmap.h"
 #include "pictures/ScaledPictures.h"
 #include "window/Display.h"
@@ -27,7 +27,7 @@ PixelBitmap Load(HINSTANCE instance, const PictureStrip& strip) {
         LoadImageW(instance, MAKEINTRESOURCEW(strip.Id), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION)));
     DIBSECTION parts{};
     if (GetObjectW(loaded.get(), sizeof parts, &parts) != sizeof parts || parts.dsBm.bmBitsPixel != 32)
-        throw std::bad_alloc();
+        throw SystemFault(L"kép betöltése (" + std::to_wstring(strip.Id) + L")", GetLastError());
     PixelBitmap result(parts.dsBm.bmWidth, parts.dsBm.bmHeight);
     // From the bottom, as resources are.
     const auto* const bits = static_cast<const std::uint32_t*>(parts.dsBm.bmBits);
@@ -52,7 +52,8 @@ int LargePictureSize(UINT dpi) {
 Picture::Picture(HINSTANCE instance, int id, int size)
     : handle_(static_cast<HICON>(
           LoadImageW(instance, MAKEINTRESOURCEW(id), IMAGE_ICON, size, size, LR_DEFAULTCOLOR))) {
-    if (handle_ == nullptr) throw std::bad_alloc();
+    if (handle_ == nullptr)
+        throw SystemFault(L"ikon betöltése (" + std::to_wstring(id) + L")", GetLastError());
 }
 
 PictureList::PictureList(HINSTANCE instance, std::span<const PictureStrip> strips, int size,
@@ -64,7 +65,8 @@ PictureList::PictureList(HINSTANCE instance, std::span<const PictureStrip> strip
     if (look == PictureLook::Disabled)
         for (std::uint32_t& pixel : pictures.Pixels()) pixel = FaintAndGrey(pixel);
     handle_.reset(ImageList_Create(size, size, ILC_COLOR32, pictures.Width() / size, 0));
-    if (handle_ == nullptr || ImageList_Add(Handle(), pictures.Handle(), nullptr) < 0) throw std::bad_alloc();
+    if (handle_ == nullptr || ImageList_Add(Handle(), pictures.Handle(), nullptr) < 0)
+        throw SystemFault(L"képlista létrehozása", GetLastError());
 }
 
 }  // namespace lindrel

@@ -18,7 +18,7 @@ class Picture {
   public:
     Picture() = default;
     // An icon of the resources, `size` pixels wide and high; scaled from the nearest size if that is not
-    // among them. Throws std::bad_alloc when there is no such icon.
+    // among them. Throws SystemFault when there is no such icon.
     Picture(HINSTANCE instance, int id, int size);
     HICON Handle() const { return handle_.get(); }
 
@@ -40,7 +40,7 @@ class PictureList {
   public:
     PictureList() = default;
     // The pictures of the strip that was drawn in this size, or else scaled from the next larger one, or from
-    // the largest. The strips show the same in growing sizes; there is at least one. Throws std::bad_alloc
+    // the largest. The strips show the same in growing sizes; there is at least one. Throws SystemFault
     // when one is missing.
     PictureList(HINSTANCE instance, std::span<const PictureStrip> strips, int size, PictureLook look);
     HIMAGELIST Handle() const { return handle_.get(); }

@@ -12,11 +12,11 @@ namespace lindrel {
 class PictureButton : public Control {
   public:
     // Wraps a button that was made with kStyle. Its parent sends WM_DRAWITEM back to the control that it
-    // is for (hwndItem), which draws itself. Throws std::bad_alloc when the system cannot.
+    // is for (hwndItem), which draws itself. Throws SystemFault when the system cannot.
     void Attach(HWND button);
     static constexpr DWORD kStyle = BS_OWNERDRAW;
 
-    // Shows an icon of the resources at a size in pixels. Throws std::bad_alloc when there is none.
+    // Shows an icon of the resources at a size in pixels. Throws SystemFault when there is none.
     void SetPicture(int icon_id, int size);
 
   private:

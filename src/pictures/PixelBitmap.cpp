@@ -1,6 +1,6 @@
 #include "pictures/PixelBitmap.h"
 
-#include <new>
+#include "faults/Faults.h"
 
 namespace lindrel {
 
@@ -13,7 +13,7 @@ PixelBitmap::PixelBitmap(int width, int height) : width_(width), height_(height)
     format.bmiHeader.biBitCount = 32;
     void* bits = nullptr;
     handle_.reset(CreateDIBSection(nullptr, &format, DIB_RGB_COLORS, &bits, nullptr, 0));
-    if (handle_ == nullptr) throw std::bad_alloc();
+    if (handle_ == nullptr) throw SystemFault(L"bitkép létrehozása", GetLastError());
     pixels_ = {static_cast<std::uint32_t*>(bits),
                static_cast<std::size_t>(width) * static_cast<std::size_t>(height)};
 }

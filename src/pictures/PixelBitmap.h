@@ -10,7 +10,7 @@ namespace lindrel {
 
 class PixelBitmap {
   public:
-    // All pixels are 0. Throws std::bad_alloc when the system cannot make it.
+    // All pixels are 0. Throws SystemFault when the system cannot make it.
     PixelBitmap(int width, int height);
 
     HBITMAP Handle() const { return handle_.get(); }

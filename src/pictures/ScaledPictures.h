@@ -6,7 +6,7 @@
 namespace lindrel {
 
 // A strip of square pictures, each as wide as the strip is high, with each picture made `size` pixels wide
-// and high. Colours are blended, without those of a neighbour. Throws std::bad_alloc.
+// and high. Colours are blended, without those of a neighbour. Throws SystemFault.
 PixelBitmap Scaled(const PixelBitmap& strip, int size);
 
 }  // namespace lindrel

@@ -4,9 +4,9 @@
 
 #include <algorithm>
 #include <functional>
-#include <new>
 #include <vector>
 
+#include "faults/Faults.h"
 #include "files/FileSearch.h"
 #include "files/Folder.h"
 
@@ -104,7 +104,7 @@ HTREEITEM DirList::Add(HTREEITEM parent, const std::wstring& name, HTREEITEM pla
     item.item.iImage = closed_picture_;
     item.item.iSelectedImage = open_picture_;
     const HTREEITEM added = TreeView_InsertItem(Handle(), &item);
-    if (added == nullptr) throw std::bad_alloc();
+    if (added == nullptr) throw SystemFault(L"mappa megjelenítése", GetLastError());
     return added;
 }
 

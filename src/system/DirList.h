@@ -10,7 +10,7 @@ namespace lindrel {
 class DirList : public Control {
   public:
     // Wraps a tree view and shows the drives in it. Its parent passes the WM_NOTIFY messages of the control
-    // to Notify(). Throws std::bad_alloc when the system cannot.
+    // to Notify(). Throws SystemFault when the system cannot.
     void Attach(HWND tree);
 
     // Full path of the selected folder; a drive's ends in a backslash. Empty when nothing is selected.

@@ -4,8 +4,8 @@
 #include <shellapi.h>
 
 #include <atomic>
-#include <new>
 
+#include "faults/Faults.h"
 #include "faults/PendingFault.h"
 #include "system/Shell.h"
 
@@ -112,7 +112,8 @@ void FileDrop::Attach(HWND window) {
     auto* const target = new Target(*this);
     const HRESULT registered = RegisterDragDrop(window, target);
     target->Release();
-    if (FAILED(registered)) throw std::bad_alloc();
+    if (FAILED(registered))
+        throw SystemFault(L"fájl fogadása egérrel", static_cast<unsigned long>(registered));
     window_ = window;
 }
 

@@ -22,7 +22,7 @@ class FileDrop {
     FileDrop& operator=(const FileDrop&) = delete;
 
     // From now on the window takes such files, one at a time, while it is enabled. Its thread must have
-    // called OleInitialize. Throws std::bad_alloc when the system cannot.
+    // called OleInitialize. Throws SystemFault when the system cannot.
     void Attach(HWND window);
     // Before the window is destroyed.
     void Detach();

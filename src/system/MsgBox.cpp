@@ -1,8 +1,8 @@
 #include "system/MsgBox.h"
 
-#include <new>
 #include <utility>
 
+#include "faults/Faults.h"
 #include "window/Display.h"
 
 namespace lindrel {
@@ -53,7 +53,7 @@ class BoxOverOwner {
 int MsgBox(HWND owner, const std::wstring& text, UINT style, const std::wstring& title) {
     const BoxOverOwner over_owner(owner);
     const int button = MessageBoxW(owner, text.c_str(), title.c_str(), style);
-    if (button == 0) throw std::bad_alloc();
+    if (button == 0) throw SystemFault(L"üzenetablak megjelenítése", GetLastError());
     return button;
 }
 

@@ -11,7 +11,7 @@ inline constexpr wchar_t kApplicationTitle[] = L"Lindrel";
 inline constexpr wchar_t kErrorTitle[] = L"Hiba";
 
 // Shows a message box and returns the button pressed (IDOK, IDYES, ...). `style` is a combination of MB_
-// flags. Throws std::bad_alloc when the box cannot be shown.
+// flags. Throws SystemFault when the box cannot be shown.
 int MsgBox(HWND owner, const std::wstring& text, UINT style = MB_OK,
            const std::wstring& title = kApplicationTitle);
 

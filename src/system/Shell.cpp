@@ -38,12 +38,6 @@ bool FileIsThere(const std::wstring& path) {
     return !FilesMatching(path).empty();
 }
 
-bool FileExists(HWND owner, const std::wstring& path) {
-    if (FileIsThere(path)) return true;
-    MsgBox(owner, L"A megadott fájl nem létezik", MB_OK, kErrorTitle);
-    return false;
-}
-
 namespace {
 
 bool MayStartAProgram(const std::wstring& address) {

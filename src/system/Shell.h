@@ -18,9 +18,6 @@ bool FileIsThere(const std::wstring& path);
 // Names of the files that match a path with wildcards in its last part, sorted as the user sorts names.
 std::vector<std::wstring> FilesMatching(const std::wstring& pattern);
 
-// Like FileIsThere, but tells the user when there is none ("A megadott fájl nem létezik").
-bool FileExists(HWND owner, const std::wstring& path);
-
 // Opens an address with the program that is registered for it. One that may start a program
 // (system/AddressKind.h) is opened only after the user has agreed, and refused with SE_ERR_ACCESSDENIED
 // otherwise. The result is ShellExecute's: above 32 means success. Shows nothing when it fails.

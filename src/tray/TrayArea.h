@@ -39,9 +39,9 @@ class TrayArea : public OwnWindow {
     // Removes the icon, as does the destruction of the owner.
     ~TrayArea() override { Destroy(); }
 
-    // Creates the control's window as a child of its owner, a top-level window of the same thread. To be
-    // called once, before the icon is shown. Throws std::bad_alloc when the system cannot create it; the
-    // control has no window then.
+    // Creates the control's window as a child of its owner, a top-level window of the same thread that holds
+    // one such control. To be called once, before the icon is shown. Throws SystemFault when the system
+    // cannot; the control has no window then.
     void Place(HWND owner, Environment environment = Environment::Running);
 
     // Stores saved properties as they are. The icon appears only when SetVisible changes Visible to true.

@@ -1,7 +1,8 @@
 #include "window/Control.h"
 
 #include <algorithm>
-#include <new>
+
+#include "faults/Faults.h"
 
 namespace lindrel {
 
@@ -50,7 +51,8 @@ HWND CreateControl(HWND parent, const wchar_t* window_class, const wchar_t* text
     const HWND control =
         CreateWindowExW(extended_style, window_class, text, WS_CHILD | WS_VISIBLE | style, 0, 0, 0, 0, parent,
                         reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), module, nullptr);
-    if (control == nullptr) throw std::bad_alloc();
+    if (control == nullptr)
+        throw SystemFault(L"vezérlő létrehozása (" + std::wstring(window_class) + L")", GetLastError());
     return control;
 }
 
@@ -101,7 +103,8 @@ void CheckBox::SetChecked(bool checked) const {
 
 void ComboBox::Add(std::wstring_view text) const {
     const std::wstring terminated(text);
-    if (Send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(terminated.c_str())) < 0) throw std::bad_alloc();
+    if (Send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(terminated.c_str())) < 0)
+        throw SystemFault(L"sor hozzáadása egy listához", GetLastError());
 }
 
 void ComboBox::Select(int index) const {
@@ -120,7 +123,8 @@ std::wstring ComboBox::Item(int index) const {
 
 void ListBox::Add(std::wstring_view text) const {
     const std::wstring terminated(text);
-    if (Send(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(terminated.c_str())) < 0) throw std::bad_alloc();
+    if (Send(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(terminated.c_str())) < 0)
+        throw SystemFault(L"sor hozzáadása egy listához", GetLastError());
 }
 
 void ComboBox::WidenList() const {
@@ -137,7 +141,8 @@ void TabStrip::Add(std::wstring_view caption) const {
     TCITEMW item{};
     item.mask = TCIF_TEXT;
     item.pszText = text.data();
-    if (TabCtrl_InsertItem(Handle(), TabCtrl_GetItemCount(Handle()), &item) == -1) throw std::bad_alloc();
+    if (TabCtrl_InsertItem(Handle(), TabCtrl_GetItemCount(Handle()), &item) == -1)
+        throw SystemFault(L"fül hozzáadása", GetLastError());
 }
 
 void TabStrip::SetCaption(int position, std::wstring_view caption) const {

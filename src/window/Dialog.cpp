@@ -1,9 +1,9 @@
 #include "window/Dialog.h"
 
 #include <cstdlib>
-#include <new>
 #include <vector>
 
+#include "faults/Faults.h"
 #include "faults/PendingFault.h"
 #include "window/Display.h"
 
@@ -43,7 +43,9 @@ std::vector<WORD> TemplateInMessageFont(HINSTANCE module, int template_id) {
     const HRSRC resource = FindResourceW(module, MAKEINTRESOURCEW(template_id), RT_DIALOG);
     const HGLOBAL loaded = resource != nullptr ? LoadResource(module, resource) : nullptr;
     const auto* const base = static_cast<const WORD*>(loaded != nullptr ? LockResource(loaded) : nullptr);
-    if (base == nullptr) throw std::bad_alloc();
+    if (base == nullptr)
+        throw SystemFault(L"párbeszédablak betöltése (" + std::to_wstring(template_id) + L")",
+                          GetLastError());
     const WORD* const end = base + SizeofResource(module, resource) / sizeof(WORD);
 
     const WORD* at = base + sizeof(DialogTemplateEx) / sizeof(WORD);
@@ -116,7 +118,9 @@ void Dialog::Create(HWND owner) {
         CreateDialogIndirectParamW(module, reinterpret_cast<const DLGTEMPLATE*>(dialog_template.data()),
                                    owner, &Dialog::Procedure, reinterpret_cast<LPARAM>(this));
     ThrowPendingFault();
-    if (created == nullptr) throw std::bad_alloc();
+    if (created == nullptr)
+        throw SystemFault(L"párbeszédablak létrehozása (" + std::to_wstring(template_id_) + L")",
+                          GetLastError());
     CentreOnOwner(handle_, owner);
     if (!ending_) ShowWindow(handle_, SW_SHOW);
 }
@@ -125,7 +129,7 @@ void Dialog::RunModalLoop() {
     while (!ending_) {
         MSG message{};
         const BOOL got = GetMessageW(&message, nullptr, 0, 0);
-        if (got == -1) throw std::bad_alloc();
+        if (got == -1) throw SystemFault(L"üzenet fogadása", GetLastError());
         if (got == 0) {
             // The program is ending: the outer loop must end too.
             PostQuitMessage(static_cast<int>(message.wParam));

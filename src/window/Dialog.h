@@ -30,7 +30,7 @@ class Dialog {
     Dialog& operator=(const Dialog&) = delete;
 
     // Shows the dialog centred on its owner, in the user's message font, and returns when it is closed. The
-    // owner is disabled meanwhile. Throws what a handler throws, and std::bad_alloc when the system cannot;
+    // owner is disabled meanwhile. Throws what a handler throws, and SystemFault when the system cannot;
     // the dialog is gone then, without Form_Unload, and the owner is usable again.
     void ShowModal(HWND owner);
 

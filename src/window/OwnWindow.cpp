@@ -1,7 +1,6 @@
 #include "window/OwnWindow.h"
 
-#include <new>
-
+#include "faults/Faults.h"
 #include "faults/PendingFault.h"
 
 namespace lindrel {
@@ -17,7 +16,9 @@ void OwnWindow::Create(WNDCLASSEXW description, DWORD style, DWORD extended_styl
                                         CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, parent,
                                         nullptr, description.hInstance, this);
     ThrowPendingFault();
-    if (window == nullptr) throw std::bad_alloc();
+    if (window == nullptr)
+        throw SystemFault(L"ablak létrehozása (" + std::wstring(description.lpszClassName) + L")",
+                          GetLastError());
 }
 
 void OwnWindow::Destroy() {

@@ -23,7 +23,7 @@ class OwnWindow {
 
     // Makes the window, without a title and without a size of its own. `description` names the class, its
     // background and its menu; the rest is filled in. The class is registered when it is not there yet.
-    // Throws what OnMessage threw meanwhile, and std::bad_alloc when the system cannot; then there is no
+    // Throws what OnMessage threw meanwhile, and SystemFault when the system cannot; then there is no
     // window.
     void Create(WNDCLASSEXW description, DWORD style, DWORD extended_style = 0, HWND parent = nullptr);
     void Destroy();

@@ -1,6 +1,6 @@
 #include "window/PopupMenu.h"
 
-#include <new>
+#include "faults/Faults.h"
 
 namespace lindrel {
 
@@ -15,9 +15,9 @@ void Append(HMENU menu, HMENU bar, int command) {
     item.dwTypeData = caption;
     item.cch = 128;
     if (command != 0 && !GetMenuItemInfoW(bar, static_cast<UINT>(command), FALSE, &item))
-        throw std::bad_alloc();
+        throw SystemFault(L"menü létrehozása", GetLastError());
     if (!InsertMenuItemW(menu, static_cast<UINT>(GetMenuItemCount(menu)), TRUE, &item))
-        throw std::bad_alloc();
+        throw SystemFault(L"menü létrehozása", GetLastError());
 }
 
 }  // namespace
@@ -26,7 +26,8 @@ PopupMenu::PopupMenu(HINSTANCE instance, int id) {
     const Owned<HMENU> loaded(LoadMenuW(instance, MAKEINTRESOURCEW(id)));
     menu_.reset(GetSubMenu(loaded.get(), 0));
     // From here on it belongs to this object only.
-    if (menu_ == nullptr || !RemoveMenu(loaded.get(), 0, MF_BYPOSITION)) throw std::bad_alloc();
+    if (menu_ == nullptr || !RemoveMenu(loaded.get(), 0, MF_BYPOSITION))
+        throw SystemFault(L"menü betöltése (" + std::to_wstring(id) + L")", GetLastError());
 }
 
 PopupMenu::PopupMenu(HMENU bar, std::span<const int> commands) : menu_(CreatePopupMenu()) {

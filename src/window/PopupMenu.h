@@ -10,10 +10,10 @@ namespace lindrel {
 
 class PopupMenu {
   public:
-    // The first popup of a menu of the resources. Throws std::bad_alloc when there is none.
+    // The first popup of a menu of the resources. Throws SystemFault when there is none.
     PopupMenu(HINSTANCE instance, int id);
     // Commands of a menu bar by their ids, with captions, shortcuts and states as they are there; 0 stands
-    // for a separator. The first is the default, in bold. Throws std::bad_alloc when the system cannot.
+    // for a separator. The first is the default, in bold. Throws SystemFault when the system cannot.
     PopupMenu(HMENU bar, std::span<const int> commands);
 
     // Puts the radio mark on one of the items first..last.

@@ -1,8 +1,8 @@
 #include "window/Subclass.h"
 
-#include <new>
 #include <utility>
 
+#include "faults/Faults.h"
 #include "faults/PendingFault.h"
 
 namespace lindrel {
@@ -15,7 +15,8 @@ void Subclass::Attach(HWND window, Handler handler) {
     handler_ = std::move(handler);
     // Under a number of its own, so that a window can have several.
     const auto self = reinterpret_cast<UINT_PTR>(this);
-    if (!SetWindowSubclass(window, &Subclass::Procedure, self, self)) throw std::bad_alloc();
+    if (!SetWindowSubclass(window, &Subclass::Procedure, self, self))
+        throw SystemFault(L"egy ablak üzeneteinek figyelése", GetLastError());
     window_ = window;
 }
 

@@ -21,7 +21,7 @@ class Subclass {
     Subclass& operator=(const Subclass&) = delete;
 
     // From now on, until Detach() or until this object or the window is gone. To one window at a time, and in
-    // the window's thread. Throws std::bad_alloc when the system cannot.
+    // the window's thread. Throws SystemFault when the system cannot.
     void Attach(HWND window, Handler handler);
     // The handler may ask for it itself.
     void Detach();

@@ -28,6 +28,8 @@ TEST(FaultsTest, EveryExceptionIsAFaultToTheUser) {
     EXPECT_EQ(Report(EndOfFileFault()), Expected(62, L"Olvasás a fájl vége után"));
     EXPECT_EQ(Report(FileFault(L"C:\\a.lnd", L"A hozzáférés megtagadva")),
               Expected(75, L"C:\\a.lnd\r\nA hozzáférés megtagadva"));
+    EXPECT_EQ(Report(SystemFault(L"ablak létrehozása (frmStart)", 1410)),
+              Expected(1410, L"A Windows ezt nem tudta teljesíteni: ablak létrehozása (frmStart)"));
     EXPECT_EQ(Report(std::bad_alloc()), Expected(7, L"Elfogyott a memória"));
     EXPECT_EQ(Report(std::length_error("too long")), Expected(7, L"Elfogyott a memória"));
     EXPECT_EQ(Report(std::logic_error("never")), Expected(51, L"Belső hiba"));

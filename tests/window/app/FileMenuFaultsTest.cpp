@@ -169,8 +169,15 @@ TEST_F(FileMenuFaultsTest, WithoutTheLibraryOfTheFileDialogsTheBookStays) {
     const MainState before = program.State();
     {
         const ReplacedImport missing(&LoadLibraryExW, &LoadNothing);
-        // As after a cancelled dialog.
-        for (const int command : {ID_mnuSave, ID_mnuSaveAs}) program.Run(command);
+        for (const int command : {ID_mnuSave, ID_mnuSaveAs}) {
+            program.Choose(command);
+            const BoxOnScreen box = program.Box();
+            EXPECT_EQ(box.Title(), L"Hiba");
+            EXPECT_EQ(box.Text(),
+                      L"A Windows ezt nem tudta teljesíteni: a fájlválasztó ablak megnyitása\r\nHibakód: 2");
+            box.Press(IDOK);
+            program.Settle();
+        }
     }
     EXPECT_TRUE(program.NothingIsOpen());
     EXPECT_EQ(program.State(), before);

@@ -44,7 +44,9 @@ TEST(ProgramTest, AStartThatFailsIsReported) {
     WaitUntil("the thread", [&] { return thread_id != 0; });
     const BoxOnScreen report = WaitForBox(thread_id);
     EXPECT_EQ(report.Title(), L"Lindrel");
-    EXPECT_EQ(report.Text(), L"Futásidejű hiba: 7\r\n\r\nElfogyott a memória.\r\n\r\nA program bezárul.");
+    EXPECT_EQ(report.Text(),
+              L"Futásidejű hiba: 0\r\n\r\nA Windows ezt nem tudta teljesíteni: ablak létrehozása (TrayArea)."
+              L"\r\n\r\nA program bezárul.");
     report.Press(IDOK);
     starting.join();
     EXPECT_EQ(exit_code, 1);

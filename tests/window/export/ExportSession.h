@@ -65,9 +65,6 @@ class ExportSession : public ::testing::Test {
         EXPECT_EQ(file.Filters(), std::vector<std::wstring>{filter});
         file.Accept(path);
     }
-    std::wstring FilterOfMain() const {
-        return program.Ask<std::wstring>([](frmStart& form) { return form.FileDialog().Filter; });
-    }
     static std::string Header(const std::string& name) {
         return "\xF7\xF7\xF7\xF7\xF7< " + name + std::string(120 - name.size(), '-') + "\r\n";
     }

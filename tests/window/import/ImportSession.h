@@ -79,9 +79,6 @@ class ImportSession : public ::testing::Test {
         });
     }
     WholeState Whole() const { return {program.State(), program.BookBytes()}; }
-    std::wstring FilterOfMain() const {
-        return program.Ask<std::wstring>([](frmStart& form) { return form.FileDialog().Filter; });
-    }
 
     TemporaryFolder folder;
     Program program;

@@ -6,11 +6,11 @@
 
 #include <array>
 #include <cstring>
-#include <new>
 #include <set>
 #include <utility>
 #include <vector>
 
+#include "faults/Faults.h"
 #include "resources/resource.h"
 #include "tests/window/support/Drawn.h"
 
@@ -159,9 +159,9 @@ TEST(PictureTest, DisabledLooksAreGreyAndFaintAndLookLikeTheirPictures) {
 
 TEST(PictureTest, WhatIsNotInTheResourcesIsAnError) {
     constexpr int kNoIcon = 9999;
-    EXPECT_THROW(Picture(Instance(), kNoIcon, 16), std::bad_alloc);
+    EXPECT_THROW(Picture(Instance(), kNoIcon, 16), SystemFault);
     constexpr std::array<PictureStrip, 2> kMissing{{{kNoIcon, 16}, {IDB_ImageList1_24, 24}}};
-    EXPECT_THROW(PictureList(Instance(), kMissing, 16, PictureLook::Enabled), std::bad_alloc);
+    EXPECT_THROW(PictureList(Instance(), kMissing, 16, PictureLook::Enabled), SystemFault);
 }
 
 TEST(PictureTest, MovesTheIconAlong) {

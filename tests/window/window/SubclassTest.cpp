@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "faults/Faults.h"
 #include "faults/PendingFault.h"
 #include "window/Control.h"
 
@@ -160,7 +161,7 @@ TEST_F(SubclassTest, TheEndOfTheWindowIsHeardAndLeavesTheObjectAlone) {
 
 TEST_F(SubclassTest, AWindowThatIsNoneIsAnError) {
     Subclass subclass;
-    EXPECT_THROW(subclass.Attach(nullptr, Heard(L"első", std::nullopt)), std::bad_alloc);
+    EXPECT_THROW(subclass.Attach(nullptr, Heard(L"első", std::nullopt)), SystemFault);
 }
 
 }  // namespace

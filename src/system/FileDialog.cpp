@@ -1,0 +1,90 @@
+#include "system/FileDialog.h"
+
+#include <cderr.h>
+#include <commdlg.h>
+
+#include <algorithm>
+#include <vector>
+
+#include "faults/Faults.h"
+#include "system/MsgBox.h"
+#include "system/Shell.h"
+#include "system/SystemLibrary.h"
+
+namespace lindrel {
+
+namespace {
+
+constexpr std::size_t kLongestPath = 32768;
+
+enum class Purpose { Open, Save };
+
+// Shows one of the file dialogs; false if no file was chosen, with the system's reason, which is 0 if the
+// user cancelled. The library of the dialogs is loaded for the first of them, since it brings the printing
+// system along.
+bool Show(Purpose purpose, OPENFILENAMEW& dialog, DWORD& reason) {
+    constexpr wchar_t kLibrary[] = L"comdlg32.dll";
+    const char* const name = purpose == Purpose::Save ? "GetSaveFileNameW" : "GetOpenFileNameW";
+    const auto show = SystemFunction<decltype(&GetOpenFileNameW)>(kLibrary, name);
+    const auto error = SystemFunction<decltype(&CommDlgExtendedError)>(kLibrary, "CommDlgExtendedError");
+    reason = CDERR_INITIALIZATION;
+    if (show == nullptr || error == nullptr) return false;
+    if (show(&dialog)) return true;
+    reason = error();
+    return false;
+}
+
+std::optional<std::wstring> ChooseFile(HWND owner, const FileDialogOptions& options, Purpose purpose) {
+    std::wstring filter = options.Filter + L"||";
+    std::replace(filter.begin(), filter.end(), L'|', L'\0');
+    std::vector<wchar_t> path(kLongestPath, L'\0');
+    std::copy_n(options.FileName.begin(), std::min(options.FileName.size(), path.size() - 1), path.begin());
+
+    const bool save = purpose == Purpose::Save;
+    OPENFILENAMEW dialog{};
+    dialog.lStructSize = sizeof dialog;
+    dialog.hwndOwner = owner;
+    dialog.lpstrFilter = filter.c_str();
+    dialog.lpstrFile = path.data();
+    dialog.nMaxFile = static_cast<DWORD>(path.size());
+    dialog.lpstrInitialDir = options.InitDir.empty() ? nullptr : options.InitDir.c_str();
+    dialog.lpstrTitle = options.Title.c_str();
+    dialog.lpstrDefExt = save && !options.DefaultExt.empty() ? options.DefaultExt.c_str() : nullptr;
+    dialog.Flags = OFN_EXPLORER | OFN_HIDEREADONLY | OFN_NOCHANGEDIR | OFN_ENABLESIZING;
+    if (save) dialog.Flags |= OFN_PATHMUSTEXIST;
+    if (options.AskToOverwrite) dialog.Flags |= OFN_OVERWRITEPROMPT;
+
+    DWORD reason = 0;
+    if (Show(purpose, dialog, reason)) return path.data();
+    if (reason == 0) return std::nullopt;
+    const SystemFault fault(L"a fájlválasztó ablak megnyitása", reason);
+    MsgBox(owner, fault.Meaning() + L"\r\nHibakód: " + std::to_wstring(reason), MB_OK | MB_ICONERROR,
+           kErrorTitle);
+    throw fault;
+}
+
+}  // namespace
+
+std::optional<std::wstring> ChooseExistingFile(HWND owner, FileDialogOptions options) {
+    while (const std::optional<std::wstring> path = ChooseFileToOpen(owner, options)) {
+        if (FileExists(owner, *path)) return path;
+        options.FileName = *path;
+    }
+    return std::nullopt;
+}
+
+std::optional<std::wstring> ChooseFileToOpen(HWND owner, const FileDialogOptions& options) {
+    return ChooseFile(owner, options, Purpose::Open);
+}
+
+std::optional<std::wstring> ChooseFileToSave(HWND owner, const FileDialogOptions& options) {
+    return ChooseFile(owner, options, Purpose::Save);
+}
+
+bool FileExists(HWND owner, const std::wstring& path) {
+    if (FileIsThere(path)) return true;
+    MsgBox(owner, L"A megadott fájl nem létezik", MB_OK, kErrorTitle);
+    return false;
+}
+
+}  // namespace lindrel

@@ -1,0 +1,190 @@
+// What the program asks of the system's file dialogs, to the last field, and what it makes of their answers.
+
+#include "system/FileDialog.h"
+
+#include <cderr.h>
+#include <commdlg.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstring>
+
+#include "resources/resource.h"
+#include "tests/window/support/Program.h"
+#include "tests/window/support/ReplacedImport.h"
+
+namespace lindrel::testing {
+namespace {
+
+struct Asked {
+    bool Save = false;
+    std::wstring Title, Filter, FileName, DefaultExt, InitDir;
+    DWORD Flags = 0;
+    bool operator==(const Asked&) const = default;
+};
+
+// The last request, and the answer: a path, or the system's reason, 0 for a user who cancels. Written by the
+// thread of the program, read when that has settled.
+Asked asked;
+const wchar_t* answer = nullptr;
+DWORD reason = 0;
+
+std::wstring Text(const wchar_t* text) {
+    return text == nullptr ? std::wstring() : std::wstring(text);
+}
+
+BOOL Answer(bool save, OPENFILENAMEW* dialog) {
+    const wchar_t* end = dialog->lpstrFilter;
+    while (end[0] != 0 || end[1] != 0) ++end;
+    std::wstring filter(dialog->lpstrFilter, end);
+    std::replace(filter.begin(), filter.end(), L'\0', L'|');
+    asked = {save,
+             Text(dialog->lpstrTitle),
+             filter,
+             Text(dialog->lpstrFile),
+             Text(dialog->lpstrDefExt),
+             Text(dialog->lpstrInitialDir),
+             dialog->Flags};
+    if (answer == nullptr) return FALSE;
+    std::copy_n(answer, std::wcslen(answer) + 1, dialog->lpstrFile);
+    return TRUE;
+}
+
+BOOL WINAPI OpenDialog(OPENFILENAMEW* dialog) {
+    return Answer(false, dialog);
+}
+BOOL WINAPI SaveDialog(OPENFILENAMEW* dialog) {
+    return Answer(true, dialog);
+}
+DWORD WINAPI Reason() {
+    return reason;
+}
+
+const auto find_function = &GetProcAddress;
+
+FARPROC WINAPI FindFunction(HMODULE module, LPCSTR name) {
+    if (std::strcmp(name, "GetOpenFileNameW") == 0)
+        return reinterpret_cast<FARPROC>(reinterpret_cast<void*>(&OpenDialog));
+    if (std::strcmp(name, "GetSaveFileNameW") == 0)
+        return reinterpret_cast<FARPROC>(reinterpret_cast<void*>(&SaveDialog));
+    if (std::strcmp(name, "CommDlgExtendedError") == 0)
+        return reinterpret_cast<FARPROC>(reinterpret_cast<void*>(&Reason));
+    return find_function(module, name);
+}
+
+class FileDialogTest : public ::testing::Test {
+  protected:
+    static constexpr DWORD kAlways = OFN_EXPLORER | OFN_HIDEREADONLY | OFN_NOCHANGEDIR | OFN_ENABLESIZING;
+    static constexpr wchar_t kBooks[] = L"Lindrel fájlok (*.lnd)|*.lnd";
+
+    FileDialogTest() {
+        asked = {};
+        answer = nullptr;
+        reason = 0;
+        program.Add(1, {{L"Név", L"http://nev.hu"}});
+        program.ClickBox(1);
+    }
+    Asked AskedBy(int command) {
+        program.Run(command);
+        return asked;
+    }
+    static std::wstring ProgramFolder() {
+        wchar_t path[MAX_PATH] = L"";
+        EXPECT_NE(GetModuleFileNameW(nullptr, path, MAX_PATH), 0u);
+        const std::wstring own = path;
+        return own.substr(0, own.rfind(L'\\') + 1);
+    }
+    void ExpectFailureIsTold() const {
+        const BoxOnScreen box = program.Box();
+        EXPECT_EQ(box.Title(), L"Hiba");
+        EXPECT_EQ(box.Text(),
+                  L"A Windows ezt nem tudta teljesíteni: a fájlválasztó ablak megnyitása\r\nHibakód: 2");
+        EXPECT_EQ(box.Icon(), BoxIcon::Error);
+        box.Press(IDOK);
+        program.Settle();
+    }
+
+    ReplacedImport functions{&GetProcAddress, &FindFunction};
+    Program program;
+};
+
+TEST_F(FileDialogTest, BooksPagesTextsAndThemesAreAskedForByTheirPatterns) {
+    const std::wstring folder = ProgramFolder();
+    const Asked open{false, L"File megnyitása", kBooks, L"", L"", folder, kAlways};
+    EXPECT_EQ(AskedBy(ID_mnuOpen), open);
+
+    const DialogOnScreen import = (program.Choose(ID_mnuImport), program.Dialog(L"Importálás"));
+    import.Click(ID_frmImport_cmdOK);
+    program.Settle();
+    EXPECT_EQ(asked, (Asked{false, L"Válasszon ki egy weblapot", L"weblapok (*.htm)|*.htm;*.html", L"", L"",
+                            L"", kAlways}));
+    import.ClickAndWaitForClose(ID_frmImport_cmdCancel);
+
+    const DialogOnScreen dialog = (program.Choose(ID_mnuExport), program.Dialog(L"Exportálás"));
+    SendMessageW(dialog.Control(ID_frmExport_lstSource), LB_SETSEL, TRUE, 0);
+    dialog.Click(ID_frmExport_cmdBrowse);
+    program.Settle();
+    EXPECT_EQ(asked, (Asked{false, L"Arculatfájl kiválasztása", L"arculatfájlok (*.aut)|*.aut", L"", L"", L"",
+                            kAlways}));
+    const Asked page{true,   L"Exportálás", L"weblapok (*.htm)|*.htm",  L"",
+                     L"htm", L"",           kAlways | OFN_PATHMUSTEXIST};
+    const Asked text{true,   L"Exportálás", L"szövegfájlok (*.txt)|*.txt", L"",
+                     L"txt", L"",           kAlways | OFN_PATHMUSTEXIST};
+    for (const int kind : {0, 1, 0}) {
+        dialog.Pick(ID_frmExport_cmbType, kind);
+        dialog.Click(ID_frmExport_cmdOK);
+        program.Settle();
+        EXPECT_EQ(asked, kind == 0 ? page : text);
+    }
+    dialog.ClickAndWaitForClose(ID_frmExport_cmdCancel);
+
+    EXPECT_EQ(AskedBy(ID_mnuOpen), open);
+    const Asked save_as{true, L"File mentése", kBooks, L"", L"lnd", folder, kAlways | OFN_PATHMUSTEXIST};
+    EXPECT_EQ(AskedBy(ID_mnuSaveAs), save_as);
+    program.OnUi([](frmStart& form) { form.OpenedBook().Modified = true; });
+    Asked first_save = save_as;
+    first_save.Flags |= OFN_OVERWRITEPROMPT;
+    EXPECT_EQ(AskedBy(ID_mnuSave), first_save);
+}
+
+TEST_F(FileDialogTest, AMissingFileIsProposedAgain) {
+    answer = L"C:\\nincs ilyen.lnd";
+    program.Choose(ID_mnuOpen);
+    const BoxOnScreen box = program.Box();
+    EXPECT_EQ(box.Title(), L"Hiba");
+    EXPECT_EQ(box.Text(), L"A megadott fájl nem létezik");
+    answer = nullptr;
+    box.Press(IDOK);
+    program.Settle();
+    EXPECT_TRUE(program.NothingIsOpen());
+    EXPECT_EQ(asked.FileName, L"C:\\nincs ilyen.lnd");
+}
+
+TEST_F(FileDialogTest, ADialogThatFailsIsToldOfAndChangesNothing) {
+    const MainState before = program.State();
+    reason = CDERR_INITIALIZATION;
+    program.Choose(ID_mnuOpen);
+    ExpectFailureIsTold();
+    program.Choose(ID_mnuSaveAs);
+    ExpectFailureIsTold();
+
+    const DialogOnScreen import = (program.Choose(ID_mnuImport), program.Dialog(L"Importálás"));
+    import.Click(ID_frmImport_cmdOK);
+    ExpectFailureIsTold();
+    import.ClickAndWaitForClose(ID_frmImport_cmdCancel);
+
+    const DialogOnScreen dialog = (program.Choose(ID_mnuExport), program.Dialog(L"Exportálás"));
+    SendMessageW(dialog.Control(ID_frmExport_lstSource), LB_SETSEL, TRUE, 0);
+    dialog.Click(ID_frmExport_cmdBrowse);
+    ExpectFailureIsTold();
+    EXPECT_EQ(dialog.Text(ID_frmExport_cmbTheme), L"");
+    dialog.Click(ID_frmExport_cmdOK);
+    ExpectFailureIsTold();
+    dialog.WaitForClose();  // as after any failure of the export
+    program.Settle();
+    EXPECT_TRUE(program.NothingIsOpen());
+    EXPECT_EQ(program.State(), before);
+}
+
+}  // namespace
+}  // namespace lindrel::testing
