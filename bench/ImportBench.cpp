@@ -23,8 +23,11 @@ namespace {
 constexpr int kLinks = 16384;
 constexpr std::size_t kBytes = 5U << 20U;
 
-// A page of about 5 MB in UTF-8, with paragraphs between the links.
-std::string LargePage(const std::string& line_end, const std::string& closing_tag) {
+constexpr char kLineEnd[] = "\r\n";
+constexpr char kClosingTag[] = "</a>";
+
+// A page of about 5 MB, with paragraphs between the links.
+std::string LargePage(const std::string& line_end, const std::string& closing_tag, TextEncoding encoding) {
     const std::string paragraph =
         "<p class=\"leiras\">Műsorok, hírek, időjárás: minden egy helyen.</p>" + line_end;
     std::string page = "<!DOCTYPE html><html><head><title>Lapok</title></head><body>" + line_end;
@@ -35,18 +38,16 @@ std::string LargePage(const std::string& line_end, const std::string& closing_ta
         const std::size_t share = kBytes / kLinks * static_cast<std::size_t>(link);
         while (page.size() < share) page += paragraph;
     }
-    return page + "</body></html>" + line_end;
-}
-
-std::string InWindows1250(std::string_view utf8) {
-    return std::string(DecodedText(utf8, TextEncoding::Utf8).Text());
+    page += "</body></html>" + line_end;
+    if (encoding == TextEncoding::Utf8) return page;
+    return std::string(DecodedText(page, TextEncoding::Utf8).Text());
 }
 
 // Floor of importing: grep for the links. It writes to a file, since it stops at the first match when it
 // writes to the null device.
 void FloorGrep(benchmark::State& state) {
     const std::filesystem::path page = TemporaryFile("lap.htm");
-    WriteFileBytes(page, InWindows1250(LargePage("\r\n", "</a>")));
+    WriteFileBytes(page, LargePage(kLineEnd, kClosingTag, TextEncoding::Windows1250));
     const std::string command = "LC_ALL=C grep -o 'a href=\"[^\"]*\"' '" + page.string() + "' >'" +
                                 TemporaryFile("found.txt").string() + "'";
     for (auto _ : state)
@@ -54,46 +55,32 @@ void FloorGrep(benchmark::State& state) {
 }
 BENCHMARK(FloorGrep)->Unit(benchmark::kMillisecond)->UseRealTime();
 
-void Import(benchmark::State& state, const std::string& page, int links) {
+void Import(benchmark::State& state, const char* line_end, const char* closing_tag, TextEncoding encoding) {
     const std::filesystem::path path = TemporaryFile("lap.htm");
-    WriteFileBytes(path, page);
+    WriteFileBytes(path, LargePage(line_end, closing_tag, encoding));
+    const int expected = *closing_tag == '\0' ? 0 : kLinks;
     for (auto _ : state) {
         Book book;
         try {
-            const TextFile text = TextOfPage(ReadFileBytes(path));
-            book.AddEntry(1, LinksOfPage(text.Text(), text.Encoding, LinkChoice::Online));
+            const TextFile page = TextOfPage(ReadFileBytes(path));
+            book.AddEntry(1, LinksOfPage(page.Text(), page.Encoding, LinkChoice::Online));
         } catch (const EndOfFileFault&) {
-            // An anchor that is not closed: there are no links then.
+            // An anchor is not closed: there are no links then.
         }
-        if (book.EntryCount() != links) throw std::runtime_error("not the links of the page");
+        if (book.EntryCount() != expected) throw std::runtime_error("not the links of the page");
     }
     state.SetLabel("FloorGrep");
 }
 
-void ImportPage(benchmark::State& state) {
-    Import(state, InWindows1250(LargePage("\r\n", "</a>")), kLinks);
-}
-BENCHMARK(ImportPage)->Unit(benchmark::kMillisecond)->UseRealTime();
-
-void ImportUtf8Page(benchmark::State& state) {
-    Import(state, LargePage("\r\n", "</a>"), kLinks);
-}
-BENCHMARK(ImportUtf8Page)->Unit(benchmark::kMillisecond)->UseRealTime();
-
-void ImportPageOfCarriageReturns(benchmark::State& state) {
-    Import(state, LargePage("\r", "</a>"), kLinks);
-}
-BENCHMARK(ImportPageOfCarriageReturns)->Unit(benchmark::kMillisecond)->UseRealTime();
-
-void ImportPageOfOneLine(benchmark::State& state) {
-    Import(state, LargePage(" ", "</a>"), kLinks);
-}
-BENCHMARK(ImportPageOfOneLine)->Unit(benchmark::kMillisecond)->UseRealTime();
-
-void ImportPageWithoutClosingTags(benchmark::State& state) {
-    Import(state, LargePage("\r\n", ""), 0);
-}
-BENCHMARK(ImportPageWithoutClosingTags)->Unit(benchmark::kMillisecond)->UseRealTime();
+// A page in Windows-1250 and one in UTF-8; pages on which a search for a line end or a closing tag could go
+// on to the end of the page again and again.
+#define IMPORT(name, ...) \
+    BENCHMARK_CAPTURE(Import, name, __VA_ARGS__)->Name(#name)->Unit(benchmark::kMillisecond)->UseRealTime()
+IMPORT(ImportPage, kLineEnd, kClosingTag, TextEncoding::Windows1250);
+IMPORT(ImportUtf8Page, kLineEnd, kClosingTag, TextEncoding::Utf8);
+IMPORT(ImportPageOfCarriageReturns, "\r", kClosingTag, TextEncoding::Windows1250);
+IMPORT(ImportPageOfOneLine, " ", kClosingTag, TextEncoding::Windows1250);
+IMPORT(ImportPageWithoutClosingTags, kLineEnd, "", TextEncoding::Windows1250);
 
 }  // namespace
 }  // namespace lindrel::bench

@@ -1,5 +1,5 @@
-// Reads any bytes as a shortcut file, compares the addresses of files in a plain model with what the rules
-// say, and reads back what the export writes.
+// Reads any bytes as a shortcut file, checks the addresses of files in a plain model against a second reader,
+// and reads back what the export writes.
 
 #include <string>
 #include <vector>

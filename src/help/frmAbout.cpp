@@ -12,8 +12,7 @@ namespace lindrel {
 
 namespace {
 
-// In pixels on a screen of 96 dots per inch.
-constexpr int kIconSide = 48;
+constexpr int kIconSide = 48;  // in pixels at 96 dpi
 
 LOGFONTW TitleFont(UINT dpi) {
     LOGFONTW font = MessageFont(dpi);
@@ -53,13 +52,7 @@ void frmAbout::ApplyResolution(UINT dpi) {
 }
 
 void frmAbout::OnCommand(int id, int) {
-    switch (id) {
-        case ID_frmAbout_cmdOK:
-        case IDCANCEL:
-            return cmdOK_Click();
-        default:
-            return;
-    }
+    if (id == ID_frmAbout_cmdOK || id == IDCANCEL) cmdOK_Click();
 }
 
 LRESULT frmAbout::OnNotify(const NMHDR& header) {
@@ -69,7 +62,7 @@ LRESULT frmAbout::OnNotify(const NMHDR& header) {
 }
 
 void frmAbout::Label1_Click() {
-    // An address that nothing opens is the shell's to report.
+    // The shell reports an address that it cannot open.
     static_cast<void>(OpenAddress(Handle(), kHomePage));
 }
 

@@ -5,6 +5,7 @@
 #include <limits>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "faults/Faults.h"
 #include "text/Ascii.h"
@@ -19,7 +20,7 @@ constexpr std::string_view kClosing = "</a";
 constexpr std::size_t kLongestName = 55;
 
 // The offset of the first `word` (in lower case) in a line, in either case, or kNowhere. `sign` is a
-// character of the word that is no letter and rare in text: the search goes from one to the next.
+// character of the word that is rare and not a letter; the search goes from one such character to the next.
 std::size_t FindCaseless(std::string_view line, std::string_view word, char sign) {
     const std::size_t before = word.find(sign);
     for (std::size_t at = line.find(sign, before); at != kNowhere; at = line.find(sign, at + 1))
@@ -68,7 +69,7 @@ class AnchorScanner {
             // A closing tag at the start of a line does not count.
             closed = closing != kNowhere && closing != 0;
             chunk.Append(" ", encoding_);
-            // One more than the closing tag: its ">" or, where that is missing, perhaps a quotation mark.
+            // And one more character: mostly the ">", but a quotation mark there ends an address.
             chunk.Append(closed ? line.substr(0, closing + kClosing.size() + 1) : line, encoding_);
         }
     }
@@ -108,8 +109,9 @@ void StageLink(std::vector<NewEntry>& staged, const DecodedText& chunk, std::int
     // Without a ">" the name is made of the whole chunk: npos + 1 is 0.
     std::string_view name = text.substr(text.find('>', quote) + 1);
     CleanLinkText(name);
+    NewEntry link{std::string(name), chunk.Address(0, quote)};
     staged.resize(static_cast<std::size_t>(number));
-    staged.back() = {std::string(name), chunk.Address(0, quote)};
+    staged.back() = std::move(link);
 }
 
 void CleanLinkText(std::string_view& text) {

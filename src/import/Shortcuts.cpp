@@ -15,9 +15,8 @@ namespace lindrel {
 
 namespace {
 
-// Length of ".url", in any case.
 constexpr std::size_t kExtensionLength = 4;
-// Users know that larger folders are refused, and split them.
+// People know that larger folders are refused, and split them.
 constexpr std::size_t kMostShortcuts = 255;
 
 bool IsShortcutName(const std::wstring& name) {
@@ -52,7 +51,7 @@ std::string ShortcutAddress(std::vector<char> file) {
 
     static const CaselessNeedle key("URL=");
     const std::size_t found = key.FindIn(line.Text());
-    // Without a key the line loses three characters: users know such shortcuts to be imported like that.
+    // A line without the key loses three characters: such files have always been imported like that.
     const std::size_t address = found == std::string_view::npos ? 3 : found + 4;
     if (line.Text().size() < address) throw ArgumentFault();
     return line.Address(address, line.Text().size());

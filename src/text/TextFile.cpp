@@ -50,7 +50,7 @@ std::string_view TakeLine(std::string_view& text) {
     const auto length = static_cast<std::size_t>(end - text.begin());
     const std::string_view line = text.substr(0, length);
     text.remove_prefix(length);
-    text.remove_prefix(text.starts_with("\r\n") ? 2 : text.empty() ? 0 : 1);
+    text.remove_prefix(std::min<std::size_t>(text.starts_with("\r\n") ? 2 : 1, text.size()));
     return line;
 }
 

@@ -186,7 +186,7 @@ TEST_F(frmImportTest, PagesOfAnyEncodingAndEndingAreImported) {
 
 TEST_F(frmImportTest, APageWithoutLinksGivesZeroAndDoesNotChangeTheBook) {
     WholeState expected = Whole();
-    // The list is filled anew all the same.
+    // The list is refilled all the same.
     const bool modified = expected.Main.Modified;
     expected.Main = WithImported(expected.Main, {});
     expected.Main.Modified = modified;

@@ -49,8 +49,8 @@ std::string Padded(const std::string& tip) {
     return field + std::string(64 - field.size(), ' ');
 }
 
-// The icon on a window of its own; the shell is replaced by a recorder, which refuses everything unless a
-// test says otherwise.
+// The icon on a window of its own. The shell is replaced by a recorder, which refuses all operations but
+// those in `accepted`.
 class TrayAreaTest : public ::testing::Test {
   protected:
     TrayAreaTest() {
@@ -100,21 +100,21 @@ class TrayAreaTest : public ::testing::Test {
         return {Call(operation, flags, shown, tip)};
     }
 
-    void TellOfNewTaskbar() const { SendMessageW(owner, RegisterWindowMessageW(L"TaskbarCreated"), 0, 0); }
+    void AnnounceNewTaskbar() const { SendMessageW(owner, RegisterWindowMessageW(L"TaskbarCreated"), 0, 0); }
 
-    void HearEverything() {
-        control->MouseMove = [this] { heard.emplace_back(L"MouseMove"); };
+    void RecordEvents() {
+        control->MouseMove = [this] { events.emplace_back(L"MouseMove"); };
         control->MouseDown = [this](std::int16_t& button) {
-            heard.push_back(L"MouseDown " + std::to_wstring(button));
+            events.push_back(L"MouseDown " + std::to_wstring(button));
         };
         control->MouseUp = [this](std::int16_t& button) {
-            heard.push_back(L"MouseUp " + std::to_wstring(button));
+            events.push_back(L"MouseUp " + std::to_wstring(button));
         };
-        control->DblClick = [this] { heard.emplace_back(L"DblClick"); };
+        control->DblClick = [this] { events.emplace_back(L"DblClick"); };
     }
-    Texts HeardOf(const std::vector<LPARAM>& messages) {
+    Texts EventsOf(const std::vector<LPARAM>& messages) {
         for (const LPARAM message : messages) SendMessageW(window, 512, 4711, message);
-        return std::exchange(heard, {});
+        return std::exchange(events, {});
     }
 
     // Messages that windows were told to let through from programs with fewer rights.
@@ -127,7 +127,7 @@ class TrayAreaTest : public ::testing::Test {
     static BOOL WINAPI Record(DWORD operation, NOTIFYICONDATAA* record) {
         calls.push_back({operation, record->cbSize, record->hWnd, record->uID, record->uFlags,
                          record->uCallbackMessage, record->hIcon, std::string(record->szTip, 64)});
-        EXPECT_EQ(record->szTip[64], '\0');  // for a reader that goes on to a NUL
+        EXPECT_EQ(record->szTip[64], '\0');  // for a reader that looks for a NUL
         return std::count(accepted.begin(), accepted.end(), operation) != 0;
     }
     static inline Calls calls;
@@ -139,7 +139,7 @@ class TrayAreaTest : public ::testing::Test {
     const HWND owner = CreateWindowExW(0, L"STATIC", L"tulajdonos", WS_OVERLAPPEDWINDOW, 0, 0, 300, 200,
                                        nullptr, nullptr, nullptr, nullptr);
     Texts changed;
-    Texts heard;
+    Texts events;
     std::unique_ptr<TrayArea> control;
     HWND window = nullptr;
     UINT identifier = 0;  // of the icon when it was last shown
@@ -154,7 +154,7 @@ TEST_F(TrayAreaTest, ANewControlIsEmptyAndTellsTheShellNothing) {
     EXPECT_EQ(GetParent(window), owner);
 }
 
-TEST_F(TrayAreaTest, ShowingAddsTheIconWithItsToolTipOnce) {
+TEST_F(TrayAreaTest, ShowingAddsTheIconOnceAndHidingRemovesItOnce) {
     control->SetIcon(icon);
     control->SetToolTip(L"  Lindrel  ");
     Taken();
@@ -162,8 +162,13 @@ TEST_F(TrayAreaTest, ShowingAddsTheIconWithItsToolTipOnce) {
     ShowExpecting(7, icon, Padded("Lindrel"));
     control->SetVisible(true);
     EXPECT_EQ(Taken(), Calls{});
-    EXPECT_EQ(changed, Texts{L"Visible"});
+    EXPECT_EQ(TakenChanges(), Texts{L"Visible"});
     EXPECT_TRUE(control->Visible());
+    control->SetVisible(false);
+    control->SetVisible(false);
+    EXPECT_EQ(Taken(), OneCall(NIM_DELETE, 7, icon, Padded("Lindrel")));
+    EXPECT_EQ(TakenChanges(), Texts{L"Visible"});
+    EXPECT_FALSE(control->Visible());
 }
 
 TEST_F(TrayAreaTest, ShowingSendsOnlyWhatIsSet) {
@@ -173,22 +178,12 @@ TEST_F(TrayAreaTest, ShowingSendsOnlyWhatIsSet) {
     control->SetIcon(icon);
     ShowExpecting(3, icon, kNoTip);
     control->SetVisible(false);
+    EXPECT_EQ(Taken(), OneCall(NIM_DELETE, 3, icon, kNoTip));
     control->SetIcon(std::nullopt);
     control->SetToolTip(L"Súgó");
     Taken();
     ASSERT_EQ(GetACP(), 1250u);
     ShowExpecting(5, icon, Padded("S\xFAg\xF3"));
-}
-
-TEST_F(TrayAreaTest, HidingRemovesTheIconAsTheRecordStandsOnce) {
-    control->SetIcon(icon);
-    Show();
-    TakenChanges();
-    control->SetVisible(false);
-    control->SetVisible(false);
-    EXPECT_EQ(Taken(), OneCall(NIM_DELETE, 3, icon, kNoTip));
-    EXPECT_EQ(changed, Texts{L"Visible"});
-    EXPECT_FALSE(control->Visible());
 }
 
 TEST_F(TrayAreaTest, EachShowingDrawsANewIdentifierAndKeepsTheToolTip) {
@@ -222,7 +217,7 @@ TEST_F(TrayAreaTest, ANewIconOfAShownOneModifiesIt) {
     EXPECT_TRUE(control->Visible());
 }
 
-TEST_F(TrayAreaTest, AChangeIsAnnouncedWhenTheShellHasHeardOfIt) {
+TEST_F(TrayAreaTest, AChangeIsAnnouncedAfterTheShellWasTold) {
     using Announced = std::vector<std::pair<std::wstring, std::vector<DWORD>>>;
     Announced announced;
     control->PropertyChanged = [&](const wchar_t* name) { announced.emplace_back(name, TakenOperations()); };
@@ -290,7 +285,7 @@ TEST_F(TrayAreaTest, SavedPropertiesAreStoredWithoutACallToTheShell) {
     EXPECT_EQ(control->SavedProperties(), (TrayArea::Properties{icon, L" mentett ", true}));
     // Visible was true already: no icon appears, nor with a new taskbar.
     control->SetVisible(true);
-    TellOfNewTaskbar();
+    AnnounceNewTaskbar();
     EXPECT_EQ(Taken(), Calls{});
     EXPECT_EQ(changed, Texts{});
     control->SetVisible(false);
@@ -299,7 +294,7 @@ TEST_F(TrayAreaTest, SavedPropertiesAreStoredWithoutACallToTheShell) {
 }
 
 TEST_F(TrayAreaTest, ANewTaskbarGetsAShownIconAgain) {
-    TellOfNewTaskbar();
+    AnnounceNewTaskbar();
     EXPECT_EQ(Taken(), Calls{});
     control->SetIcon(icon);
     control->SetToolTip(L"Lindrel");
@@ -308,13 +303,13 @@ TEST_F(TrayAreaTest, ANewTaskbarGetsAShownIconAgain) {
     control->SetIcon(other_icon);
     control->SetToolTip(L"Lindrel 2");
     Taken();
-    TellOfNewTaskbar();
+    AnnounceNewTaskbar();
     // A taskbar that has the icon already refuses to add it; then it can be modified.
     EXPECT_EQ(Taken(), (Calls{Call(NIM_ADD, 7, other_icon, Padded("Lindrel 2")),
                               Call(NIM_MODIFY, 7, other_icon, Padded("Lindrel 2"))}));
     control->SetVisible(false);
     Taken();
-    TellOfNewTaskbar();
+    AnnounceNewTaskbar();
     EXPECT_EQ(Taken(), Calls{});
 }
 
@@ -326,31 +321,31 @@ TEST_F(TrayAreaTest, TheBroadcastOfANewTaskbarReachesTheControlOfAHiddenWindow) 
     EXPECT_EQ(TakenOperations(), (std::vector<DWORD>{NIM_ADD, NIM_MODIFY}));
 }
 
-TEST_F(TrayAreaTest, ANewTaskbarThatNeitherTakesNorHasTheIconHasLostIt) {
+TEST_F(TrayAreaTest, ATaskbarThatNeitherAddsNorModifiesTheIconHasLostIt) {
     int lost = 0;
     control->IconLost = [&lost] { ++lost; };
-    TellOfNewTaskbar();
+    AnnounceNewTaskbar();
     EXPECT_EQ(lost, 0);  // it is not shown
     Show();
-    TellOfNewTaskbar();
+    AnnounceNewTaskbar();
     EXPECT_EQ(lost, 1);
     EXPECT_TRUE(control->Visible());
     EXPECT_FALSE(control->IsTaken());
 
     accepted = {NIM_MODIFY};
-    TellOfNewTaskbar();
+    AnnounceNewTaskbar();
     EXPECT_EQ(lost, 1);
     EXPECT_TRUE(control->IsTaken());
 
     Taken();
     accepted = {NIM_ADD};
-    TellOfNewTaskbar();
+    AnnounceNewTaskbar();
     EXPECT_EQ(lost, 1);
     EXPECT_TRUE(control->IsTaken());
     EXPECT_EQ(TakenOperations(), std::vector<DWORD>{NIM_ADD});
 }
 
-TEST_F(TrayAreaTest, AShellWithFewerRightsIsHeard) {
+TEST_F(TrayAreaTest, MessagesOfAShellWithFewerRightsAreLetThrough) {
     allowed.clear();
     const ReplacedImport filter(&ChangeWindowMessageFilterEx, &RecordFilter);
     PlaceControl(TrayArea::Environment::Running);
@@ -363,7 +358,7 @@ TEST_F(TrayAreaTest, TheEndOfTheControlAlwaysRemovesItsIcon) {
     control.reset();
     EXPECT_EQ(Taken(), OneCall(NIM_DELETE, 1, nullptr, kNoTip));
     EXPECT_FALSE(IsWindow(window));
-    TellOfNewTaskbar();
+    AnnounceNewTaskbar();
     EXPECT_EQ(Taken(), Calls{});
 
     PlaceControl(TrayArea::Environment::Running);
@@ -411,45 +406,36 @@ TEST_F(TrayAreaTest, WhileTheWindowIsDesignedNoIconIsAddedButRemoved) {
 }
 
 TEST_F(TrayAreaTest, EveryMouseMessageRaisesItsEventAndNoOtherNumberDoes) {
-    HearEverything();
+    RecordEvents();
     std::vector<LPARAM> messages;
     for (LPARAM message = 0; message <= 0x1FFFF; ++message) messages.push_back(message);
     // All bits of the parameter count.
     messages.push_back((20 << 16) | 513);
     if constexpr (sizeof(LPARAM) > 4) messages.push_back((LPARAM{1} << 32) | 513);
-    EXPECT_EQ(HeardOf(messages), (Texts{L"MouseMove", L"MouseDown 1", L"MouseUp 1", L"DblClick",
-                                        L"MouseDown 2", L"MouseUp 2", L"DblClick"}));
+    EXPECT_EQ(EventsOf(messages), (Texts{L"MouseMove", L"MouseDown 1", L"MouseUp 1", L"DblClick",
+                                         L"MouseDown 2", L"MouseUp 2", L"DblClick"}));
 }
 
-TEST_F(TrayAreaTest, ClicksRaiseTheirEventsInOrder) {
-    HearEverything();
-    EXPECT_EQ(HeardOf({WM_MOUSEMOVE, WM_RBUTTONDOWN, WM_RBUTTONUP}),
-              (Texts{L"MouseMove", L"MouseDown 2", L"MouseUp 2"}));
-    EXPECT_EQ(HeardOf({WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_LBUTTONUP}),
-              (Texts{L"MouseDown 1", L"MouseUp 1", L"DblClick", L"MouseUp 1"}));
-    EXPECT_EQ(HeardOf({WM_MBUTTONDOWN, WM_MBUTTONUP, WM_MBUTTONDBLCLK, WM_MOUSEWHEEL}), Texts{});
-}
-
-TEST_F(TrayAreaTest, EventsThatNobodyHearsDoNothing) {
-    EXPECT_EQ(HeardOf({512, 513, 514, 515, 516, 517, 518}), Texts{});
+TEST_F(TrayAreaTest, EventsWithoutHandlersDoNothing) {
+    EXPECT_EQ(EventsOf({512, 513, 514, 515, 516, 517, 518}), Texts{});
     EXPECT_EQ(Taken(), Calls{});
 }
 
-TEST_F(TrayAreaTest, AHandlerMayHideTheIconAndItsButtonIsItsOwn) {
+TEST_F(TrayAreaTest, AHandlerMayHideTheIconAndChangeItsButton) {
     Show();
-    HearEverything();
-    control->MouseDown = [this, hear = control->MouseDown](std::int16_t& button) {
-        hear(button);
+    RecordEvents();
+    control->MouseDown = [this, record = control->MouseDown](std::int16_t& button) {
+        record(button);
         button = 7;
         control->SetVisible(false);
     };
-    EXPECT_EQ(HeardOf({WM_LBUTTONDOWN, WM_LBUTTONUP}), (Texts{L"MouseDown 1", L"MouseUp 1"}));
+    EXPECT_EQ(EventsOf({WM_LBUTTONDOWN, WM_LBUTTONUP}), (Texts{L"MouseDown 1", L"MouseUp 1"}));
     EXPECT_EQ(Taken(), OneCall(NIM_DELETE, 1, nullptr, kNoTip));
 }
 
-TEST_F(TrayAreaTest, AFaultOfAHandlerStopsAtTheWindowProcedure) {
+TEST_F(TrayAreaTest, WhatAHandlerThrowsDoesNotCrossTheWindowProcedure) {
     control->MouseDown = [](std::int16_t&) { throw std::runtime_error("hiba"); };
-    HeardOf({WM_LBUTTONDOWN});
+    EventsOf({WM_LBUTTONDOWN});
     EXPECT_THROW(ThrowPendingFault(), std::runtime_error);
 }
 
@@ -481,9 +467,9 @@ void Press(const std::vector<DWORD>& flags) {
     ASSERT_EQ(SendInput(count, inputs.data(), sizeof(INPUT)), count);
 }
 
-TEST_F(TrayAreaTest, TheRealIconHearsBothButtonsAndGoes) {
+TEST_F(TrayAreaTest, TheRealIconReportsBothButtonsAndDisappears) {
     recorder.reset();
-    HearEverything();
+    RecordEvents();
     bool pointed_at = false;
     control->MouseMove = [&] { pointed_at = true; };
     control->SetIcon(icon);
@@ -499,8 +485,8 @@ TEST_F(TrayAreaTest, TheRealIconHearsBothButtonsAndGoes) {
         return pointed_at;
     }));
     Press({MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP, MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP});
-    ASSERT_TRUE(PumpEventually([this] { return heard.size() >= 4; }));
-    EXPECT_EQ(heard, (Texts{L"MouseDown 1", L"MouseUp 1", L"MouseDown 2", L"MouseUp 2"}));
+    ASSERT_TRUE(PumpEventually([this] { return events.size() >= 4; }));
+    EXPECT_EQ(events, (Texts{L"MouseDown 1", L"MouseUp 1", L"MouseDown 2", L"MouseUp 2"}));
     control->SetVisible(false);
     EXPECT_TRUE(PumpEventually([] { return !IconOnScreen().has_value(); }));
 }
