@@ -1,5 +1,6 @@
 #include "help/frmAbout.h"
 
+#include <string>
 #include <utility>
 
 #include "Version.h"
@@ -23,19 +24,13 @@ LOGFONTW TitleFont(UINT dpi) {
 
 }  // namespace
 
-std::wstring VersionLine(int major, int minor, int revision) {
-    return L"Version " + std::to_wstring(major) + L"." + std::to_wstring(minor) + L"." +
-           std::to_wstring(revision);
-}
-
 frmAbout::frmAbout() : Dialog(IDD_frmAbout) {}
 
 void frmAbout::Form_Load() {
     const std::wstring title = kApplicationTitle;
     SetWindowTextW(Handle(), (title + L" névjegye").c_str());
     Get<Control>(ID_frmAbout_lblTitle).SetText(title);
-    Get<Control>(ID_frmAbout_lblVersion)
-        .SetText(VersionLine(LINDREL_VERSION_MAJOR, LINDREL_VERSION_MINOR, LINDREL_VERSION_REVISION));
+    Get<Control>(ID_frmAbout_lblVersion).SetText(L"Version " LINDREL_VERSION_TEXT);
     Get<Control>(ID_frmAbout_Label1).SetText(L"<a>" + std::wstring(kHomePage) + L"</a>");
     // Not on the link, which is the first control: Enter closes the box.
     FocusOn(ID_frmAbout_cmdOK);

@@ -49,10 +49,9 @@ std::string ShortcutAddress(std::vector<char> file) {
     if (text.empty()) throw EndOfFileFault();
     const DecodedText line(TakeLine(text), lines.Encoding);
 
-    static const CaselessNeedle key("URL=");
-    const std::size_t found = key.FindIn(line.Text());
+    const std::size_t key = LowerCase(line.Text()).find("url=");
     // A line without the key loses three characters: such files have always been imported like that.
-    const std::size_t address = found == std::string_view::npos ? 3 : found + 4;
+    const std::size_t address = key == std::string::npos ? 3 : key + 4;
     if (line.Text().size() < address) throw ArgumentFault();
     return line.Address(address, line.Text().size());
 }

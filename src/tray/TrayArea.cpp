@@ -11,8 +11,9 @@ namespace {
 
 constexpr wchar_t kWindowClass[] = L"TrayArea";
 
-// The shell reports the mouse on the icon in messages with the number of an ordinary mouse move. The control
-// gets no ordinary ones, since it is invisible.
+// The shell reports the mouse on the icon in messages with the number of an ordinary mouse move. Ordinary
+// ones do no harm: an invisible control gets none, and in a designer the coordinates in a control as small as
+// its picture are not the number of a mouse message.
 constexpr UINT kCallbackMessage = WM_MOUSEMOVE;
 
 // The size of the first version of the record. The fields of later versions are zero, so that a tool tip that
