@@ -9,7 +9,7 @@
 
 namespace lindrel {
 
-// In all of them a byte below 0x80 is that ASCII character and never part of another one.
+// In each of these a byte below 0x80 is that ASCII character and never part of another one.
 enum class TextEncoding { Utf8, Latin2, Windows1250 };
 
 struct TextFile {
@@ -31,7 +31,7 @@ std::string_view TakeLine(std::string_view& text);
 // such a character: percent-encoded, it leads to the same page.
 class DecodedText {
   public:
-    // Each byte that is not valid UTF-8 in UTF-8 becomes a "?".
+    // In UTF-8 each invalid byte becomes a "?".
     DecodedText(std::string_view bytes, TextEncoding encoding) { Append(bytes, encoding); }
     void Append(std::string_view bytes, TextEncoding encoding);
     // Turns the letters of what has been appended so far into lower case, and the hexadecimal digits of the
