@@ -1,55 +1,45 @@
-// Reads any bytes as a shortcut file, and reads back what the export writes.
+// Reads any bytes as a shortcut file, checks the addresses of files in a plain model against a second reader,
+// and reads back what the export writes.
 
-#include <cstdlib>
 #include <string>
-#include <string_view>
+#include <vector>
 
 #include "export/Shortcut.h"
-#include "faults/Faults.h"
+#include "fuzz/PlainText.h"
 #include "import/Shortcuts.h"
-#include "text/TextFile.h"
-#include "text/Utf8.h"
 
-namespace lindrel {
+namespace lindrel::fuzz {
 namespace {
 
-void Require(bool good) {
-    if (!good) std::abort();
+std::string PlainAddress(const std::string& file) {
+    const std::vector<std::string> lines = LinesOf(file);
+    if (lines.size() < 2) throw EndOfFileFault();
+    const std::size_t key = Lower(lines[1]).find("url=");
+    const std::size_t address = key == std::string::npos ? 3 : key + 4;
+    if (lines[1].size() < address) throw ArgumentFault();
+    return AddressOf(lines[1].substr(address));
 }
 
-std::string AddressIn(std::string_view file) {
-    return ShortcutAddress({file.begin(), file.end()});
-}
-
-void ReadAny(std::string_view bytes) {
-    const TextFile file = TextFileOf({bytes.begin(), bytes.end()});
-    const std::string_view text = file.Text();
-    try {
-        const std::string address = AddressIn(bytes);
-        Require(address.find_first_of("\r\n") == std::string_view::npos);
-        Require(file.Encoding != TextEncoding::Windows1250 || text.find(address) != std::string_view::npos);
-    } catch (const EndOfFileFault&) {
-        // Fewer than two lines: no line end, or nothing after it.
-        const std::size_t end = text.find_first_of("\r\n");
-        Require(end == std::string_view::npos || end + 1 == text.size() || text.substr(end) == "\r\n");
-    } catch (const ArgumentFault&) {
-        // Fewer than three characters on the second line.
-        Require(text.find_first_of("\r\n") != std::string_view::npos);
-    }
-}
-
-// An address whose bytes happen to be UTF-8 is taken for that.
-void ReadOwn(std::string_view address) {
-    if (address.find_first_of("\r\n") != std::string_view::npos || IsUtf8BeyondAscii(address)) return;
-    Require(AddressIn(ShortcutFile(address)) == address);
+auto AddressIn(const std::string& file) {
+    return Outcome([&] { return ShortcutAddress({file.begin(), file.end()}); });
 }
 
 }  // namespace
-}  // namespace lindrel
+}  // namespace lindrel::fuzz
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
+    using namespace lindrel;
+    using namespace lindrel::fuzz;
     const std::string bytes(data, data + size);
-    lindrel::ReadAny(bytes);
-    lindrel::ReadOwn(bytes);
+    Require(AddressIn(bytes).first.find_first_of("\r\n") == std::string::npos);
+
+    const std::string plain = Masked(bytes, kForeign);
+    const auto expected = Outcome([&] { return PlainAddress(plain); });
+    Require(AddressIn(InUtf8(plain)) == expected);
+    for (const bool big_endian : {false, true}) Require(AddressIn(InUtf16(plain, big_endian)) == expected);
+
+    // 0xFF is in no UTF-8 text: the address is in Windows-1250, as the export writes it.
+    const std::string address = '\xFF' + bytes.substr(0, bytes.find_first_of("\r\n"));
+    Require(AddressIn(ShortcutFile(address)) == std::pair(address, 0));
     return 0;
 }

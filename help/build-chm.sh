@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Builds the help file from its pages:
 #   help/build-chm.sh <pages> <scratch folder> <lnd.chm> <home page>
-# The pages are kept in UTF-8. The viewer wants the contents and the index in the code page of the file's language, so
-# all texts are converted to Windows-1250, and say so.
+# The pages are in UTF-8. The viewer reads the contents and the index in the code page of the file's language, so all
+# texts are converted to Windows-1250, and their charset declarations are changed.
 set -eu
 here=$(cd "$(dirname "$0")" && pwd)
 pages=$1 scratch=$2 target=$3 home_page=$4
@@ -16,7 +16,7 @@ for source in "$pages"/*.html "$pages"/lnd.hh? "$pages"/*.css; do
 done
 
 cd "$scratch"
-# The compiler ends well even when a page refers to what is not there; its report is the only sign.
+# The compiler returns 0 even if a page refers to a missing file; only its report tells.
 report=$(chmcmd --verbosity 3 lnd.hhp 2>&1) || { echo "$report"; exit 1; }
 if grep -iE '^(error|warning)|not found|missing|cannot|can.t' <<<"$report"; then exit 1; fi
 "$here/undate-chm.py" lnd.chm

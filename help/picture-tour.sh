@@ -1,4 +1,4 @@
-# Sourced by the scripts that take pictures, after tests/picture-session.sh: a tour of the windows, which begins and ends
+# Sourced after tests/picture-session.sh by the scripts that take pictures: a tour of the windows, which begins and ends
 # in the main window and changes nothing.
 take_tour() {
   # Three boxes checked, the fourth entry selected.

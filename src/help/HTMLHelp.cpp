@@ -12,7 +12,7 @@ namespace {
 constexpr UINT kDisplayContents = 1;  // HH_DISPLAY_TOC
 constexpr UINT kCloseAll = 18;        // HH_CLOSE_ALL
 
-bool shown = false;  // since the viewer was last told to close all
+bool shown = false;  // since CloseHelp was last called
 
 // `file` is a path and, after ">", a window type; `command` is one of the viewer's HH_ commands.
 using HelpViewer = HWND(WINAPI*)(HWND owner, const wchar_t* file, UINT command, DWORD_PTR data);
@@ -32,14 +32,14 @@ void ShowHelp(std::int16_t kind, const std::wstring& window) {
     const HelpViewer viewer = InstalledViewer();
     if (viewer == nullptr) return;
     const std::wstring file = HelpFilePath(kind) + L">" + window;
-    // The result, the viewer's window, is of no use here; failures are the viewer's to report.
+    // The viewer returns its window, and reports failures itself.
     static_cast<void>(viewer(nullptr, file.c_str(), kDisplayContents, 0));
     shown = true;
 }
 
 void CloseHelp() {
     if (!std::exchange(shown, false)) return;
-    // The viewer is there: it has shown something. It answers nothing.
+    // The viewer is installed, since it has shown something. This command has no result.
     static_cast<void>(InstalledViewer()(nullptr, nullptr, kCloseAll, 0));
 }
 

@@ -1,4 +1,4 @@
-// The help file beside the program and the system's viewer for it.
+// The help file and the system's viewer for it.
 #pragma once
 
 #include <cstdint>
@@ -6,17 +6,17 @@
 
 namespace lindrel {
 
-// Full path of the help file of a kind, whether or not it is there: kind 1 is lnd.chm in the program's
-// folder. There is no other kind; for any other number the path is empty.
+// Full path of a help file, whether or not it exists: lnd.chm in the program's folder for kind 1, empty for
+// any other kind.
 std::wstring HelpFilePath(std::int16_t kind);
 
-// Opens the table of contents of a help file in one of the window types that the file itself defines. The
-// viewer is a window of its own that stays open beside the program's. Nothing is shown, and nothing is
-// reported, when the viewer or the file cannot be opened.
+// Opens the table of contents of a help file in a window of a type that the file defines. The window stays
+// open beside the program's. Does nothing if the viewer is not installed; the viewer itself reports a file
+// that it cannot open.
 void ShowHelp(std::int16_t kind, const std::wstring& window);
 
-// Closes what ShowHelp() has opened. The viewer's windows belong to the program's process: those that are
-// still open when it ends can bring it down.
+// Closes what ShowHelp has opened. The viewer's windows belong to the program's process, which can crash at
+// its end if they are still open.
 void CloseHelp();
 
 }  // namespace lindrel

@@ -1,11 +1,10 @@
-// The product's home page.
+// The address of the product's home page, as the build was configured.
 #pragma once
 
 #include "Version.h"
 
 namespace lindrel {
 
-// Its address, as the build was configured.
 inline constexpr wchar_t kHomePage[] = L"" LINDREL_HOME_PAGE;
 
 }  // namespace lindrel

@@ -1,5 +1,6 @@
 #include "help/frmAbout.h"
 
+#include <string>
 #include <utility>
 
 #include "Version.h"
@@ -12,8 +13,7 @@ namespace lindrel {
 
 namespace {
 
-// In pixels on a screen of 96 dots per inch.
-constexpr int kIconSide = 48;
+constexpr int kIconSide = 48;  // in pixels at 96 dpi
 
 LOGFONTW TitleFont(UINT dpi) {
     LOGFONTW font = MessageFont(dpi);
@@ -24,19 +24,13 @@ LOGFONTW TitleFont(UINT dpi) {
 
 }  // namespace
 
-std::wstring VersionLine(int major, int minor, int revision) {
-    return L"Version " + std::to_wstring(major) + L"." + std::to_wstring(minor) + L"." +
-           std::to_wstring(revision);
-}
-
 frmAbout::frmAbout() : Dialog(IDD_frmAbout) {}
 
 void frmAbout::Form_Load() {
     const std::wstring title = kApplicationTitle;
     SetWindowTextW(Handle(), (title + L" névjegye").c_str());
     Get<Control>(ID_frmAbout_lblTitle).SetText(title);
-    Get<Control>(ID_frmAbout_lblVersion)
-        .SetText(VersionLine(LINDREL_VERSION_MAJOR, LINDREL_VERSION_MINOR, LINDREL_VERSION_REVISION));
+    Get<Control>(ID_frmAbout_lblVersion).SetText(L"Version " LINDREL_VERSION_TEXT);
     Get<Control>(ID_frmAbout_Label1).SetText(L"<a>" + std::wstring(kHomePage) + L"</a>");
     // Not on the link, which is the first control: Enter closes the box.
     FocusOn(ID_frmAbout_cmdOK);
@@ -53,13 +47,7 @@ void frmAbout::ApplyResolution(UINT dpi) {
 }
 
 void frmAbout::OnCommand(int id, int) {
-    switch (id) {
-        case ID_frmAbout_cmdOK:
-        case IDCANCEL:
-            return cmdOK_Click();
-        default:
-            return;
-    }
+    if (id == ID_frmAbout_cmdOK || id == IDCANCEL) cmdOK_Click();
 }
 
 LRESULT frmAbout::OnNotify(const NMHDR& header) {
@@ -69,7 +57,7 @@ LRESULT frmAbout::OnNotify(const NMHDR& header) {
 }
 
 void frmAbout::Label1_Click() {
-    // An address that nothing opens is the shell's to report.
+    // The shell reports an address that it cannot open.
     static_cast<void>(OpenAddress(Handle(), kHomePage));
 }
 

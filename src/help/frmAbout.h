@@ -1,16 +1,11 @@
 // The about box.
 #pragma once
 
-#include <string>
-
 #include "pictures/Picture.h"
 #include "window/Dialog.h"
 #include "window/Display.h"
 
 namespace lindrel {
-
-// "Version 1.2.15": the numbers in decimal, not padded.
-std::wstring VersionLine(int major, int minor, int revision);
 
 class frmAbout : public Dialog {
   public:

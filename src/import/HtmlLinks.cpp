@@ -1,13 +1,14 @@
 #include "import/HtmlLinks.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <limits>
+#include <optional>
 #include <string>
+#include <utility>
 
 #include "faults/Faults.h"
-#include "text/TextLines.h"
+#include "text/Ascii.h"
 
 namespace lindrel {
 
@@ -18,102 +19,64 @@ constexpr std::string_view kAnchor = "a href=\"";
 constexpr std::string_view kClosing = "</a";
 constexpr std::size_t kLongestName = 55;
 
-constexpr char AsciiLower(char byte) {
-    return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte + ('a' - 'A')) : byte;
-}
-
-bool BeginsCaseless(std::string_view text, std::string_view lower) {
-    return text.size() >= lower.size() && std::equal(lower.begin(), lower.end(), text.begin(),
-                                                     [](char a, char b) { return a == AsciiLower(b); });
-}
-
-// By how much a search for the anchor may advance if this byte is in its last place (Horspool's algorithm).
-constexpr auto kStep = [] {
-    std::array<std::uint8_t, 256> steps{};
-    steps.fill(static_cast<std::uint8_t>(kAnchor.size()));
-    for (unsigned byte = 0; byte < steps.size(); ++byte)
-        for (std::size_t i = 0; i + 1 < kAnchor.size(); ++i)
-            if (kAnchor[i] == AsciiLower(static_cast<char>(byte)))
-                steps[byte] = static_cast<std::uint8_t>(kAnchor.size() - 1 - i);
-    return steps;
-}();
-
-// The place of the next anchor, in either case, or kNowhere.
-std::size_t FindAnchor(std::string_view page, std::size_t from) {
-    constexpr std::size_t kLast = kAnchor.size() - 1;
-    for (std::size_t at = from; at + kLast < page.size();) {
-        const char last = page[at + kLast];
-        if (last == kAnchor.back() && BeginsCaseless(page.substr(at), kAnchor)) return at;
-        at += kStep[static_cast<unsigned char>(last)];
-    }
+// The offset of the first `word` (in lower case) in a line, in either case, or kNowhere. `sign` is a
+// character of the word that is rare and not a letter; the search goes from one such character to the next.
+std::size_t FindCaseless(std::string_view line, std::string_view word, char sign) {
+    const std::size_t before = word.find(sign);
+    for (std::size_t at = line.find(sign, before); at != kNowhere; at = line.find(sign, at + 1))
+        if (StartsWithAsciiCaseless(line.substr(at - before), word)) return at - before;
     return kNowhere;
 }
 
 std::size_t FindClosing(std::string_view line) {
-    for (std::size_t at = line.find('<'); at != kNowhere; at = line.find('<', at + 1))
-        if (BeginsCaseless(line.substr(at), kClosing)) return at;
-    return kNowhere;
+    return FindCaseless(line, kClosing, '<');
 }
 
-// For counters of 8 bits.
-std::size_t CheckedShortCount(std::size_t count) {
+// The counters for addresses and link texts have 8 bits.
+void RequireShortCount(std::size_t count) {
     if (count > std::numeric_limits<std::uint8_t>::max()) throw OverflowFault();
-    return count;
 }
 
-// Finds the chunks of a page: the texts of its anchors, from the address to the closing tag. Only they are
+// Finds the chunks of a page: the texts of its anchors, from the address to the closing tag. Only these are
 // decoded, since all that the search looks for is ASCII.
 class AnchorScanner {
   public:
-    AnchorScanner(std::string_view page, TextEncoding encoding) : page_(page), encoding_(encoding) {}
+    AnchorScanner(std::string_view page, TextEncoding encoding) : rest_(page), encoding_(encoding) {}
 
-    // The next chunk, valid until the next call; nullptr at the end. Throws EndOfFileFault for an anchor that
-    // is not closed.
-    const DecodedText* Next() {
-        const std::size_t anchor = FindAnchor(page_, place_);
-        if (anchor == kNowhere) return nullptr;
-        if (anchor >= line_end_) line_end_ = EndOfLine(page_, anchor);
-        const std::size_t start = anchor + kAnchor.size();
-        const std::string_view rest = page_.substr(start, line_end_ - start);
-        const std::size_t closing = FindClosing(rest);
-        chunk_.Clear();
-        chunk_.Append(rest.substr(0, closing), encoding_);
-        chunk_.MakeLowerCase();
-        if (closing != kNowhere)
-            place_ = start + closing;
-        else
-            AppendFollowingLines();
-        return &chunk_;
+    // nullopt at the end of the page. Throws EndOfFileFault for an anchor that is not closed.
+    std::optional<DecodedText> NextChunk() {
+        std::size_t anchor = kNowhere;
+        while ((anchor = FindCaseless(line_, kAnchor, '=')) == kNowhere) {
+            if (rest_.empty()) return std::nullopt;
+            line_ = TakeLine(rest_);
+        }
+        line_.remove_prefix(anchor + kAnchor.size());
+        const std::size_t closing = FindClosing(line_);
+        DecodedText chunk(line_.substr(0, closing), encoding_);
+        chunk.MakeLowerCase();
+        line_.remove_prefix(std::min(closing, line_.size()));
+        if (closing == kNowhere) AppendFollowingLines(chunk);
+        return chunk;
     }
 
   private:
-    // These lines keep their case, and the rest of the last one is not searched.
-    void AppendFollowingLines() {
+    // These lines keep their case, and the rest of the last one is not searched for anchors.
+    void AppendFollowingLines(DecodedText& chunk) {
         for (bool closed = false; !closed;) {
-            place_ = BehindLineEnd(page_, line_end_);
-            if (place_ == page_.size()) throw EndOfFileFault();
-            line_end_ = EndOfLine(page_, place_);
-            const std::string_view line = page_.substr(place_, line_end_ - place_);
+            if (rest_.empty()) throw EndOfFileFault();
+            const std::string_view line = TakeLine(rest_);
             const std::size_t closing = FindClosing(line);
             // A closing tag at the start of a line does not count.
             closed = closing != kNowhere && closing != 0;
-            chunk_.Append(" ", encoding_);
-            chunk_.Append(closed ? ThroughClosing(line, closing) : line, encoding_);
+            chunk.Append(" ", encoding_);
+            // And one more character: mostly the ">", but a quotation mark there ends an address.
+            chunk.Append(closed ? line.substr(0, closing + kClosing.size() + 1) : line, encoding_);
         }
-        place_ = line_end_;
     }
 
-    // A line to one character behind the closing tag.
-    std::string_view ThroughClosing(std::string_view line, std::size_t closing) const {
-        const std::size_t end = closing + kClosing.size();
-        return line.substr(0, end + FirstCharacterLength(line.substr(end), encoding_));
-    }
-
-    std::string_view page_;
+    std::string_view line_;  // what has not been searched of the current line
+    std::string_view rest_;  // the lines after it
     TextEncoding encoding_;
-    std::size_t place_ = 0;     // where the search continues
-    std::size_t line_end_ = 0;  // of the last line that was read
-    DecodedText chunk_;
 };
 
 bool IsOnline(std::string_view chunk) {
@@ -127,7 +90,7 @@ std::vector<NewEntry> LinksOfPage(std::string_view page, TextEncoding encoding, 
     std::vector<NewEntry> staged;
     std::int16_t number = 1;
     AnchorScanner anchors(page, encoding);
-    while (const DecodedText* const chunk = anchors.Next()) {
+    while (const std::optional<DecodedText> chunk = anchors.NextChunk()) {
         if (choice == LinkChoice::Online && !IsOnline(chunk->Text())) continue;
         StageLink(staged, *chunk, number);
         // The counter is one ahead of the links, so the last one that it could count is refused.
@@ -142,12 +105,13 @@ void StageLink(std::vector<NewEntry>& staged, const DecodedText& chunk, std::int
     const std::string_view text = chunk.Text();
     const std::size_t quote = text.find('"');
     if (quote == kNowhere) throw ArgumentFault();
-    CheckedShortCount(quote + 1);
+    RequireShortCount(quote + 1);
     // Without a ">" the name is made of the whole chunk: npos + 1 is 0.
     std::string_view name = text.substr(text.find('>', quote) + 1);
     CleanLinkText(name);
+    NewEntry link{std::string(name), chunk.Address(0, quote)};
     staged.resize(static_cast<std::size_t>(number));
-    staged.back() = {std::string(name), chunk.Address(0, quote)};
+    staged.back() = std::move(link);
 }
 
 void CleanLinkText(std::string_view& text) {
@@ -157,7 +121,8 @@ void CleanLinkText(std::string_view& text) {
             text = "ismeretlen";
             return;
         }
-        text = text.substr(0, CheckedShortCount(closing + 1) - 1);
+        RequireShortCount(closing + 1);
+        text = text.substr(0, closing);
         text = text.substr(text.rfind('>') + 1);
     }
     text = text.substr(0, kLongestName);

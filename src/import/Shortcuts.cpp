@@ -9,16 +9,14 @@
 #include "files/Files.h"
 #include "files/Folder.h"
 #include "text/BookText.h"
-#include "text/DecodedText.h"
-#include "text/TextLines.h"
+#include "text/TextFile.h"
 
 namespace lindrel {
 
 namespace {
 
-// Length of ".url", in any case.
 constexpr std::size_t kExtensionLength = 4;
-// Users know that larger folders are refused, and split them.
+// People know that larger folders are refused, and split them.
 constexpr std::size_t kMostShortcuts = 255;
 
 bool IsShortcutName(const std::wstring& name) {
@@ -46,18 +44,16 @@ std::vector<ShortcutFile> FilesOf(const Path& folder) {
 
 std::string ShortcutAddress(std::vector<char> file) {
     const TextFile lines = TextFileOf(std::move(file));
-    const std::string_view text = lines.Text();
-    const std::size_t second = BehindLineEnd(text, EndOfLine(text, 0));
-    if (second == text.size()) throw EndOfFileFault();
-    const DecodedText line(text.substr(second, EndOfLine(text, second) - second), lines.Encoding);
+    std::string_view text = lines.Text();
+    TakeLine(text);
+    if (text.empty()) throw EndOfFileFault();
+    const DecodedText line(TakeLine(text), lines.Encoding);
 
-    static const CaselessNeedle key("URL=");
-    const std::size_t found = key.FindIn(line.Text());
-    // Without the key three characters are lost: shortcuts of other programs have always been imported like
-    // that.
-    const std::size_t behind_key = found == std::string_view::npos ? 3 : found + 4;
-    if (line.Text().size() < behind_key) throw ArgumentFault();
-    return line.Address(behind_key, line.Text().size());
+    const std::size_t key = LowerCase(line.Text()).find("url=");
+    // A line without the key loses three characters: such files have always been imported like that.
+    const std::size_t address = key == std::string::npos ? 3 : key + 4;
+    if (line.Text().size() < address) throw ArgumentFault();
+    return line.Address(address, line.Text().size());
 }
 
 std::vector<NewEntry> ShortcutsOfFolder(const Path& folder) {

@@ -1,4 +1,4 @@
-// Import of Internet shortcut files (*.url), those of this program and similar ones.
+// Import of Internet shortcut files (*.url), this program's and others'.
 #pragma once
 
 #include <string>
@@ -9,17 +9,17 @@
 
 namespace lindrel {
 
-// The address in a shortcut file: what follows the first "URL=" (in either case) on the second line, in
-// whichever section that is. If there is no "URL=", the first three characters of the line are dropped
-// instead. Lines end in CR LF, LF or CR. The file is read as TextFileOf does, and characters that a book
-// cannot hold are percent-encoded. Throws EndOfFileFault for a file of fewer than two lines, ArgumentFault
-// for a second line of fewer than three characters.
+// The address in a shortcut file: what follows the first "URL=" (in either case) on the second line,
+// whichever section that line is in. Without "URL=" it is the line without its first three characters. The
+// file may have any encoding that TextFileOf guesses; characters that a book cannot hold are percent-encoded.
+// Throws EndOfFileFault if there are fewer than two lines, ArgumentFault if there are fewer than three
+// characters on the second.
 std::string ShortcutAddress(std::vector<char> file);
 
-// The shortcut files of a folder as entries, sorted case-insensitively by name. Site names are file names
-// without their last four characters, with "?" for each character that a book cannot hold. Empty if there are
-// none or if the folder cannot be opened. Throws FileFault: for a file that cannot be read, for what
-// ShortcutAddress throws, for the 256th file (an overflow), and for a folder that cannot be read to its end.
+// The shortcut files of a folder as entries, sorted case-insensitively by name; empty if the folder cannot be
+// opened. Site names are file names without ".url", with "?" for each character that a book cannot hold.
+// Throws FileFault with the path of a file that cannot be read, for which ShortcutAddress throws, or that is
+// the 256th, and with the path of a folder that cannot be read to its end.
 std::vector<NewEntry> ShortcutsOfFolder(const Path& folder);
 
 }  // namespace lindrel

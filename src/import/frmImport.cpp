@@ -5,7 +5,7 @@
 #include "edit/BookField.h"
 #include "files/Files.h"
 #include "files/Folder.h"
-#include "import/PageText.h"
+#include "import/PageEncoding.h"
 #include "import/Shortcuts.h"
 #include "import/frmI_Fav.h"
 #include "resources/resource.h"
@@ -46,7 +46,7 @@ void frmImport::OnCommand(int id, int) {
     }
 }
 
-// The mouse opens the menu when it goes down, as with any menu; the keyboard clicks the button.
+// A mouse button opens a menu when it is pressed, not when it is released; the keyboard clicks the button.
 bool frmImport::PreTranslate(const MSG& message) {
     const bool pressed = message.message == WM_LBUTTONDOWN || message.message == WM_LBUTTONDBLCLK;
     if (!pressed || message.hwnd != Item(ID_frmImport_Label2)) return false;
@@ -70,7 +70,7 @@ void frmImport::Label2_MouseDown() {
 
 void frmImport::cmdOK_Click() {
     constexpr wchar_t kFailed[] = L"Az importálás nem sikerült.";
-    // Faults of the folder import have always ended in the run-time error report.
+    // Faults of the folder import lead to the run-time error report.
     if (!Get<CheckBox>(ID_frmImport_from_0).IsChecked()) return ImportFavoritesFolder();
 
     try {
@@ -103,7 +103,7 @@ void frmImport::ImportHtmlLinks(const std::wstring& fileName) {
 void frmImport::ImportFavoritesFolder() {
     frmI_Fav picker(FavoritesPath());
     picker.ShowModal(Handle());
-    // A cancelled choice gives an empty path, which is no folder.
+    // After Cancel the path is empty, which is no folder.
     if (!FolderIsThere(picker.ChosenFolder())) return;
 
     const std::vector<NewEntry> entries = ShortcutsOfFolder(picker.ChosenFolder());

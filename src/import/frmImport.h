@@ -1,5 +1,5 @@
-// Adds addresses to a category: the links of web pages, or the shortcut files of a folder. Stays open, so
-// that several can be imported in a row.
+// The dialog that adds addresses to a category: the links of a web page, or the shortcut files of a folder.
+// It stays open, so that several can be imported in a row.
 #pragma once
 
 #include <string>
@@ -15,7 +15,7 @@ class frmImport : public Dialog {
   public:
     explicit frmImport(OpenBook& open);
 
-    // Whether a list that shows the book may be out of date.
+    // Whether anything was imported, so that a list of the book's entries may be out of date.
     bool Imported() const { return imported_; }
 
   private:
@@ -29,7 +29,7 @@ class frmImport : public Dialog {
     void cmdOK_Click();
     void cmdCancel_Click() { Unload(); }
 
-    // Throw what reading throws; nothing is added then.
+    // These throw what reading the page or the folder throws; nothing is added then.
     void ImportHtmlLinks(const std::wstring& fileName);
     void ImportFavoritesFolder();
     void AddToChosenCategory(const std::vector<NewEntry>& entries);

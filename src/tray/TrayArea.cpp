@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "text/BookText.h"
-#include "tray/TrayProtocol.h"
 #include "window/Display.h"
 
 namespace lindrel {
@@ -12,38 +11,38 @@ namespace {
 
 constexpr wchar_t kWindowClass[] = L"TrayArea";
 
-// The shell reports the mouse on the icon under the number of an ordinary mouse move. No ordinary one reaches
-// the control's window, which the pointer is never over.
+// The shell reports the mouse on the icon in messages with the number of an ordinary mouse move. Ordinary
+// ones do no harm: an invisible control gets none, and in a designer the coordinates in a control as small as
+// its picture are not the number of a mouse message.
 constexpr UINT kCallbackMessage = WM_MOUSEMOVE;
 
-// The first version of the record. The fields of later ones are zero, so that a tool tip of 64 characters,
-// which leaves no room for a NUL, ends there.
+// The size of the first version of the record. The fields of later versions are zero, so that a tool tip that
+// fills its field ends there.
 constexpr DWORD kRecordSize = NOTIFYICONDATAA_V1_SIZE;
+constexpr std::size_t kTipLength = 64;
 static_assert(kRecordSize == (sizeof(void*) == 4 ? 88 : 104));
 static_assert(sizeof NOTIFYICONDATAA::szTip > kTipLength);
-static_assert(WM_MOUSEMOVE == 512 && WM_LBUTTONDOWN == 513 && WM_RBUTTONDBLCLK == 518);
 
-// What the shell broadcasts when it has made a new taskbar, which has no icons yet.
+// What the shell broadcasts after it has created a taskbar, which has no icons yet.
 UINT TaskbarCreated() {
     static const UINT message = RegisterWindowMessageW(L"TaskbarCreated");
     return message;
 }
 
-// For a shell with fewer rights than the program, whose messages Windows would hold back.
+// Windows would hold back the messages of a shell with fewer rights than the program.
 void LetThrough(HWND window, UINT message) {
-    // Refused, the icon is deaf to such a shell, and nothing else can be done about it.
+    // If it fails, the icon does not work with such a shell, and nothing else can be done about that.
     static_cast<void>(ChangeWindowMessageFilterEx(window, message, MSGFLT_ALLOW, nullptr));
 }
 
-// In the machine's code page, in which the shell reads the record.
+// In the ANSI code page, in which the shell reads the record; empty if the text cannot be converted.
 std::string ShellText(std::wstring_view text) {
     if (text.empty()) return {};
-    // The field keeps no more of it.
     const int length = static_cast<int>(std::min(text.size(), kTipLength));
     std::string narrow(kTipLength * 4, '\0');
     const int used = WideCharToMultiByte(CP_ACP, 0, text.data(), length, narrow.data(),
                                          static_cast<int>(narrow.size()), nullptr, nullptr);
-    narrow.resize(static_cast<std::size_t>(used));  // 0 when it fails: an icon without a tool tip
+    narrow.resize(static_cast<std::size_t>(used));
     return narrow;
 }
 
@@ -65,7 +64,7 @@ void TrayArea::Place(HWND owner, Environment environment) {
 LRESULT TrayArea::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
     switch (message) {
         case kCallbackMessage:
-            Decode(lparam);
+            RaiseMouseEvent(lparam);
             return 0;
         case WM_SIZE:
             if (!resizing_) Resize();
@@ -81,22 +80,30 @@ LRESULT TrayArea::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
     }
 }
 
-void TrayArea::Decode(LPARAM mouse_message) {
-    TrayMouse mouse = TrayMouseOf(static_cast<std::uint64_t>(mouse_message));
-    switch (mouse.Event) {
-        case TrayEvent::MouseMove:
+void TrayArea::RaiseMouseEvent(LPARAM message) const {
+    std::int16_t left = 1;
+    std::int16_t right = 2;
+    switch (message) {
+        case WM_MOUSEMOVE:
             if (MouseMove) MouseMove();
             return;
-        case TrayEvent::MouseDown:
-            if (MouseDown) MouseDown(mouse.Button);
+        case WM_LBUTTONDOWN:
+            if (MouseDown) MouseDown(left);
             return;
-        case TrayEvent::MouseUp:
-            if (MouseUp) MouseUp(mouse.Button);
+        case WM_LBUTTONUP:
+            if (MouseUp) MouseUp(left);
             return;
-        case TrayEvent::DblClick:
+        case WM_RBUTTONDOWN:
+            if (MouseDown) MouseDown(right);
+            return;
+        case WM_RBUTTONUP:
+            if (MouseUp) MouseUp(right);
+            return;
+        case WM_LBUTTONDBLCLK:
+        case WM_RBUTTONDBLCLK:
             if (DblClick) DblClick();
             return;
-        case TrayEvent::None:
+        default:
             return;
     }
 }
@@ -115,10 +122,10 @@ void TrayArea::Resize() {
 
 void TrayArea::PaintPicture() const {
     PAINTSTRUCT paint{};
-    const HDC canvas = BeginPaint(Handle(), &paint);
-    if (canvas == nullptr) return;
+    const HDC dc = BeginPaint(Handle(), &paint);
+    if (dc == nullptr) return;
     const SIZE size = PictureSize();
-    DrawIconEx(canvas, 0, 0, LoadIconW(nullptr, IDI_APPLICATION), size.cx, size.cy, 0,
+    DrawIconEx(dc, 0, 0, LoadIconW(nullptr, IDI_APPLICATION), size.cx, size.cy, 0,
                GetSysColorBrush(COLOR_BTNFACE), DI_NORMAL);
     EndPaint(Handle(), &paint);
 }
@@ -130,7 +137,7 @@ void TrayArea::SetIcon(Picture New_Icon) {
     } else if (properties_.Visible) {
         record_.uFlags = NIF_ICON;
         record_.hIcon = *New_Icon;
-        // When the shell refuses, the icon that it shows stays.
+        // If the shell refuses, it goes on showing the old icon.
         static_cast<void>(Tell(NIM_MODIFY));
     }
     Announce(L"Icon");
@@ -140,7 +147,7 @@ void TrayArea::SetToolTip(std::wstring_view New_ToolTip) {
     properties_.ToolTip = Trim(New_ToolTip);
     record_.uFlags = NIF_TIP;
     PutToolTip();
-    // Told also while the icon is hidden; the shell refuses then, and nothing happens.
+    // The shell refuses this while the icon is hidden, and then it has no effect.
     static_cast<void>(Tell(NIM_MODIFY));
     Announce(L"ToolTip");
 }
@@ -151,7 +158,7 @@ void TrayArea::SetVisible(bool New_Visible) {
     if (!New_Visible) {
         RemoveIcon();
     } else if (Handle() != nullptr && environment_ == Environment::Running) {
-        record_.uID = TrayIdentifier(std::uniform_real_distribution<double>(0.0, 1.0)(random_));
+        record_.uID = std::uniform_int_distribution<UINT>(1, 65535)(random_);
         AddIcon();
         ListenForNewTaskbar();
     }
@@ -172,7 +179,7 @@ void TrayArea::AddIcon() {
     taken_ = Tell(NIM_ADD);
 }
 
-// The shell's broadcasts reach no child windows: the control hears them at its owner while it has an icon.
+// The shell's broadcasts do not reach child windows, so the control listens to its owner's messages.
 void TrayArea::ListenForNewTaskbar() {
     owner_.Attach(GetParent(Handle()), [this](UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
         if (message == TaskbarCreated()) AddIconAgain();
@@ -180,7 +187,7 @@ void TrayArea::ListenForNewTaskbar() {
     });
 }
 
-// Under its old identifier, so that a taskbar that still has the icon refuses it but lets it be changed.
+// With the same identifier: a taskbar that has the icon already refuses to add it but modifies it.
 void TrayArea::AddIconAgain() {
     AddIcon();
     if (!taken_) taken_ = Tell(NIM_MODIFY);
@@ -188,19 +195,21 @@ void TrayArea::AddIconAgain() {
 }
 
 void TrayArea::RemoveIcon() {
-    // Refused when the shell has no such icon; then it is gone already.
+    // Fails if the shell has no such icon, and then there is nothing to remove.
     static_cast<void>(Tell(NIM_DELETE));
     owner_.Detach();
     taken_ = false;
 }
 
-// False when the shell is not there or knows no such icon; the user then sees none.
+// False if there is no shell or if it refuses.
 bool TrayArea::Tell(DWORD operation) {
     return Shell_NotifyIconA(operation, &record_) != FALSE;
 }
 
+// The field holds the text, a NUL and blanks, or as much of the text as it can, without a NUL.
 void TrayArea::PutToolTip() {
-    const auto field = TipField(ShellText(properties_.ToolTip));
+    std::string field = ShellText(properties_.ToolTip) + '\0';
+    field.resize(kTipLength, ' ');
     std::copy(field.begin(), field.end(), record_.szTip);
 }
 

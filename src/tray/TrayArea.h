@@ -1,6 +1,6 @@
-// An icon in the notification area of the task bar, with a tool tip. A window places the control on itself,
-// sets its properties and hears what the mouse does on the icon. The control is visible on the window only
-// while the window is being designed.
+// An icon in the notification area of the task bar, with a tool tip. A reusable control: a window places it
+// on itself, sets its properties and handles its events. A form designer can show the control and keep its
+// properties; this program sets them itself and handles MouseDown only.
 #pragma once
 
 #include <cstdint>
@@ -19,13 +19,15 @@ namespace lindrel {
 
 class TrayArea : public OwnWindow {
   public:
+    // In a designer the control is visible on its window, as a small picture, and shows no icon in the
+    // notification area.
     enum class Environment { Running, Design };
 
-    // A picture is an icon's handle, null for the empty picture; nothing is no picture at all. The icon is
-    // not the control's: it must live as long as the control shows it.
+    // nullopt is no picture at all; a null HICON is an empty picture. The caller keeps the icon alive for as
+    // long as the control shows it.
     using Picture = std::optional<HICON>;
 
-    // What is saved with the design of the window, with its defaults.
+    // What a designer saves, with the defaults.
     struct Properties {
         Picture Icon = HICON{};
         std::wstring ToolTip;
@@ -34,45 +36,43 @@ class TrayArea : public OwnWindow {
     };
 
     TrayArea() = default;
-    // Removes the icon. So does the destruction of the owner.
+    // Removes the icon, as does the destruction of the owner.
     ~TrayArea() override { Destroy(); }
 
-    // Makes the control's own window, a child of its owner; once, before an icon can be shown. The owner is a
-    // main window of the same thread and holds one such control. Throws SystemFault when the system
-    // cannot; then there is no control.
+    // Creates the control's window as a child of its owner, a top-level window of the same thread that holds
+    // one such control. To be called once, before the icon is shown. Throws SystemFault when the system
+    // cannot; the control has no window then.
     void Place(HWND owner, Environment environment = Environment::Running);
 
-    // Stores what was saved, as it is: nothing appears until Visible is set.
+    // Stores saved properties as they are. The icon appears only when SetVisible changes Visible to true.
     void ReadProperties(const Properties& saved) { properties_ = saved; }
     const Properties& SavedProperties() const { return properties_; }
 
-    const Picture& Icon() const { return properties_.Icon; }
-    const std::wstring& ToolTip() const { return properties_.ToolTip; }
     bool Visible() const { return properties_.Visible; }
-    // Whether the shell shows the icon. False while Visible is true when the shell has refused it.
+    // Whether the shell has the icon. False although Visible() is true if the shell refused the icon.
     bool IsTaken() const { return taken_; }
 
-    // A change that the shell refuses has no effect on the screen; the properties change all the same.
-    void SetIcon(Picture New_Icon);  // no picture at all hides the icon
-    // Stored without the blanks around it. The shell gets the first 64 characters.
+    // The properties change even if the shell refuses the change.
+    void SetIcon(Picture New_Icon);  // nullopt hides the icon
+    // Stored without blanks at its ends. The shell gets the first 64 characters.
     void SetToolTip(std::wstring_view New_ToolTip);
     void SetVisible(bool New_Visible);
 
-    // A property was set; named "Icon", "ToolTip" or "Visible".
+    // A property was set: "Icon", "ToolTip" or "Visible".
     std::function<void(const wchar_t* name)> PropertyChanged;
 
-    // What the mouse does on the icon. Button is 1 for the left one, 2 for the right one.
+    // The mouse on the icon. Button is 1 for the left button, 2 for the right one.
     std::function<void()> MouseMove;
     std::function<void(std::int16_t& Button)> MouseDown;
     std::function<void(std::int16_t& Button)> MouseUp;
     std::function<void()> DblClick;
 
-    // A new taskbar has refused the icon, which is no longer to be seen. Visible stays true.
+    // A new taskbar has refused the icon. Visible() stays true.
     std::function<void()> IconLost;
 
   private:
     LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
-    void Decode(LPARAM mouse_message);
+    void RaiseMouseEvent(LPARAM message) const;
     void Resize();
     void PaintPicture() const;
     SIZE PictureSize() const;
@@ -89,7 +89,7 @@ class TrayArea : public OwnWindow {
     NOTIFYICONDATAA record_{};
     std::mt19937 random_{std::random_device{}()};
     Environment environment_ = Environment::Running;
-    bool taken_ = false;     // the shell shows the icon
+    bool taken_ = false;
     bool resizing_ = false;  // by the control itself
     Subclass owner_;
 };

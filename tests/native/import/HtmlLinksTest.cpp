@@ -35,16 +35,15 @@ std::string Cleaned(std::string_view text) {
     return std::string(text);
 }
 
-std::string Times(std::size_t count, char letter) {
-    return std::string(count, letter);
+std::string Times(std::size_t count, std::string_view text) {
+    std::string all;
+    for (std::size_t i = 0; i < count; ++i) all += text;
+    return all;
 }
 
-TEST(HtmlLinksTest, AnAnchorInCapitalsGivesNameAndAddressInLowerCase) {
+TEST(HtmlLinksTest, NamesAndAddressesAreInLowerCase) {
     EXPECT_EQ(Online("<A HREF=\"HTTP://Www.H\xCDREK.hu/Lap\">H\xCDrek</A>\r\n"),
               (Links{{"h\xEDrek", "http://www.h\xEDrek.hu/lap"}}));
-}
-
-TEST(HtmlLinksTest, HungarianLettersAreLoweredLetterByLetter) {
     EXPECT_EQ(All("<a href=\"x\">\xC1RV\xCDZT\xDBR\xD5 T\xDCK\xD6RF\xDAR\xD3G\xC9P</a>"),
               (Links{{"\xE1rv\xEDzt\xFBr\xF5 t\xFCk\xF6rf\xFAr\xF3g\xE9p", "x"}}));
 }
@@ -67,16 +66,18 @@ TEST(HtmlLinksTest, OnlineMeansAProtocolFromTheThirdCharacterOnAnywhereInTheChun
     EXPECT_EQ(Online("<a href=\"\"></a>"), Links{});
 }
 
-TEST(HtmlLinksTest, TagsAroundTheNameAreRemoved) {
+TEST(HtmlLinksTest, TheNameIsBetweenTheLastOpeningTagAndTheFirstClosingOne) {
     EXPECT_EQ(All("<a href=\"x\"><b>H\xEDrek</b></a>"), (Links{{"h\xEDrek", "x"}}));
     EXPECT_EQ(All("<a href=\"x\"><font size=2><b>H\xEDrek</b></font></a>"), (Links{{"h\xEDrek", "x"}}));
-    // The name is between the last opening tag and the first closing one.
     EXPECT_EQ(All("<a href=\"x\">els\xF5 <b>m\xE1sodik</b> harmadik</a>"), (Links{{"m\xE1sodik", "x"}}));
-}
-
-TEST(HtmlLinksTest, AnImageWithoutClosingTagIsUnknown) {
+    // Without a closing tag it is unknown.
     EXPECT_EQ(All("<a href=\"x\"><img src=\"k.gif\"></a>"), (Links{{"ismeretlen", "x"}}));
     EXPECT_EQ(All("<a href=\"x\">el\xF5tte<br>ut\xE1na</a>"), (Links{{"ismeretlen", "x"}}));
+    // Further attributes are no part of it.
+    EXPECT_EQ(All("<a href=\"x\" title=\"c\xEDm\" class=k>N\xE9v</a>"), (Links{{"n\xE9v", "x"}}));
+    EXPECT_EQ(All("<a href=\"x\" icon=\"" + Times(5000, "i") + "\">N\xE9v</a>"), (Links{{"n\xE9v", "x"}}));
+    // An anchor without a ">" is all of it.
+    EXPECT_EQ(All("<a href=\"x\" rossz</a>"), (Links{{"x\" rossz", "x"}}));
 }
 
 TEST(HtmlLinksTest, AddressesWithoutQuotationMarksAreNotFound) {
@@ -99,19 +100,12 @@ TEST(HtmlLinksTest, PagesOfThisProgramsOwnExportHoldNone) {
     EXPECT_EQ(All(page), Links{});
 }
 
-TEST(HtmlLinksTest, AnythingThatEndsLikeAnAnchorIsOne) {
-    EXPECT_EQ(All("<area href=\"terkep\">T\xE9rk\xE9p</a>"), (Links{{"t\xE9rk\xE9p", "terkep"}}));
-}
-
 TEST(HtmlLinksTest, AllAnchorsOfALineAreFound) {
     EXPECT_EQ(All("<a href=\"1\">Egy</a> \xE9s <A HREF=\"2\">Kett\xF5</A>, <a href=\"3\">H\xE1rom</a>\n"
                   "<a href=\"4\">N\xE9gy</a>"),
               (Links{{"egy", "1"}, {"kett\xF5", "2"}, {"h\xE1rom", "3"}, {"n\xE9gy", "4"}}));
-}
-
-TEST(HtmlLinksTest, FurtherAttributesStayOutOfTheName) {
-    EXPECT_EQ(All("<a href=\"x\" title=\"c\xEDm\" class=k>N\xE9v</a>"), (Links{{"n\xE9v", "x"}}));
-    EXPECT_EQ(All("<a href=\"x\" icon=\"" + Times(5000, 'i') + "\">N\xE9v</a>"), (Links{{"n\xE9v", "x"}}));
+    // So is what only ends like an anchor.
+    EXPECT_EQ(All("<area href=\"terkep\">T\xE9rk\xE9p</a>"), (Links{{"t\xE9rk\xE9p", "terkep"}}));
 }
 
 TEST(HtmlLinksTest, AnAnchorGoesOnOverLinesThatKeepTheirCase) {
@@ -130,16 +124,18 @@ TEST(HtmlLinksTest, ALineThatBeginsWithTheClosingTagDoesNotClose) {
     EXPECT_THROW(All("<a href=\"1\">Egy\n</a>\n"), EndOfFileFault);
 }
 
-TEST(HtmlLinksTest, AClosingLineIsTakenToOneCharacterBehindTheTag) {
-    // The chunk is  1" N</ax  and all of it is the text, because there is no ">" in it.
+TEST(HtmlLinksTest, AChunkGoesOneCharacterBeyondTheClosingTagOfALaterLine) {
+    // The chunk is  1" N</ax  without a ">", so all of it is the text.
     EXPECT_EQ(All("<a href=\"1\"\nN</axyz>\n"), (Links{{"1\" N", "1"}}));
     EXPECT_EQ(All("<a href=\"1\">Egy\nN</a"), (Links{{"egy N", "1"}}));
-    // Here the character after the tag is the ">", with no text after it.
+    // Here that character is the ">", with no text after it.
     EXPECT_EQ(All("<a href=\"1\"\nN</a>\n"), (Links{{"", "1"}}));
-}
-
-TEST(HtmlLinksTest, AChunkWithoutTagEndIsTheNameAsAWhole) {
-    EXPECT_EQ(All("<a href=\"x\" rossz</a>"), (Links{{"x\" rossz", "x"}}));
+    // A quotation mark there ends the address.
+    EXPECT_EQ(All("<a href=\"1\nN</a\""), (Links{{"1 N", "1 N</a"}}));
+    // A character of two bytes is cut off with the tag all the same.
+    EXPECT_EQ(All("<a href=\"1\"\nN</a\u0151>\n", TextEncoding::Utf8), (Links{{"1\" N", "1"}}));
+    EXPECT_EQ(All("<a href=\"1\">Egy\nN</a\u0151\n<a href=\"2\">x</a>", TextEncoding::Utf8),
+              (Links{{"egy N", "1"}, {"x", "2"}}));
 }
 
 TEST(HtmlLinksTest, AnyLineEndIsOne) {
@@ -152,22 +148,23 @@ TEST(HtmlLinksTest, AnyLineEndIsOne) {
 
 constexpr std::size_t kLargePage = 2'000'000;
 
-TEST(HtmlLinksTest, ManyLinksOfALargePageWithBareCarriageReturns) {
+TEST(HtmlLinksTest, ALargePageWithBareCarriageReturns) {
     std::string page;
     Links expected;
     for (int i = 0; page.size() < kLargePage; ++i) {
         const std::string number = std::to_string(i);
-        page += "<P>" + Times(40, 'x') + "\r<A HREF=\"HTTP://LAP.HU/" + number + "\">EGY\rK\xC9T" + number +
+        page += "<P>" + Times(40, "x") + "\r<A HREF=\"HTTP://LAP.HU/" + number + "\">EGY\rK\xC9T" + number +
                 "</A>\r";
         expected.push_back({"egy K\xC9T" + number, "http://lap.hu/" + number});
     }
     EXPECT_EQ(Online(page), expected);
 }
 
-TEST(HtmlLinksTest, AnAnchorOverManyShortLinesOfALargePage) {
+TEST(HtmlLinksTest, ALargePageWithAnAnchorThatIsNotClosed) {
     std::string page = "<a href=\"lap.htm\">N\xC9V";
     while (page.size() < kLargePage) page += "\rX";
     EXPECT_THROW(Online(page), EndOfFileFault);
+    EXPECT_THROW(Online(Times(kLargePage / 11, "<a href=\"x\">")), EndOfFileFault);
     page += "</a>\r<a href=\"http://ket.hu\">Kett\xF5</a>";
     EXPECT_EQ(Online(page), (Links{{"kett\xF5", "http://ket.hu"}}));
     // The first anchor is too long to be a link.
@@ -195,17 +192,17 @@ TEST(HtmlLinksTest, AnAddressWithoutClosingQuotationMarkIsAFaultOfItsOwn) {
 }
 
 TEST(HtmlLinksTest, AnAddressOf254CharactersIsTheLongest) {
-    const auto page = [](std::size_t length) { return "<a href=\"" + Times(length, 'u') + "\">N</a>"; };
-    EXPECT_EQ(All(page(254)), (Links{{"n", Times(254, 'u')}}));
+    const auto page = [](std::size_t length) { return "<a href=\"" + Times(length, "u") + "\">N</a>"; };
+    EXPECT_EQ(All(page(254)), (Links{{"n", Times(254, "u")}}));
     EXPECT_THROW(All(page(255)), OverflowFault);
 }
 
-TEST(HtmlLinksTest, AClosingTagBehindThe255thCharacterOfTheTextOverflows) {
-    const auto page = [](std::size_t length) { return "<a href=\"x\">" + Times(length, 'n') + "</b></a>"; };
-    EXPECT_EQ(All(page(254)), (Links{{Times(55, 'n'), "x"}}));
+TEST(HtmlLinksTest, AClosingTagAfterThe255thCharacterOfTheTextOverflows) {
+    const auto page = [](std::size_t length) { return "<a href=\"x\">" + Times(length, "n") + "</b></a>"; };
+    EXPECT_EQ(All(page(254)), (Links{{Times(55, "n"), "x"}}));
     EXPECT_THROW(All(page(255)), OverflowFault);
     // Text without tags may have any length.
-    EXPECT_EQ(All("<a href=\"x\">" + Times(70000, 'n') + "</a>"), (Links{{Times(55, 'n'), "x"}}));
+    EXPECT_EQ(All("<a href=\"x\">" + Times(70000, "n") + "</a>"), (Links{{Times(55, "n"), "x"}}));
 }
 
 TEST(HtmlLinksTest, The16BitCounterEndsAt32766Links) {
@@ -221,15 +218,7 @@ TEST(HtmlLinksTest, The16BitCounterEndsAt32766Links) {
     EXPECT_THROW(All(page + "<a href=\"32767\">n32767</a>"), OverflowFault);
 }
 
-TEST(HtmlLinksTest, LinkTextsAreCutTo55Characters) {
-    EXPECT_EQ(Cleaned(Times(70, 'n')), Times(55, 'n'));
-    EXPECT_EQ(Cleaned(Times(56, 'n')), Times(55, 'n'));
-    EXPECT_EQ(Cleaned(Times(55, 'n')), Times(55, 'n'));
-    EXPECT_EQ(Cleaned("<b>" + Times(70, 'n') + "</b>"), Times(55, 'n'));
-    EXPECT_EQ(Cleaned("<b>" + Times(55, 'n') + "</b>"), Times(55, 'n'));
-}
-
-TEST(HtmlLinksTest, CleansByTheLastOpeningAndTheFirstClosingTag) {
+TEST(HtmlLinksTest, CleansLinkTextsAndCutsThemTo55Characters) {
     EXPECT_EQ(Cleaned(""), "");
     EXPECT_EQ(Cleaned(" n\xE9v "), " n\xE9v ");
     EXPECT_EQ(Cleaned("nagyobb > kisebb"), "nagyobb > kisebb");
@@ -238,6 +227,11 @@ TEST(HtmlLinksTest, CleansByTheLastOpeningAndTheFirstClosingTag) {
     EXPECT_EQ(Cleaned("</b>"), "");
     EXPECT_EQ(Cleaned("<i>a</i><b>b</b>"), "a");
     EXPECT_EQ(Cleaned("<b></b>"), "");
+    EXPECT_EQ(Cleaned(Times(70, "n")), Times(55, "n"));
+    EXPECT_EQ(Cleaned(Times(56, "n")), Times(55, "n"));
+    EXPECT_EQ(Cleaned(Times(55, "n")), Times(55, "n"));
+    EXPECT_EQ(Cleaned("<b>" + Times(70, "n") + "</b>"), Times(55, "n"));
+    EXPECT_EQ(Cleaned("<b>" + Times(55, "n") + "</b>"), Times(55, "n"));
 }
 
 TEST(HtmlLinksTest, WhatABookLacksIsPercentEncodedInAnAddressAndAQuestionMarkInAName) {
@@ -255,33 +249,19 @@ TEST(HtmlLinksTest, WhatABookLacksIsPercentEncodedInAnAddressAndAQuestionMarkInA
 }
 
 TEST(HtmlLinksTest, TheLimitsCountCharactersOfThePage) {
-    const auto times = [](std::size_t count, const std::string& character) {
-        std::string text;
-        for (std::size_t i = 0; i < count; ++i) text += character;
-        return text;
-    };
     const auto page = [&](std::size_t address, std::size_t name) {
-        return "<a href=\"" + times(address, "\u0440") + "\"><b>" + times(name, "\u0151") + "</b></a>";
+        return "<a href=\"" + Times(address, "\u0440") + "\"><b>" + Times(name, "\u0151") + "</b></a>";
     };
-    EXPECT_EQ(All(page(254, 251), TextEncoding::Utf8), (Links{{Times(55, '\xF5'), times(254, "%d1%80")}}));
+    EXPECT_EQ(All(page(254, 251), TextEncoding::Utf8), (Links{{Times(55, "\xF5"), Times(254, "%d1%80")}}));
     EXPECT_THROW(All(page(255, 1), TextEncoding::Utf8), OverflowFault);
     EXPECT_THROW(All(page(1, 252), TextEncoding::Utf8), OverflowFault);
 }
 
-TEST(HtmlLinksTest, ALineClosesOneCharacterBehindTheTagHoweverManyBytesThatHas) {
-    // The name is all of the chunk, and the character behind the tag in it is cut off with the tag.
-    EXPECT_EQ(All("<a href=\"1\"\nN</a\u0151>\n", TextEncoding::Utf8), (Links{{"1\" N", "1"}}));
-    EXPECT_EQ(All("<a href=\"1\">Egy\nN</a\u0151\n<a href=\"2\">x</a>", TextEncoding::Utf8),
-              (Links{{"egy N", "1"}, {"x", "2"}}));
-}
-
-TEST(HtmlLinksTest, BytesThatAreNotUtf8AreQuestionMarksInNameAndAddress) {
-    EXPECT_EQ(All("<a href=\"\xE1\xC5\">\xE2\x82</a>", TextEncoding::Utf8), (Links{{"??", "??"}}));
-}
-
-TEST(HtmlLinksTest, APageInIso8859Dash2) {
+TEST(HtmlLinksTest, OtherEncodingsAreDecoded) {
     EXPECT_EQ(All("<A HREF=\"\xA9\xB9\">\xA5\xE1 \x84</A>", TextEncoding::Latin2),
               (Links{{"\xBE\xE1 \x84", "\x9A\x9A"}}));
+    // Bytes that are not valid UTF-8.
+    EXPECT_EQ(All("<a href=\"\xE1\xC5\">\xE2\x82</a>", TextEncoding::Utf8), (Links{{"??", "??"}}));
 }
 
 TEST(HtmlLinksTest, StagesUnderTheNumberAndLeavesTheOthers) {
@@ -289,8 +269,8 @@ TEST(HtmlLinksTest, StagesUnderTheNumberAndLeavesTheOthers) {
     StageLink(staged, Chunk("2\">kett\xF5"), 2);
     EXPECT_EQ(staged, (Links{{"egy", "1"}, {"kett\xF5", "2"}}));
     EXPECT_THROW(StageLink(staged, Chunk("idez\xF5jel n\xE9lk\xFCl"), 3), ArgumentFault);
-    EXPECT_THROW(StageLink(staged, Chunk(Times(255, 'u') + "\">n"), 3), OverflowFault);
-    EXPECT_THROW(StageLink(staged, Chunk("3\">" + Times(255, 'n') + "</b>"), 3), OverflowFault);
+    EXPECT_THROW(StageLink(staged, Chunk(Times(255, "u") + "\">n"), 3), OverflowFault);
+    EXPECT_THROW(StageLink(staged, Chunk("3\">" + Times(255, "n") + "</b>"), 3), OverflowFault);
     EXPECT_THROW(StageLink(staged, Chunk("3\">n"), 0), RangeFault);
     EXPECT_EQ(staged, (Links{{"egy", "1"}, {"kett\xF5", "2"}}));
 }

@@ -1,11 +1,10 @@
 // Random texts, the same in every run, and encoders that are written to be simple.
 #pragma once
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <string>
-
-#include "text/TextFile.h"
 
 namespace lindrel::testing {
 
@@ -62,12 +61,12 @@ inline std::string Utf8(const std::u32string& text) {
     return bytes;
 }
 
-inline std::string Utf16(const std::u32string& text, ByteOrder order) {
+inline std::string Utf16(const std::u32string& text, std::endian order) {
     std::string bytes;
     const auto add = [&](char32_t unit) {
         const char high = static_cast<char>(unit / 256);
         const char low = static_cast<char>(unit % 256);
-        bytes.append(order == ByteOrder::BigEndian ? std::string{high, low} : std::string{low, high});
+        bytes.append(order == std::endian::big ? std::string{high, low} : std::string{low, high});
     };
     for (const char32_t c : text) {
         if (c >= 0x10000) add(0xD800 + (c - 0x10000) / 1024);

@@ -9,6 +9,7 @@
 #include <ostream>
 #include <string_view>
 
+#include "files/Files.h"
 #include "resources/resource.h"
 #include "tests/window/support/Program.h"
 #include "tests/window/support/RecordedShell.h"
@@ -30,7 +31,7 @@ void PrintTo(const ViewerCall& call, std::ostream* out) {
          << call.Data;
 }
 
-// The help file, put into the program's folder with a test's own bytes, or kept away from it.
+// With a recorder in place of the viewer. The program's folder has no help file but that of a test.
 class HTMLHelpTest : public ::testing::Test {
   protected:
     HTMLHelpTest() {
@@ -41,24 +42,15 @@ class HTMLHelpTest : public ::testing::Test {
     }
     ~HTMLHelpTest() override { RemoveHelpFile(); }
 
-    // Found without the help of what is tested.
+    // Without the functions that are tested.
     static std::wstring InProgramFolder() {
         wchar_t program[MAX_PATH] = L"";
         const DWORD length = GetModuleFileNameW(nullptr, program, MAX_PATH);
         if (length == 0 || length == MAX_PATH) throw std::runtime_error("the program's path");
         return std::filesystem::path(program).replace_filename(L"lnd.chm").wstring();
     }
-    static void RemoveHelpFile() {
-        // Usually there is neither file nor folder of that name.
-        DeleteFileW(InProgramFolder().c_str());
-        RemoveDirectoryW(InProgramFolder().c_str());
-    }
-    static void PutHelpFile() {
-        const HANDLE file = CreateFileW(InProgramFolder().c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
-                                        FILE_ATTRIBUTE_NORMAL, nullptr);
-        ASSERT_NE(file, INVALID_HANDLE_VALUE);
-        CloseHandle(file);
-    }
+    static void RemoveHelpFile() { std::filesystem::remove_all(InProgramFolder()); }
+    static void PutHelpFile() { WriteFileBytes(InProgramFolder(), ""); }
     static void ExpectMissingFileMessage(const Program& program) {
         const BoxOnScreen box = program.Box();
         EXPECT_EQ(box.Title(), L"Hiba");
@@ -74,7 +66,7 @@ class HTMLHelpTest : public ::testing::Test {
     static ViewerCall ContentsOf(const std::wstring& file) { return {nullptr, file, 1, 0}; }
     static ViewerCall CloseAll() { return {nullptr, L"", 18, 0}; }
 
-    // Made on the program's thread, looked at when it has settled.
+    // Made on the program's thread; to be read when it has settled.
     static inline std::vector<ViewerCall> calls;
 
   private:
@@ -82,7 +74,6 @@ class HTMLHelpTest : public ::testing::Test {
         calls.push_back({owner, file != nullptr ? file : L"", command, data});
         return nullptr;
     }
-    // The look-up of functions in libraries finds Record in the viewer's place.
     static FARPROC WINAPI LookUp(HMODULE library, const char* name) {
         if (!IS_INTRESOURCE(name) && std::string_view(name) == "HtmlHelpW")
             return reinterpret_cast<FARPROC>(reinterpret_cast<void*>(&Record));
@@ -92,11 +83,8 @@ class HTMLHelpTest : public ::testing::Test {
     std::optional<ReplacedImport> look_up_;
 };
 
-TEST_F(HTMLHelpTest, TheHelpFileOfKindOneLiesBesideTheProgram) {
+TEST_F(HTMLHelpTest, TheHelpFileOfKindOneIsInTheProgramsFolder) {
     EXPECT_EQ(HelpFilePath(1), InProgramFolder());
-}
-
-TEST_F(HTMLHelpTest, OtherKindsHaveNoFile) {
     for (const int kind : {0, 2, -1, 32767, -32768})
         EXPECT_EQ(HelpFilePath(static_cast<std::int16_t>(kind)), L"") << kind;
 }
@@ -109,21 +97,14 @@ TEST_F(HTMLHelpTest, ShowHelpAsksForTheContentsInTheNamedWindow) {
                                   ContentsOf(InProgramFolder() + L">"), ContentsOf(L">más")}));
 }
 
-TEST_F(HTMLHelpTest, WithoutTheFileF1ShowsTheMessage) {
+TEST_F(HTMLHelpTest, WithoutTheFileF1AndTheMenuItemShowTheMessage) {
     const Program program;
     program.PressKey(program.Control(ID_frmStart_ListURLs), VK_F1);
     ExpectMissingFileMessage(program);
-}
-
-TEST_F(HTMLHelpTest, WithoutTheFileTheMenuItemShowsTheMessage) {
-    const Program program;
     program.Choose(ID_mnuHelp);
     ExpectMissingFileMessage(program);
-}
-
-TEST_F(HTMLHelpTest, AFolderOfThatNameIsNoHelpFile) {
+    // A folder of that name is no help file.
     ASSERT_TRUE(CreateDirectoryW(InProgramFolder().c_str(), nullptr));
-    const Program program;
     program.Choose(ID_mnuHelp);
     ExpectMissingFileMessage(program);
 }
@@ -133,10 +114,10 @@ TEST_F(HTMLHelpTest, F1AndTheMenuItemOpenTheContentsInTheMainWindowType) {
     const Program program;
     program.PressKey(program.Control(ID_frmStart_txtSite), VK_F1);
     program.Settle();
-    EXPECT_EQ(calls, std::vector{ContentsOf(InProgramFolder() + L">main")});
+    const ViewerCall contents = ContentsOf(InProgramFolder() + L">main");
+    EXPECT_EQ(calls, std::vector{contents});
     program.Run(ID_mnuHelp);
-    EXPECT_EQ(calls, (std::vector{ContentsOf(InProgramFolder() + L">main"),
-                                  ContentsOf(InProgramFolder() + L">main")}));
+    EXPECT_EQ(calls, (std::vector{contents, contents}));
     EXPECT_TRUE(program.NothingIsOpen());
     EXPECT_EQ(program.State(), EmptyState());
 }

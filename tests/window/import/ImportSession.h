@@ -42,14 +42,14 @@ class ImportSession : public ::testing::Test {
         program.ClickRow(2);
     }
 
-    // What the window shows when the rows have come to the shown category and the dialog is closed; one entry
-    // is in another category.
-    static MainState WithImported(MainState state, const std::vector<Row>& rows) {
+    // What the window shows after the import of these rows into the shown category and of others elsewhere,
+    // where one entry is already.
+    static MainState WithImported(MainState state, const std::vector<Row>& rows, std::size_t elsewhere = 0) {
         state.Rows.insert(state.Rows.end(), rows.begin(), rows.end());
         state.SelectedRow = 0;
         state.txtSite = state.txtURL = state.Status[0] = L"";
         state.Status[1] = L"megjelenítve (" + std::to_wstring(state.Rows.size()) + L" / " +
-                          std::to_wstring(state.Rows.size() + 1) + L")";
+                          std::to_wstring(state.Rows.size() + 1 + elsewhere) + L")";
         state.Modified = true;
         return state;
     }
@@ -61,16 +61,20 @@ class ImportSession : public ::testing::Test {
         dialog.ClickAndWaitForClose(ID_frmImport_cmdCancel);
         program.Settle();
     }
-    void AnswerResult(int count) const {
+    // Answers a box that has a text and a single button.
+    void AnswerBox(const std::wstring& title, const std::wstring& text) const {
         const BoxOnScreen box = program.Box();
-        EXPECT_EQ(box.Title(), L"Lindrel");
-        EXPECT_EQ(box.Text(), L"Az importálás eredménye: " + std::to_wstring(count) + L" új cím");
+        EXPECT_EQ(box.Title(), title);
+        EXPECT_EQ(box.Text(), text);
         EXPECT_EQ(box.Buttons(), std::vector<int>{IDOK});
         EXPECT_EQ(box.Icon(), BoxIcon::None);
         box.Press(IDOK);
         program.Settle();
     }
-    // Fills the book to a number of entries, all behind those it has.
+    void AnswerResult(int count) const {
+        AnswerBox(L"Lindrel", L"Az importálás eredménye: " + std::to_wstring(count) + L" új cím");
+    }
+    // Fills the book to a number of entries; the new ones are its last.
     void FillBookTo(int entries) const {
         program.OnUi([&](frmStart& form) {
             Book& book = form.OpenedBook().TheBook;

@@ -23,10 +23,12 @@ class frmI_FavTest : public ImportSession {
         dialog.Click(ID_frmImport_cmdOK);
         return program.Dialog(L"Importálás a kedvencekből");
     }
-    // Chooses the test's own folder of the favourites and presses the import button.
-    void ChooseFolder(const DialogOnScreen& dialog) const {
+    // Chooses the test's own folder of the favourites, or one inside it, and presses the import button.
+    void ChooseFolder(const DialogOnScreen& dialog, const std::vector<std::wstring>& subfolders = {}) const {
         const DialogOnScreen picker = OpenPicker(dialog);
         DescendTo(program, picker.Control(ID_frmI_Fav_Dir1), L"Lindrel próba");
+        for (const std::wstring& name : subfolders)
+            DescendTo(program, picker.Control(ID_frmI_Fav_Dir1), name);
         picker.ClickAndWaitForClose(ID_frmI_Fav_cmdImport);
     }
     static void Write(const std::wstring& name, const std::string& bytes) {
@@ -43,18 +45,24 @@ class frmI_FavTest : public ImportSession {
         const std::wstring words(text, length);
         return words.substr(0, words.find_last_not_of(L"\r\n .") + 1);
     }
-    void ExpectReport(const std::wstring& text) {
+    static std::wstring Report(int number, const std::wstring& text) {
+        return L"Futásidejű hiba: " + std::to_wstring(number) + L"\r\n\r\n" + text +
+               L".\r\n\r\nA program bezárul.";
+    }
+    static std::wstring Report(int number, const std::wstring& file, const std::wstring& text) {
+        return Report(number, PathOf(file) + L"\r\n" + text);
+    }
+    void ExpectReport(const std::wstring& report) {
         const UnsavedBook book(program);
-        const DialogOnScreen dialog = Open();
-        ChooseFolder(dialog);
-        book.ExpectReportAndSave(text);
+        ChooseFolder(Open());
+        book.ExpectReportAndSave(report);
     }
 
     // Imports the folder's files, `count` of them, into a category and shows that.
-    void ImportInto(int category, int count) const {
+    void ImportInto(int category, int count, const std::vector<std::wstring>& subfolders = {}) const {
         const DialogOnScreen dialog = Open();
         dialog.Pick(ID_frmImport_cmbKateg, category - 1);
-        ChooseFolder(dialog);
+        ChooseFolder(dialog, subfolders);
         AnswerResult(count);
         Leave(dialog);
         program.ClickTab(category);
@@ -78,14 +86,13 @@ TEST_F(frmI_FavTest, TheChoiceStartsAtTheFavouritesAndCancellingItIsSilent) {
     picker.ClickAndWaitForClose(ID_frmI_Fav_cmdCancel);
     program.Settle();
     EXPECT_TRUE(dialog.IsOpen());
-    const DialogOnScreen again = OpenPicker(dialog);
-    again.Cancel();
+    OpenPicker(dialog).Cancel();
     program.Settle();
     Leave(dialog);
     EXPECT_EQ(Whole(), before);
 }
 
-TEST_F(frmI_FavTest, EachFileBecomesAnEntryAndTheBookIsMarked) {
+TEST_F(frmI_FavTest, EachFileBecomesAnEntryAndTheBookIsChanged) {
     Write(L"Posta.url", ShortcutFile("http://posta.hu"));
     Write(L"Hírek.url", ShortcutFile("http://hirek.hu"));
     Write(L"Alsó\\belso.url", ShortcutFile("http://belso.hu"));
@@ -99,44 +106,30 @@ TEST_F(frmI_FavTest, EachFileBecomesAnEntryAndTheBookIsMarked) {
               WithImported(before, {{L"Hírek", L"http://hirek.hu"}, {L"Posta", L"http://posta.hu"}}));
 }
 
-TEST_F(frmI_FavTest, ExportedEntriesComeBackAsTheyWere) {
-    const std::vector<NewEntry> entries = {{"\xC1rv\xEDz", "http://arviz.hu/?a=URL=b"},
-                                           {"Posta & t\xE1rsa", "mailto:ki@posta.hu"},
-                                           {"\xDAt", "http://ut.hu/#hely"}};
+TEST_F(frmI_FavTest, ExportedEntriesComeBackAmongFilesOfOtherPrograms) {
     Book book;
-    book.AddEntry(3, entries);
+    book.AddEntry(3, {{"\xC1rv\xEDz", "http://arviz.hu/?a=URL=b"},
+                      {"Posta & t\xE1rsa", "mailto:ki@posta.hu"},
+                      {"\xDAt", "http://ut.hu/#hely"}});
     book.Marks.Save(3, {1, 2, 3});
     saveTo_fav(book, FavoritesFolder::Path(), false);
-
-    ImportInto(3, 3);
-    EXPECT_EQ(program.State().Rows, (std::vector<Row>{{L"Posta & társa", L"mailto:ki@posta.hu"},
-                                                      {L"Árvíz", L"http://arviz.hu/?a=URL=b"},
-                                                      {L"Út", L"http://ut.hu/#hely"}}));
-}
-
-TEST_F(frmI_FavTest, TheExtensionIsCutByLengthWhateverItsCase) {
     Write(L"NAGY.URL", "[DEFAULT]\r\nBASEURL=http://alap.hu\r\n[InternetShortcut]\r\nURL=http://nagy.hu\r\n");
     Write(L"Görög Ω.Url", "[InternetShortcut]\nurl=http://gorog.hu\nIconIndex=1\n");
-    ImportInto(3, 2);
-    EXPECT_EQ(program.State().Rows,
-              (std::vector<Row>{{L"Görög ?", L"http://gorog.hu"}, {L"NAGY", L"http://alap.hu"}}));
+    ImportInto(3, 5);
+    EXPECT_EQ(program.State().Rows, (std::vector<Row>{{L"Görög ?", L"http://gorog.hu"},
+                                                      {L"NAGY", L"http://alap.hu"},
+                                                      {L"Posta & társa", L"mailto:ki@posta.hu"},
+                                                      {L"Árvíz", L"http://arviz.hu/?a=URL=b"},
+                                                      {L"Út", L"http://ut.hu/#hely"}}));
 }
 
 TEST_F(frmI_FavTest, AFolderOfAnyDepthIsReadWhateverItAndItsFilesAreCalled) {
     const DeepFolder deep(FavoritesFolder::Path() / L"Alsó");
     deep.Write(L"Műsor.url", ShortcutFile("http://musor.hu"));
     deep.Write(L"nul.url", ShortcutFile("http://nul.hu"));
-    const DialogOnScreen dialog = Open();
-    dialog.Pick(ID_frmImport_cmbKateg, 2);
-    const DialogOnScreen picker = OpenPicker(dialog);
-    DescendTo(program, picker.Control(ID_frmI_Fav_Dir1), L"Lindrel próba");
-    DescendTo(program, picker.Control(ID_frmI_Fav_Dir1), L"Alsó");
-    for (const std::wstring& name : DeepFolder::Names())
-        DescendTo(program, picker.Control(ID_frmI_Fav_Dir1), name);
-    picker.ClickAndWaitForClose(ID_frmI_Fav_cmdImport);
-    AnswerResult(2);
-    Leave(dialog);
-    program.ClickTab(3);
+    std::vector<std::wstring> subfolders = DeepFolder::Names();
+    subfolders.insert(subfolders.begin(), L"Alsó");
+    ImportInto(3, 2, subfolders);
     EXPECT_EQ(program.State().Rows,
               (std::vector<Row>{{L"Műsor", L"http://musor.hu"}, {L"nul", L"http://nul.hu"}}));
 }
@@ -158,13 +151,7 @@ TEST_F(frmI_FavTest, AFolderWithoutShortcutsIsReported) {
     const WholeState before = Whole();
     const DialogOnScreen dialog = Open();
     ChooseFolder(dialog);
-    const BoxOnScreen box = program.Box();
-    EXPECT_EQ(box.Title(), L"Lindrel");
-    EXPECT_EQ(box.Text(), L"Salynálom, de a megadott könyvtárban nem találtam kedvenc weblapokat");
-    EXPECT_EQ(box.Buttons(), std::vector<int>{IDOK});
-    EXPECT_EQ(box.Icon(), BoxIcon::None);
-    box.Press(IDOK);
-    program.Settle();
+    AnswerBox(L"Lindrel", L"Salynálom, de a megadott könyvtárban nem találtam kedvenc weblapokat");
     Leave(dialog);
     EXPECT_EQ(Whole(), before);
 }
@@ -182,7 +169,7 @@ TEST_F(frmI_FavTest, AFolderThatHasVanishedIsSilent) {
     EXPECT_EQ(Whole(), before);
 }
 
-TEST_F(frmI_FavTest, Import255FilesWorks) {
+TEST_F(frmI_FavTest, A256thFileEndsInTheReportAndLosesNothing) {
     std::vector<Row> rows;
     for (int i = 100; i < 355; ++i) {
         const std::string number = std::to_string(i);
@@ -191,37 +178,31 @@ TEST_F(frmI_FavTest, Import255FilesWorks) {
     }
     ImportInto(12, 255);
     EXPECT_EQ(program.State().Rows, rows);
-}
-
-TEST_F(frmI_FavTest, A256thFileEndsInTheReportAndLosesNothing) {
-    for (int i = 0; i < 256; ++i) Write(std::to_wstring(i) + L".url", ShortcutFile("http://lap.hu"));
-    ExpectReport(L"Futásidejű hiba: 6\r\n\r\n" + PathOf(L"99.url") +
-                 L"\r\nTúlcsordulás.\r\n\r\nA program bezárul.");
+    Write(L"355.url", ShortcutFile("http://355.hu"));
+    ExpectReport(Report(6, L"355.url", L"Túlcsordulás"));
 }
 
 TEST_F(frmI_FavTest, AFileOfOneLineEndsInTheReportAndLosesNothing) {
     Write(L"a.url", ShortcutFile("http://jo.hu"));
     Write(L"b.url", "[InternetShortcut]\r\n");
-    ExpectReport(L"Futásidejű hiba: 62\r\n\r\n" + PathOf(L"b.url") +
-                 L"\r\nOlvasás a fájl vége után.\r\n\r\nA program bezárul.");
+    ExpectReport(Report(62, L"b.url", L"Olvasás a fájl vége után"));
 }
 
 TEST_F(frmI_FavTest, AShortSecondLineEndsInTheReportAndLosesNothing) {
     Write(L"a.url", "[InternetShortcut]\r\nab\r\n");
-    ExpectReport(L"Futásidejű hiba: 5\r\n\r\n" + PathOf(L"a.url") +
-                 L"\r\nÉrvénytelen eljáráshívás vagy argumentum.\r\n\r\nA program bezárul.");
+    ExpectReport(Report(5, L"a.url", L"Érvénytelen eljáráshívás vagy argumentum"));
 }
 
-TEST_F(frmI_FavTest, AFileThatSomebodyKeepsToHimselfEndsInTheReportAndLosesNothing) {
+TEST_F(frmI_FavTest, AFileThatAnotherProgramHoldsEndsInTheReportAndLosesNothing) {
     Write(L"a.url", ShortcutFile("http://jo.hu"));
     Write(L"b.url", ShortcutFile("http://masik.hu"));
-    const std::wstring path = PathOf(L"b.url");
     const std::unique_ptr<void, decltype(&CloseHandle)> held(
-        CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr), &CloseHandle);
+        CreateFileW(PathOf(L"b.url").c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr),
+        &CloseHandle);
     ASSERT_NE(held.get(), INVALID_HANDLE_VALUE);
     const std::wstring words = WordsOf(ERROR_SHARING_VIOLATION);
     EXPECT_NE(words, L"");
-    ExpectReport(L"Futásidejű hiba: 75\r\n\r\n" + path + L"\r\n" + words + L".\r\n\r\nA program bezárul.");
+    ExpectReport(Report(75, L"b.url", words));
 }
 
 TEST_F(frmI_FavTest, AFullBookEndsInTheReportAndLosesNothing) {
@@ -229,10 +210,9 @@ TEST_F(frmI_FavTest, AFullBookEndsInTheReportAndLosesNothing) {
     Write(L"a.url", ShortcutFile("http://a.hu"));
     Write(L"b.url", ShortcutFile("http://b.hu"));
     const UnsavedBook book(program);
-    const DialogOnScreen dialog = Open();
-    ChooseFolder(dialog);
+    ChooseFolder(Open());
     AnswerResult(2);  // comes before the entries are added
-    book.ExpectReportAndSave(L"Futásidejű hiba: 6\r\n\r\nTúlcsordulás.\r\n\r\nA program bezárul.");
+    book.ExpectReportAndSave(Report(6, L"Túlcsordulás"));
 }
 
 TEST_F(frmI_FavTest, AFaultAfterACancelledPageOffersToSaveAmongBooks) {
@@ -244,8 +224,7 @@ TEST_F(frmI_FavTest, AFaultAfterACancelledPageOffersToSaveAmongBooks) {
     program.Settle();
     ChooseFolder(dialog);
     const BoxOnScreen report = program.Box();
-    EXPECT_EQ(report.Text(), L"Futásidejű hiba: 62\r\n\r\n" + PathOf(L"a.url") +
-                                 L"\r\nOlvasás a fájl vége után.\r\n\r\nA program bezárul.");
+    EXPECT_EQ(report.Text(), Report(62, L"a.url", L"Olvasás a fájl vége után"));
     report.Press(IDOK);
     const BoxOnScreen question = program.Box();
     EXPECT_EQ(question.Title(), L"A fájl módosult");
