@@ -9,7 +9,6 @@
 #include "export/ExportedEntries.h"
 #include "export/Shortcut.h"
 #include "faults/Faults.h"
-#include "files/File.h"
 #include "files/Files.h"
 #include "files/Folder.h"
 #include "text/BookText.h"

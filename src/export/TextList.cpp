@@ -1,13 +1,10 @@
 #include "export/TextList.h"
 
 #include <cstddef>
-#include <string>
 #include <string_view>
-#include <vector>
 
 #include "book/PerCategory.h"
 #include "export/ExportedEntries.h"
-#include "faults/Faults.h"
 
 namespace lindrel {
 
@@ -23,26 +20,21 @@ constexpr std::size_t kHeaderRest = 120;
 
 }  // namespace
 
-void WriteTextList(const Book& book, const ByteSink& out) {
-    std::string lines;
-    const auto hand_out = [&](std::size_t from_size) {
-        if (lines.size() < from_size) return;
-        out(lines);
-        lines.clear();
-    };
+TextList TextListOf(const Book& book) {
+    TextList list;
     for (int c = 1; c <= kCategories; ++c) {
         if (!IsExported(book, c)) continue;
         const std::string& name = book.CategoryNames(c);
-        if (name.size() > kHeaderRest) throw ArgumentFault();
-        lines.append(kHeaderStart).append(name).append(kHeaderRest - name.size(), '-').append(kLineEnd);
+        list.Complete = name.size() <= kHeaderRest;
+        if (!list.Complete) break;
+        list.Text.append(kHeaderStart).append(name).append(kHeaderRest - name.size(), '-').append(kLineEnd);
         for (const int e : ExportedEntries(book, c)) {
             const AddressEntry& entry = book.Entry(e);
-            lines.append(kNameStart).append(entry.SiteName).append(kLineEnd);
-            lines.append(kAddressStart).append(entry.URL).append(kLineEnd);
-            hand_out(kGoodPiece);
+            list.Text.append(kNameStart).append(entry.SiteName).append(kLineEnd);
+            list.Text.append(kAddressStart).append(entry.URL).append(kLineEnd);
         }
-        hand_out(0);
     }
+    return list;
 }
 
 }  // namespace lindrel

@@ -5,11 +5,11 @@
 #include "export/ExportedEntries.h"
 #include "export/Favorites.h"
 #include "export/TextList.h"
-#include "export/frmSelectFavoritDir.h"
-#include "files/File.h"
+#include "faults/Faults.h"
 #include "files/Files.h"
 #include "files/Folder.h"
 #include "resources/resource.h"
+#include "system/FolderDialog.h"
 #include "system/MsgBox.h"
 #include "system/Shell.h"
 #include "text/BookText.h"
@@ -187,25 +187,26 @@ void frmExport::DropCategoriesNotChosen() {
 // The categories that were not chosen stay dropped, even when the user then cancels.
 bool frmExport::ExportToFavorites() {
     DropCategoriesNotChosen();
-    frmSelectFavoritDir picker(FavoritesPath());
-    picker.ShowModal(Handle());
-    if (picker.ChosenFolder().empty()) return false;
+    FolderDialog frmSelectFavoritDir(
+        IDD_frmSelectFavoritDir,
+        {ID_frmSelectFavoritDir_Dir1, ID_frmSelectFavoritDir_cmdOk, ID_frmSelectFavoritDir_cmdCancel},
+        FavoritesPath());
+    frmSelectFavoritDir.ShowModal(Handle());
+    const std::wstring& folder = frmSelectFavoritDir.ChosenFolder();
+    if (folder.empty()) return false;
     const bool folder_for_each_category = Get<CheckBox>(ID_frmExport_optColor_3).IsChecked();
-    saveTo_fav(open_.TheBook, picker.ChosenFolder(), folder_for_each_category);
+    saveTo_fav(open_.TheBook, folder, folder_for_each_category);
     return true;
 }
 
 void frmExport::WriteTextList(const std::wstring& fileName) const {
-    OutputFile file(fileName);
-    lindrel::WriteTextList(open_.TheBook, [&file](std::string_view bytes) { file.Write(bytes); });
-    file.Close();
+    const TextList list = TextListOf(open_.TheBook);
+    WriteFileBytes(fileName, list.Text);
+    if (!list.Complete) throw ArgumentFault();
 }
 
 void frmExport::WriteHtmlPage(const std::wstring& fileName) const {
-    const PageStyle style = ReadTheme();
-    OutputFile file(fileName);
-    lindrel::WriteHtmlPage(open_.TheBook, style, [&file](std::string_view bytes) { file.Write(bytes); });
-    file.Close();
+    WriteFileBytes(fileName, HtmlPageOf(open_.TheBook, ReadTheme()));
 }
 
 PageStyle frmExport::ReadTheme() const {

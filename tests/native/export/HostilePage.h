@@ -79,9 +79,7 @@ inline std::string PageOf(const std::string& category, const std::vector<NewEntr
     for (int position = 1; position <= static_cast<int>(entries.size()); ++position)
         book.Marks.SaveOneMore(3, position);
     style.Title = title;
-    std::string page;
-    WriteHtmlPage(book, style, [&](std::string_view bytes) { page.append(bytes); });
-    return page;
+    return HtmlPageOf(book, style);
 }
 
 inline PageStyle DefaultStyle() {
