@@ -23,8 +23,8 @@ enum FragmentIndex : std::size_t {
 };
 constexpr std::size_t kMostFragments = kHeadLine + 1;
 
-// Programs that read exported pages know this head by its single slashes, missing quotation marks and mixed
-// case.
+// Single slashes, missing quotation marks and mixed case are on purpose: programs that read exported pages
+// recognise this head.
 std::string Head(const PageStyle& style, const Fragments& parts) {
     std::string head = "<!DOCTYPE HTML PUBLIC \"-/W3C/DTD HTML 4.0 Transitional/EN\">\r\n<html><head>\r\n";
     if (parts.size() > kHeadLine) head += parts[kHeadLine] + "\r\n";
@@ -57,7 +57,7 @@ Fragments DefaultThemeParts() {
     return {
         "<table border=0 cellspacing=0 cellpadding=1 bgcolor=#155BBB>",
         R"(<tr><td bgcolor=#655BBB><font color=#FFFFFF size=1 face="verdana,arial, helvetica"><b>)",
-        "<B></FONT>",  // not </B>: exported pages have always been bold from here on
+        "<B></FONT>",  // not </B>: exported pages have always stayed bold
         R"(<table width=100% bgcolor="FFFFFF" cellpadding=5 cellspacing=0 border=0>)",
         "",
     };
@@ -78,7 +78,7 @@ Fragments ApplyTheme(Fragments parts, std::string_view theme_file) {
 std::string HtmlPageOf(const Book& book, const PageStyle& style) {
     Fragments parts;
     for (const std::string& part : style.ThemeParts) parts.push_back(HtmlFragment(part));
-    // AppendCategory() opens a row too. Exported pages have always had both.
+    // AppendCategory() opens the same row again, as exported pages have always had it.
     std::string& open_inner = parts.at(kOpenInnerTable);
     if (!CaselessNeedle("<tr>").IsIn(open_inner)) open_inner += "\r\n<tr><td>";
 

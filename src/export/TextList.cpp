@@ -15,7 +15,7 @@ constexpr std::string_view kHeaderStart = "\xF7\xF7\xF7\xF7\xF7< ";
 constexpr std::string_view kNameStart = "\xB0 ";
 constexpr std::string_view kAddressStart = "  ";
 constexpr std::string_view kLineEnd = "\r\n";
-// Length of the name with the dashes after it. All headers have the same length.
+// Characters of a name and the dashes after it: all headers have the same length.
 constexpr std::size_t kHeaderRest = 120;
 
 }  // namespace

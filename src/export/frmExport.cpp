@@ -52,7 +52,7 @@ void frmExport::Form_Load() {
 void frmExport::FillThemes() const {
     const std::wstring styles = ProgramFolder() + L"\\styles";
     if (!FolderIsThere(styles)) {
-        CreateDirectoryW(styles.c_str(), nullptr);  // without the right to make it, there are just no themes
+        static_cast<void>(CreateDirectoryW(styles.c_str(), nullptr));  // if it fails, there are still no themes
         return;
     }
     const auto cmbTheme = Get<ComboBox>(ID_frmExport_cmbTheme);
@@ -91,7 +91,7 @@ void frmExport::cmbType_Click() {
     for (const int id : kFavoritesFrame) Get<Control>(id).Show(kind == Favorites);
 }
 
-// The colours too, whatever theme is named: it has no say until its text or the focus changes.
+// Enables the colours even if a theme is named, until cmbTheme_Change() disables them again.
 void frmExport::SetPageOptionsEnabled(bool disable) const {
     for (const int id : kPageFrame) Get<Control>(id).Enable(!disable);
 }
@@ -104,14 +104,14 @@ void frmExport::OnTheme(int event) const {
     if (event == CBN_KILLFOCUS) cmbTheme_LostFocus();
 }
 
-// A theme that is named decides the colours.
+// A theme brings its own colours.
 void frmExport::cmbTheme_Change(const std::wstring& theme) const {
     constexpr std::size_t kShortestTheme = 5;
     for (const int id : {ID_frmExport_optColor_0, ID_frmExport_optColor_1})
         Get<Control>(id).Enable(theme.size() < kShortestTheme);
 }
 
-// For a text that changed without a notification.
+// The text can change without a notification.
 void frmExport::cmbTheme_LostFocus() const {
     cmbTheme_Change(Text(ID_frmExport_cmbTheme));
 }
@@ -176,7 +176,7 @@ bool frmExport::ChooseFile(std::wstring& path) {
                   L"Figyelem: már van ilyen fájl!") == IDOK;
 }
 
-// The lines of the list stand for the categories with checked entries, in their order.
+// The lines of the list are the categories with checked entries, in their order.
 void frmExport::DropCategoriesNotChosen() {
     const auto lstSource = Get<ListBox>(ID_frmExport_lstSource);
     int line = 0;
@@ -184,7 +184,7 @@ void frmExport::DropCategoriesNotChosen() {
         if (IsExported(open_.TheBook, c) && !lstSource.IsSelected(line++)) open_.TheBook.Marks.Forget(c);
 }
 
-// The categories that were not chosen stay dropped, even when the user then cancels.
+// The categories that were not chosen stay dropped even if the user cancels.
 bool frmExport::ExportToFavorites() {
     DropCategoriesNotChosen();
     FolderDialog frmSelectFavoritDir(

@@ -47,6 +47,10 @@ class ExportSession : public ::testing::Test {
             SendMessageW(dialog.Control(ID_frmExport_lstSource), LB_SETSEL, TRUE, line);
         return dialog;
     }
+    static void Leave(const DialogOnScreen& dialog) {
+        dialog.Cancel();
+        dialog.WaitForClose();
+    }
     // The number of checked entries to export, of each category.
     std::vector<int> Counts() const {
         std::vector<int> counts;

@@ -92,6 +92,7 @@ TEST_F(frmExportTest, OpensWithTheWebPageAndALineForEachCategoryWithMarks) {
     EXPECT_FALSE(dialog.IsChecked(ID_frmExport_optColor_1));
     EXPECT_TRUE(dialog.IsChecked(ID_frmExport_optColor_2));
     EXPECT_FALSE(dialog.IsChecked(ID_frmExport_optColor_3));
+    Leave(dialog);
 }
 
 TEST_F(frmExportTest, TheKindShowsItsOwnOptions) {
@@ -113,6 +114,7 @@ TEST_F(frmExportTest, TheKindShowsItsOwnOptions) {
     expect(1, true, false, false);
     expect(2, false, false, true);
     expect(0, true, true, false);
+    Leave(dialog);
 }
 
 TEST_F(frmExportTest, WithoutAChosenCategoryTheListIsAskedFor) {
@@ -126,6 +128,8 @@ TEST_F(frmExportTest, WithoutAChosenCategoryTheListIsAskedFor) {
     box.Press(IDOK);
     program.Settle();
     EXPECT_EQ(dialog.Focus(), ID_frmExport_lstSource);
+    EXPECT_EQ(Counts(), CountsOf(2, 1));
+    Leave(dialog);
     EXPECT_EQ(Counts(), CountsOf(2, 1));
 }
 
@@ -176,6 +180,7 @@ TEST_F(frmExportTest, ACancelledSaveDialogLeavesTheDialogAndTheCounts) {
     program.Settle();
     EXPECT_TRUE(dialog.IsOpen());
     EXPECT_EQ(Counts(), CountsOf(2, 1));
+    Leave(dialog);
 }
 
 TEST_F(frmExportTest, AFailureWhileWritingClosesTheDialogWithoutAMessage) {

@@ -88,6 +88,7 @@ TEST_F(frmSelectFavoritDirTest, TheFolderChoiceStartsAtTheFavourites) {
     program.Settle();
     EXPECT_TRUE(dialog.IsOpen());
     EXPECT_EQ(Counts(), CountsOf(0, 1));  // what was not chosen is dropped all the same
+    Leave(dialog);
 }
 
 TEST_F(frmSelectFavoritDirTest, CancellingAfterAChoiceWritesNothingAndLeavesTheDialogOpen) {
@@ -106,6 +107,7 @@ TEST_F(frmSelectFavoritDirTest, CancellingAfterAChoiceWritesNothingAndLeavesTheD
         EXPECT_EQ(FilesBelow(Favorites()), Files{});
         EXPECT_EQ(Counts(), CountsOf(2, 0));
     }
+    Leave(dialog);
 }
 
 TEST_F(frmSelectFavoritDirTest, AllFilesGoIntoTheChosenFolderAndTheNameChangesInTheBook) {
