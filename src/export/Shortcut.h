@@ -13,8 +13,8 @@ std::string ShortcutFile(std::string_view url);
 // contain stay, and creating the file fails.
 void MakeShortcutFileName(std::string& name);
 
-// The same for the export of many entries, which has always refused some long names: throws OverflowFault if a
-// character after the 255th would have to be replaced.
+// The same for the export of many entries, which has always refused some long names: throws OverflowFault if
+// a character after the 255th would have to be replaced.
 void SafeFileName(std::string& name);
 
 // The folder name for a category: each character that folder names cannot contain becomes "_". A "_" is also

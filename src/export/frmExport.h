@@ -41,8 +41,8 @@ class frmExport : public Dialog {
     void DropCategoriesNotChosen();
     void WriteHtmlPage(const std::wstring& fileName) const;
     void WriteTextList(const std::wstring& fileName) const;
-    // The look of the page as chosen in the dialog. Tells the user if the theme file does not exist; throws if
-    // it cannot be read or has too many fields.
+    // The look of the page as chosen in the dialog. Tells the user if the theme file does not exist; throws
+    // if it cannot be read or has too many fields.
     PageStyle ReadTheme() const;
 
     OpenBook& open_;

@@ -5,7 +5,6 @@
 #include <chrono>
 #include <filesystem>
 #include <functional>
-#include <optional>
 #include <string>
 #include <thread>
 
@@ -54,15 +53,18 @@ std::wstring FaultOfWriting(const std::wstring& path) {
     return FaultOf(path, [&] { WriteFileBytes(path, kNew); });
 }
 
-// Another program that has a file open.
+using Time = std::chrono::milliseconds;
+constexpr Time kMoment{300};
+constexpr Time kForGood = std::chrono::minutes(1);
+
+// Another program that has a file open, until the time is over or the object is destroyed.
 class Holder {
   public:
-    // For a time, or until it is destroyed.
-    Holder(const std::wstring& path, DWORD sharing, std::optional<std::chrono::milliseconds> time = {})
+    Holder(const std::wstring& path, DWORD sharing, Time time)
         : file_(CreateFileW(path.c_str(), GENERIC_READ, sharing, nullptr, OPEN_EXISTING, 0, nullptr)) {
         if (file_ == INVALID_HANDLE_VALUE) throw std::runtime_error("the file cannot be held");
         thread_ = std::jthread([this, time](const std::stop_token& stop) {
-            const auto end = std::chrono::steady_clock::now() + time.value_or(std::chrono::minutes(1));
+            const auto end = std::chrono::steady_clock::now() + time;
             while (!stop.stop_requested() && std::chrono::steady_clock::now() < end)
                 std::this_thread::yield();
             CloseHandle(file_);
@@ -74,8 +76,6 @@ class Holder {
     std::jthread thread_;
 };
 
-constexpr std::chrono::milliseconds kMoment{300};
-
 class FileFaultsTest : public ::testing::Test {
   protected:
     // The temporary file of a.lnd.
@@ -85,6 +85,20 @@ class FileFaultsTest : public ::testing::Test {
     void Expect(const std::string& bytes) const {
         EXPECT_EQ(folder.Names(), (Names{L"a.lnd"}));
         EXPECT_EQ(TemporaryFolder::Read(file), bytes);
+    }
+
+    // The fault of an operation on a.lnd while another program holds a file.
+    using Operation = std::wstring(const std::wstring& path);
+    std::wstring FaultWhileHeld(const std::wstring& held, DWORD sharing, Time time,
+                                Operation operation) const {
+        const Holder other(held, sharing, time);
+        return operation(file);
+    }
+    // The same while a function of the system is replaced.
+    template <typename Function>
+    std::wstring FaultWith(Function* function, Function* replacement, Operation operation) const {
+        const ReplacedImport replaced(function, replacement);
+        return operation(file);
     }
 
     TemporaryFolder folder;
@@ -175,35 +189,21 @@ TEST_F(FileFaultsTest, PathsThatAreLongerThan260Characters) {
 
 TEST_F(FileFaultsTest, AFileThatIsHeldForAMoment) {
     Old();
-    {
-        const Holder scanner(file, 0, kMoment);
-        EXPECT_EQ(FaultOfReplacing(file), kNone);
-    }
+    EXPECT_EQ(FaultWhileHeld(file, 0, kMoment, FaultOfReplacing), kNone);
     Expect(kNew);
-    {
-        const Holder scanner(file, 0, kMoment);
-        EXPECT_EQ(FaultOfReading(file), kNone);
-    }
-    {
-        const Holder scanner(file, FILE_SHARE_READ, kMoment);
-        EXPECT_EQ(FaultOfWriting(file), kNone);
-    }
+    EXPECT_EQ(FaultWhileHeld(file, 0, kMoment, FaultOfReading), kNone);
+    EXPECT_EQ(FaultWhileHeld(file, FILE_SHARE_READ, kMoment, FaultOfWriting), kNone);
     Expect(kNew);
 }
 
 TEST_F(FileFaultsTest, AFileThatIsHeldForGood) {
     Old();
     const ULONGLONG start = GetTickCount64();
-    {
-        const Holder other(file, FILE_SHARE_READ);
-        EXPECT_EQ(FaultOfReplacing(file), Reason(ERROR_ACCESS_DENIED));
-        EXPECT_EQ(FaultOfWriting(file), Reason(ERROR_SHARING_VIOLATION));
-    }
+    EXPECT_EQ(FaultWhileHeld(file, FILE_SHARE_READ, kForGood, FaultOfReplacing), Reason(ERROR_ACCESS_DENIED));
+    EXPECT_EQ(FaultWhileHeld(file, FILE_SHARE_READ, kForGood, FaultOfWriting),
+              Reason(ERROR_SHARING_VIOLATION));
     Expect(kOld);
-    {
-        const Holder other(file, 0);
-        EXPECT_EQ(FaultOfReading(file), Reason(ERROR_SHARING_VIOLATION));
-    }
+    EXPECT_EQ(FaultWhileHeld(file, 0, kForGood, FaultOfReading), Reason(ERROR_SHARING_VIOLATION));
     EXPECT_GE(GetTickCount64() - start, static_cast<ULONGLONG>(3 * kFilePatience.count()));
 }
 
@@ -239,17 +239,13 @@ TEST_F(FileFaultsTest, WhatHasTheNameOfTheTemporaryFileIsNotWrittenTo) {
 TEST_F(FileFaultsTest, ALeftoverThatIsHeld) {
     Old();
     const std::wstring leftover = folder.Write(kTemporary, "x");
-    {
-        const Holder scanner(leftover, 0, kMoment);
-        EXPECT_EQ(FaultOfReplacing(file), kNone);
-    }
+    EXPECT_EQ(FaultWhileHeld(leftover, 0, kMoment, FaultOfReplacing), kNone);
     Expect(kNew);
+    Old();
     folder.Write(kTemporary, "x");
-    {
-        const Holder other(leftover, FILE_SHARE_READ);
-        EXPECT_EQ(FaultOfReplacing(file), Reason(ERROR_SHARING_VIOLATION));
-        EXPECT_EQ(TemporaryFolder::Read(file), kNew);
-    }
+    EXPECT_EQ(FaultWhileHeld(leftover, FILE_SHARE_READ, kForGood, FaultOfReplacing),
+              Reason(ERROR_SHARING_VIOLATION));
+    EXPECT_EQ(TemporaryFolder::Read(file), kOld);
     EXPECT_EQ(FaultOfReplacing(file), kNone);
     Expect(kNew);
 }
@@ -315,9 +311,6 @@ TEST_F(FileFaultsTest, TheStateOfAFileTellsEveryChange) {
 HANDLE(WINAPI* create_file)
 (LPCWSTR, DWORD, DWORD, LPSECURITY_ATTRIBUTES, DWORD, DWORD, HANDLE) = nullptr;
 DWORD(WINAPI* get_file_attributes)(LPCWSTR) = nullptr;
-BOOL(WINAPI* const kWriteFile)(HANDLE, LPCVOID, DWORD, LPDWORD, LPOVERLAPPED) = WriteFile;
-BOOL(WINAPI* const kFlushFileBuffers)(HANDLE) = FlushFileBuffers;
-BOOL(WINAPI* const kMoveFileExW)(LPCWSTR, LPCWSTR, DWORD) = MoveFileExW;
 
 template <DWORD error>
 BOOL WINAPI WriteFails(HANDLE, LPCVOID, DWORD, LPDWORD, LPOVERLAPPED) {
@@ -354,13 +347,9 @@ DWORD WINAPI TargetOfTheLink(HANDLE, LPWSTR path, DWORD size, DWORD) {
 
 TEST_F(FileFaultsTest, AFullDisk) {
     Old();
-    {
-        const ReplacedImport full(kWriteFile, &WriteFails<ERROR_DISK_FULL>);
-        EXPECT_EQ(FaultOfReplacing(file), Reason(ERROR_DISK_FULL));
-    }
+    EXPECT_EQ(FaultWith(&WriteFile, &WriteFails<ERROR_DISK_FULL>, FaultOfReplacing), Reason(ERROR_DISK_FULL));
     Expect(kOld);
-    const ReplacedImport full(kWriteFile, &WriteFails<ERROR_DISK_FULL>);
-    EXPECT_EQ(FaultOfWriting(file), Reason(ERROR_DISK_FULL));
+    EXPECT_EQ(FaultWith(&WriteFile, &WriteFails<ERROR_DISK_FULL>, FaultOfWriting), Reason(ERROR_DISK_FULL));
     Expect("");
 }
 
@@ -368,10 +357,7 @@ TEST_F(FileFaultsTest, AFolderThatCannotBeWrittenIsRefusedAtOnce) {
     Old();
     tries = 0;
     create_file = &CreateFileW;
-    {
-        const ReplacedImport denied(&CreateFileW, &CreationIsDenied);
-        EXPECT_EQ(FaultOfReplacing(file), Reason(ERROR_ACCESS_DENIED));
-    }
+    EXPECT_EQ(FaultWith(&CreateFileW, &CreationIsDenied, FaultOfReplacing), Reason(ERROR_ACCESS_DENIED));
     EXPECT_EQ(tries, 1);
     Expect(kOld);
 }
@@ -401,23 +387,18 @@ TEST_F(FileFaultsTest, ALinkThatLeadsNowhere) {
 
 TEST_F(FileFaultsTest, ADiskThatFailsToFlush) {
     Old();
-    {
-        const ReplacedImport broken(kFlushFileBuffers, &FlushFails<ERROR_IO_DEVICE>);
-        EXPECT_EQ(FaultOfReplacing(file), Reason(ERROR_IO_DEVICE));
-    }
+    EXPECT_EQ(FaultWith(&FlushFileBuffers, &FlushFails<ERROR_IO_DEVICE>, FaultOfReplacing),
+              Reason(ERROR_IO_DEVICE));
     Expect(kOld);
-    const ReplacedImport network(kFlushFileBuffers, &FlushFails<ERROR_INVALID_FUNCTION>);
-    EXPECT_EQ(FaultOfReplacing(file), kNone);
+    // A drive of the network that cannot flush.
+    EXPECT_EQ(FaultWith(&FlushFileBuffers, &FlushFails<ERROR_INVALID_FUNCTION>, FaultOfReplacing), kNone);
     Expect(kNew);
 }
 
 TEST_F(FileFaultsTest, AccessDenied) {
     Old();
     tries = 0;
-    {
-        const ReplacedImport denied(kMoveFileExW, &MoveIsDenied);
-        EXPECT_EQ(FaultOfReplacing(file), Reason(ERROR_ACCESS_DENIED));
-    }
+    EXPECT_EQ(FaultWith(&MoveFileExW, &MoveIsDenied, FaultOfReplacing), Reason(ERROR_ACCESS_DENIED));
     // After pauses of 10, 20, 40 and so on up to 640, and the remaining 730 milliseconds.
     EXPECT_EQ(tries, 9);
     Expect(kOld);
@@ -427,10 +408,7 @@ TEST_F(FileFaultsTest, AReadOnlyFileIsRefusedAtOnce) {
     Old();
     ASSERT_TRUE(SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_READONLY));
     tries = 0;
-    {
-        const ReplacedImport counting(kMoveFileExW, &MoveIsDenied);
-        EXPECT_EQ(FaultOfReplacing(file), Reason(ERROR_ACCESS_DENIED));
-    }
+    EXPECT_EQ(FaultWith(&MoveFileExW, &MoveIsDenied, FaultOfReplacing), Reason(ERROR_ACCESS_DENIED));
     EXPECT_EQ(tries, 0);
     Expect(kOld);
     ASSERT_TRUE(SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_NORMAL));
