@@ -1,12 +1,10 @@
-// Exporting all of the largest book, beside writing the same bytes.
+// Exporting the largest book with everything checked, next to writing the same bytes.
 
 #include <benchmark/benchmark.h>
 
 #include <cstdint>
 #include <filesystem>
-#include <functional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "bench/SampleBook.h"
@@ -16,9 +14,7 @@
 #include "export/HtmlPage.h"
 #include "export/Shortcut.h"
 #include "export/TextList.h"
-#include "files/File.h"
 #include "files/Files.h"
-#include "files/OutputFile.h"
 
 namespace lindrel::bench {
 namespace {
@@ -40,50 +36,36 @@ const Book& TheBook() {
     return book;
 }
 
-using Exporter = std::function<void(const ByteSink&)>;
-
-const Exporter kPage = [](const ByteSink& out) { WriteHtmlPage(TheBook(), PageStyle{}, out); };
-const Exporter kTextList = [](const ByteSink& out) { WriteTextList(TheBook(), out); };
-
-void Export(benchmark::State& state, const Exporter& exporter, const std::string& name,
-            const std::string& floor) {
+void WriteSameBytes(benchmark::State& state, const std::string& bytes, const std::string& name) {
     const std::filesystem::path path = TemporaryFile(name);
-    for (auto _ : state) {
-        OutputFile file(path);
-        exporter([&file](std::string_view bytes) { file.Write(bytes); });
-        file.Close();
-    }
-    state.SetLabel(floor);
-}
-
-void WriteSameBytes(benchmark::State& state, const Exporter& exporter, const std::string& name) {
-    std::string all;
-    exporter([&all](std::string_view bytes) { all.append(bytes); });
-    const std::filesystem::path path = TemporaryFile(name);
-    for (auto _ : state) WriteFileBytes(path, all);
+    for (auto _ : state) WriteFileBytes(path, bytes);
 }
 
 void FloorWritePage(benchmark::State& state) {
-    WriteSameBytes(state, kPage, "floor.htm");
+    WriteSameBytes(state, HtmlPageOf(TheBook(), PageStyle{}), "floor.htm");
 }
 BENCHMARK(FloorWritePage)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void ExportPage(benchmark::State& state) {
-    Export(state, kPage, "page.htm", "FloorWritePage");
+    const std::filesystem::path path = TemporaryFile("page.htm");
+    for (auto _ : state) WriteFileBytes(path, HtmlPageOf(TheBook(), PageStyle{}));
+    state.SetLabel("FloorWritePage");
 }
 BENCHMARK(ExportPage)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void FloorWriteTextList(benchmark::State& state) {
-    WriteSameBytes(state, kTextList, "floor.txt");
+    WriteSameBytes(state, TextListOf(TheBook()).Text, "floor.txt");
 }
 BENCHMARK(FloorWriteTextList)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void ExportTextList(benchmark::State& state) {
-    Export(state, kTextList, "list.txt", "FloorWriteTextList");
+    const std::filesystem::path path = TemporaryFile("list.txt");
+    for (auto _ : state) WriteFileBytes(path, TextListOf(TheBook()).Text);
+    state.SetLabel("FloorWriteTextList");
 }
 BENCHMARK(ExportTextList)->Unit(benchmark::kMillisecond)->UseRealTime();
 
-// The same files, one after the other.
+// The files of ExportShortcuts, one after the other.
 void FloorWriteShortcuts(benchmark::State& state) {
     const std::filesystem::path folder = TemporaryFile("floor");
     std::filesystem::create_directory(folder);

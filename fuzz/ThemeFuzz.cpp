@@ -145,9 +145,7 @@ std::string RealPage(const PageStyle& style, const PlainEntries& entries) {
         for (int position = 1; position <= book.CategoryCounts(k); ++position)
             book.Marks.SaveOneMore(k, position);
     }
-    std::string page;
-    WriteHtmlPage(book, style, [&page](std::string_view piece) { page.append(piece); });
-    return page;
+    return HtmlPageOf(book, style);
 }
 
 }  // namespace

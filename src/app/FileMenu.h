@@ -6,7 +6,7 @@
 
 #include "app/BookView.h"
 #include "book/OpenBook.h"
-#include "files/File.h"
+#include "files/Files.h"
 
 namespace lindrel {
 

@@ -1,5 +1,5 @@
-// The entries that are exported: those that were checked when their category was last left, in the order of
-// the list.
+// The entries to export: those that were checked when the user last left their category, in the order of the
+// list. Categories are 1-based.
 #pragma once
 
 #include <cstdint>
@@ -14,7 +14,7 @@ inline bool IsExported(const Book& book, int category) {
     return book.Marks.SavedCheckCounts(category) > 0;
 }
 
-// The indices in the book of a category's entries to export.
+// The 1-based indices in the book of a category's entries to export.
 inline std::vector<int> ExportedEntries(const Book& book, int category) {
     std::vector<int> indices;
     for (const std::int16_t position : book.Marks.SavedCheckLists(category))

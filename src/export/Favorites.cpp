@@ -9,7 +9,6 @@
 #include "export/ExportedEntries.h"
 #include "export/Shortcut.h"
 #include "faults/Faults.h"
-#include "files/File.h"
 #include "files/Files.h"
 #include "files/Folder.h"
 #include "text/BookText.h"
@@ -48,10 +47,8 @@ std::vector<ShortcutToWrite> PlanShortcuts(const Book& book, const Path& folder,
 
 void saveTo_fav(Book& book, const Path& folder, bool folder_for_each_category) {
     const std::vector<ShortcutToWrite> plan = PlanShortcuts(book, folder, folder_for_each_category);
-    Path created;
     for (const ShortcutToWrite& shortcut : plan) {
-        if (folder_for_each_category && shortcut.Folder != created) CreateFolder(shortcut.Folder);
-        created = shortcut.Folder;
+        if (folder_for_each_category) CreateFolder(shortcut.Folder);
         const Path file = Joined(shortcut.Folder, PathOf(shortcut.SafeName + ".url"));
         NamingTheFile(WideText(file),
                       [&] { WriteFileBytes(LongPath(file), ShortcutFile(book.SiteURLs(shortcut.Entry))); });

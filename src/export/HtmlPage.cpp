@@ -1,7 +1,6 @@
 #include "export/HtmlPage.h"
 
 #include <cstddef>
-#include <initializer_list>
 
 #include "Version.h"
 #include "book/PerCategory.h"
@@ -23,85 +22,34 @@ enum FragmentIndex : std::size_t {
     kHeadLine
 };
 constexpr std::size_t kMostFragments = kHeadLine + 1;
-constexpr std::string_view kOpenRow = "<tr><td>";
 
-bool ContainsRow(std::string_view fragment) {
-    return CaselessNeedle("<tr>").IsIn(fragment);
+// Single slashes, missing quotation marks and mixed case are on purpose: programs that read exported pages
+// recognise this head.
+std::string Head(const PageStyle& style, const Fragments& parts) {
+    std::string head = "<!DOCTYPE HTML PUBLIC \"-/W3C/DTD HTML 4.0 Transitional/EN\">\r\n<html><head>\r\n";
+    if (parts.size() > kHeadLine) head += parts[kHeadLine] + "\r\n";
+    head += "<TITLE>" + HtmlText(style.Title) +
+            "</TITLE>\r\n"
+            "<meta http-equiv=Content-Type content=text/html; charset=iso-8859-2>\r\n"
+            "<META NAME=\"GENERATOR\" content=\"Lindrel - " LINDREL_HOME_PAGE "\">\r\n";
+    if (!style.ThemeApplied) head += "<BASEFONT FACE=\"Arial,Helvetica\">\r\n";
+    head += "</HEAD><BODY ";
+    if (!style.ThemeApplied)
+        head += "BGCOLOR=" + style.Background +
+                " link=\"#725E50\" vlink=\"#990000\" alink=\"#ff0000\" text=" + style.Text;
+    return head + "><BR><BR>\r\n";
 }
 
-class PageWriter {
-  public:
-    PageWriter(const Book& book, const PageStyle& style, const ByteSink& out)
-        : book_(book), style_(style), out_(out) {
-        for (const std::string& part : style.ThemeParts) AppendHtmlFragment(parts_.emplace_back(), part);
-        // WriteCategory() opens a row too. Exported pages have always had both.
-        std::string& open_inner = parts_.at(kOpenInnerTable);
-        if (!ContainsRow(open_inner)) open_inner.append("\r\n").append(kOpenRow);
+void AppendCategory(std::string& page, const Book& book, int category, const Fragments& parts) {
+    page += parts.at(kBeforeName) + HtmlText(book.CategoryNames(category)) + parts.at(kAfterName) + "\r\n";
+    page += "</TD></TR>\r\n<TR><TD>\r\n" + parts.at(kOpenInnerTable) + "\r\n<tr><td>\r\n";
+    for (const int e : ExportedEntries(book, category)) {
+        const AddressEntry& entry = book.Entry(e);
+        page.append("<A HREF=").append(HtmlAddress(entry.URL)).append(">");
+        page.append(HtmlText(entry.SiteName)).append("</A><BR>\r\n");
     }
-
-    void Write() {
-        WriteHead();
-        Line({parts_.at(kOpenTable)});
-        for (int c = 1; c <= kCategories; ++c)
-            if (IsExported(book_, c)) WriteCategory(c);
-        Text({"</TABLE><BR><BR><BR></BODY></HTML>"});
-        HandOut();
-    }
-
-  private:
-    void Text(std::initializer_list<std::string_view> pieces) {
-        for (const std::string_view piece : pieces) page_.append(piece);
-    }
-    void Line(std::initializer_list<std::string_view> pieces) {
-        Text(pieces);
-        page_.append("\r\n");
-    }
-    void HandOut() {
-        out_(page_);
-        page_.clear();
-    }
-
-    void WriteHead() {
-        // Programs that read exported pages know this head by its single slashes, missing quotation marks and
-        // mixed case.
-        Line({R"(<!DOCTYPE HTML PUBLIC "-/W3C/DTD HTML 4.0 Transitional/EN">)"});
-        Line({"<html><head>"});
-        if (parts_.size() > kHeadLine) Line({parts_[kHeadLine]});
-        page_.append("<TITLE>");
-        AppendHtmlText(page_, style_.Title).append("</TITLE>\r\n");
-        Line({"<meta http-equiv=Content-Type content=text/html; charset=iso-8859-2>"});
-        Line({R"(<META NAME="GENERATOR" content="Lindrel - )" LINDREL_HOME_PAGE R"(">)"});
-        if (!style_.ThemeApplied) Line({R"(<BASEFONT FACE="Arial,Helvetica">)"});
-        Text({"</HEAD><BODY "});
-        if (!style_.ThemeApplied)
-            Text({"BGCOLOR=", style_.Background, R"( link="#725E50" vlink="#990000" alink="#ff0000" text=)",
-                  style_.Text});
-        Line({"><BR><BR>"});
-    }
-
-    void WriteCategory(int category) {
-        page_.append(parts_.at(kBeforeName));
-        AppendHtmlText(page_, book_.CategoryNames(category)).append(parts_.at(kAfterName)).append("\r\n");
-        Line({"</TD></TR>"});
-        Line({"<TR><TD>"});
-        Line({parts_.at(kOpenInnerTable), "\r\n", kOpenRow});
-        for (const int e : ExportedEntries(book_, category)) {
-            const AddressEntry& entry = book_.Entry(e);
-            page_.append("<A HREF=");
-            AppendHtmlAddress(page_, entry.URL).append(">");
-            AppendHtmlText(page_, entry.SiteName).append("</A><BR>\r\n");
-            if (page_.size() >= kGoodPiece) HandOut();
-        }
-        Line({parts_.at(kBeforeClosing), "</td></tr></table></TD></TR>"});
-        HandOut();
-    }
-
-    const Book& book_;
-    const PageStyle& style_;
-    const ByteSink& out_;
-    Fragments parts_;
-    std::string page_;  // what has not been handed out yet
-};
+    page += parts.at(kBeforeClosing) + "</td></tr></table></TD></TR>\r\n";
+}
 
 }  // namespace
 
@@ -109,7 +57,7 @@ Fragments DefaultThemeParts() {
     return {
         "<table border=0 cellspacing=0 cellpadding=1 bgcolor=#155BBB>",
         R"(<tr><td bgcolor=#655BBB><font color=#FFFFFF size=1 face="verdana,arial, helvetica"><b>)",
-        "<B></FONT>",  // not </B>: exported pages have always been bold from here on
+        "<B></FONT>",  // not </B>: exported pages have always stayed bold
         R"(<table width=100% bgcolor="FFFFFF" cellpadding=5 cellspacing=0 border=0>)",
         "",
     };
@@ -127,8 +75,18 @@ Fragments ApplyTheme(Fragments parts, std::string_view theme_file) {
     return parts;
 }
 
-void WriteHtmlPage(const Book& book, const PageStyle& style, const ByteSink& out) {
-    PageWriter(book, style, out).Write();
+std::string HtmlPageOf(const Book& book, const PageStyle& style) {
+    Fragments parts;
+    for (const std::string& part : style.ThemeParts) parts.push_back(HtmlFragment(part));
+    // AppendCategory() opens the same row again, as exported pages have always had it.
+    std::string& open_inner = parts.at(kOpenInnerTable);
+    if (!CaselessNeedle("<tr>").IsIn(open_inner)) open_inner += "\r\n<tr><td>";
+
+    std::string page = Head(style, parts) + parts.at(kOpenTable) + "\r\n";
+    for (int c = 1; c <= kCategories; ++c)
+        if (IsExported(book, c)) AppendCategory(page, book, c, parts);
+    page += "</TABLE><BR><BR><BR></BODY></HTML>";
+    return page;
 }
 
 }  // namespace lindrel

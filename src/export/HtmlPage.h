@@ -1,4 +1,4 @@
-// Export to a web page, and the theme files that change how it looks.
+// Export to a web page, and the theme files that change its look.
 #pragma once
 
 #include <string>
@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "book/Book.h"
-#include "files/OutputFile.h"
 
 namespace lindrel {
 
@@ -19,11 +18,11 @@ using Fragments = std::vector<std::string>;
 // The five fragments of a page without a theme.
 Fragments DefaultThemeParts();
 
-// Replaces fragments by those of a theme file, in which a "^" ends each one. Text after the last "^" is
-// ignored. Throws RangeFault for more than six.
+// Replaces fragments by the fields of a theme file, each of which ends with a "^". Text after the last "^" is
+// ignored. Throws RangeFault for more than six fields.
 Fragments ApplyTheme(Fragments parts, std::string_view theme_file);
 
-// How a page looks.
+// The look of a page.
 struct PageStyle {
     std::wstring Title;
     std::string Background;  // colours of the body tag, for a page without a theme
@@ -32,8 +31,8 @@ struct PageStyle {
     bool ThemeApplied = false;  // leaves out the built-in font and colours
 };
 
-// Writes the checked entries in ISO 8859-2, with references for other characters. Names, the title and
-// addresses are escaped, so that none of them can become markup.
-void WriteHtmlPage(const Book& book, const PageStyle& style, const ByteSink& out);
+// The page with the checked entries, in ISO 8859-2 with references for other characters. Names, addresses and
+// the title are escaped, so that none of them can become markup.
+std::string HtmlPageOf(const Book& book, const PageStyle& style);
 
 }  // namespace lindrel

@@ -14,112 +14,85 @@ namespace lindrel {
 
 namespace {
 
+// What must be escaped. A browser reads a bare CR as a line feed.
+constexpr std::string_view kInText = "&<>\"\r";
+constexpr std::string_view kInAddress = "&<>\"\r \t\n\f'`";
+
 std::string Reference(char32_t character) {
-    return "&#" + std::to_string(static_cast<unsigned long>(character)) + ";";
-}
-
-// The four ways in which a byte of book text can be written.
-
-std::string InFragment(char byte) {
-    // Bytes 80 to 9F must not become references: browsers take those numbers for Windows-1252.
-    const char32_t character = CharacterOf(byte);
-    const std::optional<char> encoded = Latin2Byte(character);
-    return encoded ? std::string(1, *encoded) : Reference(character);
-}
-
-std::string InText(char byte) {
-    switch (byte) {
-        case '&':
+    switch (character) {
+        case U'&':
             return "&amp;";
-        case '<':
+        case U'<':
             return "&lt;";
-        case '>':
+        case U'>':
             return "&gt;";
-        case '"':
+        case U'"':
             return "&quot;";
-        case '\r':
-            // Unescaped, a browser would read it as a line feed.
-            return Reference(U'\r');
         default:
-            return InFragment(byte);
+            return "&#" + std::to_string(static_cast<unsigned long>(character)) + ";";
     }
 }
 
-std::string InAddress(char byte) {
-    constexpr std::string_view kEndsAnAddress = " \t\n\f'`";
-    return kEndsAnAddress.find(byte) != std::string_view::npos ? Reference(CharacterOf(byte)) : InText(byte);
+// What each byte of book text becomes on the page.
+using Encoding = std::array<std::string, 256>;
+
+Encoding EncodingWith(std::string_view reserved) {
+    Encoding encoding;
+    for (std::size_t number = 0; number < encoding.size(); ++number) {
+        const char byte = static_cast<char>(number);
+        // Bytes 80 to 9F are not references: browsers take those numbers for Windows-1252.
+        const std::optional<char> same = Latin2Byte(CharacterOf(byte));
+        const bool stays = same && reserved.find(byte) == std::string_view::npos;
+        encoding[number] = stays ? std::string(1, *same) : Reference(CharacterOf(byte));
+    }
+    return encoding;
 }
 
-std::string InQuery(char byte) {
-    return static_cast<unsigned char>(byte) < 0x80 ? InAddress(byte) : PercentEncoded(CharacterOf(byte));
+Encoding QueryEncoding() {
+    Encoding encoding = EncodingWith(kInAddress);
+    for (std::size_t number = 0x80; number < encoding.size(); ++number)
+        encoding[number] = PercentEncoded(CharacterOf(static_cast<char>(number)));
+    return encoding;
 }
 
-// One of these ways for all bytes. What stays as it is, nearly everything, is appended in one piece.
-class Encoder {
-  public:
-    explicit Encoder(std::string (*encode)(char byte)) {
-        for (std::size_t number = 0; number < encoded_.size(); ++number) {
-            const char byte = static_cast<char>(number);
-            encoded_[number] = encode(byte);
-            same_[number] = encoded_[number] == std::string(1, byte);
-        }
-    }
-
-    std::string& Append(std::string& page, std::string_view text) const {
-        while (!text.empty()) {
-            const auto same = [this](char byte) { return same_[static_cast<unsigned char>(byte)]; };
-            const auto length =
-                static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), same) - text.begin());
-            page.append(text.substr(0, length));
-            text.remove_prefix(length);
-            if (text.empty()) break;
-            page.append(encoded_[static_cast<unsigned char>(text.front())]);
-            text.remove_prefix(1);
-        }
-        return page;
-    }
-
-  private:
-    std::array<std::string, 256> encoded_;
-    std::array<bool, 256> same_{};
-};
-
-const Encoder& TextEncoder() {
-    static const Encoder encoder(&InText);
-    return encoder;
+std::string Encoded(std::string_view book_text, const Encoding& encoding) {
+    std::string html;
+    for (const char byte : book_text) html += encoding[static_cast<unsigned char>(byte)];
+    return html;
 }
 
 }  // namespace
 
-std::string& AppendHtmlText(std::string& page, std::wstring_view text) {
+std::string HtmlText(std::wstring_view text) {
     constexpr char32_t kReplacement = 0xFFFD;
-    for (std::size_t place = 0; place < text.size();) {
-        const char32_t character = NextCharacter(text, place);
+    std::string html;
+    for (std::size_t offset = 0; offset < text.size();) {
+        const char32_t character = NextCharacter(text, offset);
         if (const std::optional<char> byte = BookByte(character))
-            TextEncoder().Append(page, {&*byte, 1});
+            html += HtmlText(std::string_view(&*byte, 1));
         else
-            page.append(Reference(IsSurrogate(character) ? kReplacement : character));
+            html += Reference(IsSurrogate(character) ? kReplacement : character);
     }
-    return page;
+    return html;
 }
 
-std::string& AppendHtmlText(std::string& page, std::string_view book_text) {
-    return TextEncoder().Append(page, book_text);
+std::string HtmlText(std::string_view book_text) {
+    static const Encoding text = EncodingWith(kInText);
+    return Encoded(book_text, text);
 }
 
-std::string& AppendHtmlAddress(std::string& page, std::string_view book_text) {
-    static const Encoder address(&InAddress);
-    static const Encoder query(&InQuery);
+std::string HtmlAddress(std::string_view book_text) {
+    static const Encoding address = EncodingWith(kInAddress);
+    static const Encoding query = QueryEncoding();
     const std::string_view whole = book_text.substr(0, book_text.find('#'));
     const std::size_t path = std::min(whole.find('?'), whole.size());
-    address.Append(page, whole.substr(0, path));
-    query.Append(page, whole.substr(path));
-    return address.Append(page, book_text.substr(whole.size()));
+    return Encoded(whole.substr(0, path), address) + Encoded(whole.substr(path), query) +
+           Encoded(book_text.substr(whole.size()), address);
 }
 
-std::string& AppendHtmlFragment(std::string& page, std::string_view book_text) {
-    static const Encoder fragment(&InFragment);
-    return fragment.Append(page, book_text);
+std::string HtmlFragment(std::string_view book_text) {
+    static const Encoding fragment = EncodingWith("");
+    return Encoded(book_text, fragment);
 }
 
 }  // namespace lindrel

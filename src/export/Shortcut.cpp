@@ -15,13 +15,13 @@ namespace {
 constexpr std::string_view kReplaced = "\\/:?";
 constexpr std::string_view kNotInFolderNames = "\\/:?*\"<>|";
 
-// Characters that a book cannot hold stay as they are.
+// Only characters that a book can hold have an upper case here.
 wchar_t UpperCaseOfWide(wchar_t character) {
     const std::optional<char> byte = BookByte(static_cast<char32_t>(character));
     return byte ? static_cast<wchar_t>(CharacterOf(UpperCase(*byte))) : character;
 }
 
-// Whether Windows finds a device under a name, whatever extension it has. Blanks behind the name do not help.
+// Whether Windows takes a name without its extension for a device. It ignores blanks at the end.
 bool IsDeviceName(std::string_view base) {
     constexpr std::array<std::string_view, 6> kDevices = {"aux", "con", "conin$", "conout$", "nul", "prn"};
     const std::string name = LowerCase(base.substr(0, base.find_last_not_of(' ') + 1));
@@ -53,7 +53,7 @@ std::string SafeFolderName(std::string_view name) {
     for (char& byte : safe)
         if (kNotInFolderNames.find(byte) != std::string_view::npos || static_cast<unsigned char>(byte) < ' ')
             byte = '_';
-    // Windows drops them.
+    // Windows drops a full stop or a blank at the end.
     if (safe.ends_with('.') || safe.ends_with(' ')) safe.push_back('_');
     const std::size_t base = std::min(safe.find('.'), safe.size());
     if (IsDeviceName(safe.substr(0, base))) safe.insert(base, 1, '_');
@@ -61,12 +61,12 @@ std::string SafeFolderName(std::string_view name) {
 }
 
 std::wstring DesktopPath(std::wstring_view folder) {
-    constexpr std::size_t kTakenUnseen = 5;
+    constexpr std::size_t kAlwaysKept = 5;
     std::wstring path;
     for (const wchar_t character : folder) {
         const wchar_t upper = UpperCaseOfWide(character);
         const bool goes_on = upper == L'\\' || (upper >= L'A' && upper <= L'Z');
-        if (path.size() >= kTakenUnseen && !goes_on) break;
+        if (path.size() >= kAlwaysKept && !goes_on) break;
         path.push_back(upper);
     }
     return path;

@@ -1,13 +1,19 @@
 // Export to a text file: a header line for each category, and two lines for each entry.
 #pragma once
 
+#include <string>
+
 #include "book/Book.h"
-#include "files/OutputFile.h"
 
 namespace lindrel {
 
-// Writes the checked entries in Windows-1250 with CR LF. Throws ArgumentFault at a category whose name is
-// longer than 120 characters; the categories before it have been written then.
-void WriteTextList(const Book& book, const ByteSink& out);
+struct TextList {
+    std::string Text;  // Windows-1250 with CR LF
+    // False if a category's name is longer than 120 characters. The text ends before that category.
+    bool Complete = true;
+};
+
+// The checked entries.
+TextList TextListOf(const Book& book);
 
 }  // namespace lindrel

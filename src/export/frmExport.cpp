@@ -5,12 +5,12 @@
 #include "export/ExportedEntries.h"
 #include "export/Favorites.h"
 #include "export/TextList.h"
-#include "export/frmSelectFavoritDir.h"
-#include "files/File.h"
+#include "faults/Faults.h"
 #include "files/Files.h"
 #include "files/Folder.h"
 #include "resources/resource.h"
 #include "system/FileDialog.h"
+#include "system/FolderDialog.h"
 #include "system/MsgBox.h"
 #include "system/Shell.h"
 #include "text/BookText.h"
@@ -52,7 +52,8 @@ void frmExport::Form_Load() {
 void frmExport::FillThemes() const {
     const std::wstring styles = ProgramFolder() + L"\\styles";
     if (!FolderIsThere(styles)) {
-        CreateDirectoryW(styles.c_str(), nullptr);  // without the right to make it, there are just no themes
+        static_cast<void>(
+            CreateDirectoryW(styles.c_str(), nullptr));  // if it fails, there are still no themes
         return;
     }
     const auto cmbTheme = Get<ComboBox>(ID_frmExport_cmbTheme);
@@ -91,7 +92,7 @@ void frmExport::cmbType_Click() {
     for (const int id : kFavoritesFrame) Get<Control>(id).Show(kind == Favorites);
 }
 
-// The colours too, whatever theme is named: it has no say until its text or the focus changes.
+// Enables the colours even if a theme is named, until cmbTheme_Change() disables them again.
 void frmExport::SetPageOptionsEnabled(bool disable) const {
     for (const int id : kPageFrame) Get<Control>(id).Enable(!disable);
 }
@@ -104,14 +105,14 @@ void frmExport::OnTheme(int event) const {
     if (event == CBN_KILLFOCUS) cmbTheme_LostFocus();
 }
 
-// A theme that is named decides the colours.
+// A theme brings its own colours.
 void frmExport::cmbTheme_Change(const std::wstring& theme) const {
     constexpr std::size_t kShortestTheme = 5;
     for (const int id : {ID_frmExport_optColor_0, ID_frmExport_optColor_1})
         Get<Control>(id).Enable(theme.size() < kShortestTheme);
 }
 
-// For a text that changed without a notification.
+// The text can change without a notification.
 void frmExport::cmbTheme_LostFocus() const {
     cmbTheme_Change(Text(ID_frmExport_cmbTheme));
 }
@@ -176,7 +177,7 @@ std::optional<std::wstring> frmExport::ChooseFile(Kind kind) const {
     return answer == IDOK ? path : std::nullopt;
 }
 
-// The lines of the list stand for the categories with checked entries, in their order.
+// The lines of the list are the categories with checked entries, in their order.
 void frmExport::DropCategoriesNotChosen() {
     const auto lstSource = Get<ListBox>(ID_frmExport_lstSource);
     int line = 0;
@@ -184,28 +185,29 @@ void frmExport::DropCategoriesNotChosen() {
         if (IsExported(open_.TheBook, c) && !lstSource.IsSelected(line++)) open_.TheBook.Marks.Forget(c);
 }
 
-// The categories that were not chosen stay dropped, even when the user then cancels.
+// The categories that were not chosen stay dropped even if the user cancels.
 bool frmExport::ExportToFavorites() {
     DropCategoriesNotChosen();
-    frmSelectFavoritDir picker(FavoritesPath());
-    picker.ShowModal(Handle());
-    if (picker.ChosenFolder().empty()) return false;
+    FolderDialog frmSelectFavoritDir(
+        IDD_frmSelectFavoritDir,
+        {ID_frmSelectFavoritDir_Dir1, ID_frmSelectFavoritDir_cmdOk, ID_frmSelectFavoritDir_cmdCancel},
+        FavoritesPath());
+    frmSelectFavoritDir.ShowModal(Handle());
+    const std::wstring& folder = frmSelectFavoritDir.ChosenFolder();
+    if (folder.empty()) return false;
     const bool folder_for_each_category = Get<CheckBox>(ID_frmExport_optColor_3).IsChecked();
-    saveTo_fav(open_.TheBook, picker.ChosenFolder(), folder_for_each_category);
+    saveTo_fav(open_.TheBook, folder, folder_for_each_category);
     return true;
 }
 
 void frmExport::WriteTextList(const std::wstring& fileName) const {
-    OutputFile file(fileName);
-    lindrel::WriteTextList(open_.TheBook, [&file](std::string_view bytes) { file.Write(bytes); });
-    file.Close();
+    const TextList list = TextListOf(open_.TheBook);
+    WriteFileBytes(fileName, list.Text);
+    if (!list.Complete) throw ArgumentFault();
 }
 
 void frmExport::WriteHtmlPage(const std::wstring& fileName) const {
-    const PageStyle style = ReadTheme();
-    OutputFile file(fileName);
-    lindrel::WriteHtmlPage(open_.TheBook, style, [&file](std::string_view bytes) { file.Write(bytes); });
-    file.Close();
+    WriteFileBytes(fileName, HtmlPageOf(open_.TheBook, ReadTheme()));
 }
 
 PageStyle frmExport::ReadTheme() const {

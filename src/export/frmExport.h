@@ -32,8 +32,8 @@ class frmExport : public Dialog {
     void FillThemes() const;
     void SetPageOptionsEnabled(bool disable) const;
 
-    // The steps of the export button. Those that return a bool return false when the user has called the
-    // export off, and throw what choosing or writing throws.
+    // The steps of the export button. A bool is false if the user has called the export off. Faults of
+    // choosing and writing pass through.
     bool Export(Kind kind);
     bool ExportToFile(Kind kind);
     bool ExportToFavorites();
@@ -41,7 +41,8 @@ class frmExport : public Dialog {
     void DropCategoriesNotChosen();
     void WriteHtmlPage(const std::wstring& fileName) const;
     void WriteTextList(const std::wstring& fileName) const;
-    // Title, colours and fragments of the page. Tells the user when the theme named is not there.
+    // The look of the page as chosen in the dialog. Tells the user if the theme file does not exist; throws
+    // if it cannot be read or has too many fields.
     PageStyle ReadTheme() const;
 
     OpenBook& open_;

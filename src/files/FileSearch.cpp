@@ -1,27 +1,20 @@
 #include "files/FileSearch.h"
 
 #include <algorithm>
-#include <memory>
 
 #include "files/Folder.h"
+#include "files/SystemHandle.h"
 
 namespace lindrel {
 
-namespace {
-
-struct CloseSearch {
-    void operator()(HANDLE search) const noexcept { FindClose(search); }
-};
-
-}  // namespace
-
-void VisitMatches(const std::wstring& pattern, const std::function<bool(const WIN32_FIND_DATAW&)>& visitor) {
+bool VisitMatches(const std::wstring& pattern, const std::function<bool(const WIN32_FIND_DATAW&)>& visitor) {
     WIN32_FIND_DATAW found{};
-    const HANDLE search = FindFirstFileW(LongPath(pattern).c_str(), &found);
-    if (search == INVALID_HANDLE_VALUE) return;
-    const std::unique_ptr<void, CloseSearch> owner(search);
-    while (visitor(found) && FindNextFileW(search, &found)) {
-    }
+    const SystemHandle search(FindFirstFileW(LongPath(pattern).c_str(), &found), &FindClose);
+    if (!search.IsOpen()) return true;
+    do {
+        if (!visitor(found)) return true;
+    } while (FindNextFileW(search.Get(), &found));
+    return GetLastError() == ERROR_NO_MORE_FILES;
 }
 
 void SortNames(std::vector<std::wstring>& names) {

@@ -1,4 +1,4 @@
-// Folders of the disk, whatever their paths look like.
+// Folders, and paths that the system takes as they are.
 #pragma once
 
 #include <vector>
@@ -7,21 +7,20 @@
 
 namespace lindrel {
 
-// A full path in a form that the system takes as it stands. Without it Windows reads no path of more than 259
-// characters, drops dots and blanks at the end of a name, and finds devices such as "nul.url" in every
-// folder. In the other direction, such a path is not for the user's eyes.
+// A full path with the prefix that makes Windows take it as it is: of any length, with dots and blanks at the
+// end of a name, and with names such as "nul.url" that are devices otherwise. Users must not see such a path.
 Path ExactPath(const Path& path);
 
-// The same for paths that are too long otherwise; others stay as they are.
+// ExactPath() if Windows would refuse the path as too long, otherwise the path itself.
 Path LongPath(const Path& path);
 
-// The names of the files in a folder, without those of its subfolders, in any order. Empty if the folder
-// cannot be opened. Throws FileFault if it cannot be read to its end: files may be missing then.
+// The names of the files in a folder, in any order, without those of its subfolders. Empty if the folder
+// cannot be opened. Throws FileFault if it cannot be read to its end.
 std::vector<Path> FilesIn(const Path& folder);
 
 bool FolderIsThere(const Path& folder);
 
-// Creates a folder unless it is there. Throws FileFault.
+// Creates a folder unless it exists. Throws FileFault.
 void CreateFolder(const Path& folder);
 
 }  // namespace lindrel

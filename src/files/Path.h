@@ -1,5 +1,5 @@
-// Paths of files and folders. On Windows they are plain texts, since std::filesystem would bring the tables
-// of all locales into the program, which are as large as the program itself.
+// Paths of files and folders. On Windows they are plain strings: std::filesystem brings in the tables of all
+// locales, which are as large as the program itself.
 #pragma once
 
 #ifndef _WIN32
@@ -20,7 +20,7 @@ using Path = std::filesystem::path;
 std::wstring WideText(const Path& path);
 Path PathFrom(std::wstring_view text);
 
-// The path of what has that name in a folder.
+// The path of a file or folder in a folder.
 Path Joined(const Path& folder, const Path& name);
 
 }  // namespace lindrel

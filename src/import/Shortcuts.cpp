@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "faults/Faults.h"
-#include "files/File.h"
 #include "files/Files.h"
 #include "files/Folder.h"
 #include "text/BookText.h"

@@ -7,9 +7,9 @@
 #include "files/Folder.h"
 #include "import/PageEncoding.h"
 #include "import/Shortcuts.h"
-#include "import/frmI_Fav.h"
 #include "resources/resource.h"
 #include "system/FileDialog.h"
+#include "system/FolderDialog.h"
 #include "system/MsgBox.h"
 #include "system/Shell.h"
 #include "system/WaitCursor.h"
@@ -101,12 +101,13 @@ void frmImport::ImportHtmlLinks(const std::wstring& fileName) {
 }
 
 void frmImport::ImportFavoritesFolder() {
-    frmI_Fav picker(FavoritesPath());
-    picker.ShowModal(Handle());
-    // After Cancel the path is empty, which is no folder.
-    if (!FolderIsThere(picker.ChosenFolder())) return;
+    FolderDialog frmI_Fav(IDD_frmI_Fav, {ID_frmI_Fav_Dir1, ID_frmI_Fav_cmdImport, ID_frmI_Fav_cmdCancel},
+                          FavoritesPath());
+    frmI_Fav.ShowModal(Handle());
+    // A cancelled choice gives an empty path, which is no folder.
+    if (!FolderIsThere(frmI_Fav.ChosenFolder())) return;
 
-    const std::vector<NewEntry> entries = ShortcutsOfFolder(picker.ChosenFolder());
+    const std::vector<NewEntry> entries = ShortcutsOfFolder(frmI_Fav.ChosenFolder());
     if (entries.empty()) {
         MsgBox(Handle(), L"Salynálom, de a megadott könyvtárban nem találtam kedvenc weblapokat");
         return;

@@ -3,7 +3,8 @@
 #include <shellapi.h>
 
 #include <algorithm>
-#include <functional>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 #include "faults/Faults.h"
@@ -14,7 +15,7 @@ namespace lindrel {
 
 namespace {
 
-// What an item's lParam says about its children.
+// Values of an item's lParam: whether its folder has been read.
 constexpr LPARAM kNotFilled = 0;
 constexpr LPARAM kFilled = 1;
 
@@ -23,53 +24,44 @@ bool SameName(const std::wstring& one, const std::wstring& other) {
                                 static_cast<int>(other.size()), TRUE) == CSTR_EQUAL;
 }
 
-// Hands the names of the folders in a folder to a visitor until that returns false. Hidden ones are left out.
-void VisitFolders(const std::wstring& path, const std::function<bool(const std::wstring&)>& visitor) {
-    VisitMatches(Joined(path, L"*"), [&](const WIN32_FIND_DATAW& found) {
-        const std::wstring name = found.cFileName;
-        const bool hidden = (found.dwFileAttributes & FILE_ATTRIBUTE_HIDDEN) != 0;
-        const bool wanted = IsFolder(found) && !hidden && name != L"." && name != L"..";
-        return !wanted || visitor(name);
-    });
+bool IsShown(const WIN32_FIND_DATAW& found) {
+    const std::wstring_view name = found.cFileName;
+    const bool hidden = (found.dwFileAttributes & FILE_ATTRIBUTE_HIDDEN) != 0;
+    return IsFolder(found) && !hidden && name != L"." && name != L"..";
 }
 
 std::vector<std::wstring> FoldersIn(const std::wstring& path) {
     std::vector<std::wstring> names;
-    VisitFolders(path, [&](const std::wstring& name) {
-        names.push_back(name);
+    // The tree shows as much of a folder as can be read.
+    static_cast<void>(VisitMatches(Joined(path, L"*"), [&](const WIN32_FIND_DATAW& found) {
+        if (IsShown(found)) names.emplace_back(found.cFileName);
         return true;
-    });
+    }));
     SortNames(names);
     return names;
 }
 
 bool HasFolders(const std::wstring& path) {
     bool has = false;
-    VisitFolders(path, [&](const std::wstring&) {
-        has = true;
-        return false;
-    });
+    // One that cannot be read has none.
+    static_cast<void>(VisitMatches(Joined(path, L"*"), [&](const WIN32_FIND_DATAW& found) {
+        has = IsShown(found);
+        return !has;
+    }));
     return has;
 }
 
-// Index of the system's picture of a folder, closed or open.
-int FolderPicture(bool open) {
+// The system's image list and the index of a folder in it. `kind` is 0 or SHGFI_OPENICON. If the system does
+// not answer, nullptr and 0.
+std::pair<HIMAGELIST, int> FolderPicture(UINT kind) {
     SHFILEINFOW info{};
-    const UINT flags =
-        SHGFI_SYSICONINDEX | SHGFI_SMALLICON | SHGFI_USEFILEATTRIBUTES | (open ? SHGFI_OPENICON : 0);
-    // Without an answer the first picture is shown.
-    static_cast<void>(SHGetFileInfoW(L"folder", FILE_ATTRIBUTE_DIRECTORY, &info, sizeof info, flags));
-    return info.iIcon;
-}
-
-HIMAGELIST SystemPictures() {
-    SHFILEINFOW info{};
-    return reinterpret_cast<HIMAGELIST>(
+    const DWORD_PTR list =
         SHGetFileInfoW(L"folder", FILE_ATTRIBUTE_DIRECTORY, &info, sizeof info,
-                       SHGFI_SYSICONINDEX | SHGFI_SMALLICON | SHGFI_USEFILEATTRIBUTES));
+                       SHGFI_SYSICONINDEX | SHGFI_SMALLICON | SHGFI_USEFILEATTRIBUTES | kind);
+    return {reinterpret_cast<HIMAGELIST>(list), info.iIcon};
 }
 
-// Length of the beginning of a path that is a root of the tree: "C:" or "\\server\share".
+// Length of the root that a path begins with: "C:" or "\\server\share".
 std::size_t RootLength(const std::wstring& path) {
     if (!path.starts_with(L"\\\\")) return std::min(path.find(L'\\'), path.size());
     const std::size_t server_end = std::min(path.find(L'\\', 2), path.size());
@@ -80,25 +72,25 @@ std::size_t RootLength(const std::wstring& path) {
 
 void DirList::Attach(HWND tree) {
     Wrap(tree);
-    closed_picture_ = FolderPicture(false);
-    open_picture_ = FolderPicture(true);
-    // The system's own list, which the control never frees.
-    TreeView_SetImageList(tree, SystemPictures(), TVSIL_NORMAL);
+    const auto [pictures, closed] = FolderPicture(0);
+    closed_picture_ = closed;
+    open_picture_ = FolderPicture(SHGFI_OPENICON).second;
+    TreeView_SetImageList(tree, pictures, TVSIL_NORMAL);  // tree views do not destroy their image lists
     const DWORD drives = GetLogicalDrives();
     for (int drive = 0; drive < 26; ++drive)
         if ((drives >> drive & 1) != 0)
             Add(TVI_ROOT, {static_cast<wchar_t>(L'A' + drive), L':', L'\\'}, TVI_LAST);
 }
 
-HTREEITEM DirList::Add(HTREEITEM parent, const std::wstring& name, HTREEITEM place) const {
+HTREEITEM DirList::Add(HTREEITEM parent, const std::wstring& name, HTREEITEM after) const {
     std::wstring text = name;
     TVINSERTSTRUCTW item{};
     item.hParent = parent;
-    item.hInsertAfter = place;
+    item.hInsertAfter = after;
     item.item.mask = TVIF_TEXT | TVIF_CHILDREN | TVIF_PARAM | TVIF_IMAGE | TVIF_SELECTEDIMAGE;
     item.item.pszText = text.data();
-    // A folder is looked into when it comes on the screen; a drive, which may be slow or empty, only when it
-    // is opened.
+    // Whether a folder can be opened is asked when it comes into view. A drive, which may be slow or empty,
+    // is not read until the user opens it.
     item.item.cChildren = parent == TVI_ROOT ? 1 : I_CHILDRENCALLBACK;
     item.item.lParam = kNotFilled;
     item.item.iImage = closed_picture_;
@@ -147,7 +139,7 @@ HTREEITEM DirList::ChildNamed(HTREEITEM parent, const std::wstring& name) const 
     return child;
 }
 
-// The item of a folder that the tree may not show yet; nullptr when there is no such folder.
+// The item of a folder, added to the tree if missing; nullptr if there is no such folder.
 HTREEITEM DirList::Reach(HTREEITEM parent, const std::wstring& name, const std::wstring& path) const {
     HTREEITEM item = ChildNamed(parent, name);
     if (item == nullptr && FolderIsThere(path)) {

@@ -1,4 +1,4 @@
-// The tree of drives and folders in which the user picks one.
+// The tree of drives and folders from which the user picks a folder.
 #pragma once
 
 #include <string>
@@ -9,21 +9,22 @@ namespace lindrel {
 
 class DirList : public Control {
   public:
-    // Wraps a tree view and shows the drives in it. Its parent passes the WM_NOTIFY messages of the control
-    // to Notify(). Throws SystemFault when the system cannot.
+    // Wraps a tree view and shows the drives in it. Its parent passes its WM_NOTIFY messages to Notify().
+    // Throws SystemFault when a drive cannot be added.
     void Attach(HWND tree);
 
-    // Full path of the selected folder; a drive's ends in a backslash. Empty when nothing is selected.
+    // Full path of the selected folder, with a backslash at its end only if it is a drive. Empty if nothing
+    // is selected.
     std::wstring Path() const;
-    // Opens the tree down to a folder, or to the last one on the way to it that exists, selects it and
-    // scrolls to it. Hidden folders and network shares, otherwise left out, are shown on the way. Selects the
-    // first drive when nothing of the path exists.
+    // Opens the tree down to a folder, or to the last folder of the path that exists, selects it and scrolls
+    // to it. Hidden folders and network shares are shown only if the path leads through them. Selects the
+    // first drive if nothing of the path exists.
     void SetPath(const std::wstring& path) const;
 
     LRESULT Notify(const NMHDR& header) const;
 
   private:
-    HTREEITEM Add(HTREEITEM parent, const std::wstring& name, HTREEITEM place) const;
+    HTREEITEM Add(HTREEITEM parent, const std::wstring& name, HTREEITEM after) const;
     void FillFolder(HTREEITEM folder) const;
     HTREEITEM Reach(HTREEITEM parent, const std::wstring& name, const std::wstring& path) const;
     HTREEITEM ChildNamed(HTREEITEM parent, const std::wstring& name) const;

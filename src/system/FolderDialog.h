@@ -1,5 +1,5 @@
-// Base of the dialogs in which the user picks a folder: the tree, the button that takes the selected folder,
-// and the button that cancels.
+// The dialog in which the user picks a folder: a tree, a button that takes the selected folder, and one that
+// cancels. Each use has a template of its own.
 #pragma once
 
 #include <string>
@@ -12,11 +12,7 @@ namespace lindrel {
 
 class FolderDialog : public Dialog {
   public:
-    // Full path of the folder that was taken; empty when the choice was cancelled.
-    const std::wstring& ChosenFolder() const { return chosen_folder_; }
-
-  protected:
-    // Ids of the tree view and of the two buttons in the dialog's own template.
+    // The controls in the template.
     struct Ids {
         int Dir1;
         int cmdOk;
@@ -25,6 +21,9 @@ class FolderDialog : public Dialog {
     // The tree opens at startDir.
     FolderDialog(int template_id, const Ids& ids, std::wstring startDir)
         : Dialog(template_id), ids_(ids), start_folder_(std::move(startDir)) {}
+
+    // Full path of the folder that was taken; empty if the dialog was cancelled.
+    const std::wstring& ChosenFolder() const { return chosen_folder_; }
 
   private:
     void Form_Load() override {

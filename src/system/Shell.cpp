@@ -26,10 +26,11 @@ std::wstring ProgramFolder() {
 
 std::vector<std::wstring> FilesMatching(const std::wstring& pattern) {
     std::vector<std::wstring> names;
-    VisitMatches(pattern, [&](const WIN32_FIND_DATAW& found) {
+    // Of a folder that cannot be read to its end, what could be read.
+    static_cast<void>(VisitMatches(pattern, [&](const WIN32_FIND_DATAW& found) {
         if (!IsFolder(found)) names.emplace_back(found.cFileName);
         return true;
-    });
+    }));
     SortNames(names);
     return names;
 }

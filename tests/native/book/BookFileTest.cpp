@@ -1,7 +1,6 @@
 #include "book/BookFile.h"
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 #include <algorithm>
 #include <filesystem>
@@ -195,14 +194,6 @@ TEST_F(BookFileOnDiskTest, ReplacesTheOldFileInOneStep) {
     EXPECT_TRUE(LoadBook(loaded, path));
     EXPECT_EQ(testing::ContentOf(path), SaveBook(Book()));
     EXPECT_EQ(FilesThere(), 1);
-}
-
-TEST_F(BookFileOnDiskTest, TheNewFileIsAsPrivateAsTheOldOneWas) {
-    const auto path = folder / "konyv.lnd";
-    WriteFileBytes(path, "regi");
-    ASSERT_EQ(chmod(path.c_str(), 0600), 0);
-    SaveBook(Book(), path);
-    EXPECT_EQ(std::filesystem::status(path).permissions(), std::filesystem::perms(0600));
 }
 
 TEST_F(BookFileOnDiskTest, AFailureLeavesNoTraceAndNamesThePath) {

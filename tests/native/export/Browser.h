@@ -1,12 +1,8 @@
-// A real browser, without a window, that reports what is on an exported page.
+// A page in a real browser without a window, which reports what is on it.
 #pragma once
 
-#include <sys/wait.h>
-
-#include <algorithm>
-#include <array>
-#include <cstdio>
-#include <filesystem>
+#include <cstdlib>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -28,78 +24,54 @@ struct PageInBrowser {
     std::string Ran;       // the value of window.ran, which only a script on the page can set
 };
 
-// Adds a script to the page that reports what is on it. Each browser has its own temporary profile.
-class Browser {
-  public:
-    PageInBrowser Open(std::string_view page) const {
-        constexpr std::string_view kProbe = R"(<script id=probe>
-            const texts = encodeURIComponent, probe = document.getElementById('probe'), counts = {}, handlers = [];
-            for (const element of document.querySelectorAll('*')) {
-              if (element === probe) continue;
-              counts[element.tagName] = (counts[element.tagName] || 0) + 1;
-              for (const attribute of element.attributes)
-                if (attribute.name.startsWith('on')) handlers.push(attribute.name);
-            }
-            const links = [...document.querySelectorAll('a')].map(
-                a => texts(a.getAttribute('href')) + ',' + texts(a.textContent)).join(';');
-            const targets = [...document.querySelectorAll('a')].map(a => texts(a.href)).join(';');
-            const report = [texts(document.title), links, targets, document.characterSet,
-                            Object.keys(counts).sort().map(tag => tag + ' ' + counts[tag]).join(' '),
-                            handlers.join(' '), String(window.ran)];
-            document.documentElement.textContent = '[[' + report.join('|') + ']]';
-            </script>)";
-        const std::filesystem::path file = folder_.Path() / "page.htm";
-        WriteFileBytes(file, std::string(page) + std::string(kProbe));
-        const std::string report = Between(Run("--dump-dom 'file://" + file.string() + "'"), "[[", "]]");
-        PageInBrowser found;
-        const std::vector<std::string> parts = SplitAt(report, '|');
-        found.Title = parts.at(0);
-        found.Links = SplitAt(parts.at(1), ';');
-        found.Targets = SplitAt(parts.at(2), ';');
-        found.Charset = parts.at(3);
-        found.Elements = parts.at(4);
-        found.Handlers = parts.at(5);
-        found.Ran = parts.at(6);
-        return found;
-    }
+inline std::vector<std::string> SplitAt(const std::string& text, char separator) {
+    std::vector<std::string> parts;
+    std::istringstream rest(text + separator);
+    for (std::string part; std::getline(rest, part, separator);) parts.push_back(part);
+    return parts;
+}
 
-  private:
-    std::string Run(const std::string& arguments) const {
-        const std::string command =
-            "cd '" + folder_.Path().string() +
-            "' && HOME=\"$PWD\" timeout -k 5 100 chromium --headless --no-sandbox --disable-gpu "
-            "--disable-dev-shm-usage --user-data-dir=profile " +
-            arguments + " 2>log";
-        std::FILE* const pipe = ::popen(command.c_str(), "r");
-        if (pipe == nullptr) throw std::runtime_error("no shell");
-        std::string output;
-        std::array<char, 65536> buffer{};
-        while (const std::size_t got = std::fread(buffer.data(), 1, buffer.size(), pipe))
-            output.append(buffer.data(), got);
-        const int status = ::pclose(pipe);
-        if (!WIFEXITED(status) || WEXITSTATUS(status) != 0)
-            throw std::runtime_error("the browser failed: " + command);
-        return output;
-    }
-
-    static std::vector<std::string> SplitAt(const std::string& text, char separator) {
-        std::vector<std::string> parts;
-        for (std::size_t start = 0; start <= text.size();) {
-            const std::size_t end = std::min(text.find(separator, start), text.size());
-            parts.push_back(text.substr(start, end - start));
-            start = end + 1;
+// What a script that is added to the page reports between "[[" and "]]".
+inline std::string ReportOn(std::string_view page) {
+    constexpr std::string_view kProbe = R"(<script id=probe>
+        const texts = encodeURIComponent, probe = document.getElementById('probe'), counts = {}, handlers = [];
+        for (const element of document.querySelectorAll('*')) {
+          if (element === probe) continue;
+          counts[element.tagName] = (counts[element.tagName] || 0) + 1;
+          for (const attribute of element.attributes)
+            if (attribute.name.startsWith('on')) handlers.push(attribute.name);
         }
-        return parts;
-    }
+        const links = [...document.querySelectorAll('a')].map(
+            a => texts(a.getAttribute('href')) + ',' + texts(a.textContent)).join(';');
+        const targets = [...document.querySelectorAll('a')].map(a => texts(a.href)).join(';');
+        const report = [texts(document.title), links, targets, document.characterSet,
+                        Object.keys(counts).sort().map(tag => tag + ' ' + counts[tag]).join(' '),
+                        handlers.join(' '), String(window.ran)];
+        document.documentElement.textContent = '[[' + report.join('|') + ']]';
+        </script>)";
+    const TemporaryFolder folder;
+    WriteFileBytes(folder.Path() / "page.htm", std::string(page) + std::string(kProbe));
+    const std::string command =
+        "cd '" + folder.Path().string() +
+        "' && HOME=\"$PWD\" timeout -k 5 100 chromium --headless --no-sandbox --disable-gpu "
+        "--disable-dev-shm-usage --user-data-dir=profile --dump-dom \"file://$PWD/page.htm\" >report 2>log";
+    if (std::system(command.c_str()) != 0) throw std::runtime_error("the browser failed: " + command);
+    const std::string report = ContentOf(folder.Path() / "report");
+    const std::size_t start = report.find("[[");
+    const std::size_t end = report.find("]]", start);
+    if (end == std::string::npos) throw std::runtime_error("the page says nothing: " + report);
+    return report.substr(start + 2, end - start - 2);
+}
 
-    static std::string Between(const std::string& text, std::string_view left, std::string_view right) {
-        const std::size_t start = text.find(left);
-        const std::size_t end = start == std::string::npos ? start : text.find(right, start);
-        if (end == std::string::npos) throw std::runtime_error("the page says nothing: " + text);
-        return text.substr(start + left.size(), end - start - left.size());
-    }
-
-    TemporaryFolder folder_;
-};
+inline PageInBrowser OpenInBrowser(std::string_view page) {
+    const std::vector<std::string> parts = SplitAt(ReportOn(page), '|');
+    return {parts.at(0),
+            SplitAt(parts.at(1), ';'),
+            SplitAt(parts.at(2), ';'),
+            parts.at(3),
+            parts.at(4),
+            parts.at(5),
+            parts.at(6)};
+}
 
 }  // namespace lindrel::testing

@@ -1,4 +1,4 @@
-// A page whose names, title and addresses try to become markup, and how a browser must show it.
+// A page whose names, addresses and title try to become markup, and how a browser must show it.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -79,23 +79,18 @@ inline std::string PageOf(const std::string& category, const std::vector<NewEntr
     for (int position = 1; position <= static_cast<int>(entries.size()); ++position)
         book.Marks.SaveOneMore(3, position);
     style.Title = title;
-    std::string page;
-    WriteHtmlPage(book, style, [&](std::string_view bytes) { page.append(bytes); });
-    return page;
+    return HtmlPageOf(book, style);
 }
 
-inline PageStyle DefaultStyle() {
-    PageStyle style;
-    style.Background = "white";
-    style.Text = "black";
-    return style;
-}
-
-inline constexpr char kHostileCategory[] = "<B></FONT><script>window.ran = 8</script>";
-inline constexpr wchar_t kHostileTitle[] = L"</TITLE><script>window.ran = 9</script>";
-
-inline void ExpectHarmless(const PageInBrowser& page, const PageInBrowser& plain) {
-    EXPECT_EQ(page.Links, LinksOf(HostileEntries()));
+// Whatever the names, addresses and the title of a page say, a browser must find the same elements as on a
+// harmless page, the links as they are in the book, and nothing to run.
+inline void ExpectHarmless(const PageStyle& style) {
+    const std::vector<NewEntry> hostile = HostileEntries();
+    const PageInBrowser page = OpenInBrowser(PageOf("<B></FONT><script>window.ran = 8</script>", hostile,
+                                                    style, L"</TITLE><script>window.ran = 9</script>"));
+    const PageInBrowser plain =
+        OpenInBrowser(PageOf("Zene", PlainEntries(hostile.size()), style, L"c\x151m"));
+    EXPECT_EQ(page.Links, LinksOf(hostile));
     EXPECT_EQ(page.Title, Encoded("</TITLE><script>window.ran = 9</script>"));
     EXPECT_EQ(page.Elements, plain.Elements);
     EXPECT_EQ(page.Elements.find("SCRIPT"), std::string::npos);

@@ -1,10 +1,10 @@
+// Files as native tests, fuzz targets and benchmarks read and write them. Tests of what the program does on
+// Windows are in tests/window/files.
 #include "files/Files.h"
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
-#include <cerrno>
-#include <cstring>
+#include <algorithm>
 #include <filesystem>
 #include <functional>
 #include <string>
@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "faults/Faults.h"
-#include "files/File.h"
+#include "files/Folder.h"
 #include "tests/native/support/TemporaryFolder.h"
 
 namespace lindrel {
@@ -29,20 +29,8 @@ PathAndReason FaultOf(const std::function<void()>& call) {
     return {};
 }
 
-PathAndReason Expected(const std::filesystem::path& path, int error) {
-    const std::string reason = std::strerror(error);
-    return {WideText(path), std::wstring(reason.begin(), reason.end())};
-}
-
 class FilesTest : public ::testing::Test {
   protected:
-    std::vector<std::string> NamesThere() const {
-        std::vector<std::string> names;
-        for (const auto& entry : std::filesystem::directory_iterator(folder))
-            names.push_back(entry.path().filename().string());
-        return names;
-    }
-
     const testing::TemporaryFolder temporary;
     const std::filesystem::path folder = temporary.Path();
     const std::filesystem::path file = folder / "t\u0171z.lnd";
@@ -50,48 +38,41 @@ class FilesTest : public ::testing::Test {
 };
 
 TEST_F(FilesTest, BytesComeBackAsTheyWereWritten) {
-    std::string bytes;
-    for (int number = 0; number < 300000; ++number) bytes += static_cast<char>(number);
-    for (const std::string& written : {bytes, std::string("\0\r\n\x1A", 4), std::string()}) {
+    for (const std::string& written :
+         {std::string(300000, '\xE1'), std::string("\0\r\n\x1A", 4), std::string()}) {
         WriteFileBytes(file, written);
         EXPECT_EQ(testing::ContentOf(file), written);
         ReplaceFileBytes(file, written + "!");
         EXPECT_EQ(testing::ContentOf(file), written + "!");
     }
-    EXPECT_EQ(NamesThere(), std::vector<std::string>{"t\u0171z.lnd"});
+    EXPECT_EQ(FilesIn(folder), std::vector<Path>{"t\u0171z.lnd"});
 }
 
-TEST_F(FilesTest, AFileIsReplacedAsAWhole) {
-    WriteFileBytes(file, "old");
-    std::filesystem::create_hard_link(file, folder / "same.lnd");
-    ReplaceFileBytes(file, "new");
-    EXPECT_EQ(testing::ContentOf(file), "new");
-    EXPECT_EQ(testing::ContentOf(folder / "same.lnd"), "old");
+TEST_F(FilesTest, FaultsNameThePathAndTheReason) {
+    const PathAndReason not_there = {WideText(missing), L"No such file or directory"};
+    EXPECT_EQ(FaultOf([&] { ReadFileBytes(missing); }), not_there);
+    EXPECT_EQ(FaultOf([&] { WriteFileBytes(missing, "x"); }), not_there);
+    EXPECT_EQ(FaultOf([&] { ReplaceFileBytes(missing, "x"); }), not_there);
+    const PathAndReason is_a_folder = {WideText(folder), L"Is a directory"};
+    EXPECT_EQ(FaultOf([&] { ReadFileBytes(folder); }), is_a_folder);
+    EXPECT_EQ(FaultOf([&] { WriteFileBytes(folder, "x"); }), is_a_folder);
+    std::filesystem::create_directory(file);
+    EXPECT_EQ(FaultOf([&] { ReplaceFileBytes(file, "x"); }),
+              PathAndReason(WideText(file), L"Is a directory"));
+    EXPECT_EQ(FilesIn(folder), std::vector<Path>{});
+    EXPECT_EQ(FaultOf([&] { WriteFileBytes("/dev/full", "x"); }),
+              PathAndReason(L"/dev/full", L"No space left on device"));
 }
 
-TEST_F(FilesTest, AReplacedFileKeepsItsPermissions) {
-    for (const mode_t mode : {0600U, 0664U}) {
-        WriteFileBytes(file, "old");
-        ASSERT_EQ(chmod(file.c_str(), mode), 0);
-        ReplaceFileBytes(file, "new");
-        EXPECT_EQ(std::filesystem::status(file).permissions(), std::filesystem::perms(mode));
-    }
-}
-
-TEST_F(FilesTest, FaultsNameThePathAndTheSystemsReason) {
-    EXPECT_EQ(FaultOf([&] { ReadFileBytes(missing); }), Expected(missing, ENOENT));
-    EXPECT_EQ(FaultOf([&] { WriteFileBytes(missing, "x"); }), Expected(missing, ENOENT));
-    EXPECT_EQ(FaultOf([&] { ReplaceFileBytes(missing, "x"); }), Expected(missing, ENOENT));
-    EXPECT_EQ(FaultOf([&] { ReadFileBytes(folder); }), Expected(folder, EISDIR));
-    EXPECT_EQ(FaultOf([&] { WriteFileBytes(folder, "x"); }), Expected(folder, EISDIR));
-    EXPECT_EQ(FaultOf([&] { WriteFileBytes("/dev/full", "x"); }), Expected("/dev/full", ENOSPC));
-}
-
-TEST_F(FilesTest, AReplacementThatFailsLeavesNoTemporaryFile) {
-    const std::filesystem::path in_the_way = folder / "mappa";
-    std::filesystem::create_directory(in_the_way);
-    EXPECT_EQ(FaultOf([&] { ReplaceFileBytes(in_the_way, "x"); }), Expected(in_the_way, EISDIR));
-    EXPECT_EQ(NamesThere(), std::vector<std::string>{"mappa"});
+TEST_F(FilesTest, FilesAreFoundAndFoldersCreatedOnce) {
+    const PathAndReason not_created = {WideText(missing), L"A mappa nem hozható létre"};
+    EXPECT_EQ(FaultOf([&] { CreateFolder(missing); }), not_created);
+    EXPECT_EQ(FilesIn(missing), std::vector<Path>{});
+    CreateFolder(folder / "a.url");
+    CreateFolder(folder / "a.url");
+    WriteFileBytes(folder / "a.url" / "b.url", "");
+    std::filesystem::create_symlink("nincs", folder / "c.url");
+    EXPECT_EQ(FilesIn(folder), std::vector<Path>{"c.url"});
 }
 
 TEST_F(FilesTest, FileNamesArePathsAfterTheLastBackslash) {

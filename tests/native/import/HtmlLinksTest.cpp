@@ -94,8 +94,7 @@ TEST(HtmlLinksTest, PagesOfThisProgramsOwnExportHoldNone) {
     book.Marks.Save(3, {1, 2});
     PageStyle style;
     style.Title = L"<a href=\"http://cim.hu\">C</a>";
-    std::string page;
-    WriteHtmlPage(book, style, [&page](std::string_view bytes) { page.append(bytes); });
+    const std::string page = HtmlPageOf(book, style);
     EXPECT_NE(page.find("<A HREF=http://hirek.hu/>"), std::string::npos) << page;
     EXPECT_EQ(All(page), Links{});
 }

@@ -12,7 +12,6 @@
 #include "book/Book.h"
 #include "export/Shortcut.h"
 #include "faults/Faults.h"
-#include "files/File.h"
 #include "files/Files.h"
 #include "tests/native/support/AnyText.h"
 #include "tests/native/support/PrintEntry.h"

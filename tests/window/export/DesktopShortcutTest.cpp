@@ -4,18 +4,19 @@
 #include <shlobj.h>
 
 #include <filesystem>
-#include <map>
 #include <optional>
 #include <string>
 
+#include "files/Files.h"
 #include "resources/resource.h"
 #include "system/Shell.h"
+#include "tests/window/export/ExportSession.h"
 #include "tests/window/support/Program.h"
 
 namespace lindrel::testing {
 namespace {
 
-// Another desktop folder for the time of a test.
+// Another desktop folder while an object lives.
 class DesktopElsewhere {
   public:
     explicit DesktopElsewhere(const std::wstring& path)
@@ -41,7 +42,7 @@ class DesktopElsewhere {
 class DesktopShortcutTest : public ::testing::Test {
   protected:
     static constexpr wchar_t kDesktop[] = L"C:\\Asztal";
-    static constexpr wchar_t kDesktopBehindABlank[] = L"C:\\Asztal ide\\belso";
+    static constexpr wchar_t kDesktopWithABlank[] = L"C:\\Asztal ide\\belso";
 
     DesktopShortcutTest() { EXPECT_EQ(ShellFolder(CSIDL_DESKTOPDIRECTORY), kDesktop); }
     ~DesktopShortcutTest() override {
@@ -49,14 +50,9 @@ class DesktopShortcutTest : public ::testing::Test {
         std::filesystem::remove_all(L"C:\\Asztal ide");
     }
 
-    using Files = std::map<std::wstring, std::string>;  // names and bytes
-    static Files FilesIn(const std::wstring& folder) {
-        Files files;
-        for (const auto& entry : std::filesystem::directory_iterator(folder))
-            files[entry.path().filename().wstring()] = TemporaryFolder::Read(entry.path().wstring());
-        return files;
+    static std::string ShortcutTo(const std::string& address) {
+        return "[InternetShortcut]\r\nURL=" + address;
     }
-
     // An entry before the one that the shortcut is for, and that one, selected.
     void ShowAndSelect(const std::wstring& name) const {
         program.Add(1, {{L"X", L"http://x.hu"}, {name, L"http://abc.hu"}});
@@ -79,7 +75,11 @@ class DesktopShortcutTest : public ::testing::Test {
         box.Press(answer);
         program.Settle();
     }
-    void ExpectNotCreated() const {
+    // Asks for a shortcut that cannot be created; of the entry only the name in the book may change.
+    void ExpectNotCreated(const std::wstring& name, const std::string& name_afterwards) const {
+        ShowAndSelect(name);
+        const MainState before = program.State();
+        AskFor(name, IDOK);
         const BoxOnScreen box = program.Box();
         EXPECT_EQ(box.Title(), L"Hiba");
         EXPECT_EQ(box.Text(), L"Nem jött létre a parancsikon");
@@ -88,6 +88,8 @@ class DesktopShortcutTest : public ::testing::Test {
         box.Press(IDOK);
         program.Settle();
         EXPECT_TRUE(program.NothingIsOpen());
+        EXPECT_EQ(program.State(), before);
+        EXPECT_EQ(program.BookBytes(), BookWith(name_afterwards));
     }
 
     // A desktop of the test's own: that of a Wine user may be a folder that others write to.
@@ -101,21 +103,21 @@ TEST_F(DesktopShortcutTest, WritesTheFileAndChangesTheNameInTheBookOnly) {
     const MainState before = program.State();
     AskFor(L"a:b/c?", IDOK);
     EXPECT_TRUE(program.NothingIsOpen());  // success says nothing
-    EXPECT_EQ(FilesIn(kDesktop), (Files{{L"a_b_c_.url", "[InternetShortcut]\r\nURL=http://abc.hu"}}));
+    EXPECT_EQ(FilesBelow(kDesktop), (Files{{L"a_b_c_.url", ShortcutTo("http://abc.hu")}}));
     EXPECT_EQ(program.State(), before);  // list, fields and Modified show the old name
     EXPECT_EQ(program.BookBytes(), BookWith("a_b_c_"));
 
     program.OnUi([](frmStart& form) { form.OpenedBook().TheBook.SetSiteURL(2, "http://uj.hu"); });
     AskFor(L"a_b_c_", IDOK);  // the second run overwrites
     EXPECT_TRUE(program.NothingIsOpen());
-    EXPECT_EQ(FilesIn(kDesktop), (Files{{L"a_b_c_.url", "[InternetShortcut]\r\nURL=http://uj.hu"}}));
+    EXPECT_EQ(FilesBelow(kDesktop), (Files{{L"a_b_c_.url", ShortcutTo("http://uj.hu")}}));
 }
 
-TEST_F(DesktopShortcutTest, TheChangedNameIsShownByTheNextFillAndNotMarkedAsAChange) {
+TEST_F(DesktopShortcutTest, TheChangedNameIsShownByTheNextFillAndIsNoChangeOfTheBook) {
     ShowAndSelect(L"\\a:b/c?\\ő");
     MainState expected = program.State();
     AskFor(L"\\a:b/c?\\ő", IDOK);
-    EXPECT_EQ(FilesIn(kDesktop), (Files{{L"_a_b_c__ő.url", "[InternetShortcut]\r\nURL=http://abc.hu"}}));
+    EXPECT_EQ(FilesBelow(kDesktop), (Files{{L"_a_b_c__ő.url", ShortcutTo("http://abc.hu")}}));
     EXPECT_EQ(program.State(), expected);
     program.ClickTab(2);
     program.ClickTab(1);
@@ -132,89 +134,59 @@ TEST_F(DesktopShortcutTest, CancelWritesNothingAndKeepsTheName) {
     const MainState before = program.State();
     AskFor(L"a:b/c?", IDCANCEL);
     EXPECT_TRUE(program.NothingIsOpen());
-    EXPECT_EQ(FilesIn(kDesktop), Files{});
+    EXPECT_EQ(FilesBelow(kDesktop), Files{});
     EXPECT_EQ(program.State(), before);
     EXPECT_EQ(program.BookBytes(), BookWith("a:b/c?"));
 }
 
 TEST_F(DesktopShortcutTest, ABlankInTheDesktopsPathEndsItEarly) {
-    std::filesystem::create_directories(kDesktopBehindABlank);
+    std::filesystem::create_directories(kDesktopWithABlank);
     ShowAndSelect(L"a:b/c?");
-    {
-        const DesktopElsewhere elsewhere(kDesktopBehindABlank);
-        ASSERT_EQ(ShellFolder(CSIDL_DESKTOPDIRECTORY), kDesktopBehindABlank);
-        AskFor(L"a:b/c?", IDOK);
-    }
+    const DesktopElsewhere elsewhere(kDesktopWithABlank);
+    ASSERT_EQ(ShellFolder(CSIDL_DESKTOPDIRECTORY), kDesktopWithABlank);
+    AskFor(L"a:b/c?", IDOK);
     EXPECT_TRUE(program.NothingIsOpen());
-    EXPECT_EQ(FilesIn(kDesktop), (Files{{L"a_b_c_.url", "[InternetShortcut]\r\nURL=http://abc.hu"}}));
-    EXPECT_EQ(FilesIn(kDesktopBehindABlank), Files{});
+    EXPECT_EQ(FilesBelow(kDesktop), (Files{{L"a_b_c_.url", ShortcutTo("http://abc.hu")}}));
+    EXPECT_EQ(FilesBelow(kDesktopWithABlank), Files{});
 }
 
 TEST_F(DesktopShortcutTest, ADesktopThatTheShellDoesNotKnowIsReportedAndTheNameStays) {
-    ShowAndSelect(L"a:b/c?");
-    const MainState before = program.State();
-    {
-        const DesktopElsewhere elsewhere(L"Q:\\nincs\\ilyen");
-        ASSERT_EQ(ShellFolder(CSIDL_DESKTOPDIRECTORY), std::nullopt);
-        AskFor(L"a:b/c?", IDOK);
-        ExpectNotCreated();
-    }
-    EXPECT_EQ(FilesIn(kDesktop), Files{});
-    EXPECT_EQ(program.State(), before);
-    EXPECT_EQ(program.BookBytes(), BookWith("a:b/c?"));
+    const DesktopElsewhere elsewhere(L"Q:\\nincs\\ilyen");
+    ASSERT_EQ(ShellFolder(CSIDL_DESKTOPDIRECTORY), std::nullopt);
+    ExpectNotCreated(L"a:b/c?", "a:b/c?");
+    EXPECT_EQ(FilesBelow(kDesktop), Files{});
 }
 
 TEST_F(DesktopShortcutTest, ADesktopWhoseShortenedPathIsNotThereIsReportedAfterTheNameHasChanged) {
-    std::filesystem::create_directories(kDesktopBehindABlank);
-    ShowAndSelect(L"a:b/c?");
-    const MainState before = program.State();
-    {
-        const DesktopElsewhere elsewhere(kDesktopBehindABlank);
-        ASSERT_TRUE(std::filesystem::remove(kDesktop));
-        ASSERT_EQ(ShellFolder(CSIDL_DESKTOPDIRECTORY), kDesktopBehindABlank);
-        AskFor(L"a:b/c?", IDOK);
-        ExpectNotCreated();
-        EXPECT_FALSE(std::filesystem::exists(kDesktop));
-        EXPECT_EQ(FilesIn(kDesktopBehindABlank), Files{});
-    }
-    EXPECT_EQ(program.State(), before);
-    EXPECT_EQ(program.BookBytes(), BookWith("a_b_c_"));
+    std::filesystem::create_directories(kDesktopWithABlank);
+    const DesktopElsewhere elsewhere(kDesktopWithABlank);
+    ASSERT_TRUE(std::filesystem::remove(kDesktop));
+    ASSERT_EQ(ShellFolder(CSIDL_DESKTOPDIRECTORY), kDesktopWithABlank);
+    ExpectNotCreated(L"a:b/c?", "a_b_c_");
+    EXPECT_FALSE(std::filesystem::exists(kDesktop));
+    EXPECT_EQ(FilesBelow(kDesktopWithABlank), Files{});
 }
 
 TEST_F(DesktopShortcutTest, AFileThatCannotBeCreatedIsReportedAfterTheNameHasChanged) {
-    // The shell's other forbidden characters stay, and no file can bear them.
-    ShowAndSelect(L"a\\b/c:d?e*f\"g<h>i|j");
-    const MainState before = program.State();
-    AskFor(L"a\\b/c:d?e*f\"g<h>i|j", IDOK);
-    ExpectNotCreated();
-    EXPECT_EQ(FilesIn(kDesktop), Files{});
-    EXPECT_EQ(program.State(), before);
-    EXPECT_EQ(program.BookBytes(), BookWith("a_b_c_d_e*f\"g<h>i|j"));
+    // The other characters that the shell forbids stay, and no file can have such a name.
+    ExpectNotCreated(L"a\\b/c:d?e*f\"g<h>i|j", "a_b_c_d_e*f\"g<h>i|j");
+    EXPECT_EQ(FilesBelow(kDesktop), Files{});
 }
 
 TEST_F(DesktopShortcutTest, ADeviceIsNoShortcutAndReported) {
-    ShowAndSelect(L"NUL");
-    const MainState before = program.State();
-    AskFor(L"NUL", IDOK);
-    ExpectNotCreated();
-    EXPECT_EQ(FilesIn(kDesktop), Files{});
-    EXPECT_EQ(program.State(), before);
+    ExpectNotCreated(L"NUL", "NUL");
+    EXPECT_EQ(FilesBelow(kDesktop), Files{});
 }
 
 TEST_F(DesktopShortcutTest, AFileThatIsInUseIsReportedAndKeepsItsBytes) {
-    ShowAndSelect(L"a:b/c?");
-    const MainState before = program.State();
     const std::wstring path = std::wstring(kDesktop) + L"\\a_b_c_.url";
-    AskFor(L"a:b/c?", IDOK);
-    program.OnUi([](frmStart& form) { form.OpenedBook().TheBook.SetSiteURL(2, "http://uj.hu"); });
+    WriteFileBytes(path, ShortcutTo("http://regi.hu"));
     const HANDLE other =
         CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
     ASSERT_NE(other, INVALID_HANDLE_VALUE);
-    AskFor(L"a_b_c_", IDOK);
-    ExpectNotCreated();
+    ExpectNotCreated(L"a:b/c?", "a_b_c_");
     EXPECT_TRUE(CloseHandle(other));
-    EXPECT_EQ(FilesIn(kDesktop), (Files{{L"a_b_c_.url", "[InternetShortcut]\r\nURL=http://abc.hu"}}));
-    EXPECT_EQ(program.State(), before);
+    EXPECT_EQ(FilesBelow(kDesktop), (Files{{L"a_b_c_.url", ShortcutTo("http://regi.hu")}}));
 }
 
 TEST_F(DesktopShortcutTest, NothingHappensWithoutASelectedRow) {

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -10,6 +12,17 @@
 #include "tests/window/support/Program.h"
 
 namespace lindrel::testing {
+
+// The files below a folder: relative paths and bytes.
+using Files = std::map<std::wstring, std::string>;
+inline Files FilesBelow(const std::filesystem::path& folder) {
+    Files files;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder))
+        if (!entry.is_directory())
+            files.emplace(entry.path().lexically_relative(folder).wstring(),
+                          TemporaryFolder::Read(entry.path().wstring()));
+    return files;
+}
 
 class ExportSession : public ::testing::Test {
   protected:
@@ -26,23 +39,19 @@ class ExportSession : public ::testing::Test {
         program.ClickBox(1);
     }
 
-    DialogOnScreen Open() const {
+    // Opens the dialog and selects lines of its list (0-based): 0 is category 2, 1 is category 5.
+    DialogOnScreen Open(const std::vector<int>& lines = {}) const {
         program.Choose(ID_mnuExport);
-        return program.Dialog(L"Exportálás");
+        const DialogOnScreen dialog = program.Dialog(L"Exportálás");
+        for (const int line : lines)
+            SendMessageW(dialog.Control(ID_frmExport_lstSource), LB_SETSEL, TRUE, line);
+        return dialog;
     }
-    static void SelectLine(const DialogOnScreen& dialog, int line) {
-        SendMessageW(dialog.Control(ID_frmExport_lstSource), LB_SETSEL, TRUE, line);
+    static void Leave(const DialogOnScreen& dialog) {
+        dialog.Cancel();
+        dialog.WaitForClose();
     }
-    static std::vector<std::wstring> Lines(const DialogOnScreen& dialog) {
-        const HWND list = dialog.Control(ID_frmExport_lstSource);
-        std::vector<std::wstring> lines;
-        for (int line = 0; line < SendMessageW(list, LB_GETCOUNT, 0, 0); ++line) {
-            wchar_t text[256] = L"";
-            SendMessageW(list, LB_GETTEXT, static_cast<WPARAM>(line), reinterpret_cast<LPARAM>(text));
-            lines.emplace_back(text);
-        }
-        return lines;
-    }
+    // The number of checked entries to export, of each category.
     std::vector<int> Counts() const {
         std::vector<int> counts;
         program.OnUi([&](frmStart& form) {
@@ -57,6 +66,10 @@ class ExportSession : public ::testing::Test {
         counts[4] = fifth;
         return counts;
     }
+    // Changes the book behind the user's back.
+    void Change(const std::function<void(Book&)>& change) const {
+        program.OnUi([&](frmStart& form) { change(form.OpenedBook().TheBook); });
+    }
     // Presses the export button and answers the save dialog.
     void Export(const DialogOnScreen& dialog, const std::wstring& path, const std::wstring& filter) const {
         dialog.Click(ID_frmExport_cmdOK);
@@ -64,9 +77,6 @@ class ExportSession : public ::testing::Test {
         EXPECT_EQ(file.Title(), L"Exportálás");
         EXPECT_EQ(file.Filters(), std::vector<std::wstring>{filter});
         file.Accept(path);
-    }
-    static std::string Header(const std::string& name) {
-        return "\xF7\xF7\xF7\xF7\xF7< " + name + std::string(120 - name.size(), '-') + "\r\n";
     }
     const std::wstring kPages = L"weblapok (*.htm)";
     const std::wstring kTexts = L"szövegfájlok (*.txt)";

@@ -7,7 +7,40 @@
 namespace lindrel::testing {
 namespace {
 
-class frmExportTest : public ExportSession {};
+class frmExportTest : public ExportSession {
+  protected:
+    static std::vector<std::wstring> Lines(const DialogOnScreen& dialog) {
+        const HWND list = dialog.Control(ID_frmExport_lstSource);
+        std::vector<std::wstring> lines;
+        for (int line = 0; line < SendMessageW(list, LB_GETCOUNT, 0, 0); ++line) {
+            wchar_t text[256] = L"";
+            SendMessageW(list, LB_GETTEXT, static_cast<WPARAM>(line), reinterpret_cast<LPARAM>(text));
+            lines.emplace_back(text);
+        }
+        return lines;
+    }
+    // Exports lines of the list to a text file.
+    DialogOnScreen ExportText(const std::vector<int>& lines, const std::wstring& path) const {
+        const DialogOnScreen dialog = Open(lines);
+        dialog.Pick(ID_frmExport_cmbType, 1);
+        Export(dialog, path, kTexts);
+        return dialog;
+    }
+    // The dialog closes, with these counts of checked entries left.
+    void ExpectClosedWithoutAMessage(const DialogOnScreen& dialog, const std::vector<int>& counts) {
+        dialog.WaitForClose();
+        program.Settle();
+        EXPECT_TRUE(program.NothingIsOpen());
+        EXPECT_EQ(Counts(), counts);
+    }
+    static std::string Header(const std::string& name) {
+        return "\xF7\xF7\xF7\xF7\xF7< " + name + std::string(120 - name.size(), '-') + "\r\n";
+    }
+    static std::string SecondCategory() {
+        return Header("H\xEDrek") + "\xB0 Els\xF5\r\n  http://elso.hu\r\n\xB0 Harmadik\r\n  x\r\n";
+    }
+    static std::string FifthCategory() { return Header("Project5") + "\xB0 a:b\r\n  http://ab.hu\r\n"; }
+};
 
 TEST_F(frmExportTest, WithNothingCheckedAsksForMarksAndOpensNothing) {
     program.Run(ID_mnuSelectAll);  // clears those of category 2
@@ -33,30 +66,32 @@ TEST_F(frmExportTest, OpensWithTheWebPageAndALineForEachCategoryWithMarks) {
     EXPECT_EQ(dialog.ComboItems(ID_frmExport_cmbType),
               (std::vector<std::wstring>{L"weblap - HTML", L"szövegfájl - txt", L"IE kedvencek - url"}));
     EXPECT_EQ(dialog.Picked(ID_frmExport_cmbType), 0);
-    EXPECT_EQ(dialog.Text(ID_frmExport_lblText), L"Válassza ki, mely kategóriákból kíván exportálni");
-    EXPECT_EQ(dialog.Text(ID_frmExport_Frame1), L" exportálva lesz(nek)");
-    EXPECT_EQ(dialog.Text(ID_frmExport_Label2), L"&fájltipus");
-    EXPECT_EQ(dialog.Text(ID_frmExport_Frame2), L" hozzáadás a MS IE kedvencekhez beállitások");
-    EXPECT_EQ(dialog.Text(ID_frmExport_Frame3), L" weblap tulajdonságai ");
-    EXPECT_EQ(dialog.Text(ID_frmExport_lblTitle), L"a weblap címe");
+    const std::vector<std::pair<int, std::wstring>> texts = {
+        {ID_frmExport_lblText, L"Válassza ki, mely kategóriákból kíván exportálni"},
+        {ID_frmExport_Frame1, L" exportálva lesz(nek)"},
+        {ID_frmExport_Label2, L"&fájltipus"},
+        {ID_frmExport_Frame2, L" hozzáadás a MS IE kedvencekhez beállitások"},
+        {ID_frmExport_Frame3, L" weblap tulajdonságai "},
+        {ID_frmExport_lblTitle, L"a weblap címe"},
+        {ID_frmExport_lblColor, L"háttérszín :"},
+        {ID_frmExport_optColor_0, L"fehér"},
+        {ID_frmExport_optColor_1, L"fekete"},
+        {ID_frmExport_optColor_2, L"tegye az összes címet egy mappa alá"},
+        {ID_frmExport_optColor_3, L"létrehozni a kategóriák neveivel új mappákat"},
+        {ID_frmExport_Label3, L"arculat"},
+        {ID_frmExport_cmdBrowse, L"Tallózz .."},
+        {ID_frmExport_cmdOK, L"&Exportálj ..."},
+        {ID_frmExport_cmdCancel, L"&Mégse"},
+        {ID_frmExport_txtTitle, L""},
+        {ID_frmExport_cmbTheme, L""},
+    };
+    for (const auto& [id, text] : texts) EXPECT_EQ(dialog.Text(id), text) << id;
     EXPECT_EQ(ToolTipOf(program, dialog.Control(ID_frmExport_txtTitle)), L"<TITLE>?\?\?</TITLE>");
-    EXPECT_EQ(dialog.Text(ID_frmExport_lblColor), L"háttérszín :");
-    EXPECT_EQ(dialog.Text(ID_frmExport_optColor_0), L"fehér");
-    EXPECT_EQ(dialog.Text(ID_frmExport_optColor_1), L"fekete");
-    EXPECT_EQ(dialog.Text(ID_frmExport_optColor_2), L"tegye az összes címet egy mappa alá");
-    EXPECT_EQ(dialog.Text(ID_frmExport_optColor_3), L"létrehozni a kategóriák neveivel új mappákat");
-    EXPECT_EQ(dialog.Text(ID_frmExport_Label3), L"arculat");
-    EXPECT_EQ(dialog.Text(ID_frmExport_cmdBrowse), L"Tallózz ..");
-    EXPECT_EQ(dialog.Text(ID_frmExport_cmdOK), L"&Exportálj ...");
-    EXPECT_EQ(dialog.Text(ID_frmExport_cmdCancel), L"&Mégse");
-    EXPECT_EQ(dialog.Text(ID_frmExport_txtTitle), L"");
-    EXPECT_EQ(dialog.Text(ID_frmExport_cmbTheme), L"");
     EXPECT_TRUE(dialog.IsChecked(ID_frmExport_optColor_0));
     EXPECT_FALSE(dialog.IsChecked(ID_frmExport_optColor_1));
     EXPECT_TRUE(dialog.IsChecked(ID_frmExport_optColor_2));
     EXPECT_FALSE(dialog.IsChecked(ID_frmExport_optColor_3));
-    dialog.Cancel();
-    dialog.WaitForClose();
+    Leave(dialog);
 }
 
 TEST_F(frmExportTest, TheKindShowsItsOwnOptions) {
@@ -78,8 +113,7 @@ TEST_F(frmExportTest, TheKindShowsItsOwnOptions) {
     expect(1, true, false, false);
     expect(2, false, false, true);
     expect(0, true, true, false);
-    dialog.Cancel();
-    dialog.WaitForClose();
+    Leave(dialog);
 }
 
 TEST_F(frmExportTest, WithoutAChosenCategoryTheListIsAskedFor) {
@@ -94,44 +128,26 @@ TEST_F(frmExportTest, WithoutAChosenCategoryTheListIsAskedFor) {
     program.Settle();
     EXPECT_EQ(dialog.Focus(), ID_frmExport_lstSource);
     EXPECT_EQ(Counts(), CountsOf(2, 1));
-    dialog.Cancel();
-    dialog.WaitForClose();
+    Leave(dialog);
     EXPECT_EQ(Counts(), CountsOf(2, 1));
 }
 
 TEST_F(frmExportTest, ATextListOfBothCategoriesInListOrder) {
     const MainState before = program.State();
-    const DialogOnScreen dialog = Open();
-    SelectLine(dialog, 0);
-    SelectLine(dialog, 1);
-    dialog.Pick(ID_frmExport_cmbType, 1);
-    Export(dialog, folder.File(L"lista"), kTexts);  // the extension is added
-    dialog.WaitForClose();
-    program.Settle();
-    EXPECT_EQ(TemporaryFolder::Read(folder.File(L"lista.txt")),
-              Header("H\xEDrek") + "\xB0 Els\xF5\r\n  http://elso.hu\r\n\xB0 Harmadik\r\n  x\r\n" +
-                  Header("Project5") + "\xB0 a:b\r\n  http://ab.hu\r\n");
-    EXPECT_EQ(Counts(), CountsOf(0, 0));
-    EXPECT_EQ(program.State(), before);  // the boxes shown keep their marks
+    ExpectClosedWithoutAMessage(ExportText({0, 1}, folder.File(L"lista")), CountsOf(0, 0));
+    EXPECT_EQ(TemporaryFolder::Read(folder.File(L"lista.txt")),  // the extension is added
+              SecondCategory() + FifthCategory());
+    EXPECT_EQ(program.State(), before);  // the check marks stay in the list
 }
 
 TEST_F(frmExportTest, OnlyTheChosenCategoryIsExported) {
-    const DialogOnScreen dialog = Open();
-    SelectLine(dialog, 1);
-    dialog.Pick(ID_frmExport_cmbType, 1);
-    Export(dialog, folder.File(L"lista.txt"), kTexts);
-    dialog.WaitForClose();
-    EXPECT_EQ(TemporaryFolder::Read(folder.File(L"lista.txt")),
-              Header("Project5") + "\xB0 a:b\r\n  http://ab.hu\r\n");
-    EXPECT_EQ(Counts(), CountsOf(0, 0));
+    ExpectClosedWithoutAMessage(ExportText({1}, folder.File(L"lista.txt")), CountsOf(0, 0));
+    EXPECT_EQ(TemporaryFolder::Read(folder.File(L"lista.txt")), FifthCategory());
 }
 
 TEST_F(frmExportTest, DecliningToOverwriteLeavesEverything) {
-    const std::wstring path = folder.Write(L"lista.txt", "régi");
-    const DialogOnScreen dialog = Open();
-    SelectLine(dialog, 1);
-    dialog.Pick(ID_frmExport_cmbType, 1);
-    Export(dialog, path, kTexts);
+    const std::wstring path = folder.Write(L"lista.txt", std::string(10000, 'r'));
+    const DialogOnScreen dialog = ExportText({1}, path);
     const BoxOnScreen box = program.Box();
     EXPECT_EQ(box.Title(), L"Figyelem: már van ilyen fájl!");
     EXPECT_EQ(box.Text(), L"Felülírjam a már létező állományt ?");
@@ -141,48 +157,36 @@ TEST_F(frmExportTest, DecliningToOverwriteLeavesEverything) {
     program.Settle();
     EXPECT_TRUE(dialog.IsOpen());
     EXPECT_EQ(Counts(), CountsOf(2, 1));
-    EXPECT_EQ(TemporaryFolder::Read(path), "régi");
+    EXPECT_EQ(TemporaryFolder::Read(path), std::string(10000, 'r'));
     Export(dialog, path, kTexts);
     program.Box().Press(IDOK);
-    dialog.WaitForClose();
-    EXPECT_EQ(TemporaryFolder::Read(path), Header("Project5") + "\xB0 a:b\r\n  http://ab.hu\r\n");
-    EXPECT_EQ(Counts(), CountsOf(0, 0));
+    ExpectClosedWithoutAMessage(dialog, CountsOf(0, 0));
+    EXPECT_EQ(TemporaryFolder::Read(path), FifthCategory());
 }
 
 TEST_F(frmExportTest, CancelChangesNothing) {
     ExpectCancelChangesNothing(
-        program, [this] { return Open(); },
-        [](const DialogOnScreen& dialog) {
-            SelectLine(dialog, 0);
-            dialog.Pick(ID_frmExport_cmbType, 2);
-        },
-        ID_frmExport_cmdCancel);
+        program, [this] { return Open({0}); },
+        [](const DialogOnScreen& dialog) { dialog.Pick(ID_frmExport_cmbType, 2); }, ID_frmExport_cmdCancel);
     EXPECT_EQ(Counts(), CountsOf(2, 1));
 }
 
 TEST_F(frmExportTest, ACancelledSaveDialogLeavesTheDialogAndTheCounts) {
-    const DialogOnScreen dialog = Open();
-    SelectLine(dialog, 0);
+    const DialogOnScreen dialog = Open({0});
     dialog.Click(ID_frmExport_cmdOK);
     program.FileDialog().Cancel();
     program.Settle();
     EXPECT_TRUE(dialog.IsOpen());
     EXPECT_EQ(Counts(), CountsOf(2, 1));
-    dialog.Cancel();
-    dialog.WaitForClose();
+    Leave(dialog);
 }
 
 TEST_F(frmExportTest, AFailureWhileWritingClosesTheDialogWithoutAMessage) {
-    program.OnUi([](frmStart& form) { form.OpenedBook().TheBook.SetCategoryName(5, std::string(121, 'n')); });
-    const DialogOnScreen dialog = Open();
-    SelectLine(dialog, 1);
-    dialog.Pick(ID_frmExport_cmbType, 1);
-    Export(dialog, folder.File(L"lista.txt"), kTexts);
-    dialog.WaitForClose();
-    program.Settle();
-    EXPECT_TRUE(program.NothingIsOpen());
-    EXPECT_EQ(Counts(), CountsOf(0, 1));
-    EXPECT_EQ(TemporaryFolder::Read(folder.File(L"lista.txt")), "");
+    Change([](Book& book) { book.SetCategoryName(5, std::string(121, 'n')); });
+    ExpectClosedWithoutAMessage(ExportText({0, 1}, folder.File(L"lista.txt")), CountsOf(2, 1));
+    EXPECT_EQ(TemporaryFolder::Read(folder.File(L"lista.txt")), SecondCategory());
+    ExpectClosedWithoutAMessage(ExportText({1}, folder.File(L"ures.txt")), CountsOf(0, 1));
+    EXPECT_EQ(TemporaryFolder::Read(folder.File(L"ures.txt")), "");
 }
 
 TEST_F(frmExportTest, AFileThatCannotBeCreatedClosesTheDialogWithoutAMessage) {
@@ -190,15 +194,9 @@ TEST_F(frmExportTest, AFileThatCannotBeCreatedClosesTheDialogWithoutAMessage) {
     // Another program keeps it to itself.
     const HANDLE other = CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
     ASSERT_NE(other, INVALID_HANDLE_VALUE);
-    const DialogOnScreen dialog = Open();
-    SelectLine(dialog, 1);
-    dialog.Pick(ID_frmExport_cmbType, 1);
-    Export(dialog, path, kTexts);
+    const DialogOnScreen dialog = ExportText({1}, path);
     program.Box().Press(IDOK);
-    dialog.WaitForClose();
-    program.Settle();
-    EXPECT_TRUE(program.NothingIsOpen());
-    EXPECT_EQ(Counts(), CountsOf(0, 1));
+    ExpectClosedWithoutAMessage(dialog, CountsOf(0, 1));
     ASSERT_TRUE(CloseHandle(other));
     EXPECT_EQ(TemporaryFolder::Read(path), "old");
 }

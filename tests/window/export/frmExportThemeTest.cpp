@@ -59,8 +59,7 @@ TEST_F(frmExportThemeTest, ANamedThemeGreysTheColours) {
     EXPECT_TRUE(enabled_with(L"abcd"));
     EXPECT_FALSE(enabled_with(L"abcde"));
     EXPECT_TRUE(enabled_with(L""));
-    dialog.Cancel();
-    dialog.WaitForClose();
+    Leave(dialog);
 }
 
 TEST_F(frmExportThemeTest, LeavingTheThemeDecidesTheColoursToo) {
@@ -79,8 +78,7 @@ TEST_F(frmExportThemeTest, LeavingTheThemeDecidesTheColoursToo) {
         enabled = !enabled;
         ExpectColours(dialog, enabled);
     }
-    dialog.Cancel();
-    dialog.WaitForClose();
+    Leave(dialog);
 }
 
 TEST_F(frmExportThemeTest, BackAtTheWebPageTheColoursCanBeChosenUntilTheThemeIsLookedAtAgain) {
@@ -100,8 +98,7 @@ TEST_F(frmExportThemeTest, BackAtTheWebPageTheColoursCanBeChosenUntilTheThemeIsL
     ExpectColours(dialog, true);
     look_at_the_theme();
     ExpectColours(dialog, false);
-    dialog.Cancel();
-    dialog.WaitForClose();
+    Leave(dialog);
 }
 
 TEST_F(frmExportThemeTest, AMissingFolderForThemesIsMadeAndOffersNone) {
@@ -111,8 +108,7 @@ TEST_F(frmExportThemeTest, AMissingFolderForThemesIsMadeAndOffersNone) {
     EXPECT_TRUE(std::filesystem::is_directory(MissingStyles::Folder()));
     std::error_code error;
     EXPECT_TRUE(std::filesystem::is_empty(MissingStyles::Folder(), error)) << error.message();
-    dialog.Cancel();
-    dialog.WaitForClose();
+    Leave(dialog);
 }
 
 TEST_F(frmExportThemeTest, TheThemesBesideTheProgramAreOfferedByTheirPaths) {
@@ -136,8 +132,7 @@ TEST_F(frmExportThemeTest, TheThemesBesideTheProgramAreOfferedByTheirPaths) {
     SendMessageW(combo, CB_SELECTSTRING, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(path.c_str()));
     SendMessageW(dialog.Handle(), WM_COMMAND, MAKEWPARAM(ID_frmExport_cmbTheme, CBN_SELCHANGE), 0);
     EXPECT_FALSE(dialog.IsEnabled(ID_frmExport_optColor_0));
-    dialog.Cancel();
-    dialog.WaitForClose();
+    Leave(dialog);
 }
 
 TEST_F(frmExportThemeTest, BrowsingTakesAThemeFromAnywhereAndCancellingLeavesTheText) {
@@ -155,8 +150,7 @@ TEST_F(frmExportThemeTest, BrowsingTakesAThemeFromAnywhereAndCancellingLeavesThe
     program.FileDialog().Cancel();
     program.Settle();
     EXPECT_EQ(dialog.Text(ID_frmExport_cmbTheme), theme);
-    dialog.Cancel();
-    dialog.WaitForClose();
+    Leave(dialog);
 }
 
 }  // namespace

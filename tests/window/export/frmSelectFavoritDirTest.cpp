@@ -1,8 +1,6 @@
-// The choice of a folder, and the shortcut files in it.
+// The dialog that chooses a folder, and the shortcut files exported into it.
 
 #include <filesystem>
-#include <map>
-#include <stdexcept>
 
 #include "export/Favorites.h"
 #include "faults/Faults.h"
@@ -12,59 +10,62 @@
 #include "tests/window/support/DeepFolder.h"
 #include "tests/window/support/Expectations.h"
 #include "tests/window/support/FavoritesFolder.h"
-#include "text/BookText.h"
 
 namespace lindrel::testing {
 namespace {
 
 class frmSelectFavoritDirTest : public ExportSession {
   protected:
+    static std::filesystem::path Favorites() { return FavoritesFolder::Path(); }
+    static std::string ShortcutTo(const std::string& address) {
+        return "[InternetShortcut]\r\nURL=" + address;
+    }
     DialogOnScreen OpenPicker(const DialogOnScreen& dialog) const {
         dialog.Pick(ID_frmExport_cmbType, 2);
         dialog.Click(ID_frmExport_cmdOK);
         return program.Dialog(L"Exportálás a kedvencekbe");
     }
-    void Descend(const DialogOnScreen& picker, const std::wstring& name) const {
-        DescendTo(program, picker.Control(ID_frmSelectFavoritDir_Dir1), name);
+    // Goes down from the folder that is selected first, and exports.
+    void ExportInto(const DialogOnScreen& dialog, const std::vector<std::wstring>& folders) const {
+        const DialogOnScreen picker = OpenPicker(dialog);
+        for (const std::wstring& name : folders)
+            DescendTo(program, picker.Control(ID_frmSelectFavoritDir_Dir1), name);
+        picker.ClickAndWaitForClose(ID_frmSelectFavoritDir_cmdOk);
+    }
+    void ExportInto(const std::vector<int>& lines, const std::vector<std::wstring>& folders) const {
+        const DialogOnScreen dialog = Open(lines);
+        ExportInto(dialog, folders);
+        dialog.WaitForClose();
+        program.Settle();
+        EXPECT_TRUE(program.NothingIsOpen());
+    }
+    void NameTheFifth(const std::string& name) const {
+        Change([&](Book& book) { book.SetSiteName(book.IndexOf(5, 1), name); });
     }
 
-    // Exports the second of the checked categories, where a fault ends the program.
-    void ExpectReport(const std::wstring& text) {
+    // Exports category 5, where a fault of a file ends the program.
+    void ExpectReport(int number, const std::filesystem::path& file, const std::wstring& meaning) {
         const UnsavedBook book(program);
-        const DialogOnScreen dialog = Open();
-        SelectLine(dialog, 1);
-        const DialogOnScreen picker = OpenPicker(dialog);
-        Descend(picker, L"Lindrel próba");
-        picker.ClickAndWaitForClose(ID_frmSelectFavoritDir_cmdOk);
-        book.ExpectReportAndSave(text);
+        ExportInto(Open({1}), {L"Lindrel próba"});
+        book.ExpectReportAndSave(L"Futásidejű hiba: " + std::to_wstring(number) + L"\r\n\r\n" +
+                                 file.wstring() + L"\r\n" + meaning + L".\r\n\r\nA program bezárul.");
     }
-    // The system's own words.
-    static std::wstring ReasonNotToWrite(const std::filesystem::path& file) {
+    void ExpectReportThatItCannotBeWritten(const std::filesystem::path& file) {
+        std::wstring reason;
         try {
             WriteFileBytes(file, "");
         } catch (const FileFault& fault) {
-            return fault.Meaning();
+            reason = fault.Meaning();
         }
-        throw std::runtime_error("the file can be written");
-    }
-
-    // Every file below the folder with what is in it.
-    using Files = std::map<std::wstring, std::string>;
-    static Files FilesBelow(const std::filesystem::path& folder) {
-        Files files;
-        for (const auto& entry : std::filesystem::recursive_directory_iterator(folder))
-            if (!entry.is_directory())
-                files.emplace(entry.path().lexically_relative(folder).wstring(),
-                              TemporaryFolder::Read(entry.path().wstring()));
-        return files;
+        ASSERT_NE(reason, L"");
+        ExpectReport(75, file, reason);
     }
 
     FavoritesFolder favorites;
 };
 
 TEST_F(frmSelectFavoritDirTest, TheFolderChoiceStartsAtTheFavourites) {
-    const DialogOnScreen dialog = Open();
-    SelectLine(dialog, 1);
+    const DialogOnScreen dialog = Open({1});
     const DialogOnScreen picker = OpenPicker(dialog);
     EXPECT_EQ(picker.Text(ID_frmSelectFavoritDir_lblChoose),
               L"Kérem válassza ki azt a mappát, amelybe exportálni kíván");
@@ -75,62 +76,48 @@ TEST_F(frmSelectFavoritDirTest, TheFolderChoiceStartsAtTheFavourites) {
     const HWND tree = picker.Control(ID_frmSelectFavoritDir_Dir1);
     const auto selected = reinterpret_cast<HTREEITEM>(SendMessageW(tree, TVM_GETNEXTITEM, TVGN_CARET, 0));
     EXPECT_EQ(SelectedItemText(tree), FavoritesFolder::Start().filename().wstring());
-    RECT place{};
+    RECT bounds{};
     RECT client{};
     GetClientRect(tree, &client);
-    ASSERT_TRUE(TreeView_GetItemRect(tree, selected, &place, TRUE));  // it is shown
+    ASSERT_TRUE(TreeView_GetItemRect(tree, selected, &bounds, TRUE));  // it is shown
     RECT inside{};
-    EXPECT_TRUE(IntersectRect(&inside, &place, &client));
-    EXPECT_EQ(inside.bottom, place.bottom);
+    EXPECT_TRUE(IntersectRect(&inside, &bounds, &client));
+    EXPECT_EQ(inside.bottom, bounds.bottom);
     picker.Cancel();
     picker.WaitForClose();
     program.Settle();
     EXPECT_TRUE(dialog.IsOpen());
     EXPECT_EQ(Counts(), CountsOf(0, 1));  // what was not chosen is dropped all the same
-    dialog.Cancel();
-    dialog.WaitForClose();
+    Leave(dialog);
 }
 
 TEST_F(frmSelectFavoritDirTest, CancellingAfterAChoiceWritesNothingAndLeavesTheDialogOpen) {
-    const DialogOnScreen dialog = Open();
-    SelectLine(dialog, 0);
-    const auto choose_and_cancel = [&](const std::function<void(const DialogOnScreen&)>& cancel) {
+    const DialogOnScreen dialog = Open({0});
+    for (const bool by_key : {false, true}) {
         const DialogOnScreen picker = OpenPicker(dialog);
-        Descend(picker, L"Lindrel próba");
-        cancel(picker);
+        const HWND tree = picker.Control(ID_frmSelectFavoritDir_Dir1);
+        DescendTo(program, tree, L"Lindrel próba");
+        if (by_key)
+            PostMessageW(tree, WM_KEYDOWN, VK_ESCAPE, 1);
+        else
+            picker.Click(ID_frmSelectFavoritDir_cmdCancel);
+        picker.WaitForClose();
         program.Settle();
         EXPECT_TRUE(dialog.IsOpen());
-        EXPECT_EQ(FilesBelow(FavoritesFolder::Path()), Files{});
+        EXPECT_EQ(FilesBelow(Favorites()), Files{});
         EXPECT_EQ(Counts(), CountsOf(2, 0));
-    };
-    choose_and_cancel(
-        [](const DialogOnScreen& picker) { picker.ClickAndWaitForClose(ID_frmSelectFavoritDir_cmdCancel); });
-    choose_and_cancel([](const DialogOnScreen& picker) {
-        PostMessageW(picker.Control(ID_frmSelectFavoritDir_Dir1), WM_KEYDOWN, VK_ESCAPE, 1);
-        picker.WaitForClose();
-    });
-    dialog.Cancel();
-    dialog.WaitForClose();
+    }
+    Leave(dialog);
 }
 
 TEST_F(frmSelectFavoritDirTest, AllFilesGoIntoTheChosenFolderAndTheNameChangesInTheBook) {
-    const std::string before = program.BookBytes();
-    const DialogOnScreen dialog = Open();
-    SelectLine(dialog, 0);
-    SelectLine(dialog, 1);
-    const DialogOnScreen picker = OpenPicker(dialog);
-    Descend(picker, L"Lindrel próba");
-    Descend(picker, L"Alsó");
-    picker.ClickAndWaitForClose(ID_frmSelectFavoritDir_cmdOk);
-    dialog.WaitForClose();
-    program.Settle();
-    EXPECT_EQ(FilesBelow(FavoritesFolder::Path()),
-              (Files{{L"Alsó\\Első.url", "[InternetShortcut]\r\nURL=http://elso.hu"},
-                     {L"Alsó\\Harmadik.url", "[InternetShortcut]\r\nURL=x"},
-                     {L"Alsó\\a_b.url", "[InternetShortcut]\r\nURL=http://ab.hu"}}));
-    EXPECT_EQ(Counts(), CountsOf(0, 0));
-    std::string expected = before;
+    std::string expected = program.BookBytes();
     expected.replace(expected.find("a:b"), 3, "a_b");
+    ExportInto(std::vector{0, 1}, {L"Lindrel próba", L"Alsó"});
+    EXPECT_EQ(FilesBelow(Favorites()), (Files{{L"Alsó\\Első.url", ShortcutTo("http://elso.hu")},
+                                              {L"Alsó\\Harmadik.url", ShortcutTo("x")},
+                                              {L"Alsó\\a_b.url", ShortcutTo("http://ab.hu")}}));
+    EXPECT_EQ(Counts(), CountsOf(0, 0));
     EXPECT_EQ(program.BookBytes(), expected);
     EXPECT_FALSE(program.State().Modified);
     program.ClickTab(5);
@@ -138,57 +125,39 @@ TEST_F(frmSelectFavoritDirTest, AllFilesGoIntoTheChosenFolderAndTheNameChangesIn
 }
 
 TEST_F(frmSelectFavoritDirTest, EachCategoryHasAFolderOfItsOwn) {
-    const DialogOnScreen dialog = Open();
-    SelectLine(dialog, 0);
-    SelectLine(dialog, 1);
+    const DialogOnScreen dialog = Open({0, 1});
     dialog.Pick(ID_frmExport_cmbType, 2);
     dialog.Click(ID_frmExport_optColor_3);
     program.Settle();
     EXPECT_FALSE(dialog.IsChecked(ID_frmExport_optColor_2));
     EXPECT_TRUE(dialog.IsChecked(ID_frmExport_optColor_3));
-    const DialogOnScreen picker = OpenPicker(dialog);
-    Descend(picker, L"Lindrel próba");
-    picker.ClickAndWaitForClose(ID_frmSelectFavoritDir_cmdOk);
+    ExportInto(dialog, {L"Lindrel próba"});
     dialog.WaitForClose();
-    EXPECT_EQ(FilesBelow(FavoritesFolder::Path()),
-              (Files{{L"Hírek\\Első.url", "[InternetShortcut]\r\nURL=http://elso.hu"},
-                     {L"Hírek\\Harmadik.url", "[InternetShortcut]\r\nURL=x"},
-                     {L"Project5\\a_b.url", "[InternetShortcut]\r\nURL=http://ab.hu"}}));
+    EXPECT_EQ(FilesBelow(Favorites()), (Files{{L"Hírek\\Első.url", ShortcutTo("http://elso.hu")},
+                                              {L"Hírek\\Harmadik.url", ShortcutTo("x")},
+                                              {L"Project5\\a_b.url", ShortcutTo("http://ab.hu")}}));
     EXPECT_EQ(Counts(), CountsOf(0, 0));
 }
 
-TEST_F(frmSelectFavoritDirTest, AColonBehindThe255thCharacterEndsInTheReportAndLosesNothing) {
-    program.OnUi([&](frmStart& form) {
-        form.OpenedBook().TheBook.SetSiteName(form.OpenedBook().TheBook.IndexOf(5, 1),
-                                              std::string(255, 'n') + ":");
-    });
-    const std::wstring name = std::wstring(255, L'n') + L":.url";
-    ExpectReport(L"Futásidejű hiba: 6\r\n\r\n" + (FavoritesFolder::Path() / name).wstring() +
-                 L"\r\nTúlcsordulás.\r\n\r\nA program bezárul.");
+TEST_F(frmSelectFavoritDirTest, AColonAfterThe255thCharacterEndsInTheReportAndLosesNothing) {
+    NameTheFifth(std::string(255, 'n') + ":");
+    ExpectReport(6, Favorites() / (std::wstring(255, L'n') + L":.url"), L"Túlcsordulás");
 }
 
 TEST_F(frmSelectFavoritDirTest, AFileThatCannotBeWrittenEndsInTheReportAndLosesNothing) {
-    // A folder stands where the file should be.
-    const std::filesystem::path file = FavoritesFolder::Path() / L"a_b.url";
-    std::filesystem::create_directory(file);
-    ExpectReport(L"Futásidejű hiba: 75\r\n\r\n" + file.wstring() + L"\r\n" + ReasonNotToWrite(file) +
-                 L".\r\n\r\nA program bezárul.");
+    std::filesystem::create_directory(Favorites() / L"a_b.url");
+    ExpectReportThatItCannotBeWritten(Favorites() / L"a_b.url");
 }
 
 TEST_F(frmSelectFavoritDirTest, AnEntryNamedLikeADeviceEndsInTheReportAndLosesNothing) {
-    program.OnUi([&](frmStart& form) {
-        form.OpenedBook().TheBook.SetSiteName(form.OpenedBook().TheBook.IndexOf(5, 1), "nul");
-    });
-    const std::filesystem::path file = FavoritesFolder::Path() / L"nul.url";
-    ExpectReport(L"Futásidejű hiba: 75\r\n\r\n" + file.wstring() + L"\r\n" + ReasonNotToWrite(file) +
-                 L".\r\n\r\nA program bezárul.");
-    EXPECT_EQ(FilesBelow(FavoritesFolder::Path()), Files{});
+    NameTheFifth("nul");
+    ExpectReportThatItCannotBeWritten(Favorites() / L"nul.url");
+    EXPECT_EQ(FilesBelow(Favorites()), Files{});
 }
 
 TEST_F(frmSelectFavoritDirTest, AFolderOfAnyDepthTakesFoldersAndFiles) {
-    const DeepFolder deep(FavoritesFolder::Path() / L"Alsó");
-    program.OnUi([&](frmStart& form) {
-        Book& book = form.OpenedBook().TheBook;
+    const DeepFolder deep(Favorites() / L"Alsó");
+    Change([&](Book& book) {
         book.SetCategoryName(5, "lpt1");
         saveTo_fav(book, deep.Path(), true);
     });
@@ -199,15 +168,10 @@ TEST_F(frmSelectFavoritDirTest, AFolderOfAnyDepthTakesFoldersAndFiles) {
 }
 
 TEST_F(frmSelectFavoritDirTest, ANewBookIsOfferedToBeSavedAsABook) {
-    program.OnUi([&](frmStart& form) {
-        form.OpenedBook().TheBook.SetSiteName(form.OpenedBook().TheBook.IndexOf(5, 1), "csillag*");
-        form.OpenedBook().Modified = true;
-    });
+    NameTheFifth("csillag*");
+    program.OnUi([&](frmStart& form) { form.OpenedBook().Modified = true; });
     const std::string before = program.BookBytes();
-    const DialogOnScreen dialog = Open();
-    SelectLine(dialog, 1);
-    const DialogOnScreen picker = OpenPicker(dialog);
-    picker.ClickAndWaitForClose(ID_frmSelectFavoritDir_cmdOk);
+    ExportInto(Open({1}), {});
     program.Box().Press(IDOK);
     program.Box().Press(IDYES);
     const FileDialogOnScreen file = program.FileDialog();
@@ -220,21 +184,11 @@ TEST_F(frmSelectFavoritDirTest, ANewBookIsOfferedToBeSavedAsABook) {
 }
 
 TEST_F(frmSelectFavoritDirTest, ASecondExportOverwritesWithoutAQuestion) {
-    for (const wchar_t* const url : {L"http://regi.hu/hosszu/cim", L"http://uj.hu"}) {
-        program.OnUi([&](frmStart& form) {
-            form.OpenedBook().TheBook.SetSiteURL(form.OpenedBook().TheBook.IndexOf(2, 1), ToBookText(url));
-        });
-        const DialogOnScreen dialog = Open();
-        SelectLine(dialog, 0);
-        const DialogOnScreen picker = OpenPicker(dialog);
-        Descend(picker, L"Lindrel próba");
-        picker.ClickAndWaitForClose(ID_frmSelectFavoritDir_cmdOk);
-        dialog.WaitForClose();
-        program.Settle();
-        EXPECT_TRUE(program.NothingIsOpen());
+    for (const std::string address : {"http://regi.hu/hosszu/cim", "http://uj.hu"}) {
+        Change([&](Book& book) { book.SetSiteURL(book.IndexOf(2, 1), address); });
+        ExportInto(std::vector{0}, {L"Lindrel próba"});
+        EXPECT_EQ(TemporaryFolder::Read((Favorites() / L"Első.url").wstring()), ShortcutTo(address));
     }
-    EXPECT_EQ(TemporaryFolder::Read((FavoritesFolder::Path() / L"Első.url").wstring()),
-              "[InternetShortcut]\r\nURL=http://uj.hu");
 }
 
 }  // namespace

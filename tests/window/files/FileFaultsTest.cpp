@@ -1,18 +1,16 @@
-// What can go wrong when a file is opened or replaced on Windows: each time the fault, the bytes that are
-// there afterwards, everything that stands in the folder, and how often it is tried.
+// What can go wrong when a file is read, written or replaced: the fault, the bytes and the names that are in
+// the folder afterwards, and how often the system is asked.
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <filesystem>
 #include <functional>
-#include <optional>
 #include <string>
 #include <thread>
 
 #include "faults/Faults.h"
-#include "files/File.h"
 #include "files/Files.h"
 #include "files/Patience.h"
-#include "files/TemporaryName.h"
 #include "tests/window/support/Program.h"
 #include "tests/window/support/ReplacedImport.h"
 // after windows.h
@@ -55,15 +53,18 @@ std::wstring FaultOfWriting(const std::wstring& path) {
     return FaultOf(path, [&] { WriteFileBytes(path, kNew); });
 }
 
-// Another program that has a file open.
+using Time = std::chrono::milliseconds;
+constexpr Time kMoment{300};
+constexpr Time kForGood = std::chrono::minutes(1);
+
+// Another program that has a file open, until the time is over or the object is destroyed.
 class Holder {
   public:
-    // For a time, or until it is destroyed.
-    Holder(const std::wstring& path, DWORD sharing, std::optional<std::chrono::milliseconds> time = {})
+    Holder(const std::wstring& path, DWORD sharing, Time time)
         : file_(CreateFileW(path.c_str(), GENERIC_READ, sharing, nullptr, OPEN_EXISTING, 0, nullptr)) {
         if (file_ == INVALID_HANDLE_VALUE) throw std::runtime_error("the file cannot be held");
         thread_ = std::jthread([this, time](const std::stop_token& stop) {
-            const auto end = std::chrono::steady_clock::now() + time.value_or(std::chrono::minutes(1));
+            const auto end = std::chrono::steady_clock::now() + time;
             while (!stop.stop_requested() && std::chrono::steady_clock::now() < end)
                 std::this_thread::yield();
             CloseHandle(file_);
@@ -75,17 +76,29 @@ class Holder {
     std::jthread thread_;
 };
 
-constexpr std::chrono::milliseconds kMoment{300};
-
 class FileFaultsTest : public ::testing::Test {
   protected:
-    // The name that the temporary file of a.lnd has.
-    static std::wstring TemporaryOfA() { return TemporaryName<wchar_t>(L"a.lnd"); }
+    // The temporary file of a.lnd.
+    static constexpr wchar_t kTemporary[] = L"~lnd769f0d3c.tmp";
     void Old() const { folder.Write(L"a.lnd", kOld); }
-    // What is there after a replacement that succeeded, or failed.
+    // There is nothing but a.lnd.
     void Expect(const std::string& bytes) const {
         EXPECT_EQ(folder.Names(), (Names{L"a.lnd"}));
         EXPECT_EQ(TemporaryFolder::Read(file), bytes);
+    }
+
+    // The fault of an operation on a.lnd while another program holds a file.
+    using Operation = std::wstring(const std::wstring& path);
+    std::wstring FaultWhileHeld(const std::wstring& held, DWORD sharing, Time time,
+                                Operation operation) const {
+        const Holder other(held, sharing, time);
+        return operation(file);
+    }
+    // The same while a function of the system is replaced.
+    template <typename Function>
+    std::wstring FaultWith(Function* function, Function* replacement, Operation operation) const {
+        const ReplacedImport replaced(function, replacement);
+        return operation(file);
     }
 
     TemporaryFolder folder;
@@ -116,8 +129,30 @@ TEST_F(FileFaultsTest, AMissingFolder) {
 TEST_F(FileFaultsTest, AFolderInThePlaceOfTheFile) {
     ASSERT_TRUE(CreateDirectoryW(file.c_str(), nullptr));
     EXPECT_EQ(FaultOfReplacing(file), Reason(ERROR_ACCESS_DENIED));
+    EXPECT_EQ(FaultOfWriting(file), Reason(ERROR_ACCESS_DENIED));
+    EXPECT_EQ(FaultOfReading(file), Reason(ERROR_ACCESS_DENIED));
     EXPECT_EQ(folder.Names(), (Names{L"a.lnd"}));
     ASSERT_TRUE(RemoveDirectoryW(file.c_str()));
+}
+
+TEST_F(FileFaultsTest, BytesComeBackAsTheyWereWritten) {
+    std::string bytes;
+    for (int number = 0; number < 300000; ++number) bytes += static_cast<char>(number);
+    for (const std::string& written : {bytes, std::string("\0\r\n\x1A", 4), std::string()}) {
+        WriteFileBytes(file, written);
+        Expect(written);
+        ReplaceFileBytes(file, written + "!");
+        Expect(written + "!");
+    }
+}
+
+TEST_F(FileFaultsTest, OtherNamesOfTheFileKeepTheOldContent) {
+    Old();
+    ASSERT_TRUE(CreateHardLinkW(folder.File(L"same.lnd").c_str(), file.c_str(), nullptr));
+    EXPECT_EQ(FaultOfReplacing(file), kNone);
+    EXPECT_EQ(folder.Names(), (Names{L"a.lnd", L"same.lnd"}));
+    EXPECT_EQ(TemporaryFolder::Read(file), kNew);
+    EXPECT_EQ(TemporaryFolder::Read(folder.File(L"same.lnd")), kOld);
 }
 
 TEST_F(FileFaultsTest, NamesAsLongAsTheDiskAllows) {
@@ -129,6 +164,8 @@ TEST_F(FileFaultsTest, NamesAsLongAsTheDiskAllows) {
         EXPECT_EQ(TemporaryFolder::Read(folder.File(name)), kNew);
         ASSERT_TRUE(DeleteFileW(folder.File(name).c_str()));
     }
+    EXPECT_THROW(ReplaceFileBytes(folder.File(std::wstring(256, L'x')), kNew), FileFault);
+    EXPECT_EQ(folder.Names(), Names{});
 }
 
 TEST_F(FileFaultsTest, PathsThatAreLongerThan260Characters) {
@@ -152,35 +189,21 @@ TEST_F(FileFaultsTest, PathsThatAreLongerThan260Characters) {
 
 TEST_F(FileFaultsTest, AFileThatIsHeldForAMoment) {
     Old();
-    {
-        const Holder scanner(file, 0, kMoment);
-        EXPECT_EQ(FaultOfReplacing(file), kNone);
-    }
+    EXPECT_EQ(FaultWhileHeld(file, 0, kMoment, FaultOfReplacing), kNone);
     Expect(kNew);
-    {
-        const Holder scanner(file, 0, kMoment);
-        EXPECT_EQ(FaultOfReading(file), kNone);
-    }
-    {
-        const Holder scanner(file, FILE_SHARE_READ, kMoment);
-        EXPECT_EQ(FaultOfWriting(file), kNone);
-    }
+    EXPECT_EQ(FaultWhileHeld(file, 0, kMoment, FaultOfReading), kNone);
+    EXPECT_EQ(FaultWhileHeld(file, FILE_SHARE_READ, kMoment, FaultOfWriting), kNone);
     Expect(kNew);
 }
 
 TEST_F(FileFaultsTest, AFileThatIsHeldForGood) {
     Old();
     const ULONGLONG start = GetTickCount64();
-    {
-        const Holder other(file, FILE_SHARE_READ);
-        EXPECT_EQ(FaultOfReplacing(file), Reason(ERROR_ACCESS_DENIED));
-        EXPECT_EQ(FaultOfWriting(file), Reason(ERROR_SHARING_VIOLATION));
-    }
+    EXPECT_EQ(FaultWhileHeld(file, FILE_SHARE_READ, kForGood, FaultOfReplacing), Reason(ERROR_ACCESS_DENIED));
+    EXPECT_EQ(FaultWhileHeld(file, FILE_SHARE_READ, kForGood, FaultOfWriting),
+              Reason(ERROR_SHARING_VIOLATION));
     Expect(kOld);
-    {
-        const Holder other(file, 0);
-        EXPECT_EQ(FaultOfReading(file), Reason(ERROR_SHARING_VIOLATION));
-    }
+    EXPECT_EQ(FaultWhileHeld(file, 0, kForGood, FaultOfReading), Reason(ERROR_SHARING_VIOLATION));
     EXPECT_GE(GetTickCount64() - start, static_cast<ULONGLONG>(3 * kFilePatience.count()));
 }
 
@@ -195,29 +218,34 @@ TEST_F(FileFaultsTest, AFileThatAnotherProgramWritesCanBeRead) {
 
 TEST_F(FileFaultsTest, WhatAKilledSaveHasLeftIsTakenOver) {
     Old();
-    folder.Write(TemporaryOfA(), std::string(5000, 'x'));
+    folder.Write(kTemporary, std::string(5000, 'x'));
     EXPECT_EQ(FaultOfReplacing(file), kNone);
     Expect(kNew);
     // The same file under another spelling has the same temporary file.
-    folder.Write(TemporaryOfA(), std::string(5000, 'x'));
+    folder.Write(kTemporary, std::string(5000, 'x'));
     EXPECT_EQ(FaultOfReplacing(folder.File(L"A.LND")), kNone);
     Expect(kNew);
 }
 
+TEST_F(FileFaultsTest, WhatHasTheNameOfTheTemporaryFileIsNotWrittenTo) {
+    Old();
+    const std::wstring treasure = folder.Write(L"treasure", "gold");
+    ASSERT_TRUE(CreateHardLinkW(folder.File(kTemporary).c_str(), treasure.c_str(), nullptr));
+    EXPECT_EQ(FaultOfReplacing(file), kNone);
+    EXPECT_EQ(folder.Names(), (Names{L"a.lnd", L"treasure"}));
+    EXPECT_EQ(TemporaryFolder::Read(treasure), "gold");
+}
+
 TEST_F(FileFaultsTest, ALeftoverThatIsHeld) {
     Old();
-    const std::wstring leftover = folder.Write(TemporaryOfA(), "x");
-    {
-        const Holder scanner(leftover, 0, kMoment);
-        EXPECT_EQ(FaultOfReplacing(file), kNone);
-    }
+    const std::wstring leftover = folder.Write(kTemporary, "x");
+    EXPECT_EQ(FaultWhileHeld(leftover, 0, kMoment, FaultOfReplacing), kNone);
     Expect(kNew);
-    folder.Write(TemporaryOfA(), "x");
-    {
-        const Holder other(leftover, FILE_SHARE_READ);
-        EXPECT_EQ(FaultOfReplacing(file), Reason(ERROR_SHARING_VIOLATION));
-        EXPECT_EQ(TemporaryFolder::Read(file), kNew);
-    }
+    Old();
+    folder.Write(kTemporary, "x");
+    EXPECT_EQ(FaultWhileHeld(leftover, FILE_SHARE_READ, kForGood, FaultOfReplacing),
+              Reason(ERROR_SHARING_VIOLATION));
+    EXPECT_EQ(TemporaryFolder::Read(file), kOld);
     EXPECT_EQ(FaultOfReplacing(file), kNone);
     Expect(kNew);
 }
@@ -269,14 +297,20 @@ TEST_F(FileFaultsTest, TheStateOfAFileTellsEveryChange) {
     const auto before = StateOf(file);
     EXPECT_EQ(before.value().Size, 3U);
     EXPECT_EQ(StateOf(file), before);
+    EXPECT_EQ(FaultOfReplacing(file), kNone);  // the same bytes, but another file
+    const auto replaced = StateOf(file);
+    EXPECT_NE(replaced.value().Index, before.value().Index);
+    std::filesystem::last_write_time(file, std::filesystem::last_write_time(file) + std::chrono::seconds(1));
+    const auto touched = StateOf(file);
+    EXPECT_NE(touched.value().Time, replaced.value().Time);
     folder.Write(L"a.lnd", "longer");
-    EXPECT_NE(StateOf(file), before);
+    EXPECT_EQ(StateOf(file).value().Size, 6U);
 }
 
-// Faults that no disk here can be made to have.
-BOOL(WINAPI* const kWriteFile)(HANDLE, LPCVOID, DWORD, LPDWORD, LPOVERLAPPED) = WriteFile;
-BOOL(WINAPI* const kFlushFileBuffers)(HANDLE) = FlushFileBuffers;
-BOOL(WINAPI* const kMoveFileExW)(LPCWSTR, LPCWSTR, DWORD) = MoveFileExW;
+// What no disk here can be made to do: the system's functions are replaced.
+HANDLE(WINAPI* create_file)
+(LPCWSTR, DWORD, DWORD, LPSECURITY_ATTRIBUTES, DWORD, DWORD, HANDLE) = nullptr;
+DWORD(WINAPI* get_file_attributes)(LPCWSTR) = nullptr;
 
 template <DWORD error>
 BOOL WINAPI WriteFails(HANDLE, LPCVOID, DWORD, LPDWORD, LPOVERLAPPED) {
@@ -295,32 +329,76 @@ BOOL WINAPI MoveIsDenied(LPCWSTR, LPCWSTR, DWORD) {
     return FALSE;
 }
 
+HANDLE WINAPI CreationIsDenied(LPCWSTR path, DWORD access, DWORD sharing, LPSECURITY_ATTRIBUTES security,
+                               DWORD creation, DWORD flags, HANDLE pattern) {
+    if (creation != CREATE_NEW) return create_file(path, access, sharing, security, creation, flags, pattern);
+    ++tries;
+    SetLastError(ERROR_ACCESS_DENIED);
+    return INVALID_HANDLE_VALUE;
+}
+DWORD WINAPI AttributesOfALink(LPCWSTR path) {
+    const bool link = std::wstring_view(path).ends_with(L"\\a.lnd");
+    return link ? FILE_ATTRIBUTE_REPARSE_POINT : get_file_attributes(path);
+}
+std::wstring target_of_link;
+DWORD WINAPI TargetOfTheLink(HANDLE, LPWSTR path, DWORD size, DWORD) {
+    return static_cast<DWORD>(target_of_link.copy(path, size));
+}
+
 TEST_F(FileFaultsTest, AFullDisk) {
     Old();
-    const ReplacedImport full(kWriteFile, &WriteFails<ERROR_DISK_FULL>);
-    EXPECT_EQ(FaultOfReplacing(file), Reason(ERROR_DISK_FULL));
-    EXPECT_EQ(folder.Names(), (Names{L"a.lnd"}));
+    EXPECT_EQ(FaultWith(&WriteFile, &WriteFails<ERROR_DISK_FULL>, FaultOfReplacing), Reason(ERROR_DISK_FULL));
+    Expect(kOld);
+    EXPECT_EQ(FaultWith(&WriteFile, &WriteFails<ERROR_DISK_FULL>, FaultOfWriting), Reason(ERROR_DISK_FULL));
+    Expect("");
+}
+
+TEST_F(FileFaultsTest, AFolderThatCannotBeWrittenIsRefusedAtOnce) {
+    Old();
+    tries = 0;
+    create_file = &CreateFileW;
+    EXPECT_EQ(FaultWith(&CreateFileW, &CreationIsDenied, FaultOfReplacing), Reason(ERROR_ACCESS_DENIED));
+    EXPECT_EQ(tries, 1);
+    Expect(kOld);
+}
+
+TEST_F(FileFaultsTest, ASymbolicLinkStaysAndItsTargetIsReplaced) {
+    Old();  // the link
+    target_of_link = L"\\\\?\\" + folder.Write(L"b.lnd", kOld);
+    get_file_attributes = &GetFileAttributesW;
+    const ReplacedImport link(&GetFileAttributesW, &AttributesOfALink);
+    const ReplacedImport target(&GetFinalPathNameByHandleW, &TargetOfTheLink);
+    EXPECT_EQ(FaultOfReplacing(file), kNone);
+    EXPECT_EQ(folder.Names(), (Names{L"a.lnd", L"b.lnd"}));
+    EXPECT_EQ(TemporaryFolder::Read(file), kOld);
+    EXPECT_EQ(TemporaryFolder::Read(folder.File(L"b.lnd")), kNew);
+    // On a disk without final paths the link itself is replaced.
+    target_of_link.clear();
+    EXPECT_EQ(FaultOfReplacing(file), kNone);
+    EXPECT_EQ(TemporaryFolder::Read(file), kNew);
+}
+
+TEST_F(FileFaultsTest, ALinkThatLeadsNowhere) {
+    get_file_attributes = &GetFileAttributesW;
+    const ReplacedImport link(&GetFileAttributesW, &AttributesOfALink);
+    EXPECT_EQ(FaultOfReplacing(file), Reason(ERROR_FILE_NOT_FOUND));
+    EXPECT_EQ(folder.Names(), Names{});
 }
 
 TEST_F(FileFaultsTest, ADiskThatFailsToFlush) {
     Old();
-    {
-        const ReplacedImport broken(kFlushFileBuffers, &FlushFails<ERROR_IO_DEVICE>);
-        EXPECT_EQ(FaultOfReplacing(file), Reason(ERROR_IO_DEVICE));
-    }
+    EXPECT_EQ(FaultWith(&FlushFileBuffers, &FlushFails<ERROR_IO_DEVICE>, FaultOfReplacing),
+              Reason(ERROR_IO_DEVICE));
     Expect(kOld);
-    const ReplacedImport network(kFlushFileBuffers, &FlushFails<ERROR_INVALID_FUNCTION>);
-    EXPECT_EQ(FaultOfReplacing(file), kNone);
+    // A drive of the network that cannot flush.
+    EXPECT_EQ(FaultWith(&FlushFileBuffers, &FlushFails<ERROR_INVALID_FUNCTION>, FaultOfReplacing), kNone);
     Expect(kNew);
 }
 
 TEST_F(FileFaultsTest, AccessDenied) {
     Old();
     tries = 0;
-    {
-        const ReplacedImport denied(kMoveFileExW, &MoveIsDenied);
-        EXPECT_EQ(FaultOfReplacing(file), Reason(ERROR_ACCESS_DENIED));
-    }
+    EXPECT_EQ(FaultWith(&MoveFileExW, &MoveIsDenied, FaultOfReplacing), Reason(ERROR_ACCESS_DENIED));
     // After pauses of 10, 20, 40 and so on up to 640, and the remaining 730 milliseconds.
     EXPECT_EQ(tries, 9);
     Expect(kOld);
@@ -330,10 +408,7 @@ TEST_F(FileFaultsTest, AReadOnlyFileIsRefusedAtOnce) {
     Old();
     ASSERT_TRUE(SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_READONLY));
     tries = 0;
-    {
-        const ReplacedImport counting(kMoveFileExW, &MoveIsDenied);
-        EXPECT_EQ(FaultOfReplacing(file), Reason(ERROR_ACCESS_DENIED));
-    }
+    EXPECT_EQ(FaultWith(&MoveFileExW, &MoveIsDenied, FaultOfReplacing), Reason(ERROR_ACCESS_DENIED));
     EXPECT_EQ(tries, 0);
     Expect(kOld);
     ASSERT_TRUE(SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_NORMAL));

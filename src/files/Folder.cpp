@@ -1,21 +1,14 @@
+#include "files/Folder.h"
+
 #include <windows.h>
 
 #include <algorithm>
-#include <memory>
 #include <string>
 
 #include "faults/Faults.h"
-#include "files/Folder.h"
+#include "files/FileSearch.h"
 
 namespace lindrel {
-
-namespace {
-
-struct CloseSearch {
-    void operator()(HANDLE search) const noexcept { FindClose(search); }
-};
-
-}  // namespace
 
 Path ExactPath(const Path& path) {
     std::wstring plain = path;
@@ -27,22 +20,18 @@ Path ExactPath(const Path& path) {
 }
 
 Path LongPath(const Path& path) {
-    // A new folder must leave room for a short file name in it.
+    // Without the prefix, Windows creates a folder only if an 8.3 file name still fits after its path.
     constexpr std::size_t kShortName = 12;
     return path.size() < MAX_PATH - kShortName ? path : ExactPath(path);
 }
 
 std::vector<Path> FilesIn(const Path& folder) {
     std::vector<Path> names;
-    WIN32_FIND_DATAW found{};
-    const std::wstring pattern = Joined(ExactPath(folder), L"*");
-    const HANDLE search = FindFirstFileW(pattern.c_str(), &found);
-    if (search == INVALID_HANDLE_VALUE) return names;
-    const std::unique_ptr<void, CloseSearch> owner(search);
-    do {
-        if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) names.emplace_back(found.cFileName);
-    } while (FindNextFileW(search, &found));
-    if (GetLastError() != ERROR_NO_MORE_FILES) throw FileFault(folder, L"A mappa nem olvasható végig");
+    const bool complete = VisitMatches(Joined(ExactPath(folder), L"*"), [&](const WIN32_FIND_DATAW& found) {
+        if (!IsFolder(found)) names.emplace_back(found.cFileName);
+        return true;
+    });
+    if (!complete) throw FileFault(folder, L"A mappa nem olvasható végig");
     return names;
 }
 

@@ -1,0 +1,25 @@
+// Saves two books to the same file in turn, until it is killed.
+//     book_saver.exe FILE BOOK BOOK
+
+#include <windows.h>
+
+#include <shellapi.h>
+
+#include <exception>
+
+#include "book/Book.h"
+#include "book/BookFile.h"
+
+int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
+    int count = 0;
+    wchar_t** const words = CommandLineToArgvW(GetCommandLineW(), &count);
+    if (words == nullptr || count != 4) return 1;
+    try {
+        lindrel::Book books[2];
+        if (!LoadBook(books[0], words[2]) || !LoadBook(books[1], words[3])) return 1;
+        for (;;)
+            for (const lindrel::Book& book : books) SaveBook(book, words[1]);
+    } catch (const std::exception&) {
+        return 1;
+    }
+}
