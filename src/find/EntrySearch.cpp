@@ -6,12 +6,13 @@
 #include <string>
 
 #include "book/PerCategory.h"
+#include "text/Ascii.h"
 
 namespace lindrel {
 
 namespace {
 
-// Nothing if the text has a character that no name or address can have.
+// nullopt if the text has a character that a book cannot hold.
 std::optional<CaselessNeedle> NeedleOf(std::wstring_view typed) {
     if (FirstForeignCharacter(typed)) return std::nullopt;
     return CaselessNeedle(ToBookText(typed));
@@ -21,18 +22,17 @@ std::optional<CaselessNeedle> NeedleOf(std::wstring_view typed) {
 template <typename Accepts>
 Hits Collect(const Book& book, const Accepts& accepts) {
     Hits hits{.Items = {}, .Texts = book.Texts()};
-    // A book that was loaded with too few headers may count more entries than it has.
+    // A book that was loaded with too few headers may count more entries than it stores.
     const int last = std::min(book.EntryCount(), book.UpperBound());
-    // Avoids copying the hits again and again. The memory costs nothing until it is used.
+    // All at once: growing would copy the hits again and again. Memory costs nothing until it is used.
     hits.Items.reserve(static_cast<std::size_t>(last));
     for (int category = 1; category <= kCategories; ++category) {
         int index = book.CategoryStarts(category);
         const int count = std::clamp(last + 1 - index, 0, int{book.CategoryCounts(category)});
-        for (const auto part : book.Entries(index, count))
-            for (const AddressEntry& entry : part) {
-                if (accepts(entry)) hits.Items.push_back({index, category, entry});
-                ++index;
-            }
+        for (const AddressEntry& entry : book.Entries(index, count)) {
+            if (accepts(entry)) hits.Items.push_back({index, category, entry});
+            ++index;
+        }
     }
     return hits;
 }
@@ -43,9 +43,7 @@ bool CarriesEnding(std::string_view url, const CaselessNeedle& ending) {
     constexpr std::string_view kWebHost = "http://www";
     constexpr std::size_t kAfterWebHost = kWebHost.size() + 1;
     constexpr std::size_t kAfterScheme = 4;
-    static const CaselessNeedle web_host(kWebHost);
-    // The usual spelling first, which is found at once.
-    const bool on_web_host = url.starts_with(kWebHost) || web_host.IsIn(url.substr(0, kWebHost.size()));
+    const bool on_web_host = url.starts_with(kWebHost) || StartsWithAsciiCaseless(url, kWebHost);
     return ending.FindIn(url, on_web_host ? kAfterWebHost : kAfterScheme) != std::string_view::npos;
 }
 

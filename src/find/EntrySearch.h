@@ -9,7 +9,6 @@
 #include <vector>
 
 #include "book/Book.h"
-#include "book/EntrySequence.h"
 #include "text/BookText.h"
 
 namespace lindrel {

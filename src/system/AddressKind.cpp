@@ -4,7 +4,7 @@
 #include <array>
 #include <optional>
 
-#include "system/DangerousExtensions.h"
+#include "text/Ascii.h"
 #include "text/BookText.h"
 
 namespace lindrel {
@@ -12,6 +12,15 @@ namespace lindrel {
 namespace {
 
 constexpr auto kWebSchemes = std::to_array<std::wstring_view>({L"http", L"https", L"ftp", L"mailto"});
+
+// Programs and scripts, installers, settings, disk images, and files that lead to any of these, with a blank
+// before and after each.
+constexpr std::wstring_view kDangerousExtensions =
+    L" .appinstaller .application .appref-ms .appx .appxbundle .bat .chm .cmd .com .cpl .diagcab .exe .gadget"
+    L" .hlp .hta .img .inf .iso .jar .jnlp .js .jse .library-ms .lnk .msc .msh .msi .msix .msixbundle .msp"
+    L" .mst .msu .pif .pl .ps1 .ps1xml .psc1 .psd1 .psm1 .py .pyc .pyw .pyz .rb .rdp .reg .scf .scr .sct"
+    L" .search-ms .searchconnector-ms .settingcontent-ms .sh .shb .shs .theme .themepack .url .vb .vbe .vbs"
+    L" .vhd .vhdx .website .wim .ws .wsc .wsf .wsh .xbap .xll ";
 
 // A name with more of them is made to deceive.
 constexpr std::size_t kMostExtensions = 20;
@@ -25,10 +34,9 @@ bool IsDigit(wchar_t character) {
 }
 
 // Letters beyond ASCII are no part of any scheme or extension here.
-std::wstring LowerCaseAscii(std::wstring_view text) {
+std::wstring AsciiLowerCase(std::wstring_view text) {
     std::wstring lower(text);
-    for (wchar_t& character : lower)
-        if (character >= L'A' && character <= L'Z') character = static_cast<wchar_t>(character - L'A' + L'a');
+    for (wchar_t& character : lower) character = AsciiLower(character);
     return lower;
 }
 
@@ -70,7 +78,7 @@ std::wstring Decoded(std::wstring_view text) {
 // An address as one looks at it here: no blanks around, lower case, nothing percent-encoded, and backslashes
 // only.
 std::wstring Plain(std::wstring_view address) {
-    std::wstring plain = LowerCaseAscii(Decoded(LowerCaseAscii(Trim(address))));
+    std::wstring plain = AsciiLowerCase(Decoded(AsciiLowerCase(Trim(address))));
     std::replace(plain.begin(), plain.end(), L'/', L'\\');
     return plain;
 }
@@ -99,6 +107,12 @@ bool CannotBeInAName(wchar_t character) {
 // see them.
 std::size_t LengthThatCounts(std::wstring_view path) {
     return path.find_last_not_of(L" .\\") + 1;  // 0 when there is nothing else
+}
+
+// `extension` is in lower case, with its dot. Windows has a list of its own, which differs between machines.
+bool IsDangerous(std::wstring_view extension) {
+    const std::wstring between_blanks = L' ' + std::wstring(extension) + L' ';
+    return kDangerousExtensions.find(between_blanks) != std::wstring_view::npos;
 }
 
 // The extension of a name, in which nothing at the end is ignored any more.
@@ -142,7 +156,7 @@ bool IsDocument(std::wstring_view path) {
     if (!folder && ExtensionOf(NameIn(path)).empty()) return false;
     const std::vector<std::wstring> extensions = ExtensionsOfPlain(path);
     return extensions.size() <= kMostExtensions &&
-           std::none_of(extensions.begin(), extensions.end(), &IsDangerousExtension);
+           std::none_of(extensions.begin(), extensions.end(), &IsDangerous);
 }
 
 AddressKind KindOfPath(std::wstring_view path) {
@@ -160,7 +174,7 @@ AddressKind KindOfPath(std::wstring_view path) {
 }  // namespace
 
 AddressKind Classify(std::wstring_view address) {
-    const std::wstring text = LowerCaseAscii(Trim(address));
+    const std::wstring text = AsciiLowerCase(Trim(address));
     const std::wstring_view scheme = SchemeOf(text);
     if (std::find(std::begin(kWebSchemes), std::end(kWebSchemes), scheme) != std::end(kWebSchemes))
         return AddressKind::Web;

@@ -39,12 +39,12 @@ class CaselessNeedle {
   public:
     explicit CaselessNeedle(std::string_view needle);
 
-    // 0-based place of the first match at or after `from`, or npos.
+    // 0-based offset of the first match at or after `from`, or npos.
     std::size_t FindIn(std::string_view text, std::size_t from = 0) const noexcept;
     bool IsIn(std::string_view text) const noexcept { return FindIn(text) != std::string_view::npos; }
 
   private:
-    // A byte in lower and upper case, known by the bits in which the two agree: other bytes may pass too.
+    // A letter in either case, known by the bits in which the two agree: other bytes may pass too.
     class EitherCase {
       public:
         EitherCase() = default;
@@ -59,7 +59,6 @@ class CaselessNeedle {
     };
 
     bool MatchesAt(std::string_view text, std::size_t start) const noexcept;
-    std::size_t FindMarked(std::string_view text, std::size_t start, std::uint64_t marks) const noexcept;
 
     std::string needle_;  // in lower case
     EitherCase first_;

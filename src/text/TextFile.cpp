@@ -27,7 +27,7 @@ std::wstring UnitsOf(std::string_view bytes, ByteOrder order) {
 
 std::string_view TextFile::Text() const {
     std::string_view text(Bytes.data(), Bytes.size());
-    if (Encoding == TextEncoding::Utf8 && text.starts_with(kUtf8Mark)) text.remove_prefix(kUtf8Mark.size());
+    if (Encoding == TextEncoding::Utf8 && text.starts_with(kUtf8Bom)) text.remove_prefix(kUtf8Bom.size());
     return text;
 }
 
@@ -35,12 +35,12 @@ TextFile TextFileOf(std::vector<char> bytes) {
     const std::string_view view(bytes.data(), bytes.size());
     if (view.starts_with(kLittleEndianMark)) return TextFileOfUtf16(view.substr(2), ByteOrder::LittleEndian);
     if (view.starts_with(kBigEndianMark)) return TextFileOfUtf16(view.substr(2), ByteOrder::BigEndian);
-    const bool utf8 = view.starts_with(kUtf8Mark) || IsUtf8BeyondAscii(view);
+    const bool utf8 = view.starts_with(kUtf8Bom) || IsUtf8BeyondAscii(view);
     return {std::move(bytes), utf8 ? TextEncoding::Utf8 : TextEncoding::Windows1250};
 }
 
 bool HasMark(std::string_view bytes) {
-    return bytes.starts_with(kUtf8Mark) || bytes.starts_with(kLittleEndianMark) ||
+    return bytes.starts_with(kUtf8Bom) || bytes.starts_with(kLittleEndianMark) ||
            bytes.starts_with(kBigEndianMark);
 }
 

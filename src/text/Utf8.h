@@ -9,7 +9,7 @@
 
 namespace lindrel {
 
-inline constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
+inline constexpr std::string_view kUtf8Bom = "\xEF\xBB\xBF";
 
 struct Utf8Character {
     char32_t Value;

@@ -17,7 +17,9 @@ static void PrintTo(const RowRun& run, std::ostream* out) {
 
 namespace {
 
-std::vector<RowRun> RunsOf(int rows, const std::set<int>& checked) {
+using Runs = std::vector<RowRun>;
+
+Runs RunsOf(int rows, const std::set<int>& checked) {
     return CheckedRuns(rows, [&](int position) { return checked.contains(position); });
 }
 
@@ -41,18 +43,18 @@ std::vector<std::string> NamesOf(const Book& book, int category) {
     return names;
 }
 
-TEST(CheckedRunsTest, WalksFromTheLastRowToTheFirst) {
-    EXPECT_EQ(RunsOf(6, {2, 3, 5}), (std::vector<RowRun>{{5, 1}, {2, 2}}));
-    EXPECT_EQ(RunsOf(5, {1, 2, 4}), (std::vector<RowRun>{{4, 1}, {1, 2}}));
-    EXPECT_EQ(RunsOf(5, {5}), (std::vector<RowRun>{{5, 1}}));
-    EXPECT_EQ(RunsOf(5, {1}), (std::vector<RowRun>{{1, 1}}));
-    EXPECT_EQ(RunsOf(6, {1, 3, 5}), (std::vector<RowRun>{{5, 1}, {3, 1}, {1, 1}}));
+TEST(CheckedRunsTest, AdjacentRowsAreARun) {
+    EXPECT_EQ(RunsOf(6, {2, 3, 5}), (Runs{{2, 2}, {5, 1}}));
+    EXPECT_EQ(RunsOf(5, {1, 2, 4}), (Runs{{1, 2}, {4, 1}}));
+    EXPECT_EQ(RunsOf(5, {5}), (Runs{{5, 1}}));
+    EXPECT_EQ(RunsOf(5, {1}), (Runs{{1, 1}}));
+    EXPECT_EQ(RunsOf(6, {1, 3, 5}), (Runs{{1, 1}, {3, 1}, {5, 1}}));
 }
 
 TEST(CheckedRunsTest, AllRowsAreOneRunAndNoRowNone) {
-    EXPECT_EQ(RunsOf(5, {1, 2, 3, 4, 5}), (std::vector<RowRun>{{1, 5}}));
-    EXPECT_EQ(RunsOf(5, {}), std::vector<RowRun>{});
-    EXPECT_EQ(RunsOf(0, {}), std::vector<RowRun>{});
+    EXPECT_EQ(RunsOf(5, {1, 2, 3, 4, 5}), (Runs{{1, 5}}));
+    EXPECT_EQ(RunsOf(5, {}), Runs{});
+    EXPECT_EQ(RunsOf(0, {}), Runs{});
 }
 
 TEST(CheckedRunsTest, MovedEntriesKeepTheirOrderAndGoToTheEnd) {

@@ -39,8 +39,8 @@ Book BookOf(int entries, const std::string& name) {
 // Saves the two books in turn until it is killed.
 [[noreturn]] void SaveForEver(const Book& first, const Book& second, const std::filesystem::path& path) {
     for (;;) {
-        SaveBook(first, path);
-        SaveBook(second, path);
+        ReplaceFileBytes(path, SaveBook(first));
+        ReplaceFileBytes(path, SaveBook(second));
     }
 }
 
@@ -67,7 +67,7 @@ TEST(KilledSaveTest, ThereIsTheOldBookOrTheNewOneAndNothingElseAfterTheNextSave)
     const Book first = BookOf(3000, "egy");
     const Book second = BookOf(20000, "k\xE9t");
     const std::set<std::string> whole{SaveBook(first), SaveBook(second)};
-    SaveBook(first, path);
+    ReplaceFileBytes(path, SaveBook(first));
     unsigned long leftovers = 0;
     for (unsigned long kill = 0; kill < kills; ++kill) {
         const pid_t child = ::fork();
@@ -78,7 +78,7 @@ TEST(KilledSaveTest, ThereIsTheOldBookOrTheNewOneAndNothingElseAfterTheNextSave)
         const std::filesystem::directory_iterator there(temporary.Path());
         if (std::distance(begin(there), end(there)) > 1) ++leftovers;
     }
-    SaveBook(second, path);
+    ReplaceFileBytes(path, SaveBook(second));
     EXPECT_EQ(testing::ContentOf(path), SaveBook(second));
     for (const auto& entry : std::filesystem::directory_iterator(temporary.Path()))
         EXPECT_EQ(entry.path(), path);

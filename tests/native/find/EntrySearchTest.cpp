@@ -9,9 +9,8 @@
 #include <vector>
 
 #include "book/Book.h"
-#include "book/BookFile.h"
-#include "book/EntrySequence.h"
 #include "book/PerCategory.h"
+#include "tests/native/support/BookFromText.h"
 #include "text/BookText.h"
 
 namespace lindrel {
@@ -127,7 +126,7 @@ TEST(EntrySearchTest, ABookThatCountsMoreThanItHasIsSearchedToItsEnd) {
     std::string file;
     for (int header = 1; header <= 11; ++header) file += "#K\r\n";
     file += "a\r\nhttp://a.hu\r\nb\r\nhttp://b.hu\r\n";
-    LoadBook(book, std::vector<char>(file.begin(), file.end()));
+    book = testing::Read(file, book).TheBook;
     ASSERT_GT(book.EntryCount(), book.UpperBound());
     const std::vector<Hit> expected = {{1, 11, book.Entry(1)}, {2, 11, book.Entry(2)}};
     EXPECT_EQ(FindEntries(book, L"", L"").Items, expected);

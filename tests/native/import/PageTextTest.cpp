@@ -43,11 +43,11 @@ TEST(PageTextTest, AsciiIsTheSameInEveryEncoding) {
 }
 
 TEST(PageTextTest, Utf8IsKnownByItsMarkItsDeclarationOrItsBytes) {
-    EXPECT_EQ(TextOf(std::string(kUtf8Mark).append(kUtf8)), kBook);
+    EXPECT_EQ(TextOf(std::string(kUtf8Bom).append(kUtf8)), kBook);
     EXPECT_EQ(TextOf(kUtf8), kBook);
     const std::string meta = "<meta charset=utf-8>";
     EXPECT_EQ(TextOf(meta + std::string(kUtf8)), meta + std::string(kBook));
-    EXPECT_EQ(TextOf(kUtf8Mark), "");
+    EXPECT_EQ(TextOf(kUtf8Bom), "");
 }
 
 TEST(PageTextTest, AnythingElseIsWindows1250) {
@@ -109,7 +109,7 @@ TEST(PageTextTest, ADeclarationFarFromTheTopDoesNotCount) {
 TEST(PageTextTest, AMarkWinsThenDeclaredUtf8ThenValidBytesThenLatin2) {
     const std::string latin2 = "<meta charset=iso-8859-2>";
     const std::string utf8 = "<meta charset=utf-8>";
-    EXPECT_EQ(EncodingOf(std::string(kUtf8Mark) + latin2 + "\xE1"), TextEncoding::Utf8);
+    EXPECT_EQ(EncodingOf(std::string(kUtf8Bom) + latin2 + "\xE1"), TextEncoding::Utf8);
     EXPECT_EQ(EncodingOf(utf8 + "\xE1"), TextEncoding::Utf8);
     EXPECT_EQ(EncodingOf(latin2 + std::string(kUtf8)), TextEncoding::Utf8);
     EXPECT_EQ(EncodingOf(latin2 + "\xE1"), TextEncoding::Latin2);
