@@ -51,21 +51,17 @@ Hits FindEntries(const Book& book, std::wstring_view what, std::wstring_view end
     const std::optional<CaselessNeedle> name_part = NeedleOf(what);
     const std::optional<CaselessNeedle> url_part = NeedleOf(L"." + std::wstring(ending));
     if (!name_part || !url_part) return {};
-    if (ending.empty())
-        return Collect(book, [&](const AddressEntry& entry) { return name_part->IsIn(entry.SiteName); });
     return Collect(book, [&](const AddressEntry& entry) {
-        return name_part->IsIn(entry.SiteName) && CarriesEnding(entry.URL, *url_part);
+        return name_part->IsIn(entry.SiteName) && (ending.empty() || CarriesEnding(entry.URL, *url_part));
     });
 }
 
 void FindInCategory(const Book& book, std::wstring_view text, int category, std::int16_t& position) {
     const std::optional<CaselessNeedle> needle = NeedleOf(text);
-    while (needle && position < book.CategoryCounts(category)) {
-        const bool found = needle->IsIn(book.SiteNames(book.CategoryStarts(category) + position));
-        ++position;
-        if (found) return;
-    }
-    position = 0;
+    int found = 0;
+    for (int next = position + 1; needle && found == 0 && next <= book.CategoryCounts(category); ++next)
+        if (needle->IsIn(book.SiteNames(book.IndexOf(category, next)))) found = next;
+    position = static_cast<std::int16_t>(found);
 }
 
 }  // namespace lindrel

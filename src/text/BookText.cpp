@@ -12,7 +12,8 @@ namespace lindrel {
 
 namespace {
 
-// Windows-1250 from 0x80 on. The unused bytes 0x81, 0x83, 0x88, 0x90 and 0x98 keep their numbers.
+// The characters of the bytes from 0x80 on. The unused bytes 0x81, 0x83, 0x88, 0x90 and 0x98 keep their
+// numbers.
 constexpr std::array<char16_t, 128> kUpperHalf = {
     0x20AC, 0x0081, 0x201A, 0x0083, 0x201E, 0x2026, 0x2020, 0x2021,  // 0x80
     0x0088, 0x2030, 0x0160, 0x2039, 0x015A, 0x0164, 0x017D, 0x0179,  // 0x88
@@ -42,7 +43,7 @@ constexpr char32_t CharacterOfNumber(std::uint8_t number) {
     return number < 0x80 ? char32_t{number} : char32_t{kUpperHalf[number - 0x80U]};
 }
 
-// The byte of each character up to the last one; 0 for none, so U+0000 needs a test of its own.
+// The byte of each character up to the last one. 0 means none, so U+0000 needs a test of its own.
 constexpr auto kByteOf = [] {
     std::array<std::uint8_t, kLastCharacter + 1> table{};
     for (unsigned number = 1; number < 256; ++number)
