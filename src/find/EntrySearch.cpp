@@ -18,25 +18,6 @@ std::optional<CaselessNeedle> NeedleOf(std::wstring_view typed) {
     return CaselessNeedle(ToBookText(typed));
 }
 
-// The entries of the book that `accepts` returns true for.
-template <typename Accepts>
-Hits Collect(const Book& book, const Accepts& accepts) {
-    Hits hits{.Items = {}, .Texts = book.Texts()};
-    // A book that was loaded with too few headers may count more entries than it stores.
-    const int last = std::min(book.EntryCount(), book.UpperBound());
-    // All at once: growing would copy the hits again and again. Memory costs nothing until it is used.
-    hits.Items.reserve(static_cast<std::size_t>(last));
-    for (int category = 1; category <= kCategories; ++category) {
-        int index = book.CategoryStarts(category);
-        const int count = std::clamp(last + 1 - index, 0, int{book.CategoryCounts(category)});
-        for (const AddressEntry& entry : book.Entries(index, count)) {
-            if (accepts(entry)) hits.Items.push_back({index, category, entry});
-            ++index;
-        }
-    }
-    return hits;
-}
-
 }  // namespace
 
 bool CarriesEnding(std::string_view url, const CaselessNeedle& ending) {
@@ -51,9 +32,23 @@ Hits FindEntries(const Book& book, std::wstring_view what, std::wstring_view end
     const std::optional<CaselessNeedle> name_part = NeedleOf(what);
     const std::optional<CaselessNeedle> url_part = NeedleOf(L"." + std::wstring(ending));
     if (!name_part || !url_part) return {};
-    return Collect(book, [&](const AddressEntry& entry) {
-        return name_part->IsIn(entry.SiteName) && (ending.empty() || CarriesEnding(entry.URL, *url_part));
-    });
+    const CaselessNeedle* const url_needle = ending.empty() ? nullptr : &*url_part;
+    Hits hits{.Items = {}, .Texts = book.Texts()};
+    // A book that was loaded with too few headers may count more entries than it stores.
+    const int last = std::min(book.EntryCount(), book.UpperBound());
+    // All at once: growing would copy the hits again and again. Memory costs nothing until it is used.
+    hits.Items.reserve(static_cast<std::size_t>(last));
+    for (int category = 1; category <= kCategories; ++category) {
+        int index = book.CategoryStarts(category);
+        const int count = std::clamp(last + 1 - index, 0, int{book.CategoryCounts(category)});
+        for (const AddressEntry& entry : book.Entries(index, count)) {
+            if (name_part->IsIn(entry.SiteName) &&
+                (url_needle == nullptr || CarriesEnding(entry.URL, *url_needle)))
+                hits.Items.push_back({index, category, entry});
+            ++index;
+        }
+    }
+    return hits;
 }
 
 void FindInCategory(const Book& book, std::wstring_view text, int category, std::int16_t& position) {

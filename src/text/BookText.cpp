@@ -176,21 +176,23 @@ std::size_t CaselessNeedle::FindIn(std::string_view text, std::size_t from) cons
     if (from > text.size() || needle_.size() > text.size() - from) return std::string_view::npos;
     if (needle_.empty()) return from;
     const std::size_t to_last = needle_.size() - 1;
-    std::size_t start = from;
-    // The last eight starts may overlap those before them.
     const std::size_t end = text.size() - to_last;
-    for (; end - from >= kWordBytes && start < end; start += kWordBytes) {
-        const std::size_t word = std::min(start, end - kWordBytes);
+    if (end - from < kWordBytes) {
+        for (std::size_t start = from; start < end; ++start)
+            if (MatchesAt(text, start)) return start;
+        return std::string_view::npos;
+    }
+    // The last eight starts may overlap those before them.
+    const std::size_t last = end - kWordBytes;
+    for (std::size_t word = from;; word = std::min(word + kWordBytes, last)) {
         std::uint64_t candidates =
             ZeroBytes(first_.Difference(WordAt(text, word)) | last_.Difference(WordAt(text, word + to_last)));
         for (; candidates != 0; candidates &= candidates - 1) {
-            const std::size_t candidate = word + static_cast<std::size_t>(std::countr_zero(candidates)) / 8;
-            if (MatchesAt(text, candidate)) return candidate;
+            const std::size_t start = word + static_cast<std::size_t>(std::countr_zero(candidates)) / 8;
+            if (MatchesAt(text, start)) return start;
         }
+        if (word == last) return std::string_view::npos;
     }
-    for (; start < end; ++start)
-        if (MatchesAt(text, start)) return start;
-    return std::string_view::npos;
 }
 
 bool ContainsCaseless(std::wstring_view text, std::wstring_view needle) {
