@@ -21,6 +21,7 @@
 #include "bench/window/MainWindow.h"
 #include "bench/window/UiThread.h"
 #include "book/BookFile.h"
+#include "files/Files.h"
 
 namespace lindrel::bench {
 namespace {
@@ -182,7 +183,7 @@ int wmain(int count, wchar_t** arguments) {
         };
         if (count != 4 || std::wstring(arguments[1]) != bench::kMakeBook)
             return bench::RunBench(arguments[0], number(1));
-        SaveBook(bench::MakeLargestBook(static_cast<int>(number(2))), Path(arguments[3]));
+        WriteFileBytes(Path(arguments[3]), SaveBook(bench::MakeLargestBook(static_cast<int>(number(2)))));
         return 0;
     } catch (const std::exception& error) {
         std::fprintf(stderr, "%s\n", error.what());

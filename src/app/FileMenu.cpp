@@ -139,7 +139,7 @@ bool FileMenu::LoadBook(const std::wstring& path) {
     BookFromFile read;
     try {
         const WaitCursor hourglass;
-        read = ReadBook(open_.TheBook, path);
+        read = ReadBook(open_.TheBook, ReadFileBytes(path));
     } catch (...) {
         TellWhyNotRead(window_);
         return false;
@@ -159,7 +159,7 @@ bool FileMenu::SaveBook(const std::wstring& path) {
     if (!MayReplace(path)) return false;
     try {
         const WaitCursor hourglass;
-        lindrel::SaveBook(open_.TheBook, path);
+        ReplaceFileBytes(path, lindrel::SaveBook(open_.TheBook));
     } catch (const FileFault&) {
         MsgBox(window_, CurrentFault().Meaning(), MB_OK | MB_ICONERROR, kErrorTitle);
         return false;

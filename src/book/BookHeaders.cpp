@@ -3,23 +3,19 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "text/BookText.h"
+#include "text/Ascii.h"
 
 namespace lindrel {
 
 namespace {
 
-bool BeginsWith(std::string_view text, std::string_view lower_case) {
-    return LowerCase(text.substr(0, lower_case.size())) == lower_case;
-}
-
 bool CanBeEntry(std::string_view name, std::string_view address) {
-    if (IsMarked(name) && !LooksLikeAddress(address)) return false;
-    return !IsMarked(address) || !LooksLikeAddress(name);
+    if (HasHeaderPrefix(name) && !LooksLikeAddress(address)) return false;
+    return !HasHeaderPrefix(address) || !LooksLikeAddress(name);
 }
 
-// Goes through the lines from the last one to the second and counts, for each line that may be a header or a
-// name, the ways to read the file from there on.
+// Counts, from the last line back to the second, the ways to read the file from that line on as headers and
+// whole entries.
 class ChoiceCounter {
   public:
     explicit ChoiceCounter(const std::vector<std::string_view>& lines)
@@ -31,11 +27,11 @@ class ChoiceCounter {
             Ways from_here{};
             if (line + 1 < lines.size() && CanBeEntry(lines[line], lines[line + 1]))
                 from_here = from_second_next;
-            if (IsMarked(lines[line])) AddHeader(line, from_here, from_next);
+            if (HasHeaderPrefix(lines[line])) AddHeader(line, from_here, from_next);
             from_second_next = from_next;
             from_next = from_here;
         }
-        if (!lines.empty() && IsMarked(lines.front())) choices_ = from_next[kCategories - 1];
+        if (!lines.empty() && HasHeaderPrefix(lines.front())) choices_ = from_next[kCategories - 1];
     }
 
     HeaderChoice Choice() const {
@@ -43,7 +39,7 @@ class ChoiceCounter {
         return choices_ == 1 ? HeaderChoice::One : HeaderChoice::Several;
     }
 
-    // Only for one choice: then never both a header and an entry lead on.
+    // Only for a single choice: from no line do both a header and an entry lead to the end then.
     ChosenHeaders Chosen() const {
         ChosenHeaders chosen{HeaderChoice::One};
         std::size_t headers = 1;
@@ -52,15 +48,16 @@ class ChoiceCounter {
                 chosen.Lines.at(headers++) = line++;
                 continue;
             }
-            if (IsMarked(lines_[line])) chosen.Doubtful.push_back(line);
-            if (IsMarked(lines_[line + 1]) && MayBeAddress(lines_[line])) chosen.Doubtful.push_back(line + 1);
+            if (HasHeaderPrefix(lines_[line])) chosen.Doubtful.push_back(line);
+            if (HasHeaderPrefix(lines_[line + 1]) && MayBeAddress(lines_[line]))
+                chosen.Doubtful.push_back(line + 1);
             line += 2;
         }
         return chosen;
     }
 
   private:
-    // By the number of headers that are still to come; 2 stands for several ways.
+    // Indexed by the number of headers still to come; 2 stands for several ways.
     using Ways = std::array<std::uint8_t, kCategories + 1>;
 
     void AddHeader(std::size_t line, Ways& ways, const Ways& from_next) {
@@ -72,7 +69,7 @@ class ChoiceCounter {
     }
 
     const std::vector<std::string_view>& lines_;
-    // For each line a bit for each number of headers to come: whether the line can be the next of them.
+    // For each line: bit n is set if it can be the first of n headers still to come.
     std::vector<std::uint16_t> header_leads_on_;
     int choices_ = 0;
 };
@@ -80,8 +77,8 @@ class ChoiceCounter {
 }  // namespace
 
 bool LooksLikeAddress(std::string_view text) {
-    return text.find("://") != std::string_view::npos || BeginsWith(text, "mailto:") ||
-           BeginsWith(text, "www.");
+    return text.find("://") != std::string_view::npos || StartsWithAsciiCaseless(text, "mailto:") ||
+           StartsWithAsciiCaseless(text, "www.");
 }
 
 bool MayBeAddress(std::string_view text) {

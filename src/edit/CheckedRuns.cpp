@@ -1,45 +1,52 @@
 #include "edit/CheckedRuns.h"
 
-#include <cstddef>
 #include <string>
 #include <utility>
 
+#include "faults/Faults.h"
+
 namespace lindrel {
+
+namespace {
+
+// Throws RangeFault for rows that the category does not have.
+std::vector<int> IndicesOf(const Book& book, int category, const std::vector<RowRun>& runs) {
+    std::vector<int> indices;
+    for (const RowRun& run : runs) {
+        if (run.Position < 1 || run.Position - 1 > book.CategoryCounts(category) - run.Count)
+            throw RangeFault();
+        for (int position = run.Position; position < run.Position + run.Count; ++position)
+            indices.push_back(book.IndexOf(category, position));
+    }
+    return indices;
+}
+
+}  // namespace
 
 std::vector<RowRun> CheckedRuns(int rows, const std::function<bool(int)>& is_checked) {
     std::vector<RowRun> runs;
-    int run_end = 0;
-    for (int position = rows; position >= 1; --position) {
-        if (is_checked(position)) {
-            if (run_end == 0) run_end = position;
-        } else if (run_end != 0) {
-            runs.push_back({position + 1, run_end - position});
-            run_end = 0;
-        }
+    int run_end = 0;  // the position after the last run
+    for (int position = 1; position <= rows; ++position) {
+        if (!is_checked(position)) continue;
+        if (position != run_end) runs.push_back({position, 0});
+        ++runs.back().Count;
+        run_end = position + 1;
     }
-    if (run_end != 0) runs.push_back({1, run_end});
     return runs;
 }
 
-// Both work on a copy, so that the book is unchanged if a later run is refused.
-
 void DeleteRuns(Book& book, int category, const std::vector<RowRun>& runs) {
-    Book rest = book;
-    for (const RowRun& run : runs) rest.DeleteEntry(category, run.Position, run.Count);
-    book = std::move(rest);
+    book.DeleteEntries(IndicesOf(book, category, runs));
 }
 
 void MoveRuns(Book& book, int source, const std::vector<RowRun>& runs, int destination) {
+    const std::vector<int> indices = IndicesOf(book, source, runs);
     std::vector<NewEntry> moved;
-    for (std::size_t i = runs.size(); i-- > 0;) {
-        const RowRun& run = runs[i];
-        for (int position = run.Position; position < run.Position + run.Count; ++position) {
-            const int index = book.IndexOf(source, position);
-            moved.push_back({std::string(book.SiteNames(index)), std::string(book.SiteURLs(index))});
-        }
-    }
+    for (const int index : indices)
+        moved.push_back({std::string(book.SiteNames(index)), std::string(book.SiteURLs(index))});
+    // On a copy, so that the book is unchanged if it cannot take the entries.
     Book changed = book;
-    DeleteRuns(changed, source, runs);
+    changed.DeleteEntries(indices);
     changed.AddEntry(destination, moved);
     book = std::move(changed);
 }

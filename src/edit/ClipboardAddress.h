@@ -1,4 +1,4 @@
-// The address that the add dialog proposes.
+// The address that the add dialog proposes when it opens.
 #pragma once
 
 #include <optional>
@@ -7,9 +7,9 @@
 
 namespace lindrel {
 
-// The address in a text from the clipboard, or nothing if the text has none of "http:", "https:", "www.",
-// "ftp:" and "@" in it (in either case). The address is the whole text without blanks at its ends, with line
-// breaks replaced by blanks and with "http://" or "mailto:" put in front where it is missing.
+// The address in a text from the clipboard: the whole text without blanks at its ends, with a blank for each
+// line break and with "http://" or "mailto:" put in front where it is missing. nullopt if the text contains
+// none of "http:", "https:", "www.", "ftp:" and "@" (in either case).
 std::optional<std::wstring> AddressFromClipboard(std::wstring_view text);
 
 }  // namespace lindrel

@@ -1,22 +1,17 @@
 #include "find/CheckedHits.h"
 
+#include <utility>
+
 namespace lindrel {
 
-void DeleteEntries(Book& book, const std::vector<int>& indices) {
-    // From the last one on, so that the other indices stay valid.
-    for (auto index = indices.rbegin(); index != indices.rend(); ++index) {
-        const int category = book.CategoryOf(*index);
-        book.DeleteEntry(category, *index - book.CategoryStarts(category) + 1, 1);
-    }
-}
-
 void CheckOnly(Book& book, const std::vector<int>& indices, int shown_category) {
-    book.Marks.ForgetAll();
+    CheckMarks marks;
     for (const int index : indices) {
         const int category = book.CategoryOf(index);
-        book.Marks.SaveOneMore(category, index - book.CategoryStarts(category) + 1);
+        marks.SaveOneMore(category, index - book.CategoryStarts(category) + 1);
     }
-    book.Marks.SetCheckedCount(book.Marks.SavedCheckCounts(shown_category));
+    marks.SetCheckedCount(marks.SavedCheckCounts(shown_category));
+    book.Marks = std::move(marks);
 }
 
 }  // namespace lindrel

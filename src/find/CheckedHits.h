@@ -1,5 +1,4 @@
-// The find dialog's commands on checked hits. Hits are given by their indices in the book, in ascending
-// order.
+// The find dialog's command on checked hits.
 #pragma once
 
 #include <vector>
@@ -8,10 +7,8 @@
 
 namespace lindrel {
 
-// Removes the entries.
-void DeleteEntries(Book& book, const std::vector<int>& indices);
-
-// Checks these entries in the whole book and no others. CheckedCount() becomes that of the shown category.
+// Checks the entries at these indices of the book, which ascend, and no others. CheckedCount() becomes that
+// of the shown category. Throws RangeFault, before anything changes, if the shown category is outside 1..12.
 void CheckOnly(Book& book, const std::vector<int>& indices, int shown_category);
 
 }  // namespace lindrel

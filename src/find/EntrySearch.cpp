@@ -6,35 +6,16 @@
 #include <string>
 
 #include "book/PerCategory.h"
+#include "text/Ascii.h"
 
 namespace lindrel {
 
 namespace {
 
-// Nothing if the text has a character that no name or address can have.
+// nullopt if the text has a character that a book cannot hold.
 std::optional<CaselessNeedle> NeedleOf(std::wstring_view typed) {
     if (FirstForeignCharacter(typed)) return std::nullopt;
     return CaselessNeedle(ToBookText(typed));
-}
-
-// The entries of the book that `accepts` returns true for.
-template <typename Accepts>
-Hits Collect(const Book& book, const Accepts& accepts) {
-    Hits hits{.Items = {}, .Texts = book.Texts()};
-    // A book that was loaded with too few headers may count more entries than it has.
-    const int last = std::min(book.EntryCount(), book.UpperBound());
-    // Avoids copying the hits again and again. The memory costs nothing until it is used.
-    hits.Items.reserve(static_cast<std::size_t>(last));
-    for (int category = 1; category <= kCategories; ++category) {
-        int index = book.CategoryStarts(category);
-        const int count = std::clamp(last + 1 - index, 0, int{book.CategoryCounts(category)});
-        for (const auto part : book.Entries(index, count))
-            for (const AddressEntry& entry : part) {
-                if (accepts(entry)) hits.Items.push_back({index, category, entry});
-                ++index;
-            }
-    }
-    return hits;
 }
 
 }  // namespace
@@ -43,9 +24,7 @@ bool CarriesEnding(std::string_view url, const CaselessNeedle& ending) {
     constexpr std::string_view kWebHost = "http://www";
     constexpr std::size_t kAfterWebHost = kWebHost.size() + 1;
     constexpr std::size_t kAfterScheme = 4;
-    static const CaselessNeedle web_host(kWebHost);
-    // The usual spelling first, which is found at once.
-    const bool on_web_host = url.starts_with(kWebHost) || web_host.IsIn(url.substr(0, kWebHost.size()));
+    const bool on_web_host = url.starts_with(kWebHost) || StartsWithAsciiCaseless(url, kWebHost);
     return ending.FindIn(url, on_web_host ? kAfterWebHost : kAfterScheme) != std::string_view::npos;
 }
 
@@ -53,21 +32,31 @@ Hits FindEntries(const Book& book, std::wstring_view what, std::wstring_view end
     const std::optional<CaselessNeedle> name_part = NeedleOf(what);
     const std::optional<CaselessNeedle> url_part = NeedleOf(L"." + std::wstring(ending));
     if (!name_part || !url_part) return {};
-    if (ending.empty())
-        return Collect(book, [&](const AddressEntry& entry) { return name_part->IsIn(entry.SiteName); });
-    return Collect(book, [&](const AddressEntry& entry) {
-        return name_part->IsIn(entry.SiteName) && CarriesEnding(entry.URL, *url_part);
-    });
+    const CaselessNeedle* const url_needle = ending.empty() ? nullptr : &*url_part;
+    Hits hits{.Items = {}, .Texts = book.Texts()};
+    // A book that was loaded with too few headers may count more entries than it stores.
+    const int last = std::min(book.EntryCount(), book.UpperBound());
+    // All at once: growing would copy the hits again and again. Memory costs nothing until it is used.
+    hits.Items.reserve(static_cast<std::size_t>(last));
+    for (int category = 1; category <= kCategories; ++category) {
+        int index = book.CategoryStarts(category);
+        const int count = std::clamp(last + 1 - index, 0, int{book.CategoryCounts(category)});
+        for (const AddressEntry& entry : book.Entries(index, count)) {
+            if (name_part->IsIn(entry.SiteName) &&
+                (url_needle == nullptr || CarriesEnding(entry.URL, *url_needle)))
+                hits.Items.push_back({index, category, entry});
+            ++index;
+        }
+    }
+    return hits;
 }
 
 void FindInCategory(const Book& book, std::wstring_view text, int category, std::int16_t& position) {
     const std::optional<CaselessNeedle> needle = NeedleOf(text);
-    while (needle && position < book.CategoryCounts(category)) {
-        const bool found = needle->IsIn(book.SiteNames(book.CategoryStarts(category) + position));
-        ++position;
-        if (found) return;
-    }
-    position = 0;
+    int found = 0;
+    for (int next = position + 1; needle && found == 0 && next <= book.CategoryCounts(category); ++next)
+        if (needle->IsIn(book.SiteNames(book.IndexOf(category, next)))) found = next;
+    position = static_cast<std::int16_t>(found);
 }
 
 }  // namespace lindrel

@@ -1,6 +1,6 @@
 // Searching the book: in all categories for the find dialog, and step by step in one category for the search
-// box. Only site names are searched, case-insensitively also for accented letters. Text with characters that
-// a book cannot hold is not found.
+// box. Only site names are searched, in either case, also of accented letters. Text with a character that a
+// book cannot hold is never found.
 #pragma once
 
 #include <cstdint>
@@ -9,7 +9,6 @@
 #include <vector>
 
 #include "book/Book.h"
-#include "book/EntrySequence.h"
 #include "text/BookText.h"
 
 namespace lindrel {
@@ -28,17 +27,18 @@ struct Hits {
     std::shared_ptr<const TextStore> Texts;  // owns what the entries point to
 };
 
-// The entries whose site name contains `what` (any name, if that is empty) and whose address carries the
+// The entries whose site name contains `what` (any name if that is empty) and whose address carries the
 // ending, which is given without its dot and may be empty.
 Hits FindEntries(const Book& book, std::wstring_view what, std::wstring_view ending);
 
-// Whether an address contains an ending (with its dot) from its fifth character on, which is past the scheme,
-// or from the twelfth on, past the dot, if it begins with "http://www". The path is searched too: users find
-// pages by it.
+// Whether an address contains an ending, given with its dot, from its fifth character on, or from the twelfth
+// on if it starts with "http://www" in either case. That skips the scheme and "www."; the path is searched
+// too, since users find pages by it.
 bool CarriesEnding(std::string_view url, const CaselessNeedle& ending);
 
-// One step of the search in a category: finds the first entry after a position whose name contains the text,
-// and sets the position (1-based) to it, or to 0 if there is none. Start with position 0.
+// One step of the search in a category: sets the position (1-based) to the first entry after it whose name
+// contains the text, or to 0 if there is none. Start with 0. Throws RangeFault for a category outside 1..12
+// or an entry that is not stored (see Book), and leaves the position unchanged then.
 void FindInCategory(const Book& book, std::wstring_view text, int category, std::int16_t& position);
 
 }  // namespace lindrel

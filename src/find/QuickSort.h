@@ -1,4 +1,5 @@
-// Sorting part of a sequence in place.
+// Sorting part of a sequence in place. Part of the library of reusable pieces; the program has no caller of
+// its own at present.
 #pragma once
 
 #include <cstddef>
@@ -10,8 +11,8 @@
 namespace lindrel {
 
 // Sorts the values at low..high (0-based, inclusive) into ascending order by "<"; equal values may change
-// places. Does nothing if there are no values or if high <= low. Throws RangeFault, before changing anything,
-// for indices out of bounds.
+// their order. Does nothing if there are no values or if high <= low. Throws RangeFault for indices out of
+// bounds, before it changes anything; if a comparison throws, the order of the values is unspecified.
 template <typename Value>
 void QuickSort(std::span<Value> values, int low, int high) {
     if (values.empty() || high <= low) return;

@@ -2,8 +2,11 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <string>
 #include <string_view>
+
+#include "faults/Faults.h"
 
 namespace lindrel {
 
@@ -24,6 +27,9 @@ inline constexpr std::array<WebService, 6> kWebServices{{
 
 // The address of a service's results (1..5; RangeFault otherwise). The text is appended exactly as typed,
 // blanks and accented letters included, because the shell and the browser encode it.
-std::wstring ServiceAddress(int service, std::wstring_view text);
+inline std::wstring ServiceAddress(int service, std::wstring_view text) {
+    if (service < 1 || service >= static_cast<int>(kWebServices.size())) throw RangeFault();
+    return std::wstring(kWebServices[static_cast<std::size_t>(service)].Prefix).append(text);
+}
 
 }  // namespace lindrel

@@ -207,7 +207,7 @@ void frmFind::cmdDel_Click() {
 }
 
 void frmFind::DeleteFromBook(const std::vector<int>& indices) {
-    DeleteEntries(open_.TheBook, indices);
+    open_.TheBook.DeleteEntries(indices);
     open_.Modified = true;
     EntryDeleted = true;
     const int place = ListView.Focused();

@@ -1,4 +1,4 @@
-// ASCII letters in either case. All other characters stay as they are.
+// Letter case in ASCII only, for what is ASCII by definition: schemes, extensions, HTML.
 #pragma once
 
 #include <algorithm>
@@ -6,15 +6,14 @@
 
 namespace lindrel {
 
-constexpr char AsciiLower(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
+// A char or wchar_t in lower case. Anything but A to Z stays as it is.
+template <typename Character>
+constexpr Character AsciiLower(Character character) {
+    const bool capital = character >= 'A' && character <= 'Z';
+    return capital ? static_cast<Character>(character + ('a' - 'A')) : character;
 }
 
-constexpr wchar_t AsciiLower(wchar_t c) {
-    return c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c + (L'a' - L'A')) : c;
-}
-
-// `lower` is in lower case.
+// Whether a text starts, in either case, with another one that is given in lower case.
 constexpr bool StartsWithAsciiCaseless(std::string_view text, std::string_view lower) {
     return text.size() >= lower.size() && std::equal(lower.begin(), lower.end(), text.begin(),
                                                      [](char a, char b) { return a == AsciiLower(b); });

@@ -5,7 +5,7 @@
 
 namespace lindrel {
 
-// The byte of a character (a UTF-32 value), or nothing if it is not in ISO 8859-2.
+// The byte of a character (a UTF-32 value), or nullopt if it is not in ISO 8859-2.
 std::optional<char> Latin2Byte(char32_t character);
 
 // The UTF-32 value of a byte.

@@ -38,9 +38,9 @@ TextFile TextFileOf(std::vector<char> bytes) {
         const std::string text = Utf8OfUtf16(view.substr(2), big_endian);
         return {{text.begin(), text.end()}, TextEncoding::Utf8};
     }
-    const bool has_bom = view.starts_with(kUtf8Mark);
+    const bool has_bom = view.starts_with(kUtf8Bom);
     const bool utf8 = has_bom || IsUtf8BeyondAscii(view);
-    if (has_bom) bytes.erase(bytes.begin(), bytes.begin() + kUtf8Mark.size());
+    if (has_bom) bytes.erase(bytes.begin(), bytes.begin() + kUtf8Bom.size());
     return {std::move(bytes), utf8 ? TextEncoding::Utf8 : TextEncoding::Windows1250};
 }
 

@@ -1,10 +1,9 @@
 #include "text/Utf8.h"
 
+#include <algorithm>
 #include <array>
-#include <cstdint>
 
 #include "text/Characters.h"
-#include "text/Words.h"
 
 namespace lindrel {
 
@@ -12,12 +11,6 @@ namespace {
 
 constexpr bool IsTrail(char byte) {
     return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80;
-}
-
-// Most characters beyond ASCII in Hungarian pages: a lead byte and one trail byte.
-constexpr bool BeginsWithPair(std::string_view bytes) {
-    const auto lead = static_cast<unsigned char>(bytes.front());
-    return lead >= 0xC2 && lead <= 0xDF && bytes.size() > 1 && IsTrail(bytes[1]);
 }
 
 }  // namespace
@@ -38,28 +31,20 @@ std::optional<Utf8Character> FirstUtf8Character(std::string_view bytes) {
 }
 
 std::size_t AsciiLength(std::string_view bytes) {
-    std::size_t place = 0;
-    for (; place + kWordBytes <= bytes.size(); place += kWordBytes)
-        if (const std::uint64_t others = WordAt(bytes, place) & kHighBits; others != 0)
-            return place + LowestMarked(others);
-    while (place < bytes.size() && static_cast<unsigned char>(bytes[place]) < 0x80) ++place;
-    return place;
+    const auto is_other = [](char byte) { return static_cast<unsigned char>(byte) >= 0x80; };
+    return static_cast<std::size_t>(std::find_if(bytes.begin(), bytes.end(), is_other) - bytes.begin());
 }
 
 bool IsUtf8BeyondAscii(std::string_view bytes) {
     bytes.remove_prefix(AsciiLength(bytes));
-    if (bytes.empty()) return false;
+    const bool beyond = !bytes.empty();
     while (!bytes.empty()) {
-        std::size_t length = 2;
-        if (!BeginsWithPair(bytes)) {
-            const std::optional<Utf8Character> character = FirstUtf8Character(bytes);
-            if (!character) return false;
-            length = character->Length;
-        }
-        bytes.remove_prefix(length);
+        const std::optional<Utf8Character> character = FirstUtf8Character(bytes);
+        if (!character) return false;
+        bytes.remove_prefix(character->Length);
         bytes.remove_prefix(AsciiLength(bytes));
     }
-    return true;
+    return beyond;
 }
 
 void AppendUtf8(std::string& text, char32_t character) {

@@ -3,10 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <random>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "tests/native/support/AnyText.h"
 
 namespace lindrel {
 namespace {
@@ -28,7 +29,7 @@ ChosenHeaders Chosen(const Lines& lines) {
     return ChooseHeaders({lines.begin(), lines.end()});
 }
 
-// The texts of the chosen headers, and behind a bar the lines in doubt.
+// The texts of the chosen headers, a bar, and the lines in doubt.
 std::string Choice(const Lines& lines) {
     const ChosenHeaders chosen = Chosen(lines);
     if (chosen.Choice == HeaderChoice::None) return "none";
@@ -56,14 +57,14 @@ TEST(BookHeadersTest, AnAddressWithoutASchemeIsAtLeastPossible) {
         EXPECT_FALSE(MayBeAddress(text)) << text;
 }
 
-TEST(BookHeadersTest, AMarkedNameIsKnownByItsAddress) {
+TEST(BookHeadersTest, ANameWithThePrefixIsKnownByItsAddress) {
     EXPECT_EQ(Choice(BookLines({{1, {"#a", "http://a.hu"}}, {12, {"b", "x", "#c", "www.c.hu"}}})),
               kOneToTwelve + std::string("#a#c"));
     EXPECT_EQ(Choice(BookLines({{3, {"#a", "#http://a.hu"}}})), kOneToTwelve + std::string("#a"));
     EXPECT_EQ(Choice(BookLines({{3, {"#a", "index.hu", "b", "http://b.hu"}}})), "none");
 }
 
-TEST(BookHeadersTest, AMarkedAddressIsKnownByItsName) {
+TEST(BookHeadersTest, AnAddressWithThePrefixIsKnownByItsName) {
     EXPECT_EQ(Choice(BookLines({{1, {"Vissza", "#fej", "b", "http://b.hu"}}, {12, {"Lent", "#lab"}}})),
               kOneToTwelve);
     EXPECT_EQ(Choice(BookLines({{1, {"http://a.hu", "#fej"}}})), "none");
@@ -71,7 +72,7 @@ TEST(BookHeadersTest, AMarkedAddressIsKnownByItsName) {
 
 // The name "#a" with an address that does not look like one reads as a category, and the next category as an
 // address. Nothing but its name tells.
-TEST(BookHeadersTest, AMarkedAddressIsDoubtfulIfItsNameMayBeAnAddress) {
+TEST(BookHeadersTest, AnAddressWithThePrefixIsDoubtfulIfItsNameMayBeAnAddress) {
     EXPECT_EQ(Choice(BookLines({{3, {"#a", "index.hu"}}})), "#1#2#3#a#5#6#7#8#9#10#11#12|#4");
 }
 
@@ -100,7 +101,8 @@ TEST(BookHeadersTest, SeveralReadingsAreNoChoice) {
     EXPECT_EQ(Choice(lines), "#a#http://a.hu#b#b#b#b#b#b#b#b#b#b|#a");
 }
 
-// Marked lines only, as many as a file can have; the choices of the first are more than any counter can hold.
+// As many lines as a file can have, all with the prefix. The first file has more choices than any counter can
+// hold.
 TEST(BookHeadersTest, AHostileFileIsDecidedInOnePass) {
     Lines lines;
     while (lines.size() < 65546) lines.insert(lines.end(), {"#a", "#http://a.hu"});
@@ -109,7 +111,7 @@ TEST(BookHeadersTest, AHostileFileIsDecidedInOnePass) {
     EXPECT_EQ(Choice(Lines(65546, "#" + std::string(500, 'a'))), "none");
 }
 
-// ---- The same by trying out every choice of twelve marked lines.
+// The same by trying out every choice of twelve lines with the prefix.
 
 bool IsEntry(const std::string& name, const std::string& address) {
     const auto looks = [](const std::string& text) {
@@ -131,33 +133,23 @@ bool IsChoice(const Lines& lines, const std::vector<std::size_t>& headers) {
 }
 
 std::vector<std::vector<std::size_t>> AllChoices(const Lines& lines) {
-    std::vector<std::size_t> marked;
+    std::vector<std::size_t> candidates;
     for (std::size_t line = 0; line < lines.size(); ++line)
-        if (lines[line][0] == '#') marked.push_back(line);
+        if (lines[line][0] == '#') candidates.push_back(line);
     std::vector<std::vector<std::size_t>> choices;
-    std::vector<bool> taken(marked.size(), false);
+    std::vector<bool> taken(candidates.size(), false);
     std::fill_n(taken.begin(), kCategories, true);
     do {
         std::vector<std::size_t> headers;
-        for (std::size_t i = 0; i < marked.size(); ++i)
-            if (taken[i]) headers.push_back(marked[i]);
+        for (std::size_t i = 0; i < candidates.size(); ++i)
+            if (taken[i]) headers.push_back(candidates[i]);
         if (IsChoice(lines, headers)) choices.push_back(headers);
     } while (std::prev_permutation(taken.begin(), taken.end()));
     return choices;
 }
 
-class Dice {
-  public:
-    std::size_t Roll(std::size_t sides) {
-        return std::uniform_int_distribution<std::size_t>(0, sides - 1)(engine_);
-    }
-
-  private:
-    std::mt19937 engine_{20261121};
-};
-
-// Mostly books with marked names and addresses; some with a line missing or doubled.
-Lines RandomLines(Dice& dice) {
+// Mostly books with some names and addresses that have the prefix; in some a line is missing or doubled.
+Lines RandomLines(testing::Dice& dice) {
     const Lines names = {"a", "#a", "#", "http://n", "#www.", "", "www.n.hu"};
     const Lines addresses = {"http://u", "www.u", "mailto:u", "u.hu", "#u", "#http://u", ""};
     Lines lines;
@@ -167,9 +159,9 @@ Lines RandomLines(Dice& dice) {
         for (std::size_t left = dice.Roll(2) + dice.Roll(2); left > 0; --left) {
             const std::string name = names[dice.Roll(names.size())];
             const std::string address = addresses[dice.Roll(addresses.size())];
-            const std::size_t marked = (name[0] == '#' ? 1u : 0u) + (address[0] == '#' ? 1u : 0u);
-            if (marked > spare) continue;
-            spare -= marked;
+            const std::size_t prefixes = (name[0] == '#' ? 1u : 0u) + (address[0] == '#' ? 1u : 0u);
+            if (prefixes > spare) continue;
+            spare -= prefixes;
             lines.insert(lines.end(), {name, address});
         }
     }
@@ -181,11 +173,11 @@ Lines RandomLines(Dice& dice) {
 }
 
 TEST(BookHeadersTest, TheCountAgreesWithTryingOutEveryChoice) {
-    Dice dice;
+    testing::Dice dice;
     int seen[3] = {};
     for (int round = 0; round < 1500; ++round) {
         const Lines lines = RandomLines(dice);
-        if (std::count_if(lines.begin(), lines.end(), IsMarked) < kCategories) continue;
+        if (std::count_if(lines.begin(), lines.end(), HasHeaderPrefix) < kCategories) continue;
         const auto choices = AllChoices(lines);
         const ChosenHeaders chosen = Chosen(lines);
         const HeaderChoice expected = choices.empty()       ? HeaderChoice::None

@@ -53,16 +53,16 @@ Texts LinesOfFile(const std::string& file) {
 int Ways(const Texts& lines, std::size_t line, int headers) {
     if (line == lines.size()) return headers == 0 ? 1 : 0;
     int ways = 0;
-    if (IsMarked(lines[line]) && headers > 0) ways += Ways(lines, line + 1, headers - 1);
+    if (HasHeaderPrefix(lines[line]) && headers > 0) ways += Ways(lines, line + 1, headers - 1);
     if (line + 1 == lines.size() || ways >= 2) return ways;
-    const bool name_is_good = !IsMarked(lines[line]) || LooksLikeAddress(lines[line + 1]);
-    const bool address_is_good = !IsMarked(lines[line + 1]) || !LooksLikeAddress(lines[line]);
+    const bool name_is_good = !HasHeaderPrefix(lines[line]) || LooksLikeAddress(lines[line + 1]);
+    const bool address_is_good = !HasHeaderPrefix(lines[line + 1]) || !LooksLikeAddress(lines[line]);
     return name_is_good && address_is_good ? ways + Ways(lines, line + 2, headers) : ways;
 }
 
 bool CanBeRead(const std::string& file) {
     const Texts lines = LinesOfFile(file);
-    return std::count_if(lines.begin(), lines.end(), IsMarked) == kCategories ||
+    return std::count_if(lines.begin(), lines.end(), HasHeaderPrefix) == kCategories ||
            Ways(lines, 1, kCategories - 1) == 1;
 }
 

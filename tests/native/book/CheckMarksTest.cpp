@@ -12,30 +12,24 @@ namespace {
 
 using Positions = std::vector<std::int16_t>;
 
-TEST(CheckMarksTest, EachCategoryKeepsItsOwnPositions) {
+TEST(CheckMarksTest, EachCategoryKeepsItsOwnPositionsUntilTheyAreReplacedOrForgotten) {
     CheckMarks marks;
-    marks.Save(3, {1, 4});
     marks.SaveOneMore(12, 7);
     marks.SaveOneMore(12, 9);
+    EXPECT_EQ(marks.CheckedCount(), 0);
+    marks.SetCheckedCount(2);
+    marks.Save(3, {1, 4});
     EXPECT_EQ(marks.SavedCheckCounts(3), 2);
     EXPECT_EQ(marks.SavedCheckLists(3), (Positions{1, 4}));
     EXPECT_EQ(marks.SavedCheckLists(12), (Positions{7, 9}));
     EXPECT_EQ(marks.SavedCheckCounts(1), 0);
-    EXPECT_EQ(marks.CheckedCount(), 0);
-}
-
-TEST(CheckMarksTest, SavingReplacesAndForgettingEmpties) {
-    CheckMarks marks;
-    marks.SetCheckedCount(2);
-    marks.Save(3, {1, 4});
     marks.Save(3, {2});
-    marks.Save(5, {6});
     EXPECT_EQ(marks.SavedCheckLists(3), Positions{2});
     marks.Forget(3);
     EXPECT_EQ(marks.SavedCheckCounts(3), 0);
-    EXPECT_EQ(marks.SavedCheckLists(5), Positions{6});
+    EXPECT_EQ(marks.SavedCheckLists(12), (Positions{7, 9}));
     marks.ForgetAll();
-    EXPECT_EQ(marks.SavedCheckCounts(5), 0);
+    EXPECT_EQ(marks.SavedCheckCounts(12), 0);
     EXPECT_EQ(marks.CheckedCount(), 2);
     marks.Clear();
     EXPECT_EQ(marks, CheckMarks());

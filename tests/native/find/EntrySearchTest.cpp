@@ -9,9 +9,9 @@
 #include <vector>
 
 #include "book/Book.h"
-#include "book/BookFile.h"
-#include "book/EntrySequence.h"
 #include "book/PerCategory.h"
+#include "faults/Faults.h"
+#include "tests/native/support/BookFromText.h"
 #include "text/BookText.h"
 
 namespace lindrel {
@@ -34,9 +34,11 @@ Book HungarianBook() {
     return book;
 }
 
-std::vector<int> IndicesOf(const Hits& hits) {
-    std::vector<int> indices;
-    for (const Hit& hit : hits.Items) indices.push_back(hit.Index);
+using Indices = std::vector<int>;
+
+Indices Found(const Book& book, std::wstring_view what, std::wstring_view ending) {
+    Indices indices;
+    for (const Hit& hit : FindEntries(book, what, ending).Items) indices.push_back(hit.Index);
     return indices;
 }
 
@@ -44,81 +46,60 @@ TEST(EntrySearchTest, FindsNamesInBookOrderWithTheirCategories) {
     const Book book = HungarianBook();
     const std::vector<Hit> expected = {{1, 1, book.Entry(1)}, {3, 4, book.Entry(3)}, {5, 12, book.Entry(5)}};
     EXPECT_EQ(FindEntries(book, L"ű", L"").Items, expected);
+    EXPECT_EQ(FindEntries(book, L"Ű", L"").Items, expected);
 }
 
-TEST(EntrySearchTest, LetterCaseIsNotLookedAt) {
+TEST(EntrySearchTest, NamesAreSearchedInEitherCaseButNotWithoutTheirAccents) {
     const Book book = HungarianBook();
-    EXPECT_EQ(IndicesOf(FindEntries(book, L"ű", L"")), (std::vector<int>{1, 3, 5}));
-    EXPECT_EQ(IndicesOf(FindEntries(book, L"Ű", L"")), (std::vector<int>{1, 3, 5}));
-    EXPECT_EQ(IndicesOf(FindEntries(book, L"műsor", L"")), std::vector<int>{1});
-    EXPECT_EQ(IndicesOf(FindEntries(book, L"IDŐJÁRÁS", L"")), std::vector<int>{2});
-    EXPECT_EQ(IndicesOf(FindEntries(book, L"TŰRŐ TÜKÖR", L"")), std::vector<int>{5});
-}
-
-TEST(EntrySearchTest, ALetterIsNotItsUnaccentedOne) {
-    const Book book = HungarianBook();
-    EXPECT_EQ(IndicesOf(FindEntries(book, L"musor", L"")), std::vector<int>{});
-    EXPECT_EQ(IndicesOf(FindEntries(book, L"ü", L"")), std::vector<int>{5});
-}
-
-TEST(EntrySearchTest, OnlyNamesAreSearched) {
-    EXPECT_EQ(IndicesOf(FindEntries(HungarianBook(), L"http", L"")), std::vector<int>{});
-}
-
-TEST(EntrySearchTest, AnEmptyTextIsInEveryNameAlsoInAnEmptyOne) {
-    EXPECT_EQ(IndicesOf(FindEntries(HungarianBook(), L"", L"")), (std::vector<int>{1, 2, 3, 4, 5}));
-}
-
-TEST(EntrySearchTest, AnEndingAloneListsEveryAddressThatCarriesIt) {
-    const Book book = HungarianBook();
-    EXPECT_EQ(IndicesOf(FindEntries(book, L"", L"hu")), (std::vector<int>{1, 3, 4}));
-    EXPECT_EQ(IndicesOf(FindEntries(book, L"", L"HU")), (std::vector<int>{1, 3, 4}));
-    EXPECT_EQ(IndicesOf(FindEntries(book, L"", L"com")), std::vector<int>{2});
-    EXPECT_EQ(IndicesOf(FindEntries(book, L"", L"gov")), std::vector<int>{5});
-    EXPECT_EQ(IndicesOf(FindEntries(book, L"", L"net")), std::vector<int>{});
+    EXPECT_EQ(Found(book, L"műsor", L""), Indices{1});
+    EXPECT_EQ(Found(book, L"IDŐJÁRÁS", L""), Indices{2});
+    EXPECT_EQ(Found(book, L"TŰRŐ TÜKÖR", L""), Indices{5});
+    EXPECT_EQ(Found(book, L"ü", L""), Indices{5});
+    EXPECT_EQ(Found(book, L"musor", L""), Indices{});
+    EXPECT_EQ(Found(book, L"http", L""), Indices{});             // only in addresses
+    EXPECT_EQ(Found(book, L"", L""), (Indices{1, 2, 3, 4, 5}));  // also in an empty name
 }
 
 TEST(EntrySearchTest, AnEndingNarrowsTheNames) {
     const Book book = HungarianBook();
-    EXPECT_EQ(IndicesOf(FindEntries(book, L"ű", L"hu")), (std::vector<int>{1, 3}));
-    EXPECT_EQ(IndicesOf(FindEntries(book, L"Ő", L"com")), std::vector<int>{2});
+    EXPECT_EQ(Found(book, L"", L"hu"), (Indices{1, 3, 4}));
+    EXPECT_EQ(Found(book, L"", L"HU"), (Indices{1, 3, 4}));
+    EXPECT_EQ(Found(book, L"", L"com"), Indices{2});
+    EXPECT_EQ(Found(book, L"", L"gov"), Indices{5});
+    EXPECT_EQ(Found(book, L"", L"net"), Indices{});
+    EXPECT_EQ(Found(book, L"ű", L"hu"), (Indices{1, 3}));
+    EXPECT_EQ(Found(book, L"Ő", L"com"), Indices{2});
 }
 
 TEST(EntrySearchTest, WhatNoBookCanHoldFindsNothingNotEvenQuestionMarks) {
     Book book;
     Add(book, 1, {{L"Mi ez?", L"http://a.?"}});
-    EXPECT_EQ(IndicesOf(FindEntries(book, L"?", L"?")), std::vector<int>{1});
-    EXPECT_EQ(IndicesOf(FindEntries(book, L"ж", L"")), std::vector<int>{});
-    EXPECT_EQ(IndicesOf(FindEntries(book, L"", L"ж")), std::vector<int>{});
+    EXPECT_EQ(Found(book, L"?", L"?"), Indices{1});
+    EXPECT_EQ(Found(book, L"ж", L""), Indices{});
+    EXPECT_EQ(Found(book, L"", L"ж"), Indices{});
 }
 
 TEST(EntrySearchTest, EmptyBooksHaveNoHits) {
     Book book;
-    EXPECT_EQ(IndicesOf(FindEntries(book, L"", L"")), std::vector<int>{});
-    // Deleting the last entry leaves a blank element, which is not an entry.
+    EXPECT_EQ(Found(book, L"", L""), Indices{});
+    // Deleting the last entry leaves a blank element, which is not an entry; a reset leaves them all.
     Add(book, 3, {{L"Egy", L"http://egy.hu"}});
     book.DeleteEntry(3, 1, 1);
-    EXPECT_EQ(IndicesOf(FindEntries(book, L"", L"")), std::vector<int>{});
-    // The same after a reset.
+    EXPECT_EQ(Found(book, L"", L""), Indices{});
     Add(book, 3, {{L"Egy", L"http://egy.hu"}, {L"Kettő", L"http://ketto.hu"}});
     book.Reset();
-    EXPECT_EQ(IndicesOf(FindEntries(book, L"", L"")), std::vector<int>{});
+    EXPECT_EQ(Found(book, L"", L""), Indices{});
 }
 
-TEST(EntrySearchTest, AllIsFoundInPlaceAfterChangesAnywhere) {
-    for (int changed = 1; changed <= kCategories; ++changed) {
-        Book book;
-        for (int category = 1; category <= kCategories; ++category)
-            Add(book, category, {{L"Egy", L"http://egy.hu"}, {L"Kettő", L"http://ketto.hu"}});
-        Add(book, changed, {{L"Három", L"http://harom.hu"}});
-        book.DeleteEntry(changed, 2, 1);
-        const Hits hits = FindEntries(book, L"", L"hu");
-        ASSERT_EQ(hits.Items.size(), 24u);
-        for (int i = 1; i <= 24; ++i)
-            EXPECT_EQ(hits.Items[static_cast<std::size_t>(i - 1)],
-                      (Hit{i, book.CategoryOf(i), book.Entry(i)}));
-        EXPECT_EQ(IndicesOf(FindEntries(book, L"HÁROM", L"")), std::vector<int>{2 * changed});
-    }
+TEST(EntrySearchTest, EveryEntryIsFoundInItsCategory) {
+    Book book;
+    for (int category = 1; category <= kCategories; ++category)
+        Add(book, category, {{L"Egy", L"http://egy.hu"}, {L"Kettő", L"http://ketto.hu"}});
+    book.DeleteEntry(5, 2, 1);
+    const Hits hits = FindEntries(book, L"", L"hu");
+    ASSERT_EQ(hits.Items.size(), 23u);
+    for (int i = 1; i <= 23; ++i)
+        EXPECT_EQ(hits.Items[static_cast<std::size_t>(i - 1)], (Hit{i, book.CategoryOf(i), book.Entry(i)}));
 }
 
 TEST(EntrySearchTest, ABookThatCountsMoreThanItHasIsSearchedToItsEnd) {
@@ -127,10 +108,13 @@ TEST(EntrySearchTest, ABookThatCountsMoreThanItHasIsSearchedToItsEnd) {
     std::string file;
     for (int header = 1; header <= 11; ++header) file += "#K\r\n";
     file += "a\r\nhttp://a.hu\r\nb\r\nhttp://b.hu\r\n";
-    LoadBook(book, std::vector<char>(file.begin(), file.end()));
+    book = testing::Read(file, book).TheBook;
     ASSERT_GT(book.EntryCount(), book.UpperBound());
     const std::vector<Hit> expected = {{1, 11, book.Entry(1)}, {2, 11, book.Entry(2)}};
     EXPECT_EQ(FindEntries(book, L"", L"").Items, expected);
+    std::int16_t position = 1;
+    EXPECT_THROW(FindInCategory(book, L"a", 12, position), RangeFault);
+    EXPECT_EQ(position, 1);
 }
 
 TEST(EntrySearchTest, HitsStayReadableWhenTheirEntriesAreGone) {
@@ -144,64 +128,41 @@ TEST(EntrySearchTest, HitsStayReadableWhenTheirEntriesAreGone) {
     EXPECT_EQ(FromBookText(hits.Items[0].Entry.URL), L"http://musor.hu");
 }
 
-struct EndingCase {
-    const char* url;
-    const char* ending;
-    bool carries;
-};
+void ExpectEnding(bool carried, const char* ending, const std::vector<std::string>& urls) {
+    for (const std::string& url : urls)
+        EXPECT_EQ(CarriesEnding(url, CaselessNeedle(ending)), carried) << url << " and " << ending;
+}
 
-constexpr EndingCase kEndingCases[] = {
-    // Plain hosts.
-    {"http://index.hu", ".hu", true},
-    {"http://index.hu/", ".hu", true},
-    {"http://index.com", ".hu", false},
-    {"HTTP://INDEX.HU", ".hu", true},
-    {"http://www.index.hu", ".hu", true},
-    {"HTTP://WWW.INDEX.HU", ".hu", true},
-    // A host after "www." that begins like the ending.
-    {"http://www.hungary.com", ".hu", false},
-    {"http://www.hungary.hu", ".hu", true},
-    {"HTTP://WWW.HUNGARY.COM", ".hu", false},
-    {"http://www.hu", ".hu", false},
-    {"http://www.com.hu", ".com", false},
-    {"http://www.a.hu", ".hu", true},
-    // The search starts at the same place for any host that begins with "www".
-    {"http://www2.hu", ".hu", true},
-    {"http://www.", ".hu", false},
-    {"http://www", ".hu", false},
-    // "www." is skipped only after "http://", so the host may match.
-    {"https://www.hungary.com", ".hu", true},
-    {"ftp://www.hungary.com", ".hu", true},
-    {"www.hungary.com", ".hu", false},
-    {"http://hungary.com", ".hu", false},
-    {"http://x.hungary.com", ".hu", true},
-    // One-letter hosts, and endings around the fifth character, where the search starts.
-    {"http://x.hu/lap", ".hu", true},
-    {"a.hu", ".hu", false},
-    {"abc.hu", ".hu", false},
-    {"abcd.hu", ".hu", true},
-    {"abcde.hu", ".hu", true},
-    // An ending in the path or within a longer word.
-    {"http://pelda.com/lap.hu/index.html", ".hu", true},
-    {"http://www.pelda.com/lap.hu", ".hu", true},
-    {"http://pelda.human.org", ".hu", true},
-    {"mailto:valaki@pelda.hu", ".hu", true},
-    // Endings of several parts or with accented letters.
-    {"http://bolt.co.uk/", ".co.uk", true},
-    {"http://bolt.uk/", ".co.uk", false},
-    {"http://pelda.\xD5", ".\xF5", true},
-    {"", ".hu", false},
-};
+TEST(EntrySearchTest, AnEndingIsLookedForInHostAndPath) {
+    ExpectEnding(true, ".hu",
+                 {"http://index.hu", "http://index.hu/", "HTTP://INDEX.HU", "http://www.index.hu",
+                  "HTTP://WWW.INDEX.HU", "http://www.a.hu", "http://x.hungary.com", "http://x.hu/lap",
+                  "http://pelda.com/lap.hu/index.html", "http://www.pelda.com/lap.hu",
+                  "http://pelda.human.org", "mailto:valaki@pelda.hu"});
+    ExpectEnding(false, ".hu", {"http://index.com", "http://hungary.com", "http://www", ""});
+    ExpectEnding(true, ".co.uk", {"http://bolt.co.uk/"});
+    ExpectEnding(false, ".co.uk", {"http://bolt.uk/"});
+    ExpectEnding(true, ".\xF5", {"http://pelda.\xD5"});
+}
 
-TEST(EntrySearchTest, TheEndingRule) {
-    for (const EndingCase& tried : kEndingCases)
-        EXPECT_EQ(CarriesEnding(tried.url, CaselessNeedle(tried.ending)), tried.carries)
-            << tried.url << " and " << tried.ending;
+TEST(EntrySearchTest, AHostThatStartsLikeTheEndingIsPassedOverAfterHttpWww) {
+    ExpectEnding(false, ".hu",
+                 {"http://www.hungary.com", "HTTP://WWW.HUNGARY.COM", "http://www.hu", "http://www."});
+    ExpectEnding(false, ".com", {"http://www.com.hu"});
+    // The search starts at the same offset for any host that starts with "www", but only after "http://".
+    ExpectEnding(
+        true, ".hu",
+        {"http://www.hungary.hu", "http://www2.hu", "https://www.hungary.com", "ftp://www.hungary.com"});
+}
+
+TEST(EntrySearchTest, TheFirstFourCharactersAreNotSearched) {
+    ExpectEnding(false, ".hu", {"a.hu", "abc.hu", "www.hungary.com"});
+    ExpectEnding(true, ".hu", {"abcd.hu", "abcde.hu"});
 }
 
 // The positions after successive steps of a search.
-std::vector<int> Steps(const Book& book, std::wstring_view text, int category, int steps) {
-    std::vector<int> positions;
+Indices Steps(const Book& book, std::wstring_view text, int category, int steps) {
+    Indices positions;
     std::int16_t position = 0;
     for (int step = 0; step < steps; ++step) {
         FindInCategory(book, text, category, position);
@@ -215,17 +176,17 @@ TEST(EntrySearchTest, StepsWalkThroughTheCategoryAndStartAgain) {
     Add(book, 1, {{L"ab", L""}});
     Add(book, 2, {{L"első", L"http://ab.hu"}, {L"kABát", L""}, {L"harmadik", L""}, {L"AB", L""}});
     Add(book, 3, {{L"ab", L""}});
-    EXPECT_EQ(Steps(book, L"ab", 2, 4), (std::vector<int>{2, 4, 0, 2}));
-    EXPECT_EQ(Steps(book, L"nincs", 2, 2), (std::vector<int>{0, 0}));
-    EXPECT_EQ(Steps(book, L"ab", 5, 1), std::vector<int>{0});
+    EXPECT_EQ(Steps(book, L"ab", 2, 4), (Indices{2, 4, 0, 2}));
+    EXPECT_EQ(Steps(book, L"nincs", 2, 2), (Indices{0, 0}));
+    EXPECT_EQ(Steps(book, L"ab", 5, 1), Indices{0});
 }
 
 TEST(EntrySearchTest, StepsKnowHungarianLetters) {
     Book book;
     Add(book, 7, {{L"ŐSZI VÁSÁR", L""}, {L"tűz", L""}, {L"TŰZ", L""}});
-    EXPECT_EQ(Steps(book, L"őszi vásár", 7, 2), (std::vector<int>{1, 0}));
-    EXPECT_EQ(Steps(book, L"Tűz", 7, 3), (std::vector<int>{2, 3, 0}));
-    EXPECT_EQ(Steps(book, L"жт", 7, 1), std::vector<int>{0});
+    EXPECT_EQ(Steps(book, L"őszi vásár", 7, 2), (Indices{1, 0}));
+    EXPECT_EQ(Steps(book, L"Tűz", 7, 3), (Indices{2, 3, 0}));
+    EXPECT_EQ(Steps(book, L"жт", 7, 1), Indices{0});
 }
 
 TEST(EntrySearchTest, AStepGoesOnFromWhereAnotherCategoryWasLeft) {
@@ -248,8 +209,8 @@ TEST(EntrySearchTest, TheLastEntryOfTheLargestBookIsFound) {
     std::vector<NewEntry> entries(kMostEntries - 1, {"x", "http://x.hu"});
     entries.push_back({ToBookText(L"utolsó ŰR"), "http://utolso.hu"});
     book.AddEntry(1, entries);
-    EXPECT_EQ(IndicesOf(FindEntries(book, L"űr", L"hu")), std::vector<int>{kMostEntries});
-    EXPECT_EQ(Steps(book, L"űr", 1, 2), (std::vector<int>{kMostEntries, 0}));
+    EXPECT_EQ(Found(book, L"űr", L"hu"), Indices{kMostEntries});
+    EXPECT_EQ(Steps(book, L"űr", 1, 2), (Indices{kMostEntries, 0}));
 }
 
 }  // namespace

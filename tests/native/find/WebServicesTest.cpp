@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,15 +26,13 @@ TEST(WebServicesTest, TheTextFollowsThePrefixAsTyped) {
 }
 
 TEST(WebServicesTest, EveryServiceHasAWebAddressOfItsOwn) {
-    for (int service = 1; service < static_cast<int>(kWebServices.size()); ++service) {
+    std::set<std::wstring> prefixes;
+    for (int service = 1; service <= 5; ++service) {
         const std::wstring prefix = ServiceAddress(service, L"");
         EXPECT_TRUE(prefix.starts_with(service == 3 ? L"http://" : L"https://")) << service;
         EXPECT_TRUE(prefix.ends_with(L'=')) << service;
-        for (int other = 1; other < service; ++other) EXPECT_NE(prefix, ServiceAddress(other, L""));
+        EXPECT_TRUE(prefixes.insert(prefix).second) << service;
     }
-}
-
-TEST(WebServicesTest, TheEmptyChoiceAndPlacesBeyondHaveNoAddress) {
     for (const int service : {-1, 0, 6}) EXPECT_THROW(ServiceAddress(service, L"x"), RangeFault);
 }
 

@@ -43,11 +43,11 @@ TEST(PageEncodingTest, AsciiIsTheSameInEveryEncoding) {
 }
 
 TEST(PageEncodingTest, Utf8IsKnownByItsBomItsDeclarationOrItsBytes) {
-    EXPECT_EQ(TextOf(std::string(kUtf8Mark).append(kUtf8)), kBook);
+    EXPECT_EQ(TextOf(std::string(kUtf8Bom).append(kUtf8)), kBook);
     EXPECT_EQ(TextOf(kUtf8), kBook);
     const std::string meta = "<meta charset=utf-8>";
     EXPECT_EQ(TextOf(meta + std::string(kUtf8)), meta + std::string(kBook));
-    EXPECT_EQ(TextOf(kUtf8Mark), "");
+    EXPECT_EQ(TextOf(kUtf8Bom), "");
 }
 
 TEST(PageEncodingTest, AnythingElseIsWindows1250) {
@@ -164,7 +164,7 @@ TEST(PageEncodingTest, ADeclarationFarFromTheTopDoesNotCount) {
 
 TEST(PageEncodingTest, ABomWinsThenDeclaredUtf8ThenValidBytesThenLatin2) {
     const std::string latin2 = "<meta charset=iso-8859-2>";
-    EXPECT_EQ(EncodingOf(std::string(kUtf8Mark) + latin2 + "\xE1"), TextEncoding::Utf8);
+    EXPECT_EQ(EncodingOf(std::string(kUtf8Bom) + latin2 + "\xE1"), TextEncoding::Utf8);
     EXPECT_EQ(EncodingOf("<meta charset=utf-8>\xE1"), TextEncoding::Utf8);
     EXPECT_EQ(EncodingOf(latin2 + std::string(kUtf8)), TextEncoding::Utf8);
     EXPECT_EQ(EncodingOf(latin2), TextEncoding::Latin2);

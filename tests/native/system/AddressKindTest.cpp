@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <iterator>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -53,32 +55,12 @@ TEST(AddressKindTest, FileAddressesArePathsToo) {
 }
 
 TEST(AddressKindTest, ProgramsAreKnownByTheirExtensions) {
-    ExpectAll(AddressKind::Unsure, {L"C:\\x.exe",
-                                    L"C:\\X.EXE",
-                                    L"x.exe",
-                                    L"C:x.exe",
-                                    L"mappa/x.bat",
-                                    L"..\\x.cmd",
-                                    L"C:\\x.hta",
-                                    L"C:\\x.com",
-                                    L"C:\\x.scr",
-                                    L"C:\\x.pif",
-                                    L"C:\\x.msi",
-                                    L"C:\\x.lnk",
-                                    L"C:\\x.vbs",
-                                    L"C:\\x.js",
-                                    L"C:\\x.ps1",
-                                    L"C:\\x.reg",
-                                    L"C:\\x.url",
-                                    L"C:\\x.iso",
-                                    L"C:\\x.settingcontent-ms",
-                                    L"C:\\számla.pdf.exe",
-                                    L"file:///C:/x.exe",
-                                    L"file:///C|/x.exe",
-                                    L"file:C:/x.exe",
-                                    L"FiLe:///c:/X.eXe",
-                                    L"\\x.exe",
-                                    L"/x.exe"});
+    std::wistringstream list(
+        LR"(C:\x.exe C:\X.EXE x.exe C:x.exe mappa/x.bat ..\x.cmd C:\x.hta C:\x.com C:\x.scr C:\x.pif C:\x.msi)"
+        LR"( C:\x.lnk C:\x.vbs C:\x.js C:\x.ps1 C:\x.reg C:\x.url C:\x.iso C:\x.settingcontent-ms)"
+        LR"( file:///C:/x.exe file:///C|/x.exe file:C:/x.exe FiLe:///c:/X.eXe \x.exe /x.exe)");
+    ExpectAll(AddressKind::Unsure, {std::istream_iterator<std::wstring, wchar_t>(list), {}});
+    ExpectAll(AddressKind::Unsure, {L"C:\\számla.pdf.exe"});
 }
 
 TEST(AddressKindTest, WhatTheFileSystemDoesNotSeeAfterANameHidesNoProgram) {

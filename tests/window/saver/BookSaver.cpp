@@ -7,18 +7,20 @@
 
 #include <exception>
 
-#include "book/Book.h"
 #include "book/BookFile.h"
+#include "files/Files.h"
 
 int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
     int count = 0;
     wchar_t** const words = CommandLineToArgvW(GetCommandLineW(), &count);
     if (words == nullptr || count != 4) return 1;
     try {
-        lindrel::Book books[2];
-        if (!LoadBook(books[0], words[2]) || !LoadBook(books[1], words[3])) return 1;
+        const auto read = [](const wchar_t* path) {
+            return ReadBook(lindrel::Book(), lindrel::ReadFileBytes(path)).TheBook;
+        };
+        const lindrel::Book books[] = {read(words[2]), read(words[3])};
         for (;;)
-            for (const lindrel::Book& book : books) SaveBook(book, words[1]);
+            for (const lindrel::Book& book : books) lindrel::ReplaceFileBytes(words[1], SaveBook(book));
     } catch (const std::exception&) {
         return 1;
     }
