@@ -7,9 +7,8 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "tests/window/support/Polling.h"
+#include "tests/window/support/RealKeys.h"
 #include "tests/window/support/Text.h"
-#include "window/Control.h"
 
 namespace lindrel::testing {
 
@@ -24,16 +23,8 @@ std::vector<HWND> ChildrenOf(HWND parent) {
     return children;
 }
 
-bool IsButton(HWND window) {
-    return ClassOf(window) == L"Button" && IsWindowVisible(window);
-}
-
 bool IsPicture(HWND window) {
     return ClassOf(window) == L"Static" && (GetWindowLongPtrW(window, GWL_STYLE) & SS_TYPEMASK) == SS_ICON;
-}
-
-void WaitUntilGone(HWND window) {
-    WaitUntil("a window to close", [window] { return !IsWindow(window); });
 }
 
 HWND FileNameField(HWND dialog) {
@@ -119,10 +110,6 @@ FileDialogOnScreen WaitForFileDialog(DWORD thread) {
     return FileDialogOnScreen(WaitForWindow(thread, "a file dialog", &IsFileDialog));
 }
 
-std::wstring BoxOnScreen::Title() const {
-    return TextOf(box_);
-}
-
 std::wstring BoxOnScreen::Text() const {
     for (const HWND child : ChildrenOf(box_))
         if (ClassOf(child) == L"Static" && !IsPicture(child)) return TextOf(child);
@@ -132,7 +119,7 @@ std::wstring BoxOnScreen::Text() const {
 std::vector<int> BoxOnScreen::Buttons() const {
     std::vector<int> ids;
     for (const HWND child : ChildrenOf(box_))
-        if (IsButton(child)) ids.push_back(GetDlgCtrlID(child));
+        if (ClassOf(child) == L"Button" && IsWindowVisible(child)) ids.push_back(GetDlgCtrlID(child));
     return ids;
 }
 
@@ -146,7 +133,7 @@ BoxIcon BoxOnScreen::Icon() const {
     if (shown == LoadIconW(nullptr, IDI_EXCLAMATION)) return BoxIcon::Exclamation;
     if (shown == LoadIconW(nullptr, IDI_HAND)) return BoxIcon::Error;
     if (shown == LoadIconW(nullptr, IDI_ASTERISK)) return BoxIcon::Information;
-    throw std::runtime_error("a message box shows an icon that is none of the system's");
+    throw std::runtime_error("a message box shows an icon that is not one of the system's");
 }
 
 void BoxOnScreen::Press(int button) const {
@@ -163,26 +150,9 @@ HWND DialogOnScreen::Control(int id) const {
     return control;
 }
 
-std::wstring DialogOnScreen::Caption() const {
-    return TextOf(dialog_);
-}
-
-std::wstring DialogOnScreen::Text(int id) const {
-    return TextOf(Control(id));
-}
-
 void DialogOnScreen::SetText(int id, const std::wstring& text) const {
     SendMessageW(Control(id), EM_SETSEL, 0, -1);
     SendMessageW(Control(id), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(text.c_str()));
-}
-
-void DialogOnScreen::Click(int id) const {
-    PostMessageW(Control(id), BM_CLICK, 0, 0);
-}
-
-void DialogOnScreen::ClickAndWaitForClose(int id) const {
-    Click(id);
-    WaitForClose();
 }
 
 void DialogOnScreen::Pick(int combo_id, int index) const {
@@ -191,24 +161,8 @@ void DialogOnScreen::Pick(int combo_id, int index) const {
     SendMessageW(dialog_, WM_COMMAND, MAKEWPARAM(combo_id, CBN_SELCHANGE), reinterpret_cast<LPARAM>(combo));
 }
 
-int DialogOnScreen::Picked(int combo_id) const {
-    return ComboBox(Control(combo_id)).Selected();
-}
-
 std::vector<std::wstring> DialogOnScreen::ComboItems(int combo_id) const {
     return ItemsOf(Control(combo_id));
-}
-
-bool DialogOnScreen::IsChecked(int id) const {
-    return SendMessageW(Control(id), BM_GETCHECK, 0, 0) == BST_CHECKED;
-}
-
-bool DialogOnScreen::IsEnabled(int id) const {
-    return IsWindowEnabled(Control(id)) != FALSE;
-}
-
-bool DialogOnScreen::IsShown(int id) const {
-    return IsWindowVisible(Control(id)) != FALSE;
 }
 
 std::pair<int, int> DialogOnScreen::Selection(int id) const {
@@ -219,14 +173,10 @@ std::pair<int, int> DialogOnScreen::Selection(int id) const {
 }
 
 int DialogOnScreen::Focus() const {
+    const DWORD thread = GetWindowThreadProcessId(dialog_, nullptr);
     HWND focus = nullptr;
     // While a window comes to the front the window manager can leave nobody with the focus for a moment.
-    Eventually([&] {
-        GUITHREADINFO info{};
-        info.cbSize = sizeof info;
-        if (GetGUIThreadInfo(GetWindowThreadProcessId(dialog_, nullptr), &info)) focus = info.hwndFocus;
-        return focus != nullptr;
-    });
+    Eventually([&] { return (focus = FocusOfThread(thread)) != nullptr; });
     return focus != nullptr ? GetDlgCtrlID(focus) : 0;
 }
 
@@ -236,19 +186,6 @@ LOGFONTW DialogOnScreen::Font(int id) const {
                          sizeof description, &description),
               0);
     return description;
-}
-
-void DialogOnScreen::Cancel() const {
-    PostMessageW(dialog_, WM_CLOSE, 0, 0);
-    WaitForClose();
-}
-
-void DialogOnScreen::WaitForClose() const {
-    WaitUntilGone(dialog_);
-}
-
-std::wstring FileDialogOnScreen::Title() const {
-    return TextOf(dialog_);
 }
 
 std::vector<std::wstring> FileDialogOnScreen::Filters() const {
@@ -268,16 +205,6 @@ std::wstring FileDialogOnScreen::Folder() const {
 void FileDialogOnScreen::TypeAndPressOk(const std::wstring& path) const {
     SendMessageW(FileNameField(dialog_), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(path.c_str()));
     PostMessageW(GetDlgItem(dialog_, IDOK), BM_CLICK, 0, 0);
-}
-
-void FileDialogOnScreen::Accept(const std::wstring& path) const {
-    TypeAndPressOk(path);
-    WaitUntilGone(dialog_);
-}
-
-void FileDialogOnScreen::Cancel() const {
-    PostMessageW(GetDlgItem(dialog_, IDCANCEL), BM_CLICK, 0, 0);
-    WaitUntilGone(dialog_);
 }
 
 }  // namespace lindrel::testing

@@ -7,9 +7,15 @@
 #include <utility>
 #include <vector>
 
-#include "window/Windows.h"
+#include "tests/window/support/Polling.h"
+#include "window/Control.h"
 
 namespace lindrel::testing {
+
+std::wstring ClassOf(HWND window);
+inline void WaitUntilGone(HWND window) {
+    WaitUntil("a window to close", [window] { return !IsWindow(window); });
+}
 
 enum class BoxIcon { None, Question, Exclamation, Error, Information };
 
@@ -18,7 +24,7 @@ class BoxOnScreen {
   public:
     explicit BoxOnScreen(HWND box) : box_(box) {}
     HWND Handle() const { return box_; }
-    std::wstring Title() const;
+    std::wstring Title() const { return TextOf(box_); }
     std::wstring Text() const;
     std::vector<int> Buttons() const;  // IDOK, IDYES, ... in tab order
     BoxIcon Icon() const;
@@ -36,21 +42,24 @@ class DialogOnScreen {
     HWND Handle() const { return dialog_; }
     bool IsOpen() const { return IsWindow(dialog_) != FALSE; }
     HWND Control(int id) const;  // fails when it is not there
-    std::wstring Caption() const;
-    std::wstring Text(int id) const;
+    std::wstring Caption() const { return TextOf(dialog_); }
+    std::wstring Text(int id) const { return TextOf(Control(id)); }
     // Replaces the text of a text box as typing would: the parent hears EN_CHANGE.
     void SetText(int id, const std::wstring& text) const;
     // Clicks a button. Returns at once: the handler may open a box.
-    void Click(int id) const;
+    void Click(int id) const { PostMessageW(Control(id), BM_CLICK, 0, 0); }
     // Clicks and waits until the dialog is gone.
-    void ClickAndWaitForClose(int id) const;
+    void ClickAndWaitForClose(int id) const {
+        Click(id);
+        WaitForClose();
+    }
     // Picks an entry of a combo box (0-based) as the user does: the parent hears CBN_SELCHANGE.
     void Pick(int combo_id, int index) const;
-    int Picked(int combo_id) const;
+    int Picked(int combo_id) const { return ComboBox(Control(combo_id)).Selected(); }
     std::vector<std::wstring> ComboItems(int combo_id) const;
-    bool IsChecked(int id) const;
-    bool IsEnabled(int id) const;
-    bool IsShown(int id) const;
+    bool IsChecked(int id) const { return SendMessageW(Control(id), BM_GETCHECK, 0, 0) == BST_CHECKED; }
+    bool IsEnabled(int id) const { return IsWindowEnabled(Control(id)) != FALSE; }
+    bool IsShown(int id) const { return IsWindowVisible(Control(id)) != FALSE; }
     // First and last character (0-based, the last excluded) of what is selected in a text box.
     std::pair<int, int> Selection(int id) const;
     // Id of the control that has the focus in the dialog's thread; waits until one has, 0 when none gets it.
@@ -58,8 +67,11 @@ class DialogOnScreen {
     // The description of a control's font.
     LOGFONTW Font(int id) const;
     // Esc: what the title bar's button does too.
-    void Cancel() const;
-    void WaitForClose() const;
+    void Cancel() const {
+        PostMessageW(dialog_, WM_CLOSE, 0, 0);
+        WaitForClose();
+    }
+    void WaitForClose() const { WaitUntilGone(dialog_); }
 
   private:
     HWND dialog_;
@@ -70,15 +82,21 @@ class FileDialogOnScreen {
   public:
     explicit FileDialogOnScreen(HWND dialog) : dialog_(dialog) {}
     HWND Handle() const { return dialog_; }
-    std::wstring Title() const;
+    std::wstring Title() const { return TextOf(dialog_); }
     std::vector<std::wstring> Filters() const;  // the descriptions
     std::wstring FileName() const;
     std::wstring Folder() const;
-    // Types a path in and accepts it, or leaves the dialog; waits until it is gone.
-    void Accept(const std::wstring& path) const;
-    // Accepts without waiting: the dialog itself may ask something.
+    // Types a path and accepts it. Returns at once: the dialog itself may ask something.
     void TypeAndPressOk(const std::wstring& path) const;
-    void Cancel() const;
+    // The same, or Cancel, and waits until the dialog is gone.
+    void Accept(const std::wstring& path) const {
+        TypeAndPressOk(path);
+        WaitUntilGone(dialog_);
+    }
+    void Cancel() const {
+        PostMessageW(GetDlgItem(dialog_, IDCANCEL), BM_CLICK, 0, 0);
+        WaitUntilGone(dialog_);
+    }
 
   private:
     HWND dialog_;
@@ -92,7 +110,6 @@ BoxOnScreen WaitForBox(DWORD thread);
 DialogOnScreen WaitForDialog(DWORD thread, const std::wstring& caption);
 FileDialogOnScreen WaitForFileDialog(DWORD thread);
 
-std::wstring ClassOf(HWND window);
 // The menu that has popped up in a thread; null while there is none.
 HWND PoppedUpMenu(DWORD thread);
 bool IsMessageBox(HWND window);
