@@ -1,6 +1,5 @@
 // Tray mode of the shipped program, with real clicks on the icon in the notification area.
 
-#include <commctrl.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>

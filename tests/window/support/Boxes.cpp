@@ -96,6 +96,11 @@ bool IsFileDialog(HWND window) {
            FileNameField(window) != nullptr;
 }
 
+HWND WaitForMainWindow(DWORD thread) {
+    return WaitForWindow(thread, "the main window",
+                         [](HWND window) { return ClassOf(window) == L"frmStart"; });
+}
+
 BoxOnScreen WaitForBox(DWORD thread) {
     return BoxOnScreen(WaitForWindow(thread, "a message box", &IsMessageBox));
 }

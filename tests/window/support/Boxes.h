@@ -105,6 +105,9 @@ class FileDialogOnScreen {
 // Top-level windows of a thread, topmost first, visible ones only.
 std::vector<HWND> WindowsOf(DWORD thread);
 
+// The program's main window, waited for.
+HWND WaitForMainWindow(DWORD thread);
+
 // What is in front in a thread and takes input; wait for it with a deadline.
 BoxOnScreen WaitForBox(DWORD thread);
 DialogOnScreen WaitForDialog(DWORD thread, const std::wstring& caption);

@@ -61,11 +61,7 @@ Program::Program() {
     });
     WaitUntil("the program's thread", [&] { return ear != nullptr; });
     ear_ = ear;
-    WaitUntil("the main window", [this] {
-        for (const HWND window : WindowsOf(thread_id_))
-            if (ClassOf(window) == L"frmStart") main_ = window;
-        return main_ != nullptr;
-    });
+    main_ = WaitForMainWindow(thread_id_);
     Settle();
 }
 
