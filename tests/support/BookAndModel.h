@@ -1,11 +1,12 @@
 // A book and its plain model, to which everything is done alike. Every difference between the two throws
-// std::logic_error.
+// std::logic_error with both values.
 #pragma once
 
 #include <algorithm>
 #include <functional>
 #include <optional>
 #include <set>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -20,13 +21,13 @@
 
 namespace lindrel::testing {
 
-// What decides about changes at random.
+// What makes changes random.
 struct Chance {
     std::function<int(int sides)> Roll;  // 0..sides - 1
     std::function<std::string()> Text;
 };
 
-// How a book's file is read.
+// What becomes of a book that is saved and opened.
 struct Reopened {
     Rereading Outcome;
     bool AmissInSilence;  // as another book, and the user is not asked
@@ -37,32 +38,33 @@ class BookAndModel {
     Book Real;
     PlainBook Plain;
 
-    static void Require(bool good, const char* what) {
-        if (!good) throw std::logic_error(std::string("the book and its model differ in ") + what);
+    template <typename Seen, typename Expected>
+    static void RequireEqual(const Seen& seen, const Expected& expected, const char* what) {
+        if (seen == expected) return;
+        std::ostringstream message;
+        message << what << ": " << seen << " instead of " << expected;
+        throw std::logic_error(message.str());
     }
 
     void RequireSame() const {
         for (int k = 1; k <= 12; ++k) {
             const PlainBook::Category& category = Plain.Of(k);
-            Require(Real.CategoryNames(k) == category.Name, "a name");
-            Require(Real.CategoryCounts(k) == category.Count, "a count");
-            Require(Real.CategoryStarts(k) == Plain.StartOf(k), "a start");
-            const auto& checked = Real.Marks.SavedCheckLists(k);
-            Require(
-                std::equal(checked.begin(), checked.end(), category.Checked.begin(), category.Checked.end()),
-                "check marks");
+            RequireEqual(Real.CategoryNames(k), category.Name, "a name");
+            RequireEqual(Real.CategoryCounts(k), category.Count, "a count");
+            RequireEqual(Real.CategoryStarts(k), Plain.StartOf(k), "a start");
+            RequireEqual(Listed(Real.Marks.SavedCheckLists(k)), Listed(category.Checked), "check marks");
         }
-        Require(Real.Marks.CheckedCount() == Plain.CheckedCount, "the number of check marks");
-        Require(Real.EntryCount() == Plain.Total(), "the number of entries");
-        Require(Real.IsEmpty() == (Plain.StartOf(12) == 1 && Plain.Of(12).Count == 0), "being empty");
-        Require(Real.UpperBound() == Plain.Size(), "the number of elements");
+        RequireEqual(Real.Marks.CheckedCount(), Plain.CheckedCount, "number of check marks");
+        RequireEqual(Real.EntryCount(), Plain.Total(), "number of entries");
+        RequireEqual(Real.IsEmpty(), Plain.StartOf(12) == 1 && Plain.Of(12).Count == 0, "being empty");
+        RequireEqual(Real.UpperBound(), Plain.Size(), "number of elements");
         for (int index = 1; index <= Plain.Size(); ++index) {
-            Require(Real.SiteNames(index) == Plain.At(index).first, "a site name");
-            Require(Real.SiteURLs(index) == Plain.At(index).second, "an address");
+            RequireEqual(Real.SiteNames(index), Plain.At(index).first, "a site name");
+            RequireEqual(Real.SiteURLs(index), Plain.At(index).second, "an address");
         }
     }
 
-    // Both must throw the same fault or none; whether it was none.
+    // Both actions must throw the same fault or none. Returns whether they threw none.
     template <typename RealAction, typename PlainAction>
     static bool DoBoth(RealAction real, PlainAction plain) {
         PlainFault expected{-1};
@@ -79,7 +81,8 @@ class BookAndModel {
         } catch (const MalformedBook& malformed) {
             seen = {0, malformed.Line()};
         }
-        Require(seen == expected, "faults");
+        RequireEqual(seen.Number, expected.Number, "number of a fault");
+        RequireEqual(seen.Line, expected.Line, "line of a fault");
         return seen.Number == -1;
     }
 
@@ -87,31 +90,28 @@ class BookAndModel {
     static constexpr int kChanges = 9;
     void Change(int kind, const Chance& chance) {
         const int k = chance.Roll(12) + 1;
-        const auto number = [&](int most) { return chance.Roll(std::max(most, 0) + 2); };  // 0..most + 1
         switch (kind) {
             case 0:
                 return Rename(k, chance.Text());
             case 1:
-                return SetText(number(Plain.Size()), chance.Text(), &Book::SetSiteName,
-                               &PlainBook::Row::first);
+                return SetText(chance, &Book::SetSiteName, &PlainBook::Row::first);
             case 2:
-                return SetText(number(Plain.Size()), chance.Text(), &Book::SetSiteURL,
-                               &PlainBook::Row::second);
+                return SetText(chance, &Book::SetSiteURL, &PlainBook::Row::second);
             case 3:
-                return Move(k, number(Plain.Of(k).Count) - 1, chance.Roll(12) + 1);
+                return Move(k, chance);
             case 4:
             case 5:
                 return Add(k, AnyRows(chance));
             case 6:
-                return Check(k, Some(k, chance));
+                return Check(k, AnyPositions(k, chance));
             case 7:
-                return TakeOut(k, Some(k, chance), chance.Roll(2) == 0 ? 0 : chance.Roll(12) + 1);
+                return TakeOut(k, AnyPositions(k, chance), chance);
             default:
-                return Delete(k, number(Plain.Of(k).Count), chance.Roll(3) + 1);
+                return Delete(k, chance);
         }
     }
 
-    // Opens a file; whether it is a book. `report` becomes what is said of it.
+    // Opens a file. Returns whether it is a book; `report` becomes what the user is told of it.
     bool Load(const std::string& file, PlainReport& report) {
         PlainReport seen;
         const bool loaded = DoBoth(
@@ -121,7 +121,12 @@ class BookAndModel {
                 Real = std::move(read.TheBook);
             },
             [&] { report = PlainReader(file).Read(Plain); });
-        Require(!loaded || seen == report, "what is said of a file");
+        if (loaded) {
+            RequireEqual(seen.AllCategories, report.AllCategories, "all categories");
+            RequireEqual(seen.InNoCategory, report.InNoCategory, "entries in no category");
+            RequireEqual(seen.Doubtful, report.Doubtful, "doubtful lines");
+            RequireEqual(seen.FirstDoubtful, report.FirstDoubtful, "first doubtful line");
+        }
         RequireSame();
         return loaded;
     }
@@ -132,18 +137,19 @@ class BookAndModel {
         std::string file;
         std::string expected;
         if (!DoBoth([&] { file = SaveBook(Real); }, [&] { expected = Plain.File(); })) return std::nullopt;
-        Require(file == expected, "the file");
+        RequireEqual(file, expected, "the file");
         BookAndModel again = *this;
         PlainReport report;
         const bool loaded = again.Load(file, report);
-        Require(!loaded || SaveBook(again.Real) == file, "the file that is saved again");
+        if (loaded) RequireEqual(SaveBook(again.Real), file, "the file that is saved again");
         const bool asked = !loaded || report.Doubtful > 0;
         const bool same = loaded && again.Plain.HasContentOf(Plain);
         const Reopened reopened{!same   ? Rereading::Lost
                                 : asked ? Rereading::SameIfConfirmed
                                         : Rereading::Same,
                                 !same && !asked};
-        Require(HowItWillBeRead(Real) == reopened.Outcome, "what is said of saving");
+        RequireEqual(static_cast<int>(HowItWillBeRead(Real)), static_cast<int>(reopened.Outcome),
+                     "what is said after saving");
         return reopened;
     }
 
@@ -158,17 +164,10 @@ class BookAndModel {
     }
 
   private:
-    // Positions, each with a chance of one half.
-    std::set<int> Some(int k, const Chance& chance) const {
-        std::set<int> positions;
-        for (int position = 1; position <= Plain.Of(k).Count; ++position)
-            if (chance.Roll(2) == 1) positions.insert(position);
-        return positions;
-    }
-
-    void SetText(int index, const std::string& text, void (Book::*real)(int, std::string_view),
-                 std::string PlainBook::Row::*plain) {
-        DoBoth([&] { (Real.*real)(index, text); }, [&] { Plain.At(index).*plain = text; });
+    static std::string Listed(const auto& positions) {
+        std::string list;
+        for (const auto position : positions) list += std::to_string(position) + " ";
+        return list;
     }
     static std::vector<PlainBook::Row> AnyRows(const Chance& chance) {
         std::vector<PlainBook::Row> rows;
@@ -178,12 +177,31 @@ class BookAndModel {
         }
         return rows;
     }
-    void Delete(int k, int position, int count) {
+    // Each position with a chance of one half.
+    std::set<int> AnyPositions(int k, const Chance& chance) const {
+        std::set<int> positions;
+        for (int position = 1; position <= Plain.Of(k).Count; ++position)
+            if (chance.Roll(2) == 1) positions.insert(position);
+        return positions;
+    }
+    // 0..most + 1: the first and the last are refused.
+    static int AnyNumber(int most, const Chance& chance) { return chance.Roll(std::max(most, 0) + 2); }
+
+    void SetText(const Chance& chance, void (Book::*real)(int, std::string_view),
+                 std::string PlainBook::Row::*plain) {
+        const int index = AnyNumber(Plain.Size(), chance);
+        const std::string text = chance.Text();
+        DoBoth([&] { (Real.*real)(index, text); }, [&] { Plain.At(index).*plain = text; });
+    }
+    void Delete(int k, const Chance& chance) {
+        const int position = AnyNumber(Plain.Of(k).Count, chance);
+        const int count = chance.Roll(3) + 1;
         DoBoth([&] { Real.DeleteEntry(k, position, count); }, [&] { Plain.Delete(k, position, count); });
     }
-    void Move(int source, int offset, int destination) {
-        DoBoth([&] { Real.MoveEntry(source, offset, destination); },
-               [&] { Plain.Move(source, offset, destination); });
+    void Move(int k, const Chance& chance) {
+        const int offset = AnyNumber(Plain.Of(k).Count, chance) - 1;
+        const int destination = chance.Roll(12) + 1;
+        DoBoth([&] { Real.MoveEntry(k, offset, destination); }, [&] { Plain.Move(k, offset, destination); });
     }
     void Check(int k, const std::set<int>& positions) {
         Real.Marks.Save(k, {positions.begin(), positions.end()});
@@ -192,7 +210,8 @@ class BookAndModel {
         Plain.CheckedCount = static_cast<int>(positions.size());
     }
     // Deletes rows, or moves them to another category.
-    void TakeOut(int k, const std::set<int>& positions, int destination) {
+    void TakeOut(int k, const std::set<int>& positions, const Chance& chance) {
+        const int destination = chance.Roll(2) == 0 ? 0 : chance.Roll(12) + 1;
         if (positions.empty() || k == destination) return;  // which the program never asks for
         const auto runs = CheckedRuns(Plain.Of(k).Count, [&](int at) { return positions.contains(at); });
         if (destination == 0)

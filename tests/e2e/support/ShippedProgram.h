@@ -1,6 +1,6 @@
 // The shipped lindrel.exe as a user has it: a process of its own, driven with keys and mouse through the
 // system's input and looked at from outside. Of the program only the ids of its controls are linked in.
-// Everything throws std::runtime_error when it cannot be done; rows, tabs and panels are 1-based.
+// All functions throw std::runtime_error if they cannot do it; rows, tabs and panels are 1-based.
 #pragma once
 
 #include <gtest/gtest.h>

@@ -40,16 +40,16 @@ struct MainState {
 };
 void PrintTo(const MainState& state, std::ostream* out);
 
-// The state right after the start; tests change in it what they expect to be otherwise.
+// The state right after the start; tests set what they expect to differ.
 MainState EmptyState();
 
 using Row = std::pair<std::wstring, std::wstring>;  // name and address
 
 class Program {
   public:
-    // Starts the program and waits for its main window. Nothing is on the clipboard, whatever ran before.
+    // Empties the clipboard, starts the program and waits for its main window.
     Program();
-    // Ends it whatever is open, without saving.
+    // Ends the program without saving. A box that is still open fails the test.
     ~Program();
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
@@ -59,8 +59,7 @@ class Program {
     HWND Control(int id) const { return GetDlgItem(main_, id); }
     DWORD Thread() const { return thread_id_; }
 
-    // Runs a piece of code on the program's thread, also while a box is open, and waits for it. What it
-    // throws is thrown here.
+    // Runs code on the program's thread, also while a box is open, and waits for it. Throws what it throws.
     void OnUi(const std::function<void(frmStart&)>& code) const;
     template <typename Result>
     Result Ask(const std::function<Result(frmStart&)>& question) const {
@@ -113,10 +112,7 @@ class Program {
     DialogOnScreen Dialog(const std::wstring& caption) const { return WaitForDialog(thread_id_, caption); }
     FileDialogOnScreen FileDialog() const { return WaitForFileDialog(thread_id_); }
     // Whether nothing but the main window is open.
-    bool NothingIsOpen() const {
-        return std::ranges::none_of(WindowsOf(thread_id_),
-                                    [](HWND window) { return ClassOf(window) == L"#32770"; });
-    }
+    bool NothingIsOpen() const { return std::ranges::none_of(WindowsOf(thread_id_), &IsDialog); }
 
     // Asks the window to close, as its title bar's button does.
     void Close() const { PostMessageW(main_, WM_CLOSE, 0, 0); }
