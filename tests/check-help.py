@@ -2,7 +2,7 @@
 """Reads a compiled help file back and follows everything in it:
     tests/check-help.py lnd.chm <folder of the sources>
 Every page must be reachable from the contents; every link, picture, style sheet, entry of the contents and entry of the
-index must lead somewhere; and what the pages call menu items, shortcuts and messages must be those of the program."""
+index must lead somewhere; and the menu items, shortcuts and messages that the pages name must be those of the program."""
 
 import html.parser
 import pathlib
@@ -23,7 +23,7 @@ def complain(where, what):
 
 
 class Page(html.parser.HTMLParser):
-    """What a page holds and refers to."""
+    """The links, files and anchors of a page."""
 
     def __init__(self, text):
         super().__init__()
@@ -98,7 +98,7 @@ class Sitemap(html.parser.HTMLParser):
 
 
 def read_archive(chm, folder):
-    """Its files by their names."""
+    """The files in it, by name."""
     subprocess.run(["chmls", "extractall", chm, folder], check=True, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
     root = pathlib.Path(folder)
     return {str(path.relative_to(root)): path.read_bytes() for path in root.rglob("*") if path.is_file()}

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Follows everything on the project's pages that leads to another place in it:
     tests/check-pages.py
-Every link and picture of a page (*.md) must lead to a file of the project and, behind a "#", to a heading there; a file
+Every link and picture of a page (*.md) must lead to a file of the project and, after a "#", to a heading there; a file
 that a page names in `code` must be there; a preset that a command names must be one; and every page must be reachable
 from README.md."""
 
@@ -40,7 +40,7 @@ PRESETS = {preset["name"] for kind in ("configurePresets", "testPresets")
 
 
 def anchors(text):
-    """As the usual viewers make them of headings."""
+    """The anchors that the usual viewers make of headings."""
     headings = HEADING.findall(BLOCK.sub("", text))
     return {re.sub(r"[^\w\- ]", "", heading.lower()).replace(" ", "-") for heading in headings}
 

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# That a shipped program runs on every Windows from 10 on, and safely: it asks for the system's own libraries only, its
-# header says what the system may do with it, it is small, and it tells nothing of the folder in which it was built.
+# Checks that a shipped program runs on every Windows from 10 on, and safely: it imports the system's own libraries only,
+# its header switches on the system's protections, it is small, and it does not name the folder in which it was built.
 #   tests/check-program.sh lindrel.exe
 set -u
 program=$1
@@ -17,7 +17,7 @@ for library in $libraries; do
   esac
 done
 
-# Random addresses are of use only with the list of places to mend (.reloc, entry 5 of the directory).
+# Random load addresses need relocations (.reloc, entry 5 of the directory).
 wanted=('MajorSubsystemVersion\s+10$' 'MinorSubsystemVersion\s+0$' 'DYNAMIC_BASE' 'NX_COMPAT' 'TERMINAL_SERVICE_AWARE'
   'Entry 5 [0-9a-f]*[1-9a-f][0-9a-f]* ')
 if grep -q '^Magic.*(PE32+)' <<<"$headers"; then
@@ -27,7 +27,7 @@ for line in "${wanted[@]}"; do
   grep -qE "$line" <<<"$headers" || { echo "the header of $program has no $line"; failed=1; }
 done
 
-# What a download and a start cost. The 32-bit program is larger, for the sake of how exceptions are told there.
+# The size is what a download and a start cost. Exception handling takes more of it in the 32-bit program.
 most=1100000
 if grep -q '^Magic.*(PE32+)' <<<"$headers"; then most=1000000; fi
 size=$(stat -c %s "$program")

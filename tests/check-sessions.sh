@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
-# That runs under Wine share a session, never get a dead one, and fail when they leave something behind; that a session
-# ends soon after the last of them; that displays have no modifier keys; and that programs start wherever the system has
-# put their heap.
+# Checks that runs under Wine share a session, never get a dead one, and fail when they leave something behind; that a
+# session ends soon after the last of them; that displays have no modifier keys; and that programs start wherever the
+# system has put their heap.
 set -eu
 cd "$(dirname "$0")/.."
 source tests/wine-env.sh
 wine_environment
 make_template_prefix
-# Sessions of this test's own, for which the template serves as it stands.
+# This test has sessions of its own, made from the usual template.
 template=$lindrel_wine/template
 LINDREL_WINE=$(mktemp -d "$lindrel_wine/sessions.XXXXXX")
 export LINDREL_WINE
@@ -31,7 +31,7 @@ keyboard=$(xkbcomp "$(<"$session/display")" - 2>/dev/null)
 [[ $keyboard == *"key <SPCE>"* ]] || fail "the display does not tell its keys"
 [[ ! $keyboard =~ "key <"(LCTL|LFSH|LALT)">" ]] || fail "the display has ${BASH_REMATCH[1]}"
 
-# As when the machine is switched off.
+# What a machine leaves that is switched off.
 kill -9 $(processes_of_session)
 [ -e "$session/free" ] || fail "the session is not free any more"
 run 0 'exit 0'

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Rules of the sources that no compiler knows. Complains of every place that breaks one:
+"""Rules of the sources that no compiler knows. Names every line that breaks one:
     tests/check-sources.py"""
 
 import collections
@@ -108,13 +108,13 @@ def every_source_is_built():
 
 
 def suites_bear_their_files_names():
-    """CTest runs the suite that is named as the file is."""
+    """CTest runs the suite that has the name of the file."""
     for file in files("tests/window", ".cpp") + files("tests/e2e", ".cpp"):
         stem = pathlib.PurePath(file).stem
         for number, line in enumerate(lines(file), 1):
             suite = SUITE.match(line)
             if stem.endswith("Test") and suite and suite[1] != stem:
-                yield file, number, f"the suite {suite[1]} does not bear the file's name"
+                yield file, number, f"the suite {suite[1]} does not have the file's name"
 
 
 def faults_name_tests_that_exist():

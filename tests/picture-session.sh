@@ -1,7 +1,7 @@
-# Sourced by the scripts that take pictures of the program: a session of its own for it, and a user's hands.
+# Sourced by the scripts that take pictures of the program: starts a Wine session for it and acts as its user.
 #   start_session [WIDTHxHEIGHT]   a prefix and a display; settings can be made before the program starts
 #   show_sample_book FOLDER        starts the program, which opens the sample book; pictures go to FOLDER
-#   end_session                    also at the end of the script
+#   end_session                    is called at the end of the script in any case
 # The program must have been built (build/x64).
 source "$(dirname "${BASH_SOURCE[0]}")/wine-env.sh"
 
@@ -31,18 +31,19 @@ end_session() {
   rm -rf "$WINEPREFIX"
 }
 
-# The letters of the windows, so many pixels high at 96 dots per inch.
+# Sets the fonts of the windows to a height in pixels, at 96 dots per inch.
 set_fonts() {
   local face name
   face=$(printf 'Liberation Sans' | iconv -t UTF-16LE | od -An -v -tx1 | tr -d ' \n')
   for name in MessageFont MenuFont StatusFont CaptionFont SmCaptionFont; do
-    # A LOGFONTW: height, 12 bytes of widths and angles, weight, 8 bytes of manner, the face in 64 bytes.
+    # A LOGFONTW: height, 12 bytes of widths and angles, weight, 8 bytes of flags, the face name in 64 bytes.
     set_value 'Control Panel\Desktop\WindowMetrics' $name REG_BINARY \
       "$(printf '%02xffffff%024d90010000%016d%s%068d' $((256 - $1)) 0 0 "$face" 0)"
   done
 }
 
-# Wine's own stand-ins for the fonts of Windows; only these prefixes get them, since windows are measured by their fonts.
+# Wine's substitutes for the fonts of Windows. Only these prefixes get them: elsewhere they would change the measures of the
+# windows.
 add_fonts() {
   local fonts="$lindrel_wine/fonts"
   if [ ! -e "$fonts/ready" ]; then
@@ -69,7 +70,7 @@ show_sample_book() {
   wait_for "$main"
 }
 
-# Asks again and again, for half a minute at most.
+# Repeats a command until it succeeds, for half a minute at most.
 until_true() {
   local deadline=$((SECONDS + 30))
   until "$@" >/dev/null 2>&1; do
@@ -97,10 +98,10 @@ menu() {
 
 # A picture of the active window.
 take() { take_window "$(xdotool getactivewindow)" "$1"; }
-# And of the whole screen, for menus.
+# A picture of the whole screen, for menus.
 take_screen() { take_window root "$1"; }
 
-# take_window <window> <name>, once two pictures in a row are alike.
+# take_window <window> <name>: takes pictures until two in a row are alike.
 take_window() {
   local before='' now='' tries
   for tries in {1..40}; do

@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
-# Runs fuzz targets side by side, each from its seed corpus up to a limit: -max_total_time=SECONDS or -runs=NUMBER. What
-# they find new is dropped; an input that fails is kept in the folder fuzz of their build.
+# Runs fuzz targets side by side, each from its seed corpus up to a limit: -max_total_time=SECONDS or -runs=NUMBER. New
+# inputs are dropped, except one that fails, which is kept in the folder fuzz of the build.
 # Usage: run-fuzzers.sh LIMIT PROGRAM...
 set -eu
 limit=$1
 shift
 sources=$(cd "$(dirname "$0")/../fuzz" && pwd)
 
-# The words that a target's inputs are made of, if there is a list of them.
+# The option that gives a target its list of words, if there is one.
 dictionary_of() {
   case $1 in
     BookFuzz) echo "-dict=$sources/book.dict" ;;

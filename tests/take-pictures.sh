@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Takes pictures of every window, dialog and menu as users with other settings see them, to be looked at:
 #   tests/take-pictures.sh [LOOK...]
-# A look is a resolution (96, 144, 192), "letters" (large ones), "letters192" or "contrast" (white on black); all of them
-# when none is named. The program must have been built (build/x64). The pictures are written to build/pictures/LOOK.
+# A look is a resolution (96, 144, 192), "letters" (large ones), "letters192" or "contrast" (white on black). Without
+# arguments all of them are taken. The program must have been built (build/x64). The pictures are written to build/pictures/LOOK.
 set -eu
 cd "$(dirname "$0")/.."
 source tests/picture-session.sh
@@ -24,7 +24,7 @@ set_contrast() {
   set_value 'Control Panel\Colors' Hilight REG_SZ '128 0 128'
   set_value 'Control Panel\Colors' MenuHilight REG_SZ '128 0 128'
   set_value 'Control Panel\Colors' HotTrackingColor REG_SZ '255 255 0'
-  # A visual style would keep colours of its own.
+  # A visual style would keep its own colours.
   set_value 'Software\Microsoft\Windows\CurrentVersion\ThemeManager' ThemeActive REG_SZ 0
 }
 
@@ -43,14 +43,14 @@ fills_the_screen() {
   [ "$WIDTH" -ge 1900 ]
 }
 
-# take_sizes <name> <least width> <least height>, in thousandths of what the window opens with
+# take_sizes <name> <least width> <least height>: sizes are in thousandths of the size at which the window opens
 take_sizes() {
   local window WIDTH HEIGHT
   window=$(xdotool getactivewindow)
   eval "$(xdotool getwindowgeometry --shell "$window")"
   xdotool windowsize "$window" $((WIDTH * $2 / 1000 + 1)) $((HEIGHT * $3 / 1000 + 1))
   take_window "$window" "$1-legkisebb"
-  # As large as a maximised one: the window manager keeps clicks on the title bar to itself.
+  # As large as if it were maximised: clicks on the title bar go to the window manager.
   xdotool windowmove "$window" 0 0 windowsize "$window" 1920 1080
   until_true fills_the_screen "$window"
   take_window "$window" "$1-teljes"

@@ -1,11 +1,11 @@
 # Sourced by the scripts that run something under Wine: packages, prefixes and displays.
-# Everything lives under build/wine of the checkout, or where LINDREL_WINE says. Prefixes and displays go with the script
-# that made them, sessions some seconds after the last run.
+# Everything is kept in build/wine of the checkout, or in the folder that LINDREL_WINE names. Prefixes and displays are
+# removed when the script that made them ends, sessions some seconds after the last run.
 
 lindrel_root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 lindrel_wine="${LINDREL_WINE:-$lindrel_root/build/wine}"
 
-# Debian's packages by what they are for; the scripts name the lists that they need. Without its preloader, Wine 8
+# Debian's packages by purpose; each script installs the lists that it needs. Without its preloader, Wine 8
 # fails to start one program in 4,000: one whose heap happens to cover the page at 7FFE0000.
 packages_to_build=(cmake ninja-build g++-mingw-w64-x86-64-posix fp-utils python3)
 packages_to_start=(wine wine64 wine64-preloader xvfb openbox xdotool imagemagick locales fonts-liberation procps)
@@ -13,7 +13,7 @@ packages_to_pack=(g++-mingw-w64-i686-posix nsis librsvg2-bin imagemagick)
 packages_to_test=(g++ git libgtest-dev clang-format universal-ctags chromium)
 packages_to_test_all=(libbenchmark-dev clang clang-tidy libclang-rt-14-dev)
 
-# Runs a command as root, or says which one root has to run.
+# Runs a command as root, or prints the command that root has to run.
 as_root() {
   if [ "$(id -u)" = 0 ]; then
     "$@"
@@ -25,19 +25,19 @@ as_root() {
   fi
 }
 
-# Whether the command `as_root` would ask nobody for anything.
+# Whether as_root would work without asking for a password.
 can_be_root() { [ "$(id -u)" = 0 ] || sudo -n true 2>/dev/null; }
 
-# Debian's tool, in a locale that every system has, asking nothing.
+# apt-get in a locale that every system has, without questions.
 apt() { as_root env LC_ALL=C.UTF-8 DEBIAN_FRONTEND=noninteractive apt-get -q "$@"; }
 
-# Runs a command whose output matters only when it fails.
+# Runs a command and shows its output only if it fails.
 quietly() {
   local output
   output=$("$@" 2>&1) || { printf '%s\n' "$output" >&2; return 1; }
 }
 
-# Installs what is missing of the packages named, and says first what that is and how much has to be downloaded.
+# Installs those of the packages that are missing, after printing their names and the size of the download.
 install_packages() {
   local missing=() package options=(install -y --no-install-recommends) bytes
   for package in "$@"; do
@@ -54,16 +54,16 @@ install_packages() {
 wine_environment() {
   if ! locale -a 2>/dev/null | grep -qix 'hu_HU\.utf-\?8'; then
     echo "== making the locale hu_HU.UTF-8"
-    # Exit code 1 means warnings about the source of the locale; the locale is made all the same.
+    # Exit code 1 stands for warnings about the source of the locale, which is made nevertheless.
     as_root localedef -i hu_HU -f UTF-8 hu_HU.UTF-8 || [ $? = 1 ]
   fi
-  # A shell that began before the locale was made does not find it, and complains; all that it starts does.
+  # A shell that was started before the locale was made complains that there is none; its children find it.
   { export LANG=hu_HU.UTF-8 LC_ALL=hu_HU.UTF-8; } 2>/dev/null
   export WINEDEBUG=${WINEDEBUG:--all} WINEDLLOVERRIDES="mscoree=;mshtml=;winemenubuilder.exe="
   unset WAYLAND_DISPLAY
 }
 
-# A prefix that is made once and only copied from.
+# Makes the prefix from which all others are copied, if there is none yet.
 make_template_prefix() {
   mkdir -p "$lindrel_wine"
   exec 8>"$lindrel_wine/template.lock"
@@ -79,7 +79,7 @@ make_template_prefix() {
   exec 8>&-
 }
 
-# Makes a prefix in $1. The system's files, which nothing writes to, are shared with the template by hard links.
+# Makes a prefix in $1. The system's files, to which nothing writes, are hard links to those of the template.
 copy_prefix() {
   mkdir -p "$1/drive_c"
   cp -a "$lindrel_wine"/template/*.reg "$lindrel_wine/template/dosdevices" "$lindrel_wine/template/.update-timestamp" "$1/"
@@ -92,7 +92,7 @@ copy_prefix() {
   done
 }
 
-# Makes a prefix of the script's own, which is gone with the processes in it when the script ends.
+# Makes a prefix that is removed when the script ends, after all processes in it were ended.
 own_prefix() {
   WINEPREFIX=$(mktemp -d "$lindrel_wine/run.XXXXXX")
   export WINEPREFIX
@@ -104,17 +104,17 @@ end_own_prefix() {
   wineserver -k 2>/dev/null || true
   wineserver -w 2>/dev/null || true
   stop_display
-  # What a test has made read-only too.
+  # Tests make files read-only.
   chmod -R u+w "$WINEPREFIX/drive_c/users"
   rm -rf "$WINEPREFIX"
 }
 
 # Sessions: a prefix with Wine's server and a display, which together take longer to start than most tests to run. One
-# serves many runs, one at a time. It is left to the next run only by a run that ended well and left nothing behind, and
-# goes when nobody has taken it for some seconds.
+# serves many runs, one at a time. A run leaves it to the next one only after it has ended well and left nothing behind. A
+# session that nobody takes is removed after some seconds.
 
-# Takes a session that is free, or makes one; sets WINEPREFIX and DISPLAY. Descriptor 9 locks it as long as the script
-# lives, so nothing that the script starts may have it.
+# Takes a session that is free, or makes one; sets WINEPREFIX and DISPLAY. Descriptor 9 locks the session as long as the
+# script runs, so the script must not pass it on to anything that it starts.
 take_session() {
   local number=0
   mkdir -p "$lindrel_wine/sessions"
@@ -124,15 +124,15 @@ take_session() {
   done
   session=$lindrel_wine/sessions/$number
   export WINEPREFIX=$session/prefix
-  # A program and Wine's server wait for each other all the time. On one processor they take turns in less time than two
-  # take to wake each other. Where this cannot be had it only takes longer. Long runs do without: users have several.
+  # A program and Wine's server wait for each other all the time, and take turns faster on one processor than on two.
+  # Where that cannot be set, runs only take longer. Long runs use all processors, as users do.
   [ -n "${LINDREL_LONG:-}" ] || taskset -cp $(((number - 1) % $(nproc))) $$ >/dev/null 2>&1 || true
-  # A run that was killed has left no such file, and a machine that was switched off nobody who keeps the session.
+  # There is no such file after a run that was killed, and no keeper after the machine was switched off.
   [ -e "$session/free" ] && is_kept || start_session 9>&-
   rm "$session/free"
   DISPLAY=$(<"$session/display")
   export DISPLAY
-  # Where a new display has the pointer, wherever the last run left it.
+  # The pointer is there on a new display; the last run may have moved it.
   xdotool mousemove 640 512 9>&- || return 1
 }
 
@@ -144,15 +144,15 @@ start_session() {
   remove_modifier_keys
   echo "$DISPLAY" >"$session/display"
   echo "${wine_processes[*]}" >"$session/processes"
-  # A program that waits forever. Wine's server and services end with the last program, and a run that began just then
-  # would find them gone.
+  # A program that waits forever: Wine's server and services end with the last program, and a run that starts just then
+  # would not find them.
   mkfifo "$session/silence"
   wine 'C:\windows\system32\cmd.exe' <>"$session/silence" >/dev/null 2>&1 &
   # Returns when the services are there.
   wine 'C:\windows\system32\cmd.exe' /c exit </dev/null >/dev/null 2>&1
   what_is_there >"$session/there"
   touch "$session/free"
-  # Locked as long as the keeper lives.
+  # The keeper holds the lock as long as it runs.
   exec 8>"$session/kept"
   flock 8
   setsid bash -c 'source "$1/tests/wine-env.sh"; session=$2; keep_session' - "$lindrel_root" "$session" \
@@ -161,9 +161,9 @@ start_session() {
   echo $! >"$session/keeper"
 }
 
-# Removes Ctrl, Alt and Shift from the display's keyboard. When a window gets the focus, the display tells it which keys
-# are down, on a busy machine late, and it does not know of those that a test holds down: Wine then releases them. Wine
-# leaves alone keys that the display does not have.
+# Removes Ctrl, Alt and Shift from the display's keyboard. When a window gets the focus, the display reports which keys are
+# down, late if the machine is busy. It does not know of the keys that a test holds down, so Wine then releases them. It
+# does not do so with keys that the display does not have.
 remove_modifier_keys() {
   xkbcomp "$DISPLAY" - 2>/dev/null |
     sed -E '/^ *<([LR]CTL|LFSH|RTSH|[LR]ALT|ALT|META|LVL3|MDSW)> = /d' | xkbcomp -w 0 - "$DISPLAY"
@@ -177,18 +177,18 @@ end_session() {
   WINEPREFIX=$session/prefix wineserver -w 2>/dev/null
   local process
   for process in $(cat "$session/processes" 2>/dev/null); do
-    # Since the machine was switched off, its number may be another's.
+    # After the machine was switched off, the number may be that of another process.
     grep -qszxF "WINEPREFIX=$session/prefix" "/proc/$process/environ" && kill "$process" 2>/dev/null
   done
   chmod -R u+w "$session"
   rm -rf "$session"
 }
 
-# Leaves the session to others, or ends it with what the run has left behind: 1 when there is something.
+# Leaves the session to the next run. Returns 1, and ends the session, if the run has left something behind.
 leave_session() {
   local left deadline=$((SECONDS + 10))
   until left=$(diff "$session/there" <(what_is_there)); do
-    # What a program has started may need a moment to end.
+    # What the program has started may need a moment to end.
     [ $SECONDS -lt $deadline ] || break
     read -rt 0.1 <> <(:) || true
   done
@@ -201,8 +201,8 @@ leave_session() {
   return 1
 }
 
-# Files outside of the system's own folders, and programs that are not Wine's. While a program starts, its loader's path
-# stands before its own.
+# Prints the files outside of the system's own folders, and the programs that are not Wine's. While a program starts, the
+# path of its loader precedes its own.
 what_is_there() {
   (cd "$WINEPREFIX/drive_c" && find . -path ./windows -prune -o -print | sort)
   local process
@@ -211,14 +211,14 @@ what_is_there() {
   done | grep -i '\.exe' | grep -viE '^([^ ]*/[^ ]* )*C:\\windows' | sort
 }
 
-# Ends the session once it has been free for some seconds. Every session has such a process.
+# The keeper of a session: ends it once it has been free for some seconds.
 keep_session() {
   export WINEPREFIX=$session/prefix
   exec 9>"$session.lock"
   while [ "$(cat "$session/keeper" 2>/dev/null)" = $$ ]; do
     read -rt 2 <> <(:) || true
     flock -n 9 || continue
-    # Taken and killed, or free for long.
+    # The run that took it was killed, or nobody has taken it for long.
     if [ ! -e "$session/free" ] || [ $(($(date +%s) - $(stat -c %Y "$session/free"))) -gt 10 ]; then
       end_session
     fi
@@ -226,8 +226,8 @@ keep_session() {
   done
 }
 
-# The 32-bit libraries that an installer needs, out of Wine's own package of that width. The package is not installed:
-# it would need i386 beside amd64 in the whole system.
+# The 32-bit libraries that an installer needs, from Wine's own package for that width. The package is not installed,
+# which would need i386 beside amd64 in the whole system.
 lindrel_libraries_32=(
   advapi32 bcrypt cfgmgr32 combase comctl32 gdi32 imm32 iphlpapi kernel32 kernelbase msvcrt ntdll ole32 oleaut32 propsys
   rpcrt4 sechost setupapi shcore shell32 shlwapi ucrtbase user32 usp10 uxtheme version win32u windowscodecs ws2_32)
@@ -240,13 +240,13 @@ download_libraries_32() {
   mkdir -p "$apt/lists/partial" "$apt/archives/partial" "$apt/libraries"
   local options=(-qq -o Dir::State::lists="$apt/lists" -o Dir::Cache="$apt" -o APT::Architectures=amd64,i386
     -o APT::Sandbox::User=root)
-  # A list that cannot be had matters only when the package is in none of the others; the download says so.
+  # A list that cannot be downloaded matters only if the package is in none of the others; the download fails then.
   apt-get "${options[@]}" update >/dev/null 2>&1 || true
   (cd "$apt" && quietly apt-get "${options[@]}" download "libwine:i386=$(dpkg-query -W -f='${Version}' libwine)")
   local members=("${lindrel_libraries_32[@]/%/.dll}" cmd.exe)
   dpkg-deb --fsys-tarfile "$apt"/libwine_*.deb |
     tar -x -C "$apt/libraries" --transform='s|.*/||' "${members[@]/#/./usr/lib/i386-linux-gnu/wine/i386-windows/}"
-  # Comes with the 64-bit package already.
+  # This one is in the 64-bit package.
   cp "$(dirname "$(dpkg-query -L libwine | grep -m1 '/x86_64-windows/ntdll.dll$')")/../i386-windows/zlib1.dll" \
     "$apt/libraries/"
   mkdir -p "$(dirname "$target")"
@@ -254,7 +254,8 @@ download_libraries_32() {
   rm -rf "$apt"
 }
 
-# Lets the prefix run 32-bit programs, also those that ask for version 6 of the common controls and make shortcuts.
+# Enables the prefix to run 32-bit programs, including those that ask for version 6 of the common controls or make
+# shortcuts.
 use_libraries_32() {
   export WINEDLLPATH="$lindrel_wine/32"
   local windows="$WINEPREFIX/drive_c/windows" manifest name
@@ -270,8 +271,8 @@ use_libraries_32() {
   wine reg add "$shortcuts" /v ThreadingModel /d Apartment >/dev/null
 }
 
-# Whether a 32-bit program can be started, found out by starting one that every prefix with these libraries has. Kernels
-# with 32-bit emulation switched off end it with a fault. LINDREL_32_BIT=no stands in for such a kernel.
+# Whether a 32-bit program can be started: tries one that every prefix with these libraries has. It crashes on kernels
+# whose 32-bit emulation is switched off; LINDREL_32_BIT=no simulates such a kernel.
 program_32='C:\windows\syswow64\cmd.exe'
 ends_with_32() { # command that runs a program of Windows
   [ "${LINDREL_32_BIT:-}" != no ] || return 1
@@ -280,19 +281,19 @@ ends_with_32() { # command that runs a program of Windows
   [ $code = 32 ]
 }
 
-# The same with the libraries above, in a prefix that goes again.
+# The same with the libraries above, in a prefix for this purpose only.
 runs_32_bit() (
   own_prefix
   use_libraries_32
   ends_with_32 timeout -k 5 60 wine
 )
 
-# Starts a display with a window manager, of 1280x1024 or another size, and sets DISPLAY. The processes' numbers are in wine_processes.
+# Starts a display of 1280x1024 or another size, with a window manager; sets DISPLAY and wine_processes (process ids).
 wine_processes=()
 start_display() {
   local number_file
   number_file=$(mktemp)
-  # By default a display starts over, with all its keys, when its last program leaves.
+  # Without -noreset a display starts over, with all its keys, when its last program disconnects.
   Xvfb -displayfd 7 -noreset -screen 0 "${1:-1280x1024}x24" -nolisten tcp 7>"$number_file" >/dev/null 2>&1 &
   wine_processes+=($!)
   local deadline=$((SECONDS + 30))
@@ -303,7 +304,7 @@ start_display() {
   DISPLAY=":$(cat "$number_file")"
   export DISPLAY
   rm -f "$number_file"
-  # Its log goes where everything else is.
+  # Keeps its log below build/ too.
   XDG_CACHE_HOME=$lindrel_wine/cache openbox --sm-disable >/dev/null 2>&1 &
   wine_processes+=($!)
 }

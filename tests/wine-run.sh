@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# Runs one Windows program under Wine, in a session that no other run has at the time, so that several can run at once:
+# Runs one Windows program under Wine, in a session of its own, so that several can run at once:
 #   tests/wine-run.sh program.exe argument...
-# The exit code is the program's; 124 when it does not end within LINDREL_WINE_TIMEOUT seconds; 1 when it leaves a file or
-# a process behind.
+# The exit code is the program's; 124 if it does not end within LINDREL_WINE_TIMEOUT seconds; 1 if it leaves a file or a
+# process behind.
 set -u
 source "$(dirname "$0")/wine-env.sh"
 wine_environment
@@ -10,15 +10,14 @@ make_template_prefix
 trap 'exit 143' INT TERM
 take_session || exit 1
 
-# Wine 8 now and then forgets a thread of a program that has ended, and the process then never goes. Its exit code is
-# known all the same: it stands in the last field of its state.
-# Starting other programs every second to look for it would slow a busy machine down.
+# Now and then Wine 8 forgets a thread of a program that has ended, and the process stays forever. The last field of its
+# state has its exit code. The loop starts no other programs, which would slow a busy machine down.
 end_forgotten() { # process of timeout, file for the exit code
   local program fields state seen='' silence
   exec {silence}<> <(:)
   while kill -0 "$1"; do
     read -rt 1 -u "$silence" || true
-    # There is no line end behind the number.
+    # No line end follows the number.
     read -r program <"/proc/$1/task/$1/children" || [ -n "$program" ] || continue
     read -r fields <"/proc/$program/stat" || continue
     fields=${fields##*) } state=${fields%% *}
@@ -29,8 +28,8 @@ end_forgotten() { # process of timeout, file for the exit code
     seen=$state
   done 2>/dev/null
 }
-# The output goes through a file: a process of Wine's own that the program starts may outlive it, and would keep CTest
-# waiting at a pipe. It is empty before anything reads it, or the last run's output is read too.
+# The output goes through a file: a process of Wine that outlives the program would keep CTest waiting at a pipe. The file
+# is emptied before anything reads it, since it still has the output of the last run.
 : >"$session/output"
 timeout -k 10 "${LINDREL_WINE_TIMEOUT:-900}" wine "$@" </dev/null >>"$session/output" 2>&1 9>&- &
 program=$!

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Runs the end-to-end tests on the program of one width under Debian 13's Wine 10, in a root of its own below build/wine10:
+# Runs the end-to-end tests on the program of one width under Debian 13's Wine 10, in a root folder below build/wine10:
 #   tests/wine10.sh x64|x86
-# Needs root, and the builds x64 and x86. Ends with 77 when it cannot be tried here.
+# Needs root, and the builds x64 and x86. The exit code is 77 where this cannot be tried.
 set -eu
 width=$1
 cd "$(dirname "$0")/.."
@@ -10,7 +10,7 @@ checkout=$PWD
 root=$PWD/build/wine10/root
 packages=(wine wine64 xvfb openbox xdotool locales procps fonts-liberation)
 
-in_root() { # mounts that nobody else sees, gone with the command
+in_root() { # with mounts that nobody else sees and that end with the command
   as_root unshare -m bash -c '
     root=$1 checkout=$2
     shift 2
@@ -36,10 +36,10 @@ make_root() {
     apt-get update -q
     apt-get install -y -q --no-install-recommends "$@"
     localedef -i hu_HU -f UTF-8 hu_HU.UTF-8 || [ $? = 1 ]
-    # The half of the 32-bit Wine that runs beside the 64-bit one.
+    # The part of the 32-bit Wine that works together with the 64-bit one.
     cd /tmp
     apt-get download libwine:i386
-    # While dpkg knows that architecture, wine looks for a 32-bit half of its own.
+    # As long as dpkg knows that architecture, wine expects a complete 32-bit package.
     dpkg --remove-architecture i386
     dpkg-deb -x libwine_*_i386.deb libwine32
     cp -r "$(find libwine32 -type d -name i386-windows)" "$(dirname "$(find /usr/lib -type d -name x86_64-windows)")/"

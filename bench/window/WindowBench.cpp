@@ -15,11 +15,10 @@
 #include <utility>
 #include <vector>
 
-#include "app/Program.h"
 #include "bench/SampleBook.h"
 #include "bench/window/BareList.h"
 #include "bench/window/MainWindow.h"
-#include "bench/window/UiThread.h"
+#include "bench/window/Timing.h"
 #include "book/BookFile.h"
 #include "files/Files.h"
 
@@ -104,7 +103,6 @@ class WindowBench {
 
     void Run(long rounds) {
         const MainWindow window;
-        Finish(window.Handle());
         const Memory before = MemoryOfProcess();
         window.Open(one_, kMostEntries, kMostEntries);
         const Memory opened = MemoryOfProcess();
@@ -137,40 +135,25 @@ class WindowBench {
         table_.Add("opening, 32,767 rows", window.Open(one_, kMostEntries, kMostEntries));
         table_.Add("tab change, 32,767 rows to none", window.NextTab(0));
         table_.Add("tab change, none to 32,767 rows", window.PreviousTab(kMostEntries));
-        const std::wstring last = window.Cell(kMostEntries, 0);
+        const std::wstring last = window.List().Cell(kMostEntries, 0);
         table_.Add("search, last of 32,767 rows", window.Search(last, kMostEntries));
-        table_.Add("search, first of 32,767 rows", window.Search(window.Cell(1, 0), 1));
+        table_.Add("search, first of 32,767 rows", window.Search(window.List().Cell(1, 0), 1));
     }
 
     void MeasureFloors(const MainWindow& window) {
         table_.Add("floor: reading the file", ReadWhole(one_));
-        const BareList bare(window.List(), {window.Cell(1, 0), window.Cell(1, 1)});
-        table_.Add("floor: bare list, none to 32,767 rows", bare.Fill(kMostEntries));
-        table_.Add("floor: bare list, 32,767 rows to 32,767", bare.Fill(kMostEntries));
-        table_.Add("floor: bare list, to the last row", bare.Show(kMostEntries));
+        window.OnUi([&] {
+            const testing::ListOnScreen list = window.List();
+            const BareList bare(list.Handle(), {list.Cell(1, 0), list.Cell(1, 1)});
+            table_.Add("floor: bare list, none to 32,767 rows", bare.Fill(kMostEntries));
+            table_.Add("floor: bare list, 32,767 rows to 32,767", bare.Fill(kMostEntries));
+            table_.Add("floor: bare list, to the last row", bare.Show(kMostEntries));
+        });
     }
 
     std::wstring one_, twelve_;
     Table table_;
 };
-
-int RunBench(const wchar_t* program, long rounds) {
-    Demand(rounds > 0, "window_bench.exe <rounds>");
-    WindowBench bench(program);
-    int exit_code = 0;
-    const auto work = [&] {
-        const HWND window = MainWindow().Handle();
-        try {
-            bench.Run(rounds);
-        } catch (...) {
-            PostMessageW(window, WM_CLOSE, 0, 0);
-            throw;
-        }
-        PostMessageW(window, WM_CLOSE, 0, 0);
-    };
-    RunInside([&exit_code] { exit_code = RunProgram(GetModuleHandleW(nullptr), SW_SHOWNORMAL); }, work);
-    return exit_code;
-}
 
 }  // namespace
 }  // namespace lindrel::bench
@@ -181,9 +164,12 @@ int wmain(int count, wchar_t** arguments) {
         const auto number = [&](int index) {
             return index < count ? std::wcstol(arguments[index], nullptr, 10) : 0;
         };
-        if (count != 4 || std::wstring(arguments[1]) != bench::kMakeBook)
-            return bench::RunBench(arguments[0], number(1));
-        WriteFileBytes(Path(arguments[3]), SaveBook(bench::MakeLargestBook(static_cast<int>(number(2)))));
+        if (count == 4 && std::wstring(arguments[1]) == bench::kMakeBook) {
+            WriteFileBytes(arguments[3], SaveBook(bench::MakeLargestBook(static_cast<int>(number(2)))));
+        } else {
+            bench::Demand(number(1) > 0, "window_bench.exe <rounds>");
+            bench::WindowBench(arguments[0]).Run(number(1));
+        }
         return 0;
     } catch (const std::exception& error) {
         std::fprintf(stderr, "%s\n", error.what());

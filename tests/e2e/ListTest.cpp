@@ -51,7 +51,7 @@ TEST_F(ListTest, TheMenuKeyOpensTheMenuOfTheRow) {
     program.Press({VK_APPS});
     WaitUntil("the menu", [this] { return program.PoppedUpMenu() != nullptr; });
     program.Press({VK_DOWN});
-    program.Press({VK_DOWN});  // the line between is passed over
+    program.Press({VK_DOWN});  // skips the separator
     program.Press({VK_RETURN});
     const DialogOnScreen dialog = WaitForDialog(program.Thread(), L"Cím módosítása");
     EXPECT_EQ(dialog.Text(ID_frmEditRec_txtURL), program.Cell(1, 1));

@@ -1,6 +1,5 @@
 // Tray mode of the shipped program, with real clicks on the icon in the notification area.
 
-#include <commctrl.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -24,8 +23,8 @@ bool TipIsShown(HWND area) {
                        [](HWND window) { return ClassOf(window) == TOOLTIPS_CLASSW; });
 }
 
-// Rests the pointer on the icon until its tip is shown. The notification area may still be on its way to its
-// place, and a click that came before it would miss.
+// Rests the pointer on the icon until its tip is shown: the notification area may still be moving, and a
+// click that came too early would miss it.
 void ClickIcon(bool right) {
     const HWND area = NotificationArea();
     const POINT middle{GetSystemMetrics(SM_CXSMICON) / 2, GetSystemMetrics(SM_CYSMICON) / 2};

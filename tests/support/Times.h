@@ -1,4 +1,4 @@
-// How often a test does what it repeats. ./test.sh --all and ctest's preset `all` set LINDREL_LONG.
+// How often a test repeats something. ./test.sh --all and ctest's preset `all` set LINDREL_LONG.
 #pragma once
 
 #include <cstdlib>

@@ -21,7 +21,7 @@ class Dice {
     std::uint64_t state_ = 1250;
 };
 
-// A character of any length in UTF-8, but U+FEFF, which is a mark; often ASCII or a Hungarian letter.
+// A character of any length in UTF-8 except U+FEFF, the BOM; often ASCII or a Hungarian letter.
 inline char32_t AnyCharacter(Dice& dice) {
     const std::u32string hungarian = U"áéíóöőúüűÁÉÍÓÖŐÚÜŰ„”–";
     switch (dice.Roll(5)) {

@@ -1,4 +1,4 @@
-// A folder of a test's own, and what is in its files.
+// A folder for a test's files, removed with everything in it in the end.
 #pragma once
 
 #include <cstdlib>
@@ -20,7 +20,7 @@ class TemporaryFolder {
         path_ = name;
     }
     ~TemporaryFolder() {
-        std::error_code ignored;  // what a program still writes, such as a browser, may stay
+        std::error_code ignored;  // a program that still runs, such as a browser, may be writing here
         std::filesystem::remove_all(path_, ignored);
     }
     TemporaryFolder(const TemporaryFolder&) = delete;

@@ -1,5 +1,5 @@
-// Stands in for the browser in tests: the shell starts it with a file and an address, and it appends the
-// address to the file as a line of UTF-8.
+// Stands in for the browser in tests: the shell starts it with the path of a file and an address, and it
+// appends the address to the file as a line of UTF-8.
 //     address_recorder.exe FILE ADDRESS
 
 #include <windows.h>
@@ -12,7 +12,7 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
     int count = 0;
     wchar_t** const words = CommandLineToArgvW(GetCommandLineW(), &count);
     if (words == nullptr || count < 3) return 1;
-    // An address that the shell had not kept together would show here with a mark between its parts.
+    // If the shell splits an address, this shows: "|" comes between its parts.
     std::wstring line = words[2];
     for (int i = 3; i < count; ++i) line.append(L"|").append(words[i]);
     line += L'\n';

@@ -1,6 +1,8 @@
-// Folders in one another whose path has more than 260 characters, the last one with a name that Windows finds
-// only when it takes the path as it stands.
+// Nested folders with a path of more than 260 characters. The name of the last one ends with a full stop,
+// which Windows drops unless it takes the path as it stands.
 #pragma once
+
+#include <gtest/gtest.h>
 
 #include <filesystem>
 #include <string>

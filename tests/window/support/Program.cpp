@@ -1,17 +1,10 @@
 #include "tests/window/support/Program.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
 #include <atomic>
 #include <exception>
-#include <filesystem>
 #include <ostream>
 
 #include "app/Program.h"
-#include "book/BookFile.h"
-#include "files/Files.h"
-#include "resources/resource.h"
 #include "tests/window/support/ControlsOnScreen.h"
 #include "tests/window/support/RealClipboard.h"
 #include "tests/window/support/Text.h"
@@ -68,11 +61,7 @@ Program::Program() {
     });
     WaitUntil("the program's thread", [&] { return ear != nullptr; });
     ear_ = ear;
-    WaitUntil("the main window", [this] {
-        for (const HWND window : WindowsOf(thread_id_))
-            if (ClassOf(window) == L"frmStart") main_ = window;
-        return main_ != nullptr;
-    });
+    main_ = WaitForMainWindow(thread_id_);
     Settle();
 }
 
@@ -115,10 +104,6 @@ void Program::OnUi(const std::function<void(frmStart&)>& code) const {
     if (thrown) std::rethrow_exception(thrown);
 }
 
-void Program::Choose(int menu_id) const {
-    PostMessageW(main_, WM_COMMAND, MAKEWPARAM(menu_id, 0), 0);
-}
-
 void Program::Settle() const {
     const HANDLE idle = CreateEventW(nullptr, TRUE, FALSE, nullptr);
     PostMessageW(ear_, kTellWhenIdle, reinterpret_cast<WPARAM>(idle), 0);
@@ -128,11 +113,6 @@ void Program::Settle() const {
     CloseHandle(idle);
 }
 
-void Program::Run(int menu_id) const {
-    Choose(menu_id);
-    Settle();
-}
-
 void Program::Add(int category, const std::vector<Row>& rows) const {
     OnUi([&](frmStart& form) {
         std::vector<NewEntry> entries;
@@ -140,10 +120,6 @@ void Program::Add(int category, const std::vector<Row>& rows) const {
         form.OpenedBook().TheBook.AddEntry(category, entries);
         form.View().FillAddressList(form.OpenedBook().CurrentCategory);
     });
-}
-
-std::string Program::BookBytes() const {
-    return Ask<std::string>([](frmStart& form) { return SaveBook(form.OpenedBook().TheBook); });
 }
 
 MainState EmptyState() {
@@ -183,32 +159,10 @@ bool Program::CommandEnabled(int menu_id) const {
 }
 
 void Program::ClickTab(int tab) const {
-    RECT place{};
+    RECT bounds{};
     const HWND strip = Control(ID_frmStart_TabStrip1);
-    OnUi([&](frmStart&) { TabCtrl_GetItemRect(strip, tab - 1, &place); });
-    const LPARAM point = MAKELPARAM((place.left + place.right) / 2, (place.top + place.bottom) / 2);
-    PostMessageW(strip, WM_LBUTTONDOWN, MK_LBUTTON, point);
-    PostMessageW(strip, WM_LBUTTONUP, 0, point);
-    Settle();
-}
-
-ListOnScreen Program::List() const {
-    return ListOnScreen(Control(ID_frmStart_ListURLs));
-}
-
-void Program::ClickRow(int row) const {
-    List().ClickRow(row);
-    Settle();
-}
-
-void Program::ClickBox(int row) const {
-    List().ClickBox(row);
-    Settle();
-}
-
-void Program::PressKey(HWND control, WPARAM key) const {
-    PostMessageW(control, WM_KEYDOWN, key, 1);
-    PostMessageW(control, WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
+    OnUi([&](frmStart&) { TabCtrl_GetItemRect(strip, tab - 1, &bounds); });
+    PostClick(strip, MAKELPARAM((bounds.left + bounds.right) / 2, (bounds.top + bounds.bottom) / 2));
     Settle();
 }
 
@@ -226,54 +180,12 @@ void Program::LeaveAndComeBack() const {
     Settle();
 }
 
-bool Program::NothingIsOpen() const {
-    const std::vector<HWND> windows = WindowsOf(thread_id_);
-    return std::none_of(windows.begin(), windows.end(),
-                        [](HWND window) { return ClassOf(window) == L"#32770"; });
-}
-
-void Program::Close() const {
-    PostMessageW(main_, WM_CLOSE, 0, 0);
-}
-
 int Program::WaitForEnd() {
     // The ear is the last window that the thread destroys.
     WaitUntil("the program to end", [this] { return !IsWindow(ear_); });
     thread_.join();
     ended_ = true;
     return exit_code_;
-}
-
-TemporaryFolder::TemporaryFolder() {
-    static std::atomic<int> number{0};
-    path_ = (std::filesystem::temp_directory_path() /
-             (L"lindrel-" + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(++number)))
-                .wstring();
-    std::filesystem::create_directories(path_);
-}
-
-TemporaryFolder::~TemporaryFolder() {
-    std::error_code error;
-    std::filesystem::remove_all(path_, error);
-    EXPECT_FALSE(error) << "a file of the test is still open: " << error.message();
-}
-
-std::wstring TemporaryFolder::Write(const std::wstring& name, const std::string& bytes) const {
-    WriteFileBytes(File(name), bytes);
-    return File(name);
-}
-
-std::string TemporaryFolder::Read(const std::wstring& path) {
-    const std::vector<char> bytes = ReadFileBytes(path);
-    return {bytes.begin(), bytes.end()};
-}
-
-std::vector<std::wstring> TemporaryFolder::Names() const {
-    std::vector<std::wstring> names;
-    for (const auto& entry : std::filesystem::directory_iterator(path_))
-        names.push_back(entry.path().filename().wstring());
-    std::sort(names.begin(), names.end());
-    return names;
 }
 
 void PrintTo(const MainState& state, std::ostream* out) {
