@@ -18,16 +18,9 @@ namespace {
 constexpr std::wstring_view kMostShown = L"megjelenítve (32767 / 32767)";
 constexpr std::wstring_view kMostChecked = L"bejelölve 32767";
 
-// Of a text and the borders of a panel, in pixels.
+// Of a panel with this text, in pixels.
 int WidthOf(const StatusBar& bar, std::wstring_view text) {
-    const HDC paper = GetDC(bar.Handle());
-    const HGDIOBJ before =
-        SelectObject(paper, reinterpret_cast<HFONT>(SendMessageW(bar.Handle(), WM_GETFONT, 0, 0)));
-    SIZE size{};
-    GetTextExtentPoint32W(paper, text.data(), static_cast<int>(text.size()), &size);
-    SelectObject(paper, before);
-    ReleaseDC(bar.Handle(), paper);
-    return size.cx + 8 * GetSystemMetrics(SM_CXEDGE);
+    return bar.WidthOf(text) + 8 * GetSystemMetrics(SM_CXEDGE);
 }
 constexpr wchar_t kEmptyCategory[] =
     L"Ebben a kategóriában nincs cím.\r\n\r\nCím hozzáadása: Ctrl+A\r\nKönyv megnyitása: Ctrl+O";

@@ -15,11 +15,10 @@ namespace {
 
 struct ToolbarButton {
     int Command;
-    // Its tool tip, and what screen readers call it.
-    const wchar_t* Name;
+    const wchar_t* Name;  // the tool tip, and what screen readers read
 };
 
-// By position. The first button has a name but no tool tip.
+// In their order. The first button has a name but no tool tip.
 constexpr ToolbarButton kButtons[] = {
     {ID_mnuNew, L"Új fájl"},          {ID_mnuOpen, L"Megnyit"},  {ID_mnuSave, L"Mentés"},
     {ID_mnuAdd, L"Hozzáad"},          {ID_mnuExport, L"Export"}, {ID_mnuEdit, L"Módosít"},
@@ -28,7 +27,7 @@ constexpr ToolbarButton kButtons[] = {
 };
 constexpr int kButtonCount = static_cast<int>(std::size(kButtons));
 constexpr int kButtonWithMenu = 5;
-// Padding around a picture in pixels, as the system has it.
+// What Windows adds to the size of a picture, in pixels.
 constexpr int kPaddingX = 7;
 constexpr int kPaddingY = 6;
 
@@ -40,15 +39,8 @@ constexpr int PositionOf(int id) {
     return id - ID_frmStart_Toolbar_1 + 1;
 }
 
-constexpr bool IsButton(int position) {
-    return position >= 1 && position <= kButtonCount;
-}
-
-PictureList Pictures(int size, PictureLook look) {
-    static constexpr PictureStrip kStrips[] = {
-        {IDB_ImageList1_24, 24}, {IDB_ImageList1_30, 30}, {IDB_ImageList1_36, 36}, {IDB_ImageList1_48, 48}};
-    return {GetModuleHandleW(nullptr), kStrips, size, look};
-}
+constexpr PictureStrip kStrips[] = {
+    {IDB_ImageList1_24, 24}, {IDB_ImageList1_30, 30}, {IDB_ImageList1_36, 36}, {IDB_ImageList1_48, 48}};
 
 }  // namespace
 
@@ -60,7 +52,7 @@ void Toolbar::Create(HWND window) {
     const HWND toolbar = toolbar_.Handle();
     SendMessageW(toolbar, TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON), 0);
     SendMessageW(toolbar, TB_SETEXTENDEDSTYLE, 0, TBSTYLE_EX_DRAWDDARROWS);
-    // The names are for tool tips and screen readers; none are drawn.
+    // The names are not drawn.
     SendMessageW(toolbar, TB_SETMAXTEXTROWS, 0, 0);
     AddButtons();
 }
@@ -77,10 +69,10 @@ void Toolbar::AddButtons() const {
     }
     if (!SendMessageW(toolbar_.Handle(), TB_ADDBUTTONSW, buttons.size(),
                       reinterpret_cast<LPARAM>(buttons.data())))
-        throw SystemFault(L"az eszköztár gombjainak létrehozása", GetLastError());
+        throw SystemFault(L"az eszköztár gombjainak létrehozása", 0);
 }
 
-// Asked for its tips, the toolbar makes a window for them: not before the mouse is there.
+// Called when the mouse is on a button: TB_GETTOOLTIPS creates a window, which the start need not wait for.
 void Toolbar::RemoveTipOfFirstButton() const {
     TTTOOLINFOW first{};
     first.cbSize = sizeof first;
@@ -92,41 +84,19 @@ void Toolbar::RemoveTipOfFirstButton() const {
 
 void Toolbar::ApplyResolution(UINT dpi) {
     const int size = LargePictureSize(dpi);
-    PictureList pictures = Pictures(size, PictureLook::Enabled);
+    PictureList pictures(GetModuleHandleW(nullptr), kStrips, size);
     const HWND toolbar = toolbar_.Handle();
     SendMessageW(toolbar, TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(pictures.Handle()));
-    SendMessageW(toolbar, TB_SETDISABLEDIMAGELIST, 0, 0);
     // By themselves, buttons grow with their pictures but do not shrink.
     SendMessageW(toolbar, TB_SETBUTTONSIZE, 0, MAKELPARAM(size + kPaddingX, size + kPaddingY));
-    // The old pictures were in use until now.
-    ImageList1 = std::move(pictures);
-    disabled_pictures_ = {};
-    picture_size_ = size;
-    Update();
-}
-
-void Toolbar::MakeDisabledPictures() {
-    if (disabled_pictures_.Handle() != nullptr) return;
-    disabled_pictures_ = Pictures(picture_size_, PictureLook::Disabled);
-    SendMessageW(toolbar_.Handle(), TB_SETDISABLEDIMAGELIST, 0,
-                 reinterpret_cast<LPARAM>(disabled_pictures_.Handle()));
-}
-
-void Toolbar::Update() {
-    const HMENU menu = GetMenu(window_);
-    for (int position = 1; position <= kButtonCount; ++position) {
-        const UINT state =
-            GetMenuState(menu, static_cast<UINT>(kButtons[position - 1].Command), MF_BYCOMMAND);
-        if ((state & MF_GRAYED) != 0) MakeDisabledPictures();
-        SendMessageW(toolbar_.Handle(), TB_ENABLEBUTTON, static_cast<WPARAM>(IdOfButton(position)),
-                     MAKELPARAM((state & MF_GRAYED) == 0, 0));
-    }
+    ImageList1 = std::move(pictures);  // the toolbar has used the old ones until now
 }
 
 bool Toolbar::OnCommand(int id) const {
-    if (!IsButton(PositionOf(id))) return false;
-    ButtonClick(PositionOf(id));
-    return true;
+    const int position = PositionOf(id);
+    const bool is_button = position >= 1 && position <= kButtonCount;
+    if (is_button) ButtonClick(position);
+    return is_button;
 }
 
 void Toolbar::ButtonClick(int Button) const {
@@ -138,14 +108,11 @@ void Toolbar::Notify(const NMHDR& header) const {
     if (header.code == TBN_HOTITEMCHANGE) RemoveTipOfFirstButton();
     if (header.code == TBN_DROPDOWN)
         ButtonDropDown(PositionOf(reinterpret_cast<const NMTOOLBARW&>(header).iItem));
-    if (header.code == TBN_GETINFOTIPW) FillTip(reinterpret_cast<const NMTBGETINFOTIPW&>(header));
-}
-
-void Toolbar::FillTip(const NMTBGETINFOTIPW& tip) {
+    if (header.code != TBN_GETINFOTIPW) return;
+    const auto& tip = reinterpret_cast<const NMTBGETINFOTIPW&>(header);
     const int position = PositionOf(tip.iItem);
     // pszText points to the toolbar's own buffer.
-    if (position > 1 && IsButton(position))
-        lstrcpynW(tip.pszText, kButtons[position - 1].Name, tip.cchTextMax);
+    if (position != 1) lstrcpynW(tip.pszText, kButtons[position - 1].Name, tip.cchTextMax);
 }
 
 void Toolbar::ButtonDropDown(int Button) const {

@@ -1,5 +1,4 @@
-// The main window's toolbar. Its buttons run commands of the menu bar, and can be pressed when those can be
-// chosen.
+// The main window's toolbar. Its buttons run commands of the menu bar; none of these is ever disabled.
 #pragma once
 
 #include "pictures/Picture.h"
@@ -9,32 +8,26 @@ namespace lindrel {
 
 class Toolbar {
   public:
-    // Makes the toolbar on a window with a menu bar. Throws SystemFault when the system cannot.
+    // Creates the toolbar on a window. Throws SystemFault if Windows refuses.
     void Create(HWND window);
-    // Shows the pictures at a resolution. Throws SystemFault when one cannot be loaded; the old ones stay
-    // then.
+    // Shows the pictures at a resolution. Throws SystemFault if one cannot be loaded; the old ones stay then.
     void ApplyResolution(UINT dpi);
-    // Looks at the menu bar anew.
-    void Update();
 
-    // WM_COMMAND and WM_NOTIFY of the window. True when the id is that of a button.
+    // For WM_COMMAND of the window. False if the id is not that of a button.
     bool OnCommand(int id) const;
+    // For WM_NOTIFY of the window.
     void Notify(const NMHDR& header) const;
 
   private:
     void AddButtons() const;
     void RemoveTipOfFirstButton() const;
-    void MakeDisabledPictures();
     // Buttons are numbered from 1.
     void ButtonClick(int Button) const;
     void ButtonDropDown(int Button) const;
-    static void FillTip(const NMTBGETINFOTIPW& tip);
 
     HWND window_ = nullptr;
     Control toolbar_;
     PictureList ImageList1;
-    PictureList disabled_pictures_;  // made when a button is disabled for the first time
-    int picture_size_ = 0;           // in pixels
 };
 
 }  // namespace lindrel

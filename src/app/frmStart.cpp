@@ -184,7 +184,6 @@ void frmStart::Form_Load() {
 void frmStart::EnableCommand(int id, bool enabled) {
     const UINT state = enabled ? MF_ENABLED : MF_GRAYED;
     EnableMenuItem(GetMenu(Handle()), static_cast<UINT>(id), MF_BYCOMMAND | state);
-    toolbar_.Update();
 }
 
 void frmStart::Form_Unload() {

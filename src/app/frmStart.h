@@ -40,7 +40,7 @@ class frmStart : public OwnWindow {
     OpenBook& OpenedBook() { return open_; }
     BookView& View() { return view_; }
     SaveAnswer OfferToSave(SaveQuestion question) { return file_menu_.OfferToSave(question); }
-    // Of the menu bar and, with it, of the toolbar.
+    // In the menu bar.
     void EnableCommand(int id, bool enabled);
 
   private:

@@ -10,28 +10,26 @@ namespace lindrel {
 
 namespace {
 
-constexpr wchar_t kAskedFor[] = L"a jelölőnégyzetek rajzolása";
+// The functions for image lists and device contexts give no error number.
+void Require(bool done) {
+    if (!done) throw SystemFault(L"a jelölőnégyzetek rajzolása", 0);
+}
 
-struct Size {
-    int Width;
-    int Height;
-};
-
-// A picture on a ground of one colour.
-PixelBitmap DrawOn(std::uint32_t ground, HIMAGELIST pictures, int index, const Size& size, int top) {
-    PixelBitmap bitmap(size.Width, size.Height);
-    const HDC canvas = CreateCompatibleDC(nullptr);
-    if (canvas == nullptr) throw SystemFault(kAskedFor, GetLastError());
-    std::ranges::fill(bitmap.Pixels(), ground);
-    const HGDIOBJ before = SelectObject(canvas, bitmap.Handle());
-    const bool drawn = ImageList_Draw(pictures, index, canvas, 0, top, ILD_TRANSPARENT) && GdiFlush();
-    SelectObject(canvas, before);
-    DeleteDC(canvas);
-    if (!drawn) throw SystemFault(kAskedFor, GetLastError());
+// A picture of an image list on a background of one colour, `top` pixels below the upper edge.
+PixelBitmap DrawnOn(std::uint32_t background, HIMAGELIST pictures, int index, int width, int height,
+                    int top) {
+    PixelBitmap bitmap(width, height);
+    std::ranges::fill(bitmap.Pixels(), background);
+    const HDC dc = CreateCompatibleDC(nullptr);
+    const HGDIOBJ before = SelectObject(dc, bitmap.Handle());
+    const bool drawn = ImageList_Draw(pictures, index, dc, 0, top, ILD_TRANSPARENT) && GdiFlush();
+    SelectObject(dc, before);
+    DeleteDC(dc);
+    Require(drawn);
     return bitmap;
 }
 
-// What a pixel is made of that was seen on black and on white.
+// The pixel with its alpha, from what it looks like on black and on white.
 std::uint32_t WithAlpha(std::uint32_t on_black, std::uint32_t on_white) {
     const std::uint32_t alpha = 255 - ((on_white & 0xFF) - (on_black & 0xFF));
     if (alpha == 0) return 0;
@@ -48,19 +46,17 @@ std::uint32_t WithAlpha(std::uint32_t on_black, std::uint32_t on_white) {
 Owned<HIMAGELIST> InMiddleOf(HIMAGELIST pictures, int height) {
     constexpr std::uint32_t kBlack = 0;
     constexpr std::uint32_t kWhite = 0xFFFFFF;
-    Size size{0, 0};
-    if (!ImageList_GetIconSize(pictures, &size.Width, &size.Height))
-        throw SystemFault(kAskedFor, GetLastError());
-    const int top = (height - size.Height) / 2;
-    size.Height = height;
+    int width = 0;
+    int own_height = 0;
+    Require(ImageList_GetIconSize(pictures, &width, &own_height));
+    const int top = (height - own_height) / 2;
     const int count = ImageList_GetImageCount(pictures);
-    Owned<HIMAGELIST> higher(ImageList_Create(size.Width, height, ILC_COLOR32, count, 0));
+    Owned<HIMAGELIST> higher(ImageList_Create(width, height, ILC_COLOR32, count, 0));
     for (int i = 0; i < count; ++i) {
-        const PixelBitmap picture = DrawOn(kBlack, pictures, i, size, top);
-        const PixelBitmap on_white = DrawOn(kWhite, pictures, i, size, top);
+        const PixelBitmap picture = DrawnOn(kBlack, pictures, i, width, height, top);
+        const PixelBitmap on_white = DrawnOn(kWhite, pictures, i, width, height, top);
         std::ranges::transform(picture.Pixels(), on_white.Pixels(), picture.Pixels().begin(), WithAlpha);
-        if (ImageList_Add(higher.get(), picture.Handle(), nullptr) == -1)
-            throw SystemFault(kAskedFor, GetLastError());
+        Require(ImageList_Add(higher.get(), picture.Handle(), nullptr) != -1);
     }
     return higher;
 }

@@ -1,4 +1,4 @@
-// The check boxes of a list, with air above and below.
+// The check boxes of a list, with empty space above and below.
 #pragma once
 
 #include "window/Owned.h"
@@ -6,8 +6,8 @@
 
 namespace lindrel {
 
-// The same pictures in the same order, each in the middle of a higher one. `height` is in pixels and not less
-// than that of the pictures. Throws SystemFault when the system cannot.
+// The same pictures in the same order, each in the middle of a picture of this height, which is in pixels and
+// not less than their own. Throws SystemFault if Windows cannot draw them.
 Owned<HIMAGELIST> InMiddleOf(HIMAGELIST pictures, int height);
 
 }  // namespace lindrel

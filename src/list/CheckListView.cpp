@@ -15,9 +15,11 @@ constexpr int kUncheckedImage = 1;
 constexpr int kCheckedImage = 2;
 constexpr int kRowHeight = 300;  // twips
 constexpr DWORD kExtendedStyles = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_LABELTIP;
+constexpr WPARAM kControlC = 3;  // as a character
 
-bool BeginsWith(const std::wstring& text, const std::wstring& letters) {
-    return ContainsCaseless(std::wstring_view(text).substr(0, letters.size()), letters);
+// The list handles Enter itself; the keyboard navigation would press the default button.
+bool IsEnter(const MSG* key) {
+    return key != nullptr && key->message == WM_KEYDOWN && key->wParam == VK_RETURN;
 }
 
 }  // namespace
@@ -28,10 +30,9 @@ void CheckListView::Attach(HWND list) {
         return OnMessage(message, wparam, lparam);
     });
     ListView_SetExtendedListViewStyle(list, kExtendedStyles);
-    // The check marks are ours: the control asks for each row's.
+    // The control does not store check marks, but asks for them row by row.
     ListView_SetCallbackMask(list, LVIS_STATEIMAGEMASK);
     columns_.Attach(list);
-    empty_text_.Attach(list);
 }
 
 std::optional<LRESULT> CheckListView::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
@@ -60,17 +61,123 @@ void CheckListView::AfterMessage(UINT message, WPARAM wparam) {
     switch (message) {
         case WM_SIZE:
             columns_.OnSize();
-            empty_text_.OnSize();
+            if (ShowsEmptyText()) Repaint();  // centred anew
             break;
         case WM_PAINT:
-            empty_text_.OnPaint();
+            if (const HDC dc = ShowsEmptyText() ? GetDC(Handle()) : nullptr) {
+                DrawEmptyText(dc);
+                ReleaseDC(Handle(), dc);
+            }
             break;
         case WM_PRINTCLIENT:
-            empty_text_.OnPrintClient(reinterpret_cast<HDC>(wparam));
+            if (ShowsEmptyText()) DrawEmptyText(reinterpret_cast<HDC>(wparam));
             break;
         default:
-            MakeCheckBoxes(DpiOf(Handle()));  // drawn in the colours of the time when they were made
+            MakeCheckBoxes(DpiOf(Handle()));  // in the new colours
             break;
+    }
+}
+
+void CheckListView::SetEmptyText(const std::wstring& text) {
+    empty_text_ = text;
+    Repaint();
+}
+
+// In the client area below the header.
+void CheckListView::DrawEmptyText(HDC dc) const {
+    RECT bounds{};
+    RECT header{};
+    GetClientRect(Handle(), &bounds);
+    GetClientRect(ListView_GetHeader(Handle()), &header);
+    bounds.top = header.bottom;
+    // Drawn twice on the same pixels, smooth letters would look bold.
+    FillRect(dc, &bounds, GetSysColorBrush(COLOR_WINDOW));
+    const int saved = SaveDC(dc);
+    SelectObject(dc, reinterpret_cast<HFONT>(Send(WM_GETFONT)));
+    SetBkMode(dc, TRANSPARENT);
+    SetTextColor(dc, GetSysColor(COLOR_WINDOWTEXT));
+    InflateRect(&bounds, -(bounds.right - bounds.left) / 16, -(bounds.bottom - bounds.top) / 8);
+    DrawTextW(dc, empty_text_.c_str(), -1, &bounds, DT_CENTER | DT_WORDBREAK | DT_NOPREFIX);
+    RestoreDC(dc, saved);
+}
+
+void CheckListView::Toggle(int position) {
+    SetChecked(position, !IsChecked(position));
+    TellScreenReaders(position);
+    if (ItemCheck) ItemCheck(position);
+}
+
+LVHITTESTINFO CheckListView::HitAt(POINT point) const {
+    LVHITTESTINFO hit{};
+    hit.pt = point;
+    ListView_HitTest(Handle(), &hit);
+    return hit;
+}
+
+bool CheckListView::ToggledByMouse(POINT point) {
+    const LVHITTESTINFO hit = HitAt(point);
+    if (hit.iItem < 0 || (hit.flags & LVHT_ONITEM) != LVHT_ONITEMSTATEICON) return false;
+    if (!HasFocus()) SetFocus();
+    Toggle(hit.iItem + 1);
+    return true;
+}
+
+bool CheckListView::AskForMenu(LPARAM point) {
+    constexpr LPARAM kByKeys = -1;
+    POINT at{GET_X_LPARAM(point), GET_Y_LPARAM(point)};
+    if (point == kByKeys) {
+        at = BelowSelectedRow();
+    } else {
+        POINT inside = at;
+        RECT client{};
+        GetClientRect(Handle(), &client);
+        // Scroll bars have a menu of their own.
+        if (!ScreenToClient(Handle(), &inside) || !PtInRect(&client, inside)) return false;
+        if (const int index = HitAt(inside).iItem; index >= 0) Select(index + 1);
+    }
+    if (MenuAsked) MenuAsked(at);
+    return true;
+}
+
+// In screen coordinates; below the header when no row is selected.
+POINT CheckListView::BelowSelectedRow() const {
+    RECT bounds{};
+    if (const int row = Selected(); row != 0) {
+        ListView_EnsureVisible(Handle(), row - 1, FALSE);
+        ListView_GetItemRect(Handle(), row - 1, &bounds, LVIR_LABEL);
+    } else {
+        GetClientRect(ListView_GetHeader(Handle()), &bounds);
+    }
+    POINT below{bounds.left, bounds.bottom};
+    ClientToScreen(Handle(), &below);
+    return below;
+}
+
+std::optional<LRESULT> CheckListView::OnInput(UINT message, WPARAM wparam, LPARAM lparam) {
+    switch (message) {
+        case WM_LBUTTONDOWN:
+        case WM_LBUTTONDBLCLK:
+            // Before the control sees it: a click on the check box does not select the row.
+            if (ToggledByMouse({GET_X_LPARAM(lparam), GET_Y_LPARAM(lparam)})) return 0;
+            return std::nullopt;
+        case WM_KEYDOWN:
+            if (wparam != VK_SPACE || GetKeyState(VK_CONTROL) < 0) return std::nullopt;
+            if (const int row = Focused(); row >= 1 && row <= Count()) Toggle(row);
+            return 0;
+        case WM_CHAR:
+            if (wparam == kControlC && Copy) Copy();
+            // The control would search for them.
+            if (wparam == L' ' || wparam == L'\r' || wparam == kControlC) return 0;
+            return std::nullopt;
+        case WM_GETDLGCODE:
+            if (!IsEnter(reinterpret_cast<const MSG*>(lparam))) return std::nullopt;
+            return subclass_.Default(message, wparam, lparam) | DLGC_WANTMESSAGE;
+        case WM_CONTEXTMENU:
+            // Not in the header, which is a window of its own.
+            if (reinterpret_cast<HWND>(wparam) != Handle() || !AskForMenu(lparam)) return std::nullopt;
+            return 0;
+        default:
+            return std::nullopt;
     }
 }
 
@@ -79,14 +186,11 @@ void CheckListView::ApplyResolution(UINT dpi) {
     columns_.ApplyResolution(dpi);
 }
 
+// A row is as high as its check box. Without space between them, the check boxes of neighbouring rows would
+// touch.
 void CheckListView::MakeCheckBoxes(UINT dpi) {
     ListView_SetExtendedListViewStyleEx(Handle(), LVS_EX_CHECKBOXES, 0);
     ListView_SetExtendedListViewStyleEx(Handle(), LVS_EX_CHECKBOXES, LVS_EX_CHECKBOXES);
-    SpaceCheckBoxes(dpi);
-}
-
-// The boxes of neighbouring rows would touch. A row is as high as its check box.
-void CheckListView::SpaceCheckBoxes(UINT dpi) const {
     const HIMAGELIST boxes = ListView_GetImageList(Handle(), LVSIL_STATE);
     int width = 0;
     int height = 0;
@@ -99,9 +203,9 @@ void CheckListView::SetRows(int count, CellText text) {
     checked_.assign(static_cast<std::size_t>(count), false);
     text_ = std::move(text);
     selecting_ = true;
-    // Not redrawn while it is empty, or its scroll bar would go and come back.
+    // Not redrawn while it is empty, or its scroll bar would disappear and come back.
     SetWindowRedraw(Handle(), FALSE);
-    // Emptied first, so that no selection survives.
+    // Emptied first, to clear the selection.
     ListView_SetItemCountEx(Handle(), 0, 0);
     ListView_SetItemState(Handle(), -1, 0, LVIS_SELECTED | LVIS_FOCUSED);
     ListView_SetItemCountEx(Handle(), count, 0);
@@ -127,49 +231,28 @@ void CheckListView::CheckRows(std::span<const std::int16_t> positions) {
     if (!positions.empty()) Repaint();
 }
 
-// Asked to redraw its rows, the control would look at each of them, also where it is not on the screen.
-void CheckListView::Repaint() const {
-    InvalidateRect(Handle(), nullptr, TRUE);
-}
-
-// The control does not know the check marks, so it cannot announce their changes.
+// The control does not know the check marks, so it does not announce their changes.
 void CheckListView::TellScreenReaders(LONG row) const {
     NotifyWinEvent(EVENT_OBJECT_STATECHANGE, Handle(), OBJID_CLIENT, row);
-}
-
-int CheckListView::Selected() const {
-    return ListView_GetNextItem(Handle(), -1, LVNI_SELECTED) + 1;
 }
 
 void CheckListView::Select(int position) {
     const bool outer = std::exchange(selecting_, true);
     constexpr UINT kState = LVIS_SELECTED | LVIS_FOCUSED;
-    // The control would look at every row between the two.
+    // Otherwise the control would visit every row between the two.
     if (const int before = Selected(); before != 0 && before != position)
         ListView_SetItemState(Handle(), before - 1, 0, LVIS_SELECTED);
     ListView_SetItemState(Handle(), position - 1, kState, kState);
-    // Where arrow keys with Shift start, and on some systems plain ones.
+    // Where the arrow keys start with Shift held, on some versions of Windows also without it.
     ListView_SetSelectionMark(Handle(), position - 1);
     selecting_ = outer;
 }
 
-void CheckListView::EnsureVisible(int position) {
-    ListView_EnsureVisible(Handle(), position - 1, FALSE);
-}
-
-int CheckListView::Focused() const {
-    return ListView_GetNextItem(Handle(), -1, LVNI_FOCUSED) + 1;
-}
-
 void CheckListView::Focus(int position) {
-    const int place = std::min(position, Count());
-    if (place < 1) return;
-    ListView_SetItemState(Handle(), place - 1, LVIS_FOCUSED, LVIS_FOCUSED);
-    EnsureVisible(place);
-}
-
-void CheckListView::ShowGridLines(bool shown) {
-    ListView_SetExtendedListViewStyleEx(Handle(), LVS_EX_GRIDLINES, shown ? LVS_EX_GRIDLINES : 0);
+    const int row = std::min(position, Count());
+    if (row < 1) return;
+    ListView_SetItemState(Handle(), row - 1, LVIS_FOCUSED, LVIS_FOCUSED);
+    EnsureVisible(row);
 }
 
 LRESULT CheckListView::Notify(const NMHDR& header) {
@@ -190,7 +273,7 @@ LRESULT CheckListView::Notify(const NMHDR& header) {
             if (ColumnClick) ColumnClick();
             return 0;
         case NM_CLICK:
-            // Clicking the row that is already selected changes no state, but counts as a click.
+            // A click on the row that is selected already does not raise LVN_ITEMCHANGED.
             if (reinterpret_cast<const NMITEMACTIVATE&>(header).iItem >= 0 && Selected() != 0 && ItemClick)
                 ItemClick();
             return 0;
@@ -218,13 +301,13 @@ void CheckListView::FillCell(NMLVDISPINFOW& cell) const {
         item.state = INDEXTOSTATEIMAGEMASK(IsChecked(position) ? kCheckedImage : kUncheckedImage);
 }
 
-// For typing in the list: the first row from iStart on, and around the end, that begins with the letters.
+// For typing in the list: the first row from iStart on, continuing at the top, that begins with the letters.
 LRESULT CheckListView::FindRow(const NMLVFINDITEMW& search) const {
     if ((search.lvfi.flags & (LVFI_STRING | LVFI_PARTIAL)) == 0 || search.lvfi.psz == nullptr) return -1;
-    const std::wstring letters = search.lvfi.psz;
+    const std::wstring_view letters = search.lvfi.psz;
     for (int step = 0; step < Count(); ++step) {
         const int row = (std::max(search.iStart, 0) + step) % Count();
-        if (BeginsWith(text_(row + 1, 0), letters)) return row;
+        if (ContainsCaseless(text_(row + 1, 0).substr(0, letters.size()), letters)) return row;
     }
     return -1;
 }

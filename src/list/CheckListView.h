@@ -1,5 +1,5 @@
 // A report list with a check box before each row. It stores check marks but no rows: it asks for the texts of
-// the rows on the screen, so that 32,767 rows cost no more than ten. All positions are 1-based.
+// the rows on the screen, so 32,767 rows cost no more than ten. Positions of rows are 1-based.
 #pragma once
 
 #include <cstdint>
@@ -9,7 +9,6 @@
 #include <string>
 #include <vector>
 
-#include "list/EmptyListText.h"
 #include "list/ListColumns.h"
 #include "window/Control.h"
 #include "window/Subclass.h"
@@ -18,81 +17,88 @@ namespace lindrel {
 
 class CheckListView : public Control {
   public:
-    // Text of a cell; column 0 or 1. Asked when a row is painted or searched by its first letters.
+    // The text of a cell; column 0 or 1. Called when a row is drawn or searched by its first letters.
     using CellText = std::function<std::wstring(int position, int column)>;
 
-    // Wraps a list view that was made with kStyles. Its parent passes the WM_NOTIFY messages of the control
-    // to Notify(). Throws SystemFault when the system cannot.
+    // For a list view created with kStyles, whose parent passes its WM_NOTIFY messages to Notify(). Throws
+    // SystemFault if there is no such window.
     void Attach(HWND list);
     static constexpr DWORD kStyles = LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL | LVS_SHOWSELALWAYS;
 
-    // The columns share the list's width (list/ListColumns.h).
+    // `share` is the column's part of the list's width (list/ListColumns.h). Throws SystemFault.
     void AddColumn(const std::wstring& caption, int share) { columns_.Add(caption, share); }
-    // Makes new check boxes, and scales what has a size of its own. New colours and themes give new check
-    // boxes by themselves, if the parent passes WM_SYSCOLORCHANGE on.
+    // Scales check boxes and columns. Check boxes also change with colours and themes, if the parent passes
+    // WM_SYSCOLORCHANGE on. Throws SystemFault if Windows cannot draw the check boxes.
     void ApplyResolution(UINT dpi);
 
-    // Shows `count` rows, none checked, none selected, scrolled to the first.
+    // Shows `count` rows, none of them checked or selected, scrolled to the first.
     void SetRows(int count, CellText text);
     int Count() const { return static_cast<int>(checked_.size()); }
 
+    // These throw std::out_of_range for a position outside 1..Count(). They do not call ItemCheck.
     bool IsChecked(int position) const { return checked_.at(static_cast<std::size_t>(position - 1)); }
-    // Raises no ItemCheck.
     void SetChecked(int position, bool checked);
-    void SetAllChecked(bool checked);
-    // Checks the rows at these positions as well. Throws std::out_of_range for one that is not there.
+    // Checks these rows too; throws before the list is redrawn, with the earlier ones checked.
     void CheckRows(std::span<const std::int16_t> positions);
+    void SetAllChecked(bool checked);
 
-    // 0 when no row is selected.
-    int Selected() const;
-    // Raises no ItemClick. The row gets the focus rectangle too.
+    // 0 if no row is selected.
+    int Selected() const { return ListView_GetNextItem(Handle(), -1, LVNI_SELECTED) + 1; }
+    // Also moves the focus rectangle to the row; does not call ItemClick. There must be such a row.
     void Select(int position);
-    void EnsureVisible(int position);
+    // Scrolls to a row; does nothing if there is no such row.
+    void EnsureVisible(int position) { ListView_EnsureVisible(Handle(), position - 1, FALSE); }
     // The row where the arrow keys start, selected or not; 0 for none.
-    int Focused() const;
-    // Sets where the arrow keys start without selecting a row. A position past the end means the last row.
+    int Focused() const { return ListView_GetNextItem(Handle(), -1, LVNI_FOCUSED) + 1; }
+    // Sets where the arrow keys start, without selecting a row. A position past the end means the last row;
+    // one before the first changes nothing.
     void Focus(int position);
 
-    void ShowGridLines(bool shown);
-    // What the list says while it has no rows (list/EmptyListText.h).
-    void SetEmptyText(const std::wstring& text) { empty_text_.Set(text); }
+    void ShowGridLines(bool shown) {
+        ListView_SetExtendedListViewStyleEx(Handle(), LVS_EX_GRIDLINES, shown ? LVS_EX_GRIDLINES : 0);
+    }
+    // The text that the list shows while it has no rows, in one or several lines; none if it is empty. It is
+    // not a row: keys, check marks and screen readers find an empty list.
+    void SetEmptyText(const std::wstring& text);
 
     // What the user does.
-    std::function<void()> ItemClick;              // a row was selected or clicked, by mouse or keys
-    std::function<void(int position)> ItemCheck;  // a check box was toggled, by mouse or space bar
+    std::function<void()> ItemClick;              // selected or clicked a row, by mouse or keys
+    std::function<void(int position)> ItemCheck;  // toggled a check box, by mouse or space bar
     std::function<void()> ColumnClick;
-    std::function<void()> Activate;  // the selected row was double-clicked, or Enter pressed
-    std::function<void()> Copy;      // Ctrl+C
-    // A menu was asked for, at a point of the screen, by mouse or keys. A row under the mouse is selected.
+    std::function<void()> Activate;  // double-clicked the selected row, or pressed Enter
+    std::function<void()> Copy;      // pressed Ctrl+C
+    // Asked for a menu by mouse or keys, at a point of the screen. A row under the mouse is selected first.
     std::function<void(POINT at)> MenuAsked;
 
+    // WM_NOTIFY from the list; the result is the answer to it.
     LRESULT Notify(const NMHDR& header);
 
   private:
     std::optional<LRESULT> OnMessage(UINT message, WPARAM wparam, LPARAM lparam);
     void AfterMessage(UINT message, WPARAM wparam);
     std::optional<LRESULT> OnInput(UINT message, WPARAM wparam, LPARAM lparam);
-    // The row at a point of the client area, 0 for none; `where` gets the LVHT_ flags.
-    int RowAt(POINT point, UINT& where) const;
-    bool ToggledByMouse(LPARAM point);
-    // False when the place is none of the list's own.
-    bool AskForMenu(LPARAM place);
+    bool ShowsEmptyText() const { return !empty_text_.empty() && ListView_GetItemCount(Handle()) == 0; }
+    void DrawEmptyText(HDC dc) const;
+    // What is at a point of the client area.
+    LVHITTESTINFO HitAt(POINT point) const;
+    bool ToggledByMouse(POINT point);
+    // `point` is the lparam of WM_CONTEXTMENU. False for a point outside the client area.
+    bool AskForMenu(LPARAM point);
     POINT BelowSelectedRow() const;
     void MakeCheckBoxes(UINT dpi);
-    void SpaceCheckBoxes(UINT dpi) const;
-    void ToggleFocused();
     void Toggle(int position);
-    void Repaint() const;
+    // ListView_RedrawItems would visit every row, on the screen or not.
+    void Repaint() const { InvalidateRect(Handle(), nullptr, TRUE); }
     void TellScreenReaders(LONG row) const;  // 1-based; CHILDID_SELF for all
     void FillCell(NMLVDISPINFOW& cell) const;
     LRESULT FindRow(const NMLVFINDITEMW& search) const;
 
     Subclass subclass_;
     ListColumns columns_;
-    EmptyListText empty_text_;
+    std::wstring empty_text_;
     std::vector<bool> checked_;
     CellText text_;
-    bool selecting_ = false;  // the program itself changes the selection
+    bool selecting_ = false;  // the program itself is changing the selection
 };
 
 }  // namespace lindrel

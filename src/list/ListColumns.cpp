@@ -15,39 +15,36 @@ void ListColumns::Add(const std::wstring& caption, int share) {
     column.pszText = text.data();
     column.iSubItem = static_cast<int>(shares_.size());
     if (ListView_InsertColumn(list_, column.iSubItem, &column) == -1)
-        throw SystemFault(L"oszlop hozzáadása a listához", GetLastError());
+        throw SystemFault(L"oszlop hozzáadása a listához", 0);
     shares_.push_back(share);
     Fit();
 }
 
 void ListColumns::ApplyResolution(UINT dpi) {
     const UINT before = std::exchange(dpi_, dpi);
-    if (set_by_user_)
-        Scale(before, dpi);
-    else
-        Fit();
+    if (!set_by_user_) return Fit();
+    for (int column = 0; column < static_cast<int>(shares_.size()); ++column)
+        ListView_SetColumnWidth(
+            list_, column,
+            MulDiv(ListView_GetColumnWidth(list_, column), static_cast<int>(dpi), static_cast<int>(before)));
 }
 
 void ListColumns::OnNotify(const NMHDR& header) {
-    if (IsResizedByUser(header)) set_by_user_ = true;
+    if (fitting_ || (header.code != HDN_ITEMCHANGEDW && header.code != HDN_ITEMCHANGEDA)) return;
+    // The user has dragged a divider, double-clicked it, or used the list's own keys.
+    const HDITEMW* const item = reinterpret_cast<const NMHEADERW&>(header).pitem;
+    if (item != nullptr && (item->mask & HDI_WIDTH) != 0) set_by_user_ = true;
 }
 
-// Comes too when the vertical scroll bar appears or goes.
+// Also called when the vertical scroll bar appears or disappears.
 void ListColumns::OnSize() {
     if (!set_by_user_) Fit();
 }
 
-// By dragging a divider, by a double click on it, or by the list's own keys.
-bool ListColumns::IsResizedByUser(const NMHDR& header) const {
-    if (header.code != HDN_ITEMCHANGEDW && header.code != HDN_ITEMCHANGEDA) return false;
-    const HDITEMW* const item = reinterpret_cast<const NMHEADERW&>(header).pitem;
-    return !fitting_ && item != nullptr && (item->mask & HDI_WIDTH) != 0;
-}
-
 void ListColumns::Fit() {
-    // Until it is placed, the list has no width to share.
+    // Until it gets its bounds, the list has no width to share.
     if (Room() == 0 || std::exchange(fitting_, true)) return;
-    // New widths can bring a scroll bar or take it away, and with it change the room that they share.
+    // With new widths a scroll bar can appear or disappear, which changes the room that they share.
     constexpr int kTries = 4;
     int shared = -1;
     for (int i = 0; i < kTries && shared != Room(); ++i) ShareOut(shared = Room());
@@ -66,18 +63,11 @@ void ListColumns::ShareOut(int width) const {
     for (int column = 0; column < static_cast<int>(shares_.size()); ++column) {
         const int share = shares_[static_cast<std::size_t>(column)];
         const int own = MulDiv(width, share, shares_left);
-        // Even a column that has its width already would move all that is right of it.
+        // Setting a width redraws all columns to the right, even if it is the same width.
         if (ListView_GetColumnWidth(list_, column) != own) ListView_SetColumnWidth(list_, column, own);
         width -= own;
         shares_left -= share;
     }
-}
-
-void ListColumns::Scale(UINT from_dpi, UINT to_dpi) const {
-    for (int column = 0; column < static_cast<int>(shares_.size()); ++column)
-        ListView_SetColumnWidth(list_, column,
-                                MulDiv(ListView_GetColumnWidth(list_, column), static_cast<int>(to_dpi),
-                                       static_cast<int>(from_dpi)));
 }
 
 int ListColumns::Room() const {

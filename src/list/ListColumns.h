@@ -1,5 +1,5 @@
-// The columns of a report list. They share the list's width, whatever it is, until the user sets the width of
-// one; from then on all of them stay as they are.
+// The columns of a report list. They share the list's width until the user changes the width of one; after
+// that all of them keep their widths.
 #pragma once
 
 #include <string>
@@ -11,33 +11,31 @@ namespace lindrel {
 
 class ListColumns {
   public:
-    // For a list view in report form, without columns.
+    // For a list view in report form without columns.
     void Attach(HWND list) { list_ = list; }
-    // A column at the right of the others. All shares together are the width of the list.
-    // Throws SystemFault when the system cannot.
+    // Adds a column to the right of the others. Its width is to the list's as `share` is to the sum of all
+    // shares. Throws SystemFault if Windows cannot add it.
     void Add(const std::wstring& caption, int share);
-    // Columns that the user has made keep their width in inches when the resolution changes.
+    // Columns with widths set by the user keep them in inches.
     void ApplyResolution(UINT dpi);
-    // Before the list, while it is not redrawn, gets its vertical scroll bar: spares fitting them on the
-    // screen.
+    // For a list that is about to get its vertical scroll bar and is not redrawn at the moment: fits the
+    // columns now, so that the user does not see them move afterwards.
     void MakeRoomForScrollBar();
 
-    // What the list hears from its header, and its new size, once the list has dealt with it.
+    // To be called before the list handles WM_NOTIFY from its header, and after it has handled WM_SIZE.
     void OnNotify(const NMHDR& header);
     void OnSize();
 
   private:
-    bool IsResizedByUser(const NMHDR& header) const;
     void Fit();
     void ShareOut(int width) const;
-    void Scale(UINT from_dpi, UINT to_dpi) const;
-    int Room() const;
+    int Room() const;  // width of the client area
 
     HWND list_ = nullptr;
     std::vector<int> shares_;
     UINT dpi_ = USER_DEFAULT_SCREEN_DPI;
-    bool fitting_ = false;      // the program itself changes the widths
-    bool set_by_user_ = false;  // until the list is gone
+    bool fitting_ = false;  // the program itself is changing the widths
+    bool set_by_user_ = false;
 };
 
 }  // namespace lindrel

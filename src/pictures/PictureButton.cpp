@@ -16,17 +16,17 @@ void PictureButton::SetPicture(int icon_id, int size) {
 }
 
 void PictureButton::Draw(const DRAWITEMSTRUCT& item) const {
-    RECT place = item.rcItem;
-    FillRect(item.hDC, &place, GetSysColorBrush(COLOR_BTNFACE));
-    const int left = (place.left + place.right - size_) / 2;
-    const int top = (place.top + place.bottom - size_) / 2;
+    RECT bounds = item.rcItem;
+    FillRect(item.hDC, &bounds, GetSysColorBrush(COLOR_BTNFACE));
+    const int left = (bounds.left + bounds.right - size_) / 2;
+    const int top = (bounds.top + bounds.bottom - size_) / 2;
     if (picture_.Handle() != nullptr)
         DrawIconEx(item.hDC, left, top, picture_.Handle(), size_, size_, 0, nullptr, DI_NORMAL);
     if ((item.itemState & ODS_FOCUS) == 0) return;
-    // Enter presses it now, as a frame tells of every other button.
-    FrameRect(item.hDC, &place, GetSysColorBrush(COLOR_HIGHLIGHT));
-    InflateRect(&place, -1, -1);
-    if ((item.itemState & ODS_NOFOCUSRECT) == 0) DrawFocusRect(item.hDC, &place);
+    // The frame of a default button: Enter presses this one.
+    FrameRect(item.hDC, &bounds, GetSysColorBrush(COLOR_HIGHLIGHT));
+    InflateRect(&bounds, -1, -1);
+    if ((item.itemState & ODS_NOFOCUSRECT) == 0) DrawFocusRect(item.hDC, &bounds);
 }
 
 void PictureButton::ShowBorder(bool shown) const {
@@ -46,18 +46,18 @@ std::optional<LRESULT> PictureButton::OnMessage(UINT message, WPARAM wparam, LPA
             return TRUE;
         case WM_LBUTTONDOWN:
         case WM_LBUTTONDBLCLK:
-            MouseDown();
+            ShowBorder(true);
             return std::nullopt;
         case WM_LBUTTONUP:
-        case WM_CAPTURECHANGED:  // the button never comes up when something else takes the mouse
-            MouseUp();
+        case WM_CAPTURECHANGED:  // without WM_LBUTTONUP when another window takes the mouse
+            ShowBorder(false);
             return std::nullopt;
         case WM_GETDLGCODE:
             // Enter presses the button that has the focus.
             return DLGC_BUTTON | (HasFocus() ? DLGC_DEFPUSHBUTTON : DLGC_UNDEFPUSHBUTTON);
         case BM_SETSTYLE:
-            // The keyboard navigation makes it a default button and an ordinary one by turns; either would
-            // draw itself, without the picture.
+            // The keyboard navigation turns it into a default or a plain push button, which would draw
+            // itself without the picture.
             return subclass_.Default(message, (wparam & ~WPARAM{BS_TYPEMASK}) | kStyle, lparam);
         case WM_NCDESTROY:
             Wrap(nullptr);

@@ -1,4 +1,4 @@
-// A button that shows a picture in the place of its text. The text stays its name for screen readers.
+// A button that shows a picture instead of its text. Screen readers read the text.
 #pragma once
 
 #include <optional>
@@ -11,20 +11,19 @@ namespace lindrel {
 
 class PictureButton : public Control {
   public:
-    // Wraps a button that was made with kStyle. Its parent sends WM_DRAWITEM back to the control that it
-    // is for (hwndItem), which draws itself. Throws SystemFault when the system cannot.
+    // For a button created with kStyle, whose parent sends WM_DRAWITEM back to the control that it is about
+    // (hwndItem). Throws SystemFault if there is no such window.
     void Attach(HWND button);
     static constexpr DWORD kStyle = BS_OWNERDRAW;
 
-    // Shows an icon of the resources at a size in pixels. Throws SystemFault when there is none.
+    // Shows an icon of the resources at a size in pixels. Throws SystemFault if there is no such icon; the
+    // old one stays then.
     void SetPicture(int icon_id, int size);
 
   private:
     std::optional<LRESULT> OnMessage(UINT message, WPARAM wparam, LPARAM lparam);
     void Draw(const DRAWITEMSTRUCT& item) const;
-    // The picture stays as it is while the mouse holds the button; only the border tells.
-    void MouseDown() const { ShowBorder(true); }
-    void MouseUp() const { ShowBorder(false); }
+    // While the mouse holds the button, only its border shows that it is pressed.
     void ShowBorder(bool shown) const;
 
     Subclass subclass_;

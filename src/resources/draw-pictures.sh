@@ -1,15 +1,15 @@
 #!/usr/bin/env bash
-# Renders the drawings of pictures/*.svg into the icons and strips beside them, which are what the program is built
-# from. Run it after changing a drawing. Needs rsvg-convert, icotool, ImageMagick and Python.
+# Renders the drawings pictures/*.svg into the icons and strips next to them, from which the program is built. Run it
+# after changing a drawing. Needs rsvg-convert, icotool, ImageMagick and Python.
 set -eu
 cd "$(dirname "$0")/pictures"
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
-# What the toolbar shows, in its order. Each size is one strip, so that the program loads one picture and not ten.
+# The toolbar's pictures, in its order. Each size is one strip, so that the program loads one picture instead of ten.
 toolbar=(mnuNew mnuOpen mnuSave mnuAdd mnuExport mnuEdit mnuFind mnuMove mnuDel mnuSelectAll)
 
-# What the picture's place asks for at 100, 125, 150 and 200 %. The shell shows the program's own in larger sizes too.
+# The sizes at 100, 125, 150 and 200 %. The shell shows the program's own icon in larger sizes too.
 sizes_of() { # name
   case $1 in
     mnu* | picGo) echo 24 30 36 48 ;;
@@ -24,7 +24,7 @@ for drawing in *.svg; do
   for size in $(sizes_of "$name"); do
     ../fit-to-pixels.py "$drawing" "$size" | rsvg-convert -f png -o "$work/plain.png"
     convert "$work/plain.png" -strip "PNG32:$work/$name-$size.png"
-    [ "$size" -lt 256 ] || rendered+=(-r) # kept compressed, as the system expects it
+    [ "$size" -lt 256 ] || rendered+=(-r) # stays compressed, as Windows expects it
     rendered+=("$work/$name-$size.png")
   done
   [[ $name == mnu* ]] || icotool -c -o "$name.ico" "${rendered[@]}"

@@ -3,8 +3,8 @@
 
     fit-to-pixels.py drawing.svg size > fitted.svg
 
-Whole numbers in the drawing are edges: they are put on whole pixels. All others, those of slants and curves, are
-only scaled. Paths use the absolute commands M, L, H, V, C and Z.
+Whole numbers in the drawing are edges and are rounded to whole pixels. All others, those of slants and curves, are
+only scaled. Paths must use the absolute commands M, L, H, V, C and Z.
 """
 import math
 import re

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstring>
 #include <iterator>
+#include <memory>
 #include <vector>
 
 #include "files/Patience.h"
@@ -15,7 +16,7 @@ namespace {
 
 constexpr std::chrono::milliseconds kPatience{200};
 
-// Another program has it open only for a moment, as a rule: the one that shows what was copied last.
+// A program that watches the clipboard may have it open, usually only for a moment.
 bool OpenPatiently(HWND owner) {
     Patience patience(kPatience);
     do {
@@ -24,7 +25,7 @@ bool OpenPatiently(HWND owner) {
     return false;
 }
 
-// Data may be made only when it is asked for, by the program that offered it. One that hangs would hang us.
+// The owner may render its data only when asked for it. If it hangs, asking would hang this program too.
 bool OwnerAnswers() {
     const HWND owner = GetClipboardOwner();
     return owner == nullptr ||
@@ -46,6 +47,70 @@ class OpenedClipboard {
     bool usable_;
 };
 
+struct FreeItem {
+    UINT Format = 0;
+    void operator()(HANDLE data) const noexcept {
+        STGMEDIUM medium{};
+        medium.tymed = Medium();
+        medium.hGlobal = data;
+        ReleaseStgMedium(&medium);
+    }
+
+  private:
+    DWORD Medium() const {
+        switch (Format) {
+            case CF_BITMAP:
+            case CF_PALETTE:
+                return TYMED_GDI;
+            case CF_ENHMETAFILE:
+                return TYMED_ENHMF;
+            case CF_METAFILEPICT:
+                return TYMED_MFPICT;
+            default:
+                return TYMED_HGLOBAL;
+        }
+    }
+};
+
+// Data for the clipboard in one format; freed unless it is put there.
+using ClipboardItem = std::unique_ptr<void, FreeItem>;
+
+void Put(ClipboardItem item) {
+    // Windows owns what it takes.
+    if (SetClipboardData(item.get_deleter().Format, item.get()) != nullptr) item.release();
+}
+
+// A null item if there is no memory.
+ClipboardItem CopyOf(UINT format, const void* bytes, std::size_t size) {
+    ClipboardItem item(GlobalAlloc(GMEM_MOVEABLE, size), {format});
+    void* const memory = item == nullptr ? nullptr : GlobalLock(item.get());
+    if (memory == nullptr) return {};
+    std::memcpy(memory, bytes, size);
+    GlobalUnlock(item.get());
+    return item;
+}
+
+// Pictures, sounds and files. Any other format beside the new text would be pasted instead of it.
+bool IsNoText(UINT format) {
+    constexpr UINT kStandard[] = {CF_BITMAP,      CF_DIB,  CF_DIBV5, CF_PALETTE, CF_METAFILEPICT,
+                                  CF_ENHMETAFILE, CF_TIFF, CF_RIFF,  CF_WAVE,    CF_HDROP};
+    static const UINT registered[] = {RegisterClipboardFormatW(L"PNG"),
+                                      RegisterClipboardFormatW(L"Preferred DropEffect")};
+    return std::ranges::count(kStandard, format) != 0 || std::ranges::count(registered, format) != 0;
+}
+
+// Copies of what must survive EmptyClipboard, in its order. What cannot be copied is left out.
+std::vector<ClipboardItem> CopiesOfNoText() {
+    std::vector<ClipboardItem> copies;
+    for (UINT format = EnumClipboardFormats(0); format != 0; format = EnumClipboardFormats(format)) {
+        const HANDLE data = IsNoText(format) ? GetClipboardData(format) : nullptr;
+        if (data == nullptr) continue;
+        ClipboardItem copy(OleDuplicateData(data, static_cast<CLIPFORMAT>(format), 0), {format});
+        if (copy != nullptr) copies.push_back(std::move(copy));
+    }
+    return copies;
+}
+
 }  // namespace
 
 std::wstring ClipboardText(HWND owner) {
@@ -55,102 +120,25 @@ std::wstring ClipboardText(HWND owner) {
     if (data == nullptr) return {};
     const auto* const text = static_cast<const wchar_t*>(GlobalLock(data));
     if (text == nullptr) return {};
-    // Another program's memory: it may end before any NUL.
+    // Memory of another program; there may be no NUL in it.
     std::wstring copy(text, wcsnlen(text, GlobalSize(data) / sizeof(wchar_t)));
     GlobalUnlock(data);
     return copy;
 }
 
-namespace {
-
-struct ClipboardItem {
-    UINT Format;
-    HANDLE Data;
-};
-
-DWORD MediumOf(UINT format) {
-    switch (format) {
-        case CF_BITMAP:
-        case CF_PALETTE:
-            return TYMED_GDI;
-        case CF_ENHMETAFILE:
-            return TYMED_ENHMF;
-        case CF_METAFILEPICT:
-            return TYMED_MFPICT;
-        default:
-            return TYMED_HGLOBAL;
-    }
-}
-
-void Free(const ClipboardItem& item) {
-    STGMEDIUM medium{};
-    medium.tymed = MediumOf(item.Format);
-    medium.hGlobal = item.Data;
-    ReleaseStgMedium(&medium);
-}
-
-// What is put on the clipboard is the system's; what is not is given back here.
-void Put(const ClipboardItem& item) {
-    if (SetClipboardData(item.Format, item.Data) == nullptr) Free(item);
-}
-
-// Null when there is no memory.
-HANDLE GlobalCopy(const void* bytes, std::size_t size) {
-    const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, size);
-    if (memory == nullptr) return nullptr;
-    void* const place = GlobalLock(memory);
-    if (place == nullptr) {
-        GlobalFree(memory);
-        return nullptr;
-    }
-    std::memcpy(place, bytes, size);
-    GlobalUnlock(memory);
-    return memory;
-}
-
-// Pictures and files; another form of a text beside the new one would be pasted in its place.
-bool IsNoText(UINT format) {
-    constexpr UINT kStandard[] = {CF_BITMAP,      CF_DIB,  CF_DIBV5, CF_PALETTE, CF_METAFILEPICT,
-                                  CF_ENHMETAFILE, CF_TIFF, CF_RIFF,  CF_WAVE,    CF_HDROP};
-    static const UINT registered[] = {RegisterClipboardFormatW(L"PNG"),
-                                      RegisterClipboardFormatW(L"Preferred DropEffect")};
-    return std::find(std::begin(kStandard), std::end(kStandard), format) != std::end(kStandard) ||
-           std::find(std::begin(registered), std::end(registered), format) != std::end(registered);
-}
-
-// Copies of what stays on the clipboard when it is emptied, in its order. One that cannot be copied is left
-// out.
-std::vector<ClipboardItem> CopiesOfNoText() {
-    std::vector<ClipboardItem> copies;
-    for (UINT format = EnumClipboardFormats(0); format != 0; format = EnumClipboardFormats(format)) {
-        if (!IsNoText(format)) continue;
-        const HANDLE data = GetClipboardData(format);
-        const HANDLE copy =
-            data == nullptr ? nullptr : OleDuplicateData(data, static_cast<CLIPFORMAT>(format), 0);
-        if (copy != nullptr) copies.push_back({format, copy});
-    }
-    return copies;
-}
-
-}  // namespace
-
 void SetClipboardText(HWND owner, const std::wstring& text) {
     const OpenedClipboard clipboard(owner);
     if (!clipboard) return;
-    const HANDLE copy = GlobalCopy(text.c_str(), (text.size() + 1) * sizeof(wchar_t));
+    ClipboardItem copy = CopyOf(CF_UNICODETEXT, text.c_str(), (text.size() + 1) * sizeof(wchar_t));
     if (copy == nullptr) return;
-    const std::vector<ClipboardItem> kept = CopiesOfNoText();
-    if (!EmptyClipboard()) {
-        Free({CF_UNICODETEXT, copy});
-        for (const ClipboardItem& item : kept) Free(item);
-        return;
-    }
-    // First, so that a program that could paste several of them takes what was copied last.
-    Put({CF_UNICODETEXT, copy});
-    // For programs that ask for bytes: without it these would be in the code page of the keyboard's language.
+    std::vector<ClipboardItem> kept = CopiesOfNoText();
+    if (!EmptyClipboard()) return;
+    // First, because programs that can paste several formats take the first one.
+    Put(std::move(copy));
+    // For programs that paste bytes: without it, Windows converts the text to the code page of the keyboard.
     const LCID language = GetSystemDefaultLCID();
-    if (const HANDLE locale = GlobalCopy(&language, sizeof language)) Put({CF_LOCALE, locale});
-    for (const ClipboardItem& item : kept) Put(item);
+    if (ClipboardItem locale = CopyOf(CF_LOCALE, &language, sizeof language)) Put(std::move(locale));
+    for (ClipboardItem& item : kept) Put(std::move(item));
 }
 
 }  // namespace lindrel

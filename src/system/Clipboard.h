@@ -7,15 +7,15 @@
 
 namespace lindrel {
 
-// Both wait up to 200 milliseconds for a program that has the clipboard open, or that has promised what is on
-// it.
+// Both functions wait up to 200 milliseconds for another program that has the clipboard open, and as long for
+// the clipboard's owner to answer.
 
-// The clipboard's text; empty when it holds none, or when that program does not let go or answer.
+// The text on the clipboard; empty if there is none, or if one of these programs makes it wait too long.
 std::wstring ClipboardText(HWND owner);
 
-// Puts a text on the clipboard, an empty one too. Pictures, sounds and files on it stay; every other form of
-// an older text goes (web page, formatted text, bytes). When that program does not let go or answer, or
-// memory is short, nothing changes; the user sees that at the next paste.
+// Puts a text on the clipboard, which may be empty. Pictures, sounds and files on it stay; every other format
+// (web page, formatted text, bytes) is removed. If one of these programs makes it wait too long, or there is
+// no memory, the clipboard stays as it was.
 void SetClipboardText(HWND owner, const std::wstring& text);
 
 }  // namespace lindrel

@@ -17,15 +17,13 @@ namespace {
 
 constexpr std::size_t kLongestPath = 32768;
 
-enum class Purpose { Open, Save };
-
-// Shows one of the file dialogs; false if no file was chosen, with the system's reason, which is 0 if the
-// user cancelled. The library of the dialogs is loaded for the first of them, since it brings the printing
-// system along.
-bool Show(Purpose purpose, OPENFILENAMEW& dialog, DWORD& reason) {
+// Shows one of the file dialogs. False if no file was chosen; `reason` is then the system's error number, 0
+// if the user cancelled. The library is loaded for the first dialog, not at the start, because it loads the
+// printing system too.
+bool Show(bool save, OPENFILENAMEW& dialog, DWORD& reason) {
     constexpr wchar_t kLibrary[] = L"comdlg32.dll";
-    const char* const name = purpose == Purpose::Save ? "GetSaveFileNameW" : "GetOpenFileNameW";
-    const auto show = SystemFunction<decltype(&GetOpenFileNameW)>(kLibrary, name);
+    const auto show =
+        SystemFunction<decltype(&GetOpenFileNameW)>(kLibrary, save ? "GetSaveFileNameW" : "GetOpenFileNameW");
     const auto error = SystemFunction<decltype(&CommDlgExtendedError)>(kLibrary, "CommDlgExtendedError");
     reason = CDERR_INITIALIZATION;
     if (show == nullptr || error == nullptr) return false;
@@ -34,13 +32,12 @@ bool Show(Purpose purpose, OPENFILENAMEW& dialog, DWORD& reason) {
     return false;
 }
 
-std::optional<std::wstring> ChooseFile(HWND owner, const FileDialogOptions& options, Purpose purpose) {
+std::optional<std::wstring> ChooseFile(HWND owner, const FileDialogOptions& options, bool save) {
     std::wstring filter = options.Filter + L"||";
     std::replace(filter.begin(), filter.end(), L'|', L'\0');
     std::vector<wchar_t> path(kLongestPath, L'\0');
     std::copy_n(options.FileName.begin(), std::min(options.FileName.size(), path.size() - 1), path.begin());
 
-    const bool save = purpose == Purpose::Save;
     OPENFILENAMEW dialog{};
     dialog.lStructSize = sizeof dialog;
     dialog.hwndOwner = owner;
@@ -55,7 +52,7 @@ std::optional<std::wstring> ChooseFile(HWND owner, const FileDialogOptions& opti
     if (options.AskToOverwrite) dialog.Flags |= OFN_OVERWRITEPROMPT;
 
     DWORD reason = 0;
-    if (Show(purpose, dialog, reason)) return path.data();
+    if (Show(save, dialog, reason)) return path.data();
     if (reason == 0) return std::nullopt;
     const SystemFault fault(L"a fájlválasztó ablak megnyitása", reason);
     MsgBox(owner, fault.Meaning() + L"\r\nHibakód: " + std::to_wstring(reason), MB_OK | MB_ICONERROR,
@@ -74,11 +71,11 @@ std::optional<std::wstring> ChooseExistingFile(HWND owner, FileDialogOptions opt
 }
 
 std::optional<std::wstring> ChooseFileToOpen(HWND owner, const FileDialogOptions& options) {
-    return ChooseFile(owner, options, Purpose::Open);
+    return ChooseFile(owner, options, false);
 }
 
 std::optional<std::wstring> ChooseFileToSave(HWND owner, const FileDialogOptions& options) {
-    return ChooseFile(owner, options, Purpose::Save);
+    return ChooseFile(owner, options, true);
 }
 
 bool FileExists(HWND owner, const std::wstring& path) {

@@ -12,15 +12,15 @@ struct FileDialogOptions {
     std::wstring Title{};
     std::wstring Filter{};      // "text|pattern|text|pattern..."
     std::wstring FileName{};    // proposed; may be empty
-    std::wstring DefaultExt{};  // appended by the save dialog when none is typed; without a dot
-    // The folder shown first. If it is the same each time, Windows shows the folder that was used last, which
-    // is what people want; so do not vary it. Empty: the system chooses.
+    std::wstring DefaultExt{};  // without a dot; appended by the save dialog if none is typed
+    // The folder shown first; Windows chooses it if this is empty. Pass the same folder each time: Windows
+    // then shows the folder that was used last.
     std::wstring InitDir{};
     bool AskToOverwrite = false;  // whether the save dialog asks before an existing file is chosen
 };
 
-// These return the full path of the chosen file, or nullopt if the user cancels. If the dialog fails they
-// tell the user and throw SystemFault.
+// These functions return the full path of the chosen file, or nullopt if the user cancels. If the dialog
+// fails, they show a message box and throw SystemFault.
 
 // Shows the dialog again, after a message box, until the chosen file exists.
 std::optional<std::wstring> ChooseExistingFile(HWND owner, FileDialogOptions options);

@@ -4,6 +4,7 @@
 #include <shellapi.h>
 
 #include <atomic>
+#include <memory>
 
 #include "faults/Faults.h"
 #include "faults/PendingFault.h"
@@ -13,45 +14,28 @@ namespace lindrel {
 
 namespace {
 
-// What is dragged, as file names; freed with its owner.
-class DraggedFiles {
-  public:
-    explicit DraggedFiles(IDataObject* data) {
-        FORMATETC files{CF_HDROP, nullptr, DVASPECT_CONTENT, -1, TYMED_HGLOBAL};
-        if (data == nullptr || data->GetData(&files, &medium_) != S_OK) medium_ = {};
-    }
-    ~DraggedFiles() { ReleaseStgMedium(&medium_); }
-    DraggedFiles(const DraggedFiles&) = delete;
-    DraggedFiles& operator=(const DraggedFiles&) = delete;
-
-    // The one file; empty when there are several or none.
-    std::wstring Only() const {
-        auto* const files = static_cast<HDROP>(medium_.hGlobal);
-        if (medium_.tymed != TYMED_HGLOBAL || DragQueryFileW(files, 0xFFFFFFFF, nullptr, 0) != 1) return {};
-        std::wstring path(DragQueryFileW(files, 0, nullptr, 0), L'\0');
-        DragQueryFileW(files, 0, path.data(), static_cast<UINT>(path.size()) + 1);
-        return path;
-    }
-
-  private:
-    STGMEDIUM medium_{};
-};
-
-// Path of the one file that is dragged, if it has the extension; otherwise empty.
+// The path of the only dragged file if it has the extension; otherwise empty.
 std::wstring DraggedFile(IDataObject* data, const std::wstring& extension) {
-    const std::wstring path = DraggedFiles(data).Only();
+    FORMATETC files{CF_HDROP, nullptr, DVASPECT_CONTENT, -1, TYMED_HGLOBAL};
+    STGMEDIUM medium{};
+    if (data == nullptr || data->GetData(&files, &medium) != S_OK) return {};
+    const std::unique_ptr<STGMEDIUM, decltype(&ReleaseStgMedium)> released(&medium, &ReleaseStgMedium);
+    auto* const names = static_cast<HDROP>(medium.hGlobal);
+    if (medium.tymed != TYMED_HGLOBAL || DragQueryFileW(names, 0xFFFFFFFF, nullptr, 0) != 1) return {};
+    std::wstring path(DragQueryFileW(names, 0, nullptr, 0), L'\0');
+    DragQueryFileW(names, 0, path.data(), static_cast<UINT>(path.size()) + 1);
     if (path.size() <= extension.size()) return {};
-    const std::wstring end = path.substr(path.size() - extension.size());
-    const bool wanted = CompareStringOrdinal(end.c_str(), -1, extension.c_str(), -1, TRUE) == CSTR_EQUAL;
+    const wchar_t* const end = path.c_str() + (path.size() - extension.size());
+    const bool wanted = CompareStringOrdinal(end, -1, extension.c_str(), -1, TRUE) == CSTR_EQUAL;
     return wanted && FileIsThere(path) ? path : std::wstring();
 }
 
 }  // namespace
 
-// COM's interfaces have no virtual destructors; Release() deletes the object as what it is.
+// COM interfaces have no virtual destructors; Release() deletes the object by its own type.
 #pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
 
-// Belongs to the system from its registration to its end.
+// Owned by Windows while it is registered.
 class FileDrop::Target final : public IDropTarget {
   public:
     explicit Target(FileDrop& owner) : owner_(owner) {}
@@ -90,13 +74,13 @@ class FileDrop::Target final : public IDropTarget {
         *effect = Allowed(*effect);
         if (*effect == DROPEFFECT_NONE) return S_OK;
         owner_.path_ = std::exchange(path_, {});
-        // If the queue is full nothing happens, and the user drops the file again.
+        // If the queue is full nothing is opened, and the user has to drop the file again.
         static_cast<void>(PostMessageW(owner_.window_, kMessage, 0, 0));
         return S_OK;
     }
 
   private:
-    // The window is disabled while a dialog or box of it is open.
+    // The window is disabled while it has a dialog or message box open.
     DWORD Allowed(DWORD offered) const {
         if (path_.empty() || !IsWindowEnabled(owner_.window_)) return DROPEFFECT_NONE;
         if ((offered & DROPEFFECT_COPY) != 0) return DROPEFFECT_COPY;
@@ -104,7 +88,7 @@ class FileDrop::Target final : public IDropTarget {
     }
 
     FileDrop& owner_;
-    std::wstring path_;  // of the file over the window
+    std::wstring path_;  // of the file that is over the window
     std::atomic<ULONG> references_{1};
 };
 

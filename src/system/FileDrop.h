@@ -1,5 +1,5 @@
-// Takes a file that the user drags onto a window. Anything but one file of the right extension is refused
-// while the user still holds it: the cursor shows that.
+// Accepts a file that the user drags onto a window. Anything but one file with the right extension is refused
+// during the drag, as the cursor shows.
 #pragma once
 
 #include <string>
@@ -11,8 +11,8 @@ namespace lindrel {
 
 class FileDrop {
   public:
-    // Posted to the window after a drop, so that a box which it shows then does not block the program that
-    // the file comes from.
+    // Posted to the window after a drop. A message box shown during the drop itself would block the program
+    // that the file comes from.
     static constexpr UINT kMessage = WM_APP;
 
     // `extension` with its dot, such as ".lnd"; case does not matter.
@@ -21,13 +21,13 @@ class FileDrop {
     FileDrop(const FileDrop&) = delete;
     FileDrop& operator=(const FileDrop&) = delete;
 
-    // From now on the window takes such files, one at a time, while it is enabled. Its thread must have
-    // called OleInitialize. Throws SystemFault when the system cannot.
+    // From now on the window accepts files while it is enabled. Its thread must have called OleInitialize.
+    // Throws SystemFault if Windows refuses.
     void Attach(HWND window);
-    // Before the window is destroyed.
+    // To be called before the window is destroyed.
     void Detach();
 
-    // Path of the file that was dropped last; for kMessage.
+    // For kMessage: the path of the dropped file; empty if it was taken already.
     std::wstring TakePath() { return std::exchange(path_, {}); }
 
   private:

@@ -2,21 +2,19 @@
 
 #include <utility>
 
-#include "faults/Faults.h"
+#include "faults/LastError.h"
 #include "window/Display.h"
 
 namespace lindrel {
 
 namespace {
 
-// While it lives, the next box of an owner appears over the middle of that owner; the system would put it
-// into the middle of the screen.
+// Centres the next message box of an owner on that owner. Windows would centre it on the screen.
 class BoxOverOwner {
   public:
     explicit BoxOverOwner(HWND owner) : owner_(owner), outer_(std::exchange(current, this)) {
-        // An owner that is not to be seen has no middle.
         if (!IsWindowVisible(owner) || IsIconic(owner)) return;
-        // Without the hook the box appears where the system puts it.
+        // If this fails the box appears where Windows puts it.
         hook_ = SetWindowsHookExW(WH_CBT, &BoxOverOwner::OnHook, nullptr, GetCurrentThreadId());
     }
     ~BoxOverOwner() {
@@ -27,14 +25,14 @@ class BoxOverOwner {
     BoxOverOwner& operator=(const BoxOverOwner&) = delete;
 
   private:
-    // A box is activated when it has its size and before it is painted.
+    // A box has its size when it is activated, and has not been painted yet.
     static LRESULT CALLBACK OnHook(int code, WPARAM wparam, LPARAM lparam) {
         if (code == HCBT_ACTIVATE) current->OnActivate(reinterpret_cast<HWND>(wparam));
         return CallNextHookEx(nullptr, code, wparam, lparam);
     }
     void OnActivate(HWND window) {
         if (hook_ == nullptr || GetWindow(window, GW_OWNER) != owner_) return;
-        Unhook();  // once: from then on the user may move it
+        Unhook();  // once; after that the user may move it
         CentreOnOwner(window, owner_);
     }
     void Unhook() {
@@ -44,7 +42,7 @@ class BoxOverOwner {
     static inline thread_local BoxOverOwner* current = nullptr;
 
     HWND owner_;
-    BoxOverOwner* outer_;  // of a box over which this one appears
+    BoxOverOwner* outer_;  // of the box that is open already, or nullptr
     HHOOK hook_ = nullptr;
 };
 
@@ -53,12 +51,8 @@ class BoxOverOwner {
 int MsgBox(HWND owner, const std::wstring& text, UINT style, const std::wstring& title) {
     const BoxOverOwner over_owner(owner);
     const int button = MessageBoxW(owner, text.c_str(), title.c_str(), style);
-    if (button == 0) throw SystemFault(L"üzenetablak megjelenítése", GetLastError());
+    if (button == 0) ThrowLastError(L"üzenetablak megjelenítése");
     return button;
-}
-
-void SoundNothingToDo() {
-    static_cast<void>(MessageBeep(MB_OK));  // a machine without sounds is silent
 }
 
 }  // namespace lindrel

@@ -10,12 +10,14 @@ namespace lindrel {
 inline constexpr wchar_t kApplicationTitle[] = L"Lindrel";
 inline constexpr wchar_t kErrorTitle[] = L"Hiba";
 
-// Shows a message box and returns the button pressed (IDOK, IDYES, ...). `style` is a combination of MB_
-// flags. Throws SystemFault when the box cannot be shown.
+// Shows a message box over the middle of its owner and returns the button pressed (IDOK, IDYES, ...). `style`
+// is a combination of MB_ flags. Throws SystemFault if the box cannot be shown.
 int MsgBox(HWND owner, const std::wstring& text, UINT style = MB_OK,
            const std::wstring& title = kApplicationTitle);
 
-// The default beep, for a command that finds nothing to act on.
-void SoundNothingToDo();
+// The default beep: for a command that has nothing to act on.
+inline void SoundNothingToDo() {
+    static_cast<void>(MessageBeep(MB_OK));  // a machine without sound stays silent
+}
 
 }  // namespace lindrel

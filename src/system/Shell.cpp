@@ -10,6 +10,7 @@
 #include "files/FileSearch.h"
 #include "system/AddressKind.h"
 #include "system/MsgBox.h"
+#include "window/Control.h"
 
 namespace lindrel {
 
@@ -56,20 +57,15 @@ bool MayStartAProgram(const std::wstring& address) {
     });
 }
 
-constexpr std::size_t kLine = 80;
+constexpr std::size_t kLine = 80;  // characters
 
-std::wstring InLines(std::wstring text) {
-    for (std::size_t end = kLine; end < text.size(); end += kLine + 2) text.insert(end, L"\r\n");
-    return text;
-}
-
-// For a message box: when the address is so long that the box would not fit on the screen, its beginning and
-// its end, which tells what it opens.
+// For a message box, which must fit on the screen: of a very long address only the beginning and the end,
+// which tells what it opens.
 std::wstring Shown(const std::wstring& address) {
     constexpr std::size_t kHalf = 10 * kLine;
-    if (address.size() <= 2 * kHalf) return InLines(address);
-    return InLines(address.substr(0, kHalf)) + L"\r\n\u2026\r\n" +
-           InLines(address.substr(address.size() - kHalf));
+    if (address.size() <= 2 * kHalf) return InLines(address, kLine);
+    return InLines(address.substr(0, kHalf), kLine) + L"\r\n\u2026\r\n" +
+           InLines(address.substr(address.size() - kHalf), kLine);
 }
 
 bool UserAgreesToOpen(HWND owner, const std::wstring& address) {
@@ -87,11 +83,11 @@ INT_PTR OpenAddress(HWND owner, const std::wstring& address) {
 }
 
 std::optional<std::wstring> ShellFolder(int csidl) {
-    PIDLIST_ABSOLUTE place = nullptr;
-    if (FAILED(SHGetSpecialFolderLocation(nullptr, csidl, &place))) return std::nullopt;
+    PIDLIST_ABSOLUTE folder = nullptr;
+    if (FAILED(SHGetSpecialFolderLocation(nullptr, csidl, &folder))) return std::nullopt;
     wchar_t path[MAX_PATH] = L"";
-    const bool known = SHGetPathFromIDListW(place, path) != FALSE;
-    CoTaskMemFree(place);
+    const bool known = SHGetPathFromIDListW(folder, path) != FALSE;
+    CoTaskMemFree(folder);
     if (!known) return std::nullopt;
     return path;
 }

@@ -1,13 +1,12 @@
-// The system's libraries that no start of the program needs.
+// Libraries of Windows that are loaded only when they are needed.
 #pragma once
 
 #include "window/Windows.h"
 
 namespace lindrel {
 
-// A function of a library in the system's own folder, or nullptr when either is not there. Function is a
-// pointer type. The library is loaded when it is wanted for the first time, and stays: its windows may still
-// be open.
+// A function of a library in the Windows system folder, or nullptr if either is missing. Function is a
+// pointer type. The library stays loaded, since its windows may still be open.
 template <typename Function>
 Function SystemFunction(const wchar_t* library, const char* name) {
     const HMODULE module = LoadLibraryExW(library, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);

@@ -1,4 +1,4 @@
-// The hourglass, for as long as the object lives.
+// Shows the hourglass until it is destroyed.
 #pragma once
 
 #include "window/Windows.h"

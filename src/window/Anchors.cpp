@@ -36,16 +36,15 @@ void Anchors::Remember(HWND dialog, std::initializer_list<Control> controls) {
     controls_.clear();
     for (HWND control = GetWindow(dialog, GW_CHILD); control != nullptr;
          control = GetWindow(control, GW_HWNDNEXT)) {
-        RECT place{};
-        GetWindowRect(control, &place);
-        MapWindowPoints(HWND_DESKTOP, dialog, reinterpret_cast<POINT*>(&place), 2);
-        const auto* const named = std::find_if(
-            controls.begin(), controls.end(),
-            [control](const Control& candidate) { return candidate.Id == GetDlgCtrlID(control); });
-        if (named != controls.end())
-            controls_.push_back({control, named->Across, named->Down, place});
-        else
-            controls_.push_back({control, Growth::Stays, Growth::Stays, place});
+        Remembered remembered{control, Growth::Stays, Growth::Stays, {}};
+        GetWindowRect(control, &remembered.bounds);
+        MapWindowPoints(HWND_DESKTOP, dialog, reinterpret_cast<POINT*>(&remembered.bounds), 2);
+        for (const Control& listed : controls) {
+            if (listed.Id != GetDlgCtrlID(control)) continue;
+            remembered.across = listed.Across;
+            remembered.down = listed.Down;
+        }
+        controls_.push_back(remembered);
     }
 }
 
@@ -56,20 +55,17 @@ void Anchors::Place() const {
     const LONG down = std::max(client.cy - Scaled(least_client_.cy), 0L);
     PlacedTogether placed(dialog_, static_cast<int>(controls_.size()));
     for (const Remembered& remembered : controls_) {
-        RECT place = remembered.place;
-        for (LONG* const side : {&place.left, &place.top, &place.right, &place.bottom}) *side = Scaled(*side);
-        Grow(place.left, place.right, remembered.across, across);
-        Grow(place.top, place.bottom, remembered.down, down);
-        placed.Move(remembered.control, place);
+        RECT bounds = remembered.bounds;
+        for (LONG* const side : {&bounds.left, &bounds.top, &bounds.right, &bounds.bottom})
+            *side = Scaled(*side);
+        Grow(bounds.left, bounds.right, remembered.across, across);
+        Grow(bounds.top, bounds.bottom, remembered.down, down);
+        placed.Move(remembered.control, bounds);
     }
 }
 
 void Anchors::LimitSize(MINMAXINFO& info) const {
     if (dialog_ != nullptr) info.ptMinTrackSize = {Scaled(least_window_.cx), Scaled(least_window_.cy)};
-}
-
-void Anchors::ChangeResolution(UINT dpi) {
-    dpi_ = dpi;
 }
 
 }  // namespace lindrel

@@ -1,5 +1,5 @@
-// Moves and stretches the controls of a resizable dialog as it grows. The template is the dialog at its
-// smallest.
+// Moves and stretches the controls of a resizable dialog as it grows. The template has the dialog's smallest
+// size.
 #pragma once
 
 #include <initializer_list>
@@ -9,8 +9,7 @@
 
 namespace lindrel {
 
-// What a control does along one direction when the dialog grows: stays, moves with the far side, or
-// stretches.
+// What a control does along one direction as the dialog grows: stays, moves with the far side, or stretches.
 enum class Growth { Stays, Moves, Stretches };
 
 class Anchors {
@@ -21,26 +20,26 @@ class Anchors {
         Growth Down;
     };
 
-    // Takes the current places of all controls as those in the smallest dialog. Controls that are not named
+    // Takes the current bounds of all controls as those in the smallest dialog. Controls that are not listed
     // stay where they are as it grows.
     void Remember(HWND dialog, std::initializer_list<Control> controls);
 
-    // For WM_SIZE, WM_GETMINMAXINFO and, before the dialog manager handles it, WM_DPICHANGED. The manager
-    // scales the window and each control, in an order of its own: when it is done, Place() is to be called
-    // again. They do nothing before Remember().
+    // For WM_SIZE, for WM_GETMINMAXINFO, and for WM_DPICHANGED before the dialog manager handles it. The
+    // manager scales the dialog and its controls in an order of its own, so call Place() again when it is
+    // done. They do nothing before Remember().
     void Place() const;
     void LimitSize(MINMAXINFO& info) const;
-    void ChangeResolution(UINT dpi);
+    void ChangeResolution(UINT dpi) { dpi_ = dpi; }
 
   private:
     struct Remembered {
         HWND control;
         Growth across;
         Growth down;
-        RECT place;
+        RECT bounds;
     };
     SIZE ClientSize() const;
-    // A length of the remembered dialog at the resolution that it has now.
+    // A length of the remembered dialog at the present resolution.
     LONG Scaled(LONG length) const;
 
     HWND dialog_ = nullptr;

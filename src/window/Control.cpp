@@ -2,46 +2,40 @@
 
 #include <algorithm>
 
-#include "faults/Faults.h"
+#include "faults/LastError.h"
+#include "window/Display.h"
 
 namespace lindrel {
 
 namespace {
 
-// "&" doubled: a single one would mark an access key.
+// With each "&" doubled; a single one would underline the next character as an access key.
 std::wstring WithoutAccessKeys(std::wstring_view text) {
     std::wstring doubled;
     for (const wchar_t character : text) doubled.append(character == L'&' ? 2 : 1, character);
     return doubled;
 }
 
-// Width in pixels of the widest of some texts in the font of a control; 0 when the system cannot say.
-int WidestOf(const Control& control, const std::vector<std::wstring>& texts) {
-    const HDC screen = GetDC(control.Handle());
-    if (screen == nullptr) return 0;
-    const HGDIOBJ before =
-        SelectObject(screen, reinterpret_cast<HFONT>(SendMessageW(control.Handle(), WM_GETFONT, 0, 0)));
-    LONG widest = 0;
-    for (const std::wstring& text : texts) {
-        SIZE size{};
-        // Without an answer the text asks for no width.
-        static_cast<void>(GetTextExtentPoint32W(screen, text.c_str(), static_cast<int>(text.size()), &size));
-        widest = std::max(widest, size.cx);
-    }
-    SelectObject(screen, before);
-    ReleaseDC(control.Handle(), screen);
-    return static_cast<int>(widest);
+// A text of at most `length` characters. `copy` writes it with its NUL and returns its length.
+template <typename Copy>
+std::wstring Copied(LRESULT length, Copy&& copy) {
+    if (length <= 0) return {};
+    std::wstring text(static_cast<std::size_t>(length) + 1, L'\0');
+    const LRESULT copied = copy(text.size(), reinterpret_cast<LPARAM>(text.data()));
+    text.resize(static_cast<std::size_t>(std::max<LRESULT>(copied, 0)));
+    return text;
 }
 
 }  // namespace
 
 std::wstring TextOf(HWND window) {
-    const LRESULT length = SendMessageW(window, WM_GETTEXTLENGTH, 0, 0);
-    if (length <= 0) return {};
-    std::wstring text(static_cast<std::size_t>(length) + 1, L'\0');
-    const LRESULT copied = SendMessageW(window, WM_GETTEXT, static_cast<WPARAM>(text.size()),
-                                        reinterpret_cast<LPARAM>(text.data()));
-    text.resize(static_cast<std::size_t>(std::max<LRESULT>(copied, 0)));
+    return Copied(SendMessageW(window, WM_GETTEXTLENGTH, 0, 0), [window](WPARAM size, LPARAM buffer) {
+        return SendMessageW(window, WM_GETTEXT, size, buffer);
+    });
+}
+
+std::wstring InLines(std::wstring text, std::size_t length) {
+    for (std::size_t end = length; end < text.size(); end += length + 2) text.insert(end, L"\r\n");
     return text;
 }
 
@@ -51,25 +45,18 @@ HWND CreateControl(HWND parent, const wchar_t* window_class, const wchar_t* text
     const HWND control =
         CreateWindowExW(extended_style, window_class, text, WS_CHILD | WS_VISIBLE | style, 0, 0, 0, 0, parent,
                         reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), module, nullptr);
-    if (control == nullptr)
-        throw SystemFault(L"vezérlő létrehozása (" + std::wstring(window_class) + L")", GetLastError());
+    if (control == nullptr) ThrowLastError(L"vezérlő létrehozása", window_class);
     return control;
 }
 
-void Control::SetText(std::wstring_view text) const {
-    SetWindowTextW(handle_, std::wstring(text).c_str());
+int Control::WidthOf(std::wstring_view text) const {
+    return static_cast<int>(TextSize(reinterpret_cast<HFONT>(Send(WM_GETFONT)), text).cx);
 }
 
-void Control::Enable(bool enabled) const {
-    EnableWindow(handle_, enabled);
-}
-
-void Control::Show(bool shown) const {
-    ShowWindow(handle_, shown ? SW_SHOW : SW_HIDE);
-}
-
-void Control::SetFocus() const {
-    ::SetFocus(handle_);
+void Control::AddLine(UINT message, std::wstring_view text) const {
+    const std::wstring terminated(text);
+    if (Send(message, 0, reinterpret_cast<LPARAM>(terminated.c_str())) < 0)
+        throw SystemFault(L"sor hozzáadása egy listához", 0);
 }
 
 void TextBox::Select(int start, int length) const {
@@ -90,50 +77,20 @@ std::wstring TextBox::SelectedText() const {
 bool TextBox::ShowsWholeText() const {
     RECT room{};
     Send(EM_GETRECT, 0, reinterpret_cast<LPARAM>(&room));
-    return WidestOf(*this, {Text()}) <= room.right - room.left;
-}
-
-void TextBox::SetHint(const std::wstring& text) const {
-    Send(EM_SETCUEBANNER, TRUE, reinterpret_cast<LPARAM>(text.c_str()));
-}
-
-void CheckBox::SetChecked(bool checked) const {
-    Send(BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED);
-}
-
-void ComboBox::Add(std::wstring_view text) const {
-    const std::wstring terminated(text);
-    if (Send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(terminated.c_str())) < 0)
-        throw SystemFault(L"sor hozzáadása egy listához", GetLastError());
-}
-
-void ComboBox::Select(int index) const {
-    Send(CB_SETCURSEL, static_cast<WPARAM>(index));
+    return WidthOf(Text()) <= room.right - room.left;
 }
 
 std::wstring ComboBox::Item(int index) const {
     const auto item = static_cast<WPARAM>(index);
-    const LRESULT length = Send(CB_GETLBTEXTLEN, item);
-    if (length <= 0) return {};
-    std::wstring text(static_cast<std::size_t>(length) + 1, L'\0');
-    const LRESULT copied = Send(CB_GETLBTEXT, item, reinterpret_cast<LPARAM>(text.data()));
-    text.resize(static_cast<std::size_t>(std::max<LRESULT>(copied, 0)));
-    return text;
-}
-
-void ListBox::Add(std::wstring_view text) const {
-    const std::wstring terminated(text);
-    if (Send(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(terminated.c_str())) < 0)
-        throw SystemFault(L"sor hozzáadása egy listához", GetLastError());
+    return Copied(Send(CB_GETLBTEXTLEN, item),
+                  [this, item](std::size_t, LPARAM buffer) { return Send(CB_GETLBTEXT, item, buffer); });
 }
 
 void ComboBox::WidenList() const {
-    std::vector<std::wstring> items;
-    items.reserve(static_cast<std::size_t>(Count()));
-    for (int i = 0; i < Count(); ++i) items.push_back(Item(i));
+    int widest = 0;
+    for (int i = 0; i < Count(); ++i) widest = std::max(widest, WidthOf(Item(i)));
     const int edges = GetSystemMetrics(SM_CXVSCROLL) + 4 * GetSystemMetrics(SM_CXEDGE);
-    const int width = WidestOf(*this, items) + edges;
-    Send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(width));
+    Send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(widest + edges));
 }
 
 void TabStrip::Add(std::wstring_view caption) const {
@@ -142,7 +99,7 @@ void TabStrip::Add(std::wstring_view caption) const {
     item.mask = TCIF_TEXT;
     item.pszText = text.data();
     if (TabCtrl_InsertItem(Handle(), TabCtrl_GetItemCount(Handle()), &item) == -1)
-        throw SystemFault(L"fül hozzáadása", GetLastError());
+        throw SystemFault(L"fül hozzáadása", 0);
 }
 
 void TabStrip::SetCaption(int position, std::wstring_view caption) const {
@@ -152,28 +109,12 @@ void TabStrip::SetCaption(int position, std::wstring_view caption) const {
     item.mask = TCIF_TEXT;
     item.pszText = shown.data();
     item.cchTextMax = static_cast<int>(shown.size());
-    // At a new caption the control measures all of them. It may show its own text instead of filling the
-    // buffer.
+    // The control measures all captions again when one is set. It may return a pointer to its own text
+    // instead of filling the buffer.
     if (TabCtrl_GetItem(Handle(), position - 1, &item) && item.pszText != nullptr && text == item.pszText)
         return;
     item.pszText = text.data();
     TabCtrl_SetItem(Handle(), position - 1, &item);
-}
-
-int TabStrip::Selected() const {
-    return TabCtrl_GetCurSel(Handle()) + 1;
-}
-
-void TabStrip::Select(int position) const {
-    TabCtrl_SetCurSel(Handle(), position - 1);
-}
-
-void StatusBar::SetPanel(int panel, std::wstring_view text) const {
-    Send(SB_SETTEXTW, static_cast<WPARAM>(panel - 1), reinterpret_cast<LPARAM>(std::wstring(text).c_str()));
-}
-
-void StatusBar::SetPanels(const std::vector<int>& right_edges) const {
-    Send(SB_SETPARTS, right_edges.size(), reinterpret_cast<LPARAM>(right_edges.data()));
 }
 
 }  // namespace lindrel

@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <vector>
 
-#include "faults/Faults.h"
+#include "faults/LastError.h"
 #include "faults/PendingFault.h"
 #include "window/Display.h"
 
@@ -13,28 +13,15 @@ namespace {
 
 constexpr UINT kApplyResolution = WM_APP;
 
-// A DIALOGEX template begins with a fixed part, then menu, window class and title, each a text or a number
-// marked by 0xFFFF, then the font's size, weight, style and face.
-#pragma pack(push, 2)
-struct DialogTemplateEx {
-    WORD version;
-    WORD signature;
-    DWORD help_id;
-    DWORD extended_style;
-    DWORD style;
-    WORD items;
-    short x, y, width, height;
-};
-#pragma pack(pop)
+// A DIALOGEX template begins with 13 words: version, signature, help id, extended style, style, number of
+// items and bounds. Then come menu, window class and title, each a text or 0xFFFF and a number, and the
+// font's size, weight, style and face. The items start at a multiple of 4 bytes.
+constexpr int kFixedWords = 13;
 
 const WORD* AfterTextOrNumber(const WORD* at) {
     if (*at == 0xFFFF) return at + 2;
     while (*at != 0) ++at;
     return at + 1;
-}
-
-const WORD* AlignedToDword(const WORD* at, const WORD* base) {
-    return (at - base) % 2 == 0 ? at : at + 1;
 }
 
 // The template from the resources with the user's message font instead of its own; the dialog manager scales
@@ -43,16 +30,13 @@ std::vector<WORD> TemplateInMessageFont(HINSTANCE module, int template_id) {
     const HRSRC resource = FindResourceW(module, MAKEINTRESOURCEW(template_id), RT_DIALOG);
     const HGLOBAL loaded = resource != nullptr ? LoadResource(module, resource) : nullptr;
     const auto* const base = static_cast<const WORD*>(loaded != nullptr ? LockResource(loaded) : nullptr);
-    if (base == nullptr)
-        throw SystemFault(L"párbeszédablak betöltése (" + std::to_wstring(template_id) + L")",
-                          GetLastError());
-    const WORD* const end = base + SizeofResource(module, resource) / sizeof(WORD);
+    if (base == nullptr) ThrowLastError(L"párbeszédablak betöltése", std::to_wstring(template_id));
 
-    const WORD* at = base + sizeof(DialogTemplateEx) / sizeof(WORD);
-    for (int text = 0; text < 3; ++text) at = AfterTextOrNumber(at);
-    const WORD* const font = at;
+    const WORD* font = base + kFixedWords;
+    for (int text = 0; text < 3; ++text) font = AfterTextOrNumber(font);
     constexpr int kSizeWeightStyle = 3;
-    const WORD* const items = AlignedToDword(AfterTextOrNumber(font + kSizeWeightStyle), base);
+    const WORD* items = AfterTextOrNumber(font + kSizeWeightStyle);
+    if ((items - base) % 2 != 0) ++items;
 
     const UINT dpi = GetDpiForSystem();
     const LOGFONTW message_font = MessageFont(dpi);
@@ -64,63 +48,47 @@ std::vector<WORD> TemplateInMessageFont(HINSTANCE module, int template_id) {
         changed.push_back(static_cast<WORD>(*face));
     changed.push_back(0);
     if (changed.size() % 2 != 0) changed.push_back(0);
-    changed.insert(changed.end(), items, end);
+    changed.insert(changed.end(), items, base + SizeofResource(module, resource) / sizeof(WORD));
     return changed;
 }
 
-// Disables the owner while the dialog is up.
-class DisabledOwner {
+// Disables the owner while the dialog is open, then destroys the dialog.
+class ModalState {
   public:
-    explicit DisabledOwner(HWND owner) : owner_(owner) {
-        if (owner_ != nullptr) was_disabled_ = EnableWindow(owner_, FALSE) != FALSE;
+    ModalState(HWND owner, const HWND& dialog)
+        : owner_(owner), dialog_(dialog), was_disabled_(EnableWindow(owner, FALSE) != FALSE) {}
+    ~ModalState() {
+        // In this order, or Windows would activate another program's window.
+        if (!was_disabled_) EnableWindow(owner_, TRUE);
+        if (dialog_ != nullptr) DestroyWindow(dialog_);
     }
-    ~DisabledOwner() { GiveBack(); }
-    DisabledOwner(const DisabledOwner&) = delete;
-    DisabledOwner& operator=(const DisabledOwner&) = delete;
-
-    // Must come before the dialog is destroyed, or the system would activate some other program's window.
-    void GiveBack() {
-        if (owner_ != nullptr && !was_disabled_) EnableWindow(owner_, TRUE);
-        owner_ = nullptr;
-    }
+    ModalState(const ModalState&) = delete;
+    ModalState& operator=(const ModalState&) = delete;
 
   private:
     HWND owner_;
-    bool was_disabled_ = false;
+    const HWND& dialog_;
+    bool was_disabled_;
 };
 
 }  // namespace
 
-Dialog::~Dialog() {
-    if (handle_ != nullptr) DestroyWindow(handle_);
-}
-
 void Dialog::ShowModal(HWND owner) {
-    DisabledOwner disabled(owner);
-    try {
-        Create(owner);
-        RunModalLoop();
-        Form_Unload();
-    } catch (...) {
-        disabled.GiveBack();
-        if (handle_ != nullptr) DestroyWindow(handle_);
-        throw;
-    }
-    disabled.GiveBack();
-    DestroyWindow(handle_);
+    const ModalState modal(owner, handle_);
+    Create(owner);
+    RunModalLoop();
+    Form_Unload();
 }
 
 void Dialog::Create(HWND owner) {
     const HINSTANCE module = GetModuleHandleW(nullptr);
     const std::vector<WORD> dialog_template = TemplateInMessageFont(module, template_id_);
     ending_ = false;
-    const HWND created =
+    const HWND dialog =
         CreateDialogIndirectParamW(module, reinterpret_cast<const DLGTEMPLATE*>(dialog_template.data()),
                                    owner, &Dialog::Procedure, reinterpret_cast<LPARAM>(this));
     ThrowPendingFault();
-    if (created == nullptr)
-        throw SystemFault(L"párbeszédablak létrehozása (" + std::to_wstring(template_id_) + L")",
-                          GetLastError());
+    if (dialog == nullptr) ThrowLastError(L"párbeszédablak létrehozása", std::to_wstring(template_id_));
     CentreOnOwner(handle_, owner);
     if (!ending_) ShowWindow(handle_, SW_SHOW);
 }
@@ -129,9 +97,9 @@ void Dialog::RunModalLoop() {
     while (!ending_) {
         MSG message{};
         const BOOL got = GetMessageW(&message, nullptr, 0, 0);
-        if (got == -1) throw SystemFault(L"üzenet fogadása", GetLastError());
+        if (got == -1) ThrowLastError(L"üzenet fogadása");
         if (got == 0) {
-            // The program is ending: the outer loop must end too.
+            // The program is ending: let the outer loop end too.
             PostQuitMessage(static_cast<int>(message.wParam));
             return;
         }
@@ -142,32 +110,6 @@ void Dialog::RunModalLoop() {
         }
         ThrowPendingFault();
     }
-}
-
-void Dialog::OnCommand(int id, int) {
-    if (id == IDCANCEL) Unload();
-}
-
-LRESULT Dialog::OnNotify(const NMHDR&) {
-    return 0;
-}
-
-bool Dialog::OnMessage(UINT, WPARAM, LPARAM, LRESULT&) {
-    return false;
-}
-
-bool Dialog::PreTranslate(const MSG&) {
-    return false;
-}
-
-void Dialog::FocusOn(int id) const {
-    SendMessageW(handle_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Item(id)), TRUE);
-}
-
-bool Dialog::OnQueryEndSession() {
-    if (!HoldsSession()) return true;
-    session_.Hold(handle_, L"Egy párbeszédablak még nyitva van.");
-    return false;
 }
 
 INT_PTR CALLBACK Dialog::Procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam) {
@@ -199,7 +141,8 @@ INT_PTR Dialog::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
             return GetFocus() == before ? TRUE : FALSE;
         }
         case WM_DPICHANGED:
-            // Posted, to come after the dialog manager's own work. If the queue is full, its font stays.
+            // Posted, to come after the dialog manager's own work. If the queue is full, the manager's font
+            // stays.
             static_cast<void>(PostMessageW(handle_, kApplyResolution, LOWORD(wparam), 0));
             return FALSE;
         case kApplyResolution:
@@ -230,7 +173,8 @@ INT_PTR Dialog::OnSystemMessage(UINT message) {
             tool_tips_.OnSetCursor(handle_);
             return FALSE;
         case WM_QUERYENDSESSION:
-            SetWindowLongPtrW(handle_, DWLP_MSGRESULT, OnQueryEndSession() ? TRUE : FALSE);
+            if (HoldsSession()) session_.Hold(handle_, L"Egy párbeszédablak még nyitva van.");
+            SetWindowLongPtrW(handle_, DWLP_MSGRESULT, HoldsSession() ? FALSE : TRUE);
             return TRUE;
         case WM_ENDSESSION:
             session_.Release();

@@ -22,15 +22,15 @@ LOGFONTW MessageFont(UINT dpi) {
     return fallback;
 }
 
-WindowMetrics::WindowMetrics(UINT dpi) : dpi_(dpi) {
+WindowMetrics::WindowMetrics(UINT dpi) {
     values_.cbSize = sizeof values_;
-    // Without an answer there is nothing that could have changed.
+    // If this fails the metrics count as unchanged, and the program keeps its fonts.
     static_cast<void>(SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, sizeof values_, &values_, 0, dpi));
 }
 
 bool WindowMetrics::operator==(const WindowMetrics& other) const {
     static_assert(std::has_unique_object_representations_v<NONCLIENTMETRICSW>);
-    return dpi_ == other.dpi_ && std::memcmp(&values_, &other.values_, sizeof values_) == 0;
+    return std::memcmp(&values_, &other.values_, sizeof values_) == 0;
 }
 
 void PassOnColours(HWND window) {
@@ -38,17 +38,20 @@ void PassOnColours(HWND window) {
         SendMessageW(child, WM_SYSCOLORCHANGE, 0, 0);
 }
 
-Font::Font(const LOGFONTW& description) : handle_(CreateFontIndirectW(&description)) {}
+SIZE TextSize(HFONT font, std::wstring_view text) {
+    SIZE size{};
+    const HDC dc = GetDC(nullptr);
+    if (dc == nullptr) return size;
+    const HGDIOBJ before = SelectObject(dc, font);
+    // If this fails the size stays 0.
+    static_cast<void>(GetTextExtentPoint32W(dc, text.data(), static_cast<int>(text.size()), &size));
+    SelectObject(dc, before);
+    ReleaseDC(nullptr, dc);
+    return size;
+}
 
 int Font::LineHeight() const {
-    if (handle_ == nullptr) return 0;
-    const HDC screen = GetDC(nullptr);
-    const HGDIOBJ before = SelectObject(screen, handle_.get());
-    TEXTMETRICW metrics{};
-    GetTextMetricsW(screen, &metrics);
-    SelectObject(screen, before);
-    ReleaseDC(nullptr, screen);
-    return metrics.tmHeight;
+    return handle_ == nullptr ? 0 : static_cast<int>(TextSize(Handle(), L" ").cy);
 }
 
 void CentreOnOwner(HWND window, HWND owner) {
@@ -56,18 +59,17 @@ void CentreOnOwner(HWND window, HWND owner) {
     RECT around{};
     MONITORINFO monitor{};
     monitor.cbSize = sizeof monitor;
-    if (!GetWindowRect(window, &own) ||
-        !GetWindowRect(owner != nullptr ? owner : GetDesktopWindow(), &around) ||
+    if (!GetWindowRect(window, &own) || !GetWindowRect(owner, &around) ||
         !GetMonitorInfoW(MonitorFromRect(&around, MONITOR_DEFAULTTONEAREST), &monitor))
-        return;  // It stays where the system put it.
+        return;  // It stays where Windows put it.
     const int width = own.right - own.left;
     const int height = own.bottom - own.top;
-    const auto placed = [](int middle, int size, int low, int high) {
+    const auto centred = [](int middle, int size, int low, int high) {
         return std::max(low, std::min(middle - size / 2, high - size));
     };
     const RECT& work = monitor.rcWork;
-    const int left = placed((around.left + around.right) / 2, width, work.left, work.right);
-    const int top = placed((around.top + around.bottom) / 2, height, work.top, work.bottom);
+    const int left = centred((around.left + around.right) / 2, width, work.left, work.right);
+    const int top = centred((around.top + around.bottom) / 2, height, work.top, work.bottom);
     SetWindowPos(window, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 

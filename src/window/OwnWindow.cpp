@@ -1,6 +1,6 @@
 #include "window/OwnWindow.h"
 
-#include "faults/Faults.h"
+#include "faults/LastError.h"
 #include "faults/PendingFault.h"
 
 namespace lindrel {
@@ -10,19 +10,13 @@ void OwnWindow::Create(WNDCLASSEXW description, DWORD style, DWORD extended_styl
     description.lpfnWndProc = &OwnWindow::Procedure;
     description.hInstance = GetModuleHandleW(nullptr);
     description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-    // Fails when the class is there already; then it is this one.
+    // Fails if the class is registered already, from the same description.
     static_cast<void>(RegisterClassExW(&description));
     const HWND window = CreateWindowExW(extended_style, description.lpszClassName, nullptr, style,
                                         CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, parent,
                                         nullptr, description.hInstance, this);
     ThrowPendingFault();
-    if (window == nullptr)
-        throw SystemFault(L"ablak létrehozása (" + std::wstring(description.lpszClassName) + L")",
-                          GetLastError());
-}
-
-void OwnWindow::Destroy() {
-    if (handle_ != nullptr) DestroyWindow(handle_);
+    if (window == nullptr) ThrowLastError(L"ablak létrehozása", description.lpszClassName);
 }
 
 OwnWindow* OwnWindow::FromWindow(HWND window) {
@@ -31,10 +25,10 @@ OwnWindow* OwnWindow::FromWindow(HWND window) {
 
 LRESULT CALLBACK OwnWindow::Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
     if (message == WM_NCCREATE) {
-        auto* const made =
+        auto* const created =
             static_cast<OwnWindow*>(reinterpret_cast<const CREATESTRUCTW*>(lparam)->lpCreateParams);
-        made->handle_ = window;
-        SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(made));
+        created->handle_ = window;
+        SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(created));
     }
     OwnWindow* const self = FromWindow(window);
     if (self == nullptr) return DefWindowProcW(window, message, wparam, lparam);

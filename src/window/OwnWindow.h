@@ -1,5 +1,5 @@
-// Base of the windows that are of a window class of the program's own: ties the window to its object, which
-// gets the messages.
+// Base of the windows that have a window class of the program's own: passes the window's messages to its
+// object.
 #pragma once
 
 #include "window/Windows.h"
@@ -11,26 +11,27 @@ class OwnWindow {
     OwnWindow(const OwnWindow&) = delete;
     OwnWindow& operator=(const OwnWindow&) = delete;
 
-    // Null before the window is made and after its end.
+    // nullptr before the window is created and after it is destroyed.
     HWND Handle() const { return handle_; }
-    // The object of such a window; null for one that is on its way out.
+    // The object of such a window; nullptr for one that is being destroyed.
     static OwnWindow* FromWindow(HWND window);
 
   protected:
     OwnWindow() = default;
-    // The window must be gone: the derived class calls Destroy() in its own destructor.
+    // The derived class must call Destroy() in its own destructor.
     virtual ~OwnWindow() = default;
 
-    // Makes the window, without a title and without a size of its own. `description` names the class, its
-    // background and its menu; the rest is filled in. The class is registered when it is not there yet.
-    // Throws what OnMessage threw meanwhile, and SystemFault when the system cannot; then there is no
-    // window.
+    // Creates the window, without a title and in a size that Windows chooses. `description` names the class,
+    // its background and its menu; the rest is filled in, and the class is registered at its first use.
+    // Throws what OnMessage threw meanwhile, and SystemFault if Windows refuses; there is no window then.
     void Create(WNDCLASSEXW description, DWORD style, DWORD extended_style = 0, HWND parent = nullptr);
-    void Destroy();
+    void Destroy() {
+        if (handle_ != nullptr) DestroyWindow(handle_);
+    }
 
-    // Every message from WM_NCCREATE on, but for the last. What it throws does not cross the window
-    // procedure: the message loop throws it on (faults/PendingFault.h), and a window that throws at
-    // WM_CREATE does not come to be.
+    // Gets every message from WM_NCCREATE on, except WM_NCDESTROY. An exception does not cross the window
+    // procedure: the message loop throws it (faults/PendingFault.h). Thrown at WM_CREATE, it also keeps the
+    // window from being created.
     virtual LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) = 0;
 
   private:

@@ -1,5 +1,5 @@
-// Handles of the system that are given back with their owner: Owned<HBITMAP>, Owned<HFONT>, Owned<HICON>,
-// Owned<HIMAGELIST> and Owned<HMENU>. A null handle owns nothing.
+// Handles of Windows that are released with their owner: Owned<HBITMAP>, Owned<HFONT>, Owned<HICON>,
+// Owned<HIMAGELIST> and Owned<HMENU>.
 #pragma once
 
 #include <memory>
@@ -9,7 +9,7 @@
 
 namespace lindrel {
 
-struct GiveBack {
+struct ReleaseHandle {
     void operator()(HBITMAP bitmap) const noexcept { DeleteObject(bitmap); }
     void operator()(HFONT font) const noexcept { DeleteObject(font); }
     void operator()(HICON icon) const noexcept { DestroyIcon(icon); }
@@ -18,6 +18,6 @@ struct GiveBack {
 };
 
 template <typename Handle>
-using Owned = std::unique_ptr<std::remove_pointer_t<Handle>, GiveBack>;
+using Owned = std::unique_ptr<std::remove_pointer_t<Handle>, ReleaseHandle>;
 
 }  // namespace lindrel

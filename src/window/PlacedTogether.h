@@ -1,5 +1,5 @@
-// Places the controls of a window in one pass and draws them once: placed one by one, a control would take
-// along pixels that another has covered meanwhile.
+// Moves the controls of a window in one pass and redraws them once. Moved one by one, a control would take
+// along pixels that another one has covered meanwhile.
 #pragma once
 
 #include <vector>
@@ -12,24 +12,23 @@ class PlacedTogether {
   public:
     // For about `count` controls of a window or dialog.
     PlacedTogether(HWND window, int count) : window_(window), pass_(BeginDeferWindowPos(count)) {}
-    // All take their places now. Where the system has no memory for that, they keep the old ones until the
-    // next pass.
+    // Moves all of them. If Windows has no memory for that, they keep their bounds until the next pass.
     ~PlacedTogether();
     PlacedTogether(const PlacedTogether&) = delete;
     PlacedTogether& operator=(const PlacedTogether&) = delete;
 
-    // Places are in pixels of the client area. Stretch is for a control that stays at its corner and draws by
-    // itself what another size changes: what it shows is kept meanwhile. Move draws the control anew.
-    void Stretch(int id, const RECT& place) { Defer(GetDlgItem(window_, id), place, 0); }
-    void Move(int id, const RECT& place) { Move(GetDlgItem(window_, id), place); }
-    void Move(HWND control, const RECT& place);
+    // Bounds are in pixels of the client area. Stretch keeps what the control shows: for one whose top left
+    // corner stays and which redraws by itself what depends on its size. Move redraws the control.
+    void Stretch(int id, const RECT& bounds) { Defer(GetDlgItem(window_, id), bounds, 0); }
+    void Move(int id, const RECT& bounds) { Move(GetDlgItem(window_, id), bounds); }
+    void Move(HWND control, const RECT& bounds);
 
   private:
-    void Defer(HWND control, const RECT& place, UINT flags);
+    void Defer(HWND control, const RECT& bounds, UINT flags);
 
     HWND window_;
     HDWP pass_;
-    std::vector<RECT> to_draw_;
+    std::vector<RECT> to_redraw_;
 };
 
 }  // namespace lindrel

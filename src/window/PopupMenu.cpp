@@ -1,6 +1,6 @@
 #include "window/PopupMenu.h"
 
-#include "faults/Faults.h"
+#include "faults/LastError.h"
 
 namespace lindrel {
 
@@ -14,10 +14,9 @@ void Append(HMENU menu, HMENU bar, int command) {
     item.fType = MFT_SEPARATOR;
     item.dwTypeData = caption;
     item.cch = 128;
-    if (command != 0 && !GetMenuItemInfoW(bar, static_cast<UINT>(command), FALSE, &item))
-        throw SystemFault(L"menü létrehozása", GetLastError());
-    if (!InsertMenuItemW(menu, static_cast<UINT>(GetMenuItemCount(menu)), TRUE, &item))
-        throw SystemFault(L"menü létrehozása", GetLastError());
+    if ((command != 0 && !GetMenuItemInfoW(bar, static_cast<UINT>(command), FALSE, &item)) ||
+        !InsertMenuItemW(menu, static_cast<UINT>(GetMenuItemCount(menu)), TRUE, &item))
+        ThrowLastError(L"menü létrehozása");
 }
 
 }  // namespace
@@ -25,19 +24,14 @@ void Append(HMENU menu, HMENU bar, int command) {
 PopupMenu::PopupMenu(HINSTANCE instance, int id) {
     const Owned<HMENU> loaded(LoadMenuW(instance, MAKEINTRESOURCEW(id)));
     menu_.reset(GetSubMenu(loaded.get(), 0));
-    // From here on it belongs to this object only.
+    // Removed from the loaded menu, the popup belongs to this object only.
     if (menu_ == nullptr || !RemoveMenu(loaded.get(), 0, MF_BYPOSITION))
-        throw SystemFault(L"menü betöltése (" + std::to_wstring(id) + L")", GetLastError());
+        ThrowLastError(L"menü betöltése", std::to_wstring(id));
 }
 
 PopupMenu::PopupMenu(HMENU bar, std::span<const int> commands) : menu_(CreatePopupMenu()) {
     for (const int command : commands) Append(menu_.get(), bar, command);
     SetMenuDefaultItem(menu_.get(), 0, TRUE);
-}
-
-void PopupMenu::CheckRadio(int first, int last, int chosen) const {
-    CheckMenuRadioItem(menu_.get(), static_cast<UINT>(first), static_cast<UINT>(last),
-                       static_cast<UINT>(chosen), MF_BYCOMMAND);
 }
 
 void PopupMenu::OpenAt(POINT at, HWND owner) const {

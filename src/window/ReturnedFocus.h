@@ -1,5 +1,6 @@
-// Tells whether a control gets the focus from the user, or only gets it back because its window is active
-// again, after a message box or another program. Getting it back must leave caret and selection alone.
+// Tells whether the user has moved the focus to a control, or the control only gets it back because its
+// window is active again after a message box or another program. Getting it back must leave caret and
+// selection alone.
 #pragma once
 
 #include <utility>
@@ -14,7 +15,7 @@ class ReturnedFocus {
     void OnActivate(WPARAM state) {
         if (LOWORD(state) == WA_INACTIVE) left_ = GetFocus();
     }
-    // Whether a control that has gained the focus only gets it back. To be asked once for each EN_SETFOCUS.
+    // Whether a control that has gained the focus only gets it back. Call it once for each EN_SETFOCUS.
     bool Is(HWND control) { return std::exchange(left_, nullptr) == control; }
 
   private:

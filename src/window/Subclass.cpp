@@ -7,16 +7,12 @@
 
 namespace lindrel {
 
-Subclass::~Subclass() {
-    Detach();
-}
-
 void Subclass::Attach(HWND window, Handler handler) {
     handler_ = std::move(handler);
-    // Under a number of its own, so that a window can have several.
+    // An id of its own, so that a window can have several.
     const auto self = reinterpret_cast<UINT_PTR>(this);
     if (!SetWindowSubclass(window, &Subclass::Procedure, self, self))
-        throw SystemFault(L"egy ablak üzeneteinek figyelése", GetLastError());
+        throw SystemFault(L"egy ablak üzeneteinek figyelése", 0);
     window_ = window;
 }
 
@@ -26,18 +22,16 @@ void Subclass::Detach() {
     window_ = nullptr;
 }
 
-LRESULT Subclass::Default(UINT message, WPARAM wparam, LPARAM lparam) const {
-    return DefSubclassProc(window_, message, wparam, lparam);
-}
-
 LRESULT CALLBACK Subclass::Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR,
                                      DWORD_PTR data) {
     auto* const self = reinterpret_cast<Subclass*>(data);
     using Answer = std::optional<LRESULT>;
     const Answer answer = Guarded<Answer>(0, [&] { return self->handler_(message, wparam, lparam); });
     // The last message always reaches the window.
-    if (message == WM_NCDESTROY) self->Detach();
-    if (answer && message != WM_NCDESTROY) return *answer;
+    if (message == WM_NCDESTROY)
+        self->Detach();
+    else if (answer)
+        return *answer;
     return DefSubclassProc(window, message, wparam, lparam);
 }
 

@@ -10,10 +10,11 @@ namespace lindrel {
 
 class ToolTips {
   public:
-    // Sets or replaces the tip of a control in a window; an empty one takes it away. The tips go with the
-    // window. When the system cannot make tips there are none, and nothing else is wrong.
+    // Sets or replaces the tip of a control in a window; an empty text removes it. The tips are destroyed
+    // with the window. If Windows cannot create them the window has none; that is no fault.
     void Set(HWND window, HWND control, const std::wstring& text);
-    // For WM_SETCURSOR of the window: the mouse is there. No window waits for its tips before.
+    // For WM_SETCURSOR of the window: the tips are created when the mouse first comes, so that they do not
+    // delay the window.
     void OnSetCursor(HWND window);
 
   private:
@@ -25,7 +26,7 @@ class ToolTips {
     void Show(HWND window, const Tip& tip) const;
 
     HWND tips_ = nullptr;
-    std::vector<Tip> waiting_;  // for the mouse; one of each control
+    std::vector<Tip> waiting_;  // for the mouse; at most one for each control
 };
 
 }  // namespace lindrel

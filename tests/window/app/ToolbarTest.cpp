@@ -2,51 +2,45 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
+#include <set>
+
 #include "resources/resource.h"
 #include "tests/window/support/Drawn.h"
 #include "tests/window/support/Program.h"
 #include "tests/window/support/RealInput.h"
+#include "tests/window/support/ReplacedImport.h"
 
 namespace lindrel::testing {
 namespace {
 
+const std::vector<std::wstring> kNames{L"Új fájl", L"Megnyit", L"Mentés",   L"Hozzáad", L"Export",
+                                       L"Módosít", L"Keresés", L"Áthelyez", L"Töröl",   L"ki/bejelöl"};
+
+// The resolution of the screen that every window is on, for as long as the import is replaced.
+UINT screen_dpi = 0;
+UINT WINAPI DpiOfScreen(HWND) {
+    return screen_dpi;
+}
+
 class ToolbarTest : public ::testing::Test {
   protected:
     HWND Toolbar() const { return program.Control(ID_frmStart_Toolbar); }
-    RECT PlaceOf(int position) const {
+    RECT BoundsOf(int position) const {
         return program.Ask<RECT>([this, position](frmStart&) {
-            RECT place{};
+            RECT bounds{};
             EXPECT_TRUE(SendMessageW(Toolbar(), TB_GETITEMRECT, static_cast<WPARAM>(position - 1),
-                                     reinterpret_cast<LPARAM>(&place)));
-            return place;
+                                     reinterpret_cast<LPARAM>(&bounds)));
+            return bounds;
         });
     }
-    // With the mouse, on the picture or on what is at the right end of the button.
+    // With the mouse, on the picture or at the right end of the button.
     void Press(int position, bool right_end = false) const {
-        const RECT place = PlaceOf(position);
-        const LPARAM point = MAKELPARAM(right_end ? place.right - 4 : place.left + 12, place.top + 12);
-        const HWND toolbar = Toolbar();
-        PostMessageW(toolbar, WM_MOUSEMOVE, 0, point);
-        PostMessageW(toolbar, WM_LBUTTONDOWN, MK_LBUTTON, point);
-        PostMessageW(toolbar, WM_LBUTTONUP, 0, point);
-    }
-    // A button opens a dialog while there are entries.
-    void ExpectDialog(int position, const std::wstring& caption) const {
-        TwoEntries();
-        Press(position);
-        program.Dialog(caption).Cancel();
-    }
-    bool ButtonEnabled(int position) const {
-        return SendMessageW(Toolbar(), TB_ISBUTTONENABLED,
-                            static_cast<WPARAM>(ID_frmStart_Toolbar_1 + position - 1), 0) != 0;
-    }
-    HWND OpenMenu() const {
-        HWND menu = nullptr;
-        WaitUntil("the drop-down menu", [&] {
-            menu = PoppedUpMenu(program.Thread());
-            return menu != nullptr;
-        });
-        return menu;
+        const RECT bounds = BoundsOf(position);
+        const LPARAM point = MAKELPARAM(right_end ? bounds.right - 4 : bounds.left + 12, bounds.top + 12);
+        PostMessageW(Toolbar(), WM_MOUSEMOVE, 0, point);
+        PostMessageW(Toolbar(), WM_LBUTTONDOWN, MK_LBUTTON, point);
+        PostMessageW(Toolbar(), WM_LBUTTONUP, 0, point);
     }
     // Two entries in the first category; the first is selected, none is checked.
     MainState TwoEntries() const {
@@ -54,73 +48,64 @@ class ToolbarTest : public ::testing::Test {
         program.ClickRow(1);
         return program.State();
     }
+    // That there are ten buttons with their names, and pictures and a first button of these sizes in pixels.
+    void ExpectButtons(int picture, int width, int height) const {
+        program.OnUi([&](frmStart&) {
+            ASSERT_EQ(SendMessageW(Toolbar(), TB_BUTTONCOUNT, 0, 0), 10);
+            for (int i = 0; i < 10; ++i) {
+                TBBUTTON button{};
+                SendMessageW(Toolbar(), TB_GETBUTTON, static_cast<WPARAM>(i),
+                             reinterpret_cast<LPARAM>(&button));
+                EXPECT_EQ(button.idCommand, ID_frmStart_Toolbar_1 + i);
+                EXPECT_EQ(button.iBitmap, i);
+                EXPECT_EQ(button.fsStyle, i == 4 ? BTNS_DROPDOWN : BTNS_BUTTON);
+                EXPECT_EQ(button.fsState, TBSTATE_ENABLED);
+                wchar_t name[32] = L"";
+                SendMessageW(Toolbar(), TB_GETBUTTONTEXTW, static_cast<WPARAM>(button.idCommand),
+                             reinterpret_cast<LPARAM>(name));
+                EXPECT_EQ(name, kNames[static_cast<std::size_t>(i)]);
+            }
+            const auto pictures =
+                reinterpret_cast<HIMAGELIST>(SendMessageW(Toolbar(), TB_GETIMAGELIST, 0, 0));
+            EXPECT_EQ(ImageList_GetImageCount(pictures), 10);
+            int across = 0;
+            int down = 0;
+            EXPECT_TRUE(ImageList_GetIconSize(pictures, &across, &down));
+            EXPECT_EQ(across, picture);
+            EXPECT_EQ(down, picture);
+        });
+        const RECT first = BoundsOf(1);
+        EXPECT_EQ(first.right - first.left, width);
+        EXPECT_EQ(first.bottom - first.top, height);
+    }
 
     Program program;
 };
 
 TEST_F(ToolbarTest, HasTenButtonsWithNamesAndPictures) {
-    program.OnUi([this](frmStart& form) {
-        const HWND toolbar = Toolbar();
-        const std::vector<std::wstring> names{L"Új fájl", L"Megnyit", L"Mentés",   L"Hozzáad", L"Export",
-                                              L"Módosít", L"Keresés", L"Áthelyez", L"Töröl",   L"ki/bejelöl"};
-        ASSERT_EQ(SendMessageW(toolbar, TB_BUTTONCOUNT, 0, 0), 10);
-        for (int i = 0; i < 10; ++i) {
-            TBBUTTON button{};
-            SendMessageW(toolbar, TB_GETBUTTON, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&button));
-            EXPECT_EQ(button.idCommand, ID_frmStart_Toolbar_1 + i);
-            EXPECT_EQ(button.iBitmap, i);
-            EXPECT_EQ(button.fsStyle, i == 4 ? BTNS_DROPDOWN : BTNS_BUTTON);
-            wchar_t name[32] = L"";
-            SendMessageW(toolbar, TB_GETBUTTONTEXTW, static_cast<WPARAM>(button.idCommand),
-                         reinterpret_cast<LPARAM>(name));
-            EXPECT_EQ(name, names[static_cast<std::size_t>(i)]);
-        }
-        // The disabled looks are made when they are needed.
-        EXPECT_EQ(SendMessageW(toolbar, TB_GETDISABLEDIMAGELIST, 0, 0), 0);
-        form.EnableCommand(ID_mnuEdit, false);
-        for (const int message : {TB_GETIMAGELIST, TB_GETDISABLEDIMAGELIST}) {
-            const auto pictures =
-                reinterpret_cast<HIMAGELIST>(SendMessageW(toolbar, static_cast<UINT>(message), 0, 0));
-            EXPECT_EQ(ImageList_GetImageCount(pictures), 10);
-            int width = 0;
-            int height = 0;
-            EXPECT_TRUE(ImageList_GetIconSize(pictures, &width, &height));
-            EXPECT_EQ(width, PixelsOf(360, DpiOf(form.Handle())));
-            EXPECT_EQ(height, width);
-            RECT button{};
-            EXPECT_TRUE(SendMessageW(toolbar, TB_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&button)));
-            EXPECT_GT(button.right - button.left, width);
-            EXPECT_GT(button.bottom - button.top, height);
-        }
-    });
+    ExpectButtons(24, 31, 30);
 }
 
 TEST_F(ToolbarTest, AllButTheFirstButtonHaveToolTips) {
-    const RECT first = PlaceOf(1);
+    const RECT first = BoundsOf(1);
     RealInput(program).Move(Toolbar(), {first.left + 12, first.top + 12});
     WaitUntil("the first button under the mouse",
               [this] { return SendMessageW(Toolbar(), TB_GETHOTITEM, 0, 0) == 0; });
-    const std::vector<std::wstring> tips = program.Ask<std::vector<std::wstring>>([this](frmStart&) {
-        const HWND toolbar = Toolbar();
-        const auto window = reinterpret_cast<HWND>(SendMessageW(toolbar, TB_GETTOOLTIPS, 0, 0));
-        std::vector<std::wstring> texts;
-        for (int i = 0; i < 10; ++i) {
+    program.OnUi([this](frmStart&) {
+        const auto tips = reinterpret_cast<HWND>(SendMessageW(Toolbar(), TB_GETTOOLTIPS, 0, 0));
+        for (std::size_t i = 0; i < kNames.size(); ++i) {
             wchar_t text[80] = L"";
             TTTOOLINFOW tool{};
             tool.cbSize = sizeof tool;
-            tool.hwnd = toolbar;
-            tool.uId = static_cast<UINT_PTR>(ID_frmStart_Toolbar_1 + i);
-            // Not even an empty tip for the first: the system could fill it with the button's name.
-            EXPECT_EQ(SendMessageW(window, TTM_GETTOOLINFOW, 0, reinterpret_cast<LPARAM>(&tool)) != 0,
-                      i != 0);
+            tool.hwnd = Toolbar();
+            tool.uId = ID_frmStart_Toolbar_1 + i;
+            // Not even an empty tip for the first: Windows could fill it with the button's name.
+            EXPECT_EQ(SendMessageW(tips, TTM_GETTOOLINFOW, 0, reinterpret_cast<LPARAM>(&tool)) != 0, i != 0);
             tool.lpszText = text;
-            SendMessageW(window, TTM_GETTEXTW, 80, reinterpret_cast<LPARAM>(&tool));
-            texts.emplace_back(text);
+            SendMessageW(tips, TTM_GETTEXTW, 80, reinterpret_cast<LPARAM>(&tool));
+            EXPECT_EQ(text, i == 0 ? std::wstring() : kNames[i]);
         }
-        return texts;
     });
-    EXPECT_EQ(tips, (std::vector<std::wstring>{L"", L"Megnyit", L"Mentés", L"Hozzáad", L"Export", L"Módosít",
-                                               L"Keresés", L"Áthelyez", L"Töröl", L"ki/bejelöl"}));
 }
 
 TEST_F(ToolbarTest, TheFirstButtonStartsANewBook) {
@@ -131,43 +116,29 @@ TEST_F(ToolbarTest, TheFirstButtonStartsANewBook) {
     EXPECT_EQ(program.State(), expected);
 }
 
-TEST_F(ToolbarTest, TheSecondButtonOpens) {
-    Press(2);
-    const FileDialogOnScreen dialog = program.FileDialog();
-    EXPECT_EQ(dialog.Title(), L"File megnyitása");
-    dialog.Cancel();
-}
-
-TEST_F(ToolbarTest, TheThirdButtonSaves) {
-    program.OnUi([](frmStart& form) { form.OpenedBook().Modified = true; });
-    Press(3);
-    const FileDialogOnScreen dialog = program.FileDialog();
-    EXPECT_EQ(dialog.Title(), L"File mentése");
-    dialog.Cancel();
-}
-
-TEST_F(ToolbarTest, TheFourthButtonAdds) {
-    Press(4);
-    program.Dialog(L"Új oldal hozzáadása").Cancel();
-}
-
-TEST_F(ToolbarTest, TheFifthButtonExports) {
+TEST_F(ToolbarTest, TheSecondToTheEighthButtonOpenTheirDialogs) {
+    const auto expect_file_dialog = [this](int position, const std::wstring& title) {
+        Press(position);
+        const FileDialogOnScreen dialog = program.FileDialog();
+        EXPECT_EQ(dialog.Title(), title);
+        dialog.Cancel();
+        program.Settle();
+    };
+    const auto expect_dialog = [this](int position, const std::wstring& caption) {
+        Press(position);
+        program.Dialog(caption).Cancel();
+        program.Settle();
+    };
+    expect_file_dialog(2, L"File megnyitása");
+    expect_dialog(4, L"Új oldal hozzáadása");
     TwoEntries();
+    expect_dialog(6, L"Cím módosítása");
+    expect_dialog(7, L"Keresés");
+    expect_dialog(8, L"A kiválasztott címek áthelyezése");
     program.ClickBox(2);
-    Press(5);
-    program.Dialog(L"Exportálás").Cancel();
-}
-
-TEST_F(ToolbarTest, TheSixthButtonModifies) {
-    ExpectDialog(6, L"Cím módosítása");
-}
-
-TEST_F(ToolbarTest, TheSeventhButtonFinds) {
-    ExpectDialog(7, L"Keresés");
-}
-
-TEST_F(ToolbarTest, TheEighthButtonMoves) {
-    ExpectDialog(8, L"A kiválasztott címek áthelyezése");
+    expect_dialog(5, L"Exportálás");
+    program.OnUi([](frmStart& form) { form.OpenedBook().Modified = true; });
+    expect_file_dialog(3, L"File mentése");
 }
 
 TEST_F(ToolbarTest, TheNinthButtonDeletes) {
@@ -205,7 +176,8 @@ TEST_F(ToolbarTest, TheEntriesOfTheExportMenuDoNothing) {
     const MainState before = program.State();
     for (const int downs : {1, 2}) {
         Press(5, true);
-        const HWND menu = OpenMenu();
+        HWND menu = nullptr;
+        WaitUntil("the menu", [&] { return (menu = PoppedUpMenu(program.Thread())) != nullptr; });
         const auto items = reinterpret_cast<HMENU>(SendMessageW(menu, MN_GETHMENU, 0, 0));
         std::vector<std::wstring> texts;
         for (UINT i = 0; i < static_cast<UINT>(GetMenuItemCount(items)); ++i) {
@@ -223,29 +195,6 @@ TEST_F(ToolbarTest, TheEntriesOfTheExportMenuDoNothing) {
     }
 }
 
-TEST_F(ToolbarTest, AButtonIsEnabledWithItsCommand) {
-    const int commands[] = {ID_mnuNew,  ID_mnuOpen, ID_mnuSave, ID_mnuAdd, ID_mnuExport,
-                            ID_mnuEdit, ID_mnuFind, ID_mnuMove, ID_mnuDel, ID_mnuSelectAll};
-    program.OnUi([&commands](frmStart& form) {
-        for (const int command : commands) form.EnableCommand(command, true);
-    });
-    for (int position = 1; position <= 10; ++position) {
-        const int command = commands[position - 1];
-        EXPECT_TRUE(ButtonEnabled(position)) << position;
-        program.OnUi([command](frmStart& form) { form.EnableCommand(command, false); });
-        for (int other = 1; other <= 10; ++other) EXPECT_EQ(ButtonEnabled(other), other != position);
-        program.OnUi([command](frmStart& form) { form.EnableCommand(command, true); });
-    }
-}
-
-TEST_F(ToolbarTest, ADisabledButtonRunsNothing) {
-    const MainState before = TwoEntries();
-    program.OnUi([](frmStart& form) { form.EnableCommand(ID_mnuNew, false); });
-    Press(1);
-    program.Settle();
-    EXPECT_EQ(program.State(), before);
-}
-
 TEST_F(ToolbarTest, StandsWholeBetweenMenuAndTabs) {
     RECT toolbar{};
     RECT tabs{};
@@ -255,48 +204,55 @@ TEST_F(ToolbarTest, StandsWholeBetweenMenuAndTabs) {
     ClientToScreen(program.Main(), &origin);
     EXPECT_GE(toolbar.top, origin.y);
     EXPECT_LT(toolbar.bottom, tabs.top);
-    RECT last = PlaceOf(10);
+    const RECT last = BoundsOf(10);
     EXPECT_LE(last.right, toolbar.right - toolbar.left);
     EXPECT_LE(last.bottom, toolbar.bottom - toolbar.top);
 }
 
 TEST_F(ToolbarTest, TheTwoPictureButtonsShowDifferentPicturesAndKeepTheirNames) {
-    const auto painted = [](HWND button) {
-        constexpr int kSide = 24;
-        return Drawn(kSide, [&](HDC canvas) {
-            DRAWITEMSTRUCT item{};
-            item.hDC = canvas;
-            item.rcItem = {0, 0, kSide, kSide};
-            SendMessageW(button, WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&item));
-        });
-    };
+    EXPECT_EQ(TextOf(program.Control(ID_frmStart_picGo)), L"Ugorj a web oldalra");
+    EXPECT_EQ(TextOf(program.Control(ID_frmStart_Image1)), L"Keresés");
+    constexpr int kSide = 24;
+    std::set<std::vector<COLORREF>> looks{
+        std::vector<COLORREF>(kSide * kSide, GetSysColor(COLOR_BTNFACE))};  // no picture
     program.OnUi([&](frmStart&) {
-        EXPECT_EQ(TextOf(program.Control(ID_frmStart_picGo)), L"Ugorj a web oldalra");
-        EXPECT_EQ(TextOf(program.Control(ID_frmStart_Image1)), L"Keresés");
-        const std::vector<COLORREF> go = painted(program.Control(ID_frmStart_picGo));
-        const std::vector<COLORREF> search = painted(program.Control(ID_frmStart_Image1));
-        const std::vector<COLORREF> empty(go.size(), GetSysColor(COLOR_BTNFACE));
-        EXPECT_NE(go, search);
-        EXPECT_NE(go, empty);
-        EXPECT_NE(search, empty);
+        for (const int id : {ID_frmStart_picGo, ID_frmStart_Image1})
+            looks.insert(Drawn(kSide, [&](HDC dc) {
+                DRAWITEMSTRUCT item{};
+                item.hDC = dc;
+                item.rcItem = {0, 0, kSide, kSide};
+                SendMessageW(program.Control(id), WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&item));
+            }));
     });
+    EXPECT_EQ(looks.size(), 3u);
 }
 
-TEST_F(ToolbarTest, ANewResolutionKeepsButtonsAndNames) {
+TEST_F(ToolbarTest, ANewResolutionScalesThePicturesAndKeepsButtonsAndNames) {
     const MainState before = TwoEntries();
-    const RECT place = PlaceOf(10);
-    program.OnUi([](frmStart& form) {
-        RECT proposed{};
-        GetWindowRect(form.Handle(), &proposed);
-        SendMessageW(form.Handle(), WM_DPICHANGED, MAKEWPARAM(96, 96), reinterpret_cast<LPARAM>(&proposed));
-        SendMessageW(form.Handle(), WM_SETTINGCHANGE, 0, 0);
-    });
-    const RECT after = PlaceOf(10);
-    EXPECT_TRUE(EqualRect(&place, &after));
+    const auto move_to_screen = [this](UINT dpi) {
+        program.OnUi([dpi](frmStart& form) {
+            screen_dpi = dpi;
+            const RECT proposed{0, 0, 1200, 900};
+            SendMessageW(form.Handle(), WM_DPICHANGED, MAKEWPARAM(dpi, dpi),
+                         reinterpret_cast<LPARAM>(&proposed));
+        });
+        program.Settle();
+    };
+    std::optional<ReplacedImport> screen;
+    program.OnUi([&](frmStart&) { screen.emplace(&GetDpiForWindow, &DpiOfScreen); });
+    move_to_screen(144);
+    ExpectButtons(36, 43, 42);
     EXPECT_EQ(program.State(), before);
     Press(10);
     program.Settle();
     EXPECT_EQ(program.State().Checked, (std::vector<int>{1, 2}));
+    move_to_screen(168);
+    ExpectButtons(42, 49, 48);
+    move_to_screen(96);
+    ExpectButtons(24, 31, 30);
+    SendMessageW(program.Main(), WM_SETTINGCHANGE, 0, 0);
+    ExpectButtons(24, 31, 30);
+    program.OnUi([&](frmStart&) { screen.reset(); });
 }
 
 }  // namespace

@@ -1,67 +1,43 @@
-// What a list with check boxes tells programs that read the screen aloud, how few rows it looks at when marks
-// change, and how little it moves when it gets new rows.
+// What a list with check boxes tells screen readers, how few rows it looks at when check marks change, and
+// how little it moves when it gets new rows.
 
 #include <gtest/gtest.h>
 
 #include <functional>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "resources/resource.h"
 #include "tests/window/support/Program.h"
+#include "window/Subclass.h"
 
 namespace lindrel::testing {
 namespace {
 
-using Change = std::pair<HWND, LONG>;  // whose state changed: the list, and the row, 1-based
-std::vector<Change> changes;
-
+// The rows whose state has changed, 1-based, as a screen reader hears of them in the thread that pumps.
+HWND list_heard = nullptr;
+std::vector<LONG> rows_heard;
 void CALLBACK Hear(HWINEVENTHOOK, DWORD, HWND window, LONG object, LONG child, DWORD, DWORD) {
-    if (object == OBJID_CLIENT) changes.emplace_back(window, child);
+    if (window == list_heard && object == OBJID_CLIENT) rows_heard.push_back(child);
 }
-
-// Listens as a screen reader does, in the thread that pumps.
-class ScreenReader {
-  public:
-    ScreenReader()
-        : hook_(SetWinEventHook(EVENT_OBJECT_STATECHANGE, EVENT_OBJECT_STATECHANGE, nullptr, &Hear,
-                                GetCurrentProcessId(), 0, WINEVENT_OUTOFCONTEXT)) {
-        changes.clear();
-        EXPECT_NE(hook_, nullptr);
-    }
-    ~ScreenReader() { EXPECT_TRUE(UnhookWinEvent(hook_)); }
-    ScreenReader(const ScreenReader&) = delete;
-    ScreenReader& operator=(const ScreenReader&) = delete;
-
-    // What it has heard of a list, once it has heard as much.
-    static std::vector<LONG> Heard(HWND list, std::size_t count) {
-        std::vector<LONG> rows;
-        WaitUntil("the events", [&] {
-            MSG message{};
-            while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
-            rows.clear();
-            for (const auto& [window, row] : changes)
-                if (window == list) rows.push_back(row);
-            return rows.size() >= count;
-        });
-        return rows;
-    }
-
-  private:
-    HWINEVENTHOOK hook_;
-};
 
 TEST(CheckListViewTest, ChangesOfCheckMarksAreTold) {
     const Program program;
     program.Add(1, {{L"1", L"http://1.hu"}, {L"2", L"http://2.hu"}, {L"3", L"http://3.hu"}});
-    const HWND list = program.List().Handle();
-    const ScreenReader reader;
+    list_heard = program.List().Handle();
+    const HWINEVENTHOOK hook = SetWinEventHook(EVENT_OBJECT_STATECHANGE, EVENT_OBJECT_STATECHANGE, nullptr,
+                                               &Hear, GetCurrentProcessId(), 0, WINEVENT_OUTOFCONTEXT);
     program.ClickBox(3);
     program.ClickRow(2);
-    program.PressKey(list, VK_SPACE);
+    program.PressKey(list_heard, VK_SPACE);
     program.Run(ID_mnuSelectAll);
-    EXPECT_EQ(ScreenReader::Heard(list, 3), (std::vector<LONG>{3, 2, CHILDID_SELF}));
+    EXPECT_TRUE(Eventually([] {
+        MSG message{};
+        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
+        return rows_heard.size() >= 3;
+    }));
+    EXPECT_EQ(rows_heard, (std::vector<LONG>{3, 2, CHILDID_SELF}));
+    EXPECT_TRUE(UnhookWinEvent(hook));
 }
 
 using Wanted = std::function<bool(UINT message, LPARAM lparam)>;
@@ -69,22 +45,16 @@ using Wanted = std::function<bool(UINT message, LPARAM lparam)>;
 // Counts the messages of a window that are wanted, while a piece of code runs in the program's thread.
 int Count(const Program& program, HWND window, const Wanted& wanted,
           const std::function<void(BookView& view)>& code) {
-    struct Counter {
-        Wanted IsWanted;
-        int Messages;
-    } counter{wanted, 0};
-    const SUBCLASSPROC count = [](HWND counted, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR,
-                                  DWORD_PTR data) {
-        auto* const of_window = reinterpret_cast<Counter*>(data);
-        if (of_window->IsWanted(message, lparam)) ++of_window->Messages;
-        return DefSubclassProc(counted, message, wparam, lparam);
-    };
+    int count = 0;
     program.OnUi([&](frmStart& form) {
-        EXPECT_TRUE(SetWindowSubclass(window, count, 1, reinterpret_cast<DWORD_PTR>(&counter)));
+        Subclass counter;
+        counter.Attach(window, [&](UINT message, WPARAM, LPARAM lparam) -> std::optional<LRESULT> {
+            if (wanted(message, lparam)) ++count;
+            return std::nullopt;
+        });
         code(form.View());
-        EXPECT_TRUE(RemoveWindowSubclass(window, count, 1));
     });
-    return counter.Messages;
+    return count;
 }
 
 bool IsSize(UINT message, LPARAM) {
@@ -92,9 +62,6 @@ bool IsSize(UINT message, LPARAM) {
 }
 bool IsColumnWidth(UINT message, LPARAM lparam) {
     return message == WM_NOTIFY && reinterpret_cast<const NMHDR*>(lparam)->code == HDN_ITEMCHANGEDW;
-}
-bool IsAny(UINT, LPARAM) {
-    return true;
 }
 
 TEST(CheckListViewTest, NewRowsMoveTheColumnsOnlyWhenTheScrollBarComesOrGoes) {
@@ -137,35 +104,31 @@ TEST(CheckListViewTest, NewRowsAreShownFromTheFirstOn) {
     EXPECT_EQ(program.List().Selected(), 0);
 }
 
-// The control asks its header about each row that it looks at.
-void ExpectFewRowsLookedAt(const Program& program, const std::function<void(BookView& view)>& code) {
-    EXPECT_LT(Count(program, ListView_GetHeader(program.List().Handle()), &IsAny, code), 1000);
-}
-
-TEST(CheckListViewTest, SelectingAFarRowLooksAtFewOthers) {
+TEST(CheckListViewTest, SelectingAndCheckingFarRowsLooksAtFewOthers) {
     const Program program;
     program.Add(1, std::vector<Row>(32767, {L"N", L"http://n.hu"}));
+    const Wanted any = [](UINT, LPARAM) { return true; };
+    // The control asks its header about each row that it looks at.
+    const auto expect_few_rows_looked_at = [&](const std::function<void(BookView & view)>& code) {
+        EXPECT_LT(Count(program, ListView_GetHeader(program.List().Handle()), any, code), 1000);
+    };
     program.OnUi([](frmStart& form) { form.View().SelectRow(32767); });
-    ExpectFewRowsLookedAt(program, [](BookView& view) { view.SelectRow(1); });
+    expect_few_rows_looked_at([](BookView& view) { view.SelectRow(1); });
     EXPECT_EQ(program.List().Selected(), 1);
-}
 
-TEST(CheckListViewTest, CheckingEveryRowLooksAtFew) {
-    const Program program;
-    program.Add(1, std::vector<Row>(32767, {L"N", L"http://n.hu"}));
     // The list's own answers would take minutes.
     using Runs = std::vector<RowRun>;
     const auto checked = [&program] {
         return program.Ask<Runs>([](frmStart& form) { return form.View().CheckedRows(); });
     };
-    ExpectFewRowsLookedAt(program, [](BookView& view) { view.SetAllChecks(true); });
+    expect_few_rows_looked_at([](BookView& view) { view.SetAllChecks(true); });
     EXPECT_EQ(checked(), (Runs{{1, 32767}}));
     program.OnUi([](frmStart& form) {
         form.View().SaveCheckMarks(1);
         form.View().FillAddressList(1);
     });
     EXPECT_EQ(checked(), Runs{});
-    ExpectFewRowsLookedAt(program, [](BookView& view) { view.RestoreCheckMarks(1); });
+    expect_few_rows_looked_at([](BookView& view) { view.RestoreCheckMarks(1); });
     EXPECT_EQ(checked(), (Runs{{1, 32767}}));
 }
 

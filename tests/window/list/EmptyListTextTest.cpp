@@ -1,4 +1,4 @@
-// What the lists say while they have no rows.
+// What the lists show while they have no rows.
 
 #include <algorithm>
 
@@ -11,12 +11,12 @@ namespace {
 
 // What is drawn into a window, in the program's thread.
 std::vector<std::pair<HWND, std::wstring>> texts_drawn;
-RECT place_of_last{};
+RECT last_bounds{};
 decltype(&DrawTextW) real_draw_text = nullptr;
-int WINAPI WriteDown(HDC canvas, LPCWSTR text, int length, LPRECT place, UINT format) {
-    texts_drawn.emplace_back(WindowFromDC(canvas), text);
-    place_of_last = *place;
-    return real_draw_text(canvas, text, length, place, format);
+int WINAPI WriteDown(HDC dc, LPCWSTR text, int length, LPRECT bounds, UINT format) {
+    texts_drawn.emplace_back(WindowFromDC(dc), text);
+    last_bounds = *bounds;
+    return real_draw_text(dc, text, length, bounds, format);
 }
 
 constexpr wchar_t kEmptyCategory[] =
@@ -24,7 +24,7 @@ constexpr wchar_t kEmptyCategory[] =
 
 class EmptyListTextTest : public FindSession {
   protected:
-    // Every text that is drawn into a list when it is painted anew; each once.
+    // Every text that is drawn when a list is repainted, in order.
     std::vector<std::wstring> TextsIn(HWND window) const {
         real_draw_text = &DrawTextW;
         const ReplacedImport recorder(real_draw_text, &WriteDown);
@@ -41,7 +41,7 @@ class EmptyListTextTest : public FindSession {
     const HWND list = program.Control(ID_frmStart_ListURLs);
 };
 
-TEST_F(EmptyListTextTest, AnEmptyCategorySaysSoInNoRow) {
+TEST_F(EmptyListTextTest, OfAnEmptyCategoryIsNotARow) {
     EXPECT_EQ(TextsIn(list), std::vector<std::wstring>{kEmptyCategory});
     EXPECT_EQ(program.List().Count(), 0);
     EXPECT_EQ(program.State(), EmptyState());
@@ -61,19 +61,19 @@ TEST_F(EmptyListTextTest, FitsBelowTheHeaderOfTheSmallestWindow) {
     RECT header{};
     GetClientRect(list, &client);
     GetClientRect(ListView_GetHeader(list), &header);
-    EXPECT_GE(place_of_last.top, header.bottom);
+    EXPECT_GE(last_bounds.top, header.bottom);
     program.OnUi([&](frmStart&) {
-        const HDC canvas = GetDC(list);
-        SelectObject(canvas, reinterpret_cast<HFONT>(SendMessageW(list, WM_GETFONT, 0, 0)));
-        RECT needed{0, 0, place_of_last.right - place_of_last.left, 0};
-        DrawTextW(canvas, kEmptyCategory, -1, &needed, DT_CALCRECT | DT_WORDBREAK);
-        EXPECT_LE(needed.right, place_of_last.right - place_of_last.left);
-        EXPECT_LE(needed.bottom, place_of_last.bottom - place_of_last.top);
-        ReleaseDC(list, canvas);
+        const HDC dc = GetDC(list);
+        SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(list, WM_GETFONT, 0, 0)));
+        RECT needed{0, 0, last_bounds.right - last_bounds.left, 0};
+        DrawTextW(dc, kEmptyCategory, -1, &needed, DT_CALCRECT | DT_WORDBREAK);
+        EXPECT_LE(needed.right, last_bounds.right - last_bounds.left);
+        EXPECT_LE(needed.bottom, last_bounds.bottom - last_bounds.top);
+        ReleaseDC(list, dc);
     });
 }
 
-TEST_F(EmptyListTextTest, GoesWithTheFirstRowAndComesBackAfterTheLast) {
+TEST_F(EmptyListTextTest, DisappearsWithTheFirstRowAndComesBackAfterTheLast) {
     program.Add(1, {{L"Egy", L"http://egy.hu"}});
     EXPECT_EQ(TextsIn(list), std::vector<std::wstring>{});
     program.ClickTab(2);
@@ -84,7 +84,7 @@ TEST_F(EmptyListTextTest, GoesWithTheFirstRowAndComesBackAfterTheLast) {
     EXPECT_EQ(TextsIn(list), std::vector<std::wstring>{kEmptyCategory});
 }
 
-TEST_F(EmptyListTextTest, TheFindDialogSaysSoOnlyAfterASearch) {
+TEST_F(EmptyListTextTest, OfTheFindDialogAppearsOnlyAfterASearch) {
     AddSixEntries();
     const FindDialog dialog = Open();
     const HWND hits = dialog.List().Handle();

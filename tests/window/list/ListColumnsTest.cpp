@@ -1,5 +1,7 @@
 // The widths of the columns in both lists.
 
+#include <cstdlib>
+
 #include "resources/resource.h"
 #include "tests/window/find/FindSession.h"
 #include "tests/window/support/RealInput.h"
@@ -22,11 +24,13 @@ class ListColumnsTest : public FindSession {
     static Widths WidthsOf(HWND list) {
         return {ListView_GetColumnWidth(list, 0), ListView_GetColumnWidth(list, 1)};
     }
-    // All of the list in the shares first : all, and no scroll bar below.
+    // The columns fill the list, the first as near to its part first : all as whole pixels can be, and there
+    // is no scroll bar below.
     static void ExpectShared(HWND list, int first, int all) {
         const int width = ClientWidth(list);
-        const int name = MulDiv(width, first, all);
-        EXPECT_EQ(WidthsOf(list), (Widths{name, width - name}));
+        const Widths widths = WidthsOf(list);
+        EXPECT_EQ(widths[0] + widths[1], width);
+        EXPECT_LE(2 * std::abs(widths[0] * all - width * first), all);
         EXPECT_FALSE(HasBar(list, WS_HSCROLL));
     }
     void Resize(HWND window, int width, int height) const {

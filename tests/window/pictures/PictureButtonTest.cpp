@@ -1,4 +1,4 @@
-// The button with a picture, on a window that lets it draw itself.
+// The button with a picture, in a window that lets it draw itself.
 
 #include "pictures/PictureButton.h"
 
@@ -33,12 +33,12 @@ class PictureButtonTest : public ::testing::Test {
 
     // What the parent gets drawn when the system asks it to draw the button.
     std::vector<COLORREF> Look(UINT state = 0) const {
-        return Drawn(kSide, [&](HDC canvas) {
+        return Drawn(kSide, [&](HDC dc) {
             DRAWITEMSTRUCT item{};
             item.CtlType = ODT_BUTTON;
             item.itemState = state;
             item.hwndItem = window;
-            item.hDC = canvas;
+            item.hDC = dc;
             item.rcItem = {0, 0, kSide, kSide};
             EXPECT_EQ(SendMessageW(parent_, WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&item)), TRUE);
         });
@@ -72,10 +72,10 @@ TEST_F(PictureButtonTest, HasAFrameInsideItsEdgeWhileItHasTheFocus) {
         const int x = at % kSide;
         const int y = at / kSide;
         const bool on_edge = x == 0 || y == 0 || x == kSide - 1 || y == kSide - 1;
-        const auto place = static_cast<std::size_t>(at);
-        ASSERT_EQ(focused[place], on_edge ? GetSysColor(COLOR_HIGHLIGHT) : plain[place]) << x << ' ' << y;
+        const auto pixel = static_cast<std::size_t>(at);
+        ASSERT_EQ(focused[pixel], on_edge ? GetSysColor(COLOR_HIGHLIGHT) : plain[pixel]) << x << ' ' << y;
     }
-    // The dotted line of the keyboard's users is beside the frame, not on it.
+    // The dotted line for keyboard users is inside the frame, not on it.
     const std::vector<COLORREF> dotted = Look(ODS_FOCUS);
     EXPECT_TRUE(std::equal(dotted.begin(), dotted.begin() + kSide, focused.begin()));
     EXPECT_NE(dotted, focused);

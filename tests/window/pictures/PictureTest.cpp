@@ -1,4 +1,4 @@
-// The pictures in the resources: all there, in every size, drawn and not blank.
+// The pictures in the resources: all there, in every size, and not blank.
 
 #include "pictures/Picture.h"
 
@@ -44,14 +44,6 @@ std::vector<int> SizesIn(int id) {
     return sizes;
 }
 
-// What an icon looks like on a white ground.
-std::vector<COLORREF> Painted(HICON icon, int size) {
-    return Drawn(size, [&](HDC canvas) {
-        EXPECT_TRUE(DrawIconEx(canvas, 0, 0, icon, size, size, 0,
-                               static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)), DI_NORMAL));
-    });
-}
-
 TEST(PictureTest, EveryPictureIsThereInTheSizesOfItsPlace) {
     EXPECT_EQ(SizesIn(IDI_frmStart), (std::vector<int>{16, 20, 24, 32, 40, 48, 64, 256}));
     for (const int id : {IDI_TrayArea, IDI_Image1})
@@ -71,45 +63,23 @@ TEST(PictureTest, EveryStripHoldsThePicturesOfTheToolbarInItsSize) {
     }
 }
 
-TEST(PictureTest, HasTheSizeThatWasAskedForAlsoOneThatWasNotDrawn) {
+TEST(PictureTest, AnIconHasTheSizeThatWasAskedForEvenIfNoneWasDrawnInIt) {
     for (const int size : {16, 20, 24, 28, 32, 36, 40, 48, 64}) {
         const Picture picture(Instance(), IDI_frmStart, size);
         ICONINFO parts{};
         ASSERT_TRUE(GetIconInfo(picture.Handle(), &parts));
+        const Owned<HBITMAP> colours(parts.hbmColor);
+        const Owned<HBITMAP> mask(parts.hbmMask);
         BITMAP bitmap{};
-        ASSERT_NE(GetObjectW(parts.hbmColor, sizeof bitmap, &bitmap), 0);
+        ASSERT_NE(GetObjectW(colours.get(), sizeof bitmap, &bitmap), 0);
         EXPECT_EQ(bitmap.bmWidth, size);
         EXPECT_EQ(bitmap.bmHeight, size);
-        EXPECT_TRUE(DeleteObject(parts.hbmColor));
-        EXPECT_TRUE(DeleteObject(parts.hbmMask));
     }
 }
 
-// What a list shows of its picture at a position (0-based) on a white ground.
-std::vector<COLORREF> PaintedFrom(const PictureList& list, int position, int size) {
-    return Drawn(size, [&](HDC canvas) {
-        const RECT all{0, 0, size, size};
-        FillRect(canvas, &all, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
-        EXPECT_TRUE(ImageList_Draw(list.Handle(), position, canvas, 0, 0, ILD_TRANSPARENT));
-    });
-}
-
-TEST(PictureTest, NoTwoPicturesLookAlikeAndNoneIsBlank) {
-    // Drawn ones and, from 42 on, scaled ones.
-    for (const int size : {24, 36, 42, 60}) {
-        std::set<std::vector<COLORREF>> looks{
-            std::vector<COLORREF>(static_cast<std::size_t>(size * size), RGB(255, 255, 255))};
-        for (const int id : {IDI_frmStart, IDI_TrayArea, IDI_picGo, IDI_Image1})
-            looks.insert(Painted(Picture(Instance(), id, size).Handle(), size));
-        const PictureList list(Instance(), kStrips, size, PictureLook::Enabled);
-        for (int i = 0; i < kPicturesOfToolbar; ++i) looks.insert(PaintedFrom(list, i, size));
-        EXPECT_EQ(looks.size(), 5U + kPicturesOfToolbar) << size;
-    }
-}
-
-TEST(PictureTest, AListHasTheSizeThatWasAskedForAlsoOneThatWasNotDrawn) {
+TEST(PictureTest, AListHasTheSizeThatWasAskedForEvenIfNoneWasDrawnInIt) {
     for (const int size : {16, 24, 27, 30, 33, 36, 42, 48, 54, 72}) {
-        const PictureList list(Instance(), kStrips, size, PictureLook::Enabled);
+        const PictureList list(Instance(), kStrips, size);
         EXPECT_EQ(ImageList_GetImageCount(list.Handle()), kPicturesOfToolbar);
         int width = 0;
         int height = 0;
@@ -119,7 +89,34 @@ TEST(PictureTest, AListHasTheSizeThatWasAskedForAlsoOneThatWasNotDrawn) {
     }
 }
 
-// How much of a picture's square it covers, on the whole.
+// What an icon or the picture of a list at a 0-based position looks like on white.
+std::vector<COLORREF> OnWhite(HICON icon, int size) {
+    return Drawn(size, [&](HDC dc) {
+        EXPECT_TRUE(DrawIconEx(dc, 0, 0, icon, size, size, 0,
+                               static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)), DI_NORMAL));
+    });
+}
+std::vector<COLORREF> OnWhite(const PictureList& list, int position, int size) {
+    return Drawn(size, [&](HDC dc) {
+        EXPECT_TRUE(PatBlt(dc, 0, 0, size, size, WHITENESS));
+        EXPECT_TRUE(ImageList_Draw(list.Handle(), position, dc, 0, 0, ILD_TRANSPARENT));
+    });
+}
+
+TEST(PictureTest, NoTwoPicturesLookAlikeAndNoneIsBlank) {
+    // Drawn ones and, from 42 on, scaled ones.
+    for (const int size : {24, 36, 42, 60}) {
+        std::set<std::vector<COLORREF>> looks{
+            std::vector<COLORREF>(static_cast<std::size_t>(size * size), RGB(255, 255, 255))};
+        for (const int id : {IDI_frmStart, IDI_TrayArea, IDI_picGo, IDI_Image1})
+            looks.insert(OnWhite(Picture(Instance(), id, size).Handle(), size));
+        const PictureList list(Instance(), kStrips, size);
+        for (int i = 0; i < kPicturesOfToolbar; ++i) looks.insert(OnWhite(list, i, size));
+        EXPECT_EQ(looks.size(), 5U + kPicturesOfToolbar) << size;
+    }
+}
+
+// The share of its square that a picture covers, weighted by how dark it is.
 double Darkness(const std::vector<COLORREF>& pixels) {
     double darkness = 0;
     for (const COLORREF pixel : pixels)
@@ -128,50 +125,33 @@ double Darkness(const std::vector<COLORREF>& pixels) {
 }
 
 TEST(PictureTest, AScaledPictureLooksLikeTheDrawnOne) {
-    const PictureList drawn(Instance(), kStrips, 48, PictureLook::Enabled);
+    const PictureList drawn(Instance(), kStrips, 48);
     for (const int size : {42, 72}) {
-        const PictureList scaled(Instance(), kStrips, size, PictureLook::Enabled);
+        const PictureList scaled(Instance(), kStrips, size);
         for (int i = 0; i < kPicturesOfToolbar; ++i)
-            EXPECT_NEAR(Darkness(PaintedFrom(scaled, i, size)), Darkness(PaintedFrom(drawn, i, 48)), 0.02)
+            EXPECT_NEAR(Darkness(OnWhite(scaled, i, size)), Darkness(OnWhite(drawn, i, 48)), 0.02)
                 << i << " at " << size;
     }
 }
 
-TEST(PictureTest, DisabledLooksAreGreyAndFaintAndLookLikeTheirPictures) {
-    constexpr int kSize = 24;
-    const PictureList enabled(Instance(), kStrips, kSize, PictureLook::Enabled);
-    const PictureList disabled(Instance(), kStrips, kSize, PictureLook::Disabled);
-    ASSERT_EQ(ImageList_GetImageCount(disabled.Handle()), 10);
-    for (int i = 0; i < 10; ++i) {
-        const std::vector<COLORREF> bright = PaintedFrom(enabled, i, kSize);
-        const std::vector<COLORREF> faint = PaintedFrom(disabled, i, kSize);
-        for (std::size_t at = 0; at < faint.size(); ++at) {
-            // On white, four tenths of a colour's darkness are left.
-            const double brightness =
-                (GetRValue(bright[at]) * 54 + GetGValue(bright[at]) * 183 + GetBValue(bright[at]) * 19) /
-                256.0;
-            EXPECT_NEAR(GetRValue(faint[at]), 255 - (255 - brightness) * 0.4, 3) << i << " at " << at;
-            EXPECT_EQ(GetRValue(faint[at]), GetGValue(faint[at])) << i;
-            EXPECT_EQ(GetGValue(faint[at]), GetBValue(faint[at])) << i;
-        }
+TEST(PictureTest, AFaultNamesWhatIsNotInTheResourcesAndTheSystemsError) {
+    constexpr std::array<PictureStrip, 2> kMissing{{{9998, 16}, {IDB_ImageList1_24, 24}}};
+    EXPECT_THROW(PictureList(Instance(), kMissing, 16), SystemFault);
+    try {
+        const Picture picture(Instance(), 9999, 16);
+        FAIL();
+    } catch (const SystemFault& fault) {
+        EXPECT_EQ(fault.Meaning(), L"A Windows ezt nem tudta teljesíteni: ikon betöltése (9999)");
+        EXPECT_EQ(fault.Number(), ERROR_RESOURCE_NAME_NOT_FOUND);
     }
-}
-
-TEST(PictureTest, WhatIsNotInTheResourcesIsAnError) {
-    constexpr int kNoIcon = 9999;
-    EXPECT_THROW(Picture(Instance(), kNoIcon, 16), SystemFault);
-    constexpr std::array<PictureStrip, 2> kMissing{{{kNoIcon, 16}, {IDB_ImageList1_24, 24}}};
-    EXPECT_THROW(PictureList(Instance(), kMissing, 16, PictureLook::Enabled), SystemFault);
 }
 
 TEST(PictureTest, MovesTheIconAlong) {
     Picture first(Instance(), IDI_frmStart, 16);
     const HICON icon = first.Handle();
-    Picture second(std::move(first));
+    Picture second;
+    second = Picture(std::move(first));
     EXPECT_EQ(second.Handle(), icon);
-    Picture third;
-    third = std::move(second);
-    EXPECT_EQ(third.Handle(), icon);
 }
 
 }  // namespace

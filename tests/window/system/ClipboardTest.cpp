@@ -1,4 +1,4 @@
-// Text on the real clipboard, beside what other programs have put there and while they use it.
+// Text on the real clipboard, together with what other programs have put there and while they use it.
 
 #include "system/Clipboard.h"
 
@@ -22,8 +22,8 @@ HWND MakeWindow() {
     return CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
 }
 
-// Another program's window on a thread of its own, which does something with the clipboard and then nothing
-// until it is told to go; it never looks at its messages.
+// Another program's window on a thread of its own, which does something with the clipboard and then hangs
+// until Go() is called.
 class OtherProgram {
   public:
     explicit OtherProgram(const std::function<void(HWND)>& act)
@@ -58,7 +58,7 @@ void OpenAndKeep(HWND window) {
     WaitUntil("the clipboard", [window] { return OpenClipboard(window) != FALSE; });
 }
 
-// How often the clipboard was asked for, and what happens before the fourth time.
+// How often the clipboard was to be opened, and what happens before the fourth time.
 int tries = 0;
 std::function<void()> before_fourth_try;
 decltype(&::OpenClipboard) real_open = nullptr;
@@ -68,7 +68,7 @@ BOOL WINAPI CountTry(HWND owner) {
     return real_open(owner);
 }
 
-// How often the clipboard was asked for data. It gives none: whoever promised it may hang.
+// How often data on the clipboard was asked for. There is none: the program that promised it may hang.
 int demands = 0;
 
 HANDLE WINAPI CountDemand(UINT) {
@@ -124,7 +124,7 @@ TEST_F(ClipboardTest, ATextIsThereForProgramsThatWantBytesToo) {
     EXPECT_EQ(ClipboardText(window), L"");
 }
 
-TEST_F(ClipboardTest, EveryOtherFormOfAnOlderTextGoes) {
+TEST_F(ClipboardTest, EveryOtherFormOfAnOlderTextIsRemoved) {
     const std::string old_locale("\x09\x04\0\0", 4);
     Forms forms{
         {CF_TEXT, std::string("old\0", 4)}, {CF_OEMTEXT, std::string("old\0", 4)}, {CF_LOCALE, old_locale}};
@@ -158,13 +158,13 @@ TEST_F(ClipboardTest, PicturesSoundsAndFilesStayByteForByte) {
     }
 }
 
-// Forms that are objects of the drawing system and no memory.
+// Their handles are GDI objects, not memory.
 TEST_F(ClipboardTest, PicturesThatAreDrawingsStay) {
     const auto colours = [](HBITMAP bitmap) {
-        return Drawn(3, [bitmap](HDC canvas) {
-            const HDC source = CreateCompatibleDC(canvas);
+        return Drawn(3, [bitmap](HDC dc) {
+            const HDC source = CreateCompatibleDC(dc);
             const HGDIOBJ before = SelectObject(source, bitmap);
-            EXPECT_TRUE(BitBlt(canvas, 0, 0, 3, 3, source, 0, 0, SRCCOPY));
+            EXPECT_TRUE(BitBlt(dc, 0, 0, 3, 3, source, 0, 0, SRCCOPY));
             SelectObject(source, before);
             DeleteDC(source);
         });

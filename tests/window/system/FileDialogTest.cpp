@@ -1,4 +1,4 @@
-// What the program asks of the system's file dialogs, to the last field, and what it makes of their answers.
+// What the program asks of the file dialogs of Windows, and what it makes of their answers.
 
 #include "system/FileDialog.h"
 
@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <filesystem>
 #include <optional>
 
 #include "resources/resource.h"
@@ -24,8 +25,8 @@ struct Asked {
     bool operator==(const Asked&) const = default;
 };
 
-// The last request, and the answer: a path, or the system's reason, 0 for a user who cancels. Written by the
-// thread of the program, read when that has settled.
+// The last request, and the answer: a path, or nullptr and the system's error number, 0 for a user who
+// cancels. The program's thread writes them; they are read when it has settled.
 Asked asked;
 const wchar_t* answer = nullptr;
 DWORD reason = 0;
@@ -93,20 +94,34 @@ class FileDialogTest : public ::testing::Test {
         program.Run(command);
         return asked;
     }
-    static std::wstring ProgramFolder() {
-        wchar_t path[MAX_PATH] = L"";
-        EXPECT_NE(GetModuleFileNameW(nullptr, path, MAX_PATH), 0u);
-        const std::wstring own = path;
-        return own.substr(0, own.rfind(L'\\') + 1);
+    Asked AskedBy(const DialogOnScreen& dialog, int button) const {
+        dialog.Click(button);
+        program.Settle();
+        return asked;
     }
-    void ExpectFailureIsTold() const {
+    DialogOnScreen OpenImport() const {
+        program.Choose(ID_mnuImport);
+        return program.Dialog(L"Importálás");
+    }
+    // With a category selected.
+    DialogOnScreen OpenExport() const {
+        program.Choose(ID_mnuExport);
+        const DialogOnScreen dialog = program.Dialog(L"Exportálás");
+        SendMessageW(dialog.Control(ID_frmExport_lstSource), LB_SETSEL, TRUE, 0);
+        return dialog;
+    }
+    void ExpectBox(const std::wstring& text, BoxIcon icon) const {
         const BoxOnScreen box = program.Box();
         EXPECT_EQ(box.Title(), L"Hiba");
-        EXPECT_EQ(box.Text(),
-                  L"A Windows ezt nem tudta teljesíteni: a fájlválasztó ablak megnyitása\r\nHibakód: 2");
-        EXPECT_EQ(box.Icon(), BoxIcon::Error);
+        EXPECT_EQ(box.Text(), text);
+        EXPECT_EQ(box.Icon(), icon);
+        answer = nullptr;
         box.Press(IDOK);
         program.Settle();
+    }
+    void ExpectFailureIsTold() const {
+        ExpectBox(L"A Windows ezt nem tudta teljesíteni: a fájlválasztó ablak megnyitása\r\nHibakód: 2",
+                  BoxIcon::Error);
     }
 
     Program program;
@@ -116,53 +131,43 @@ class FileDialogTest : public ::testing::Test {
 };
 
 TEST_F(FileDialogTest, BooksPagesTextsAndThemesAreAskedForByTheirPatterns) {
-    const std::wstring folder = ProgramFolder();
+    constexpr DWORD kSave = kAlways | OFN_PATHMUSTEXIST;
+    wchar_t program_file[MAX_PATH] = L"";
+    EXPECT_NE(GetModuleFileNameW(nullptr, program_file, MAX_PATH), 0u);
+    const std::wstring folder = std::filesystem::path(program_file).parent_path().wstring() + L"\\";
     const Asked open{false, L"File megnyitása", kBooks, L"", L"", folder, kAlways};
     EXPECT_EQ(AskedBy(ID_mnuOpen), open);
 
-    const DialogOnScreen import = (program.Choose(ID_mnuImport), program.Dialog(L"Importálás"));
-    import.Click(ID_frmImport_cmdOK);
-    program.Settle();
-    EXPECT_EQ(asked, (Asked{false, L"Válasszon ki egy weblapot", L"weblapok (*.htm)|*.htm;*.html", L"", L"",
-                            L"", kAlways}));
+    const DialogOnScreen import = OpenImport();
+    const Asked import_page{
+        false, L"Válasszon ki egy weblapot", L"weblapok (*.htm)|*.htm;*.html", L"", L"", L"", kAlways};
+    EXPECT_EQ(AskedBy(import, ID_frmImport_cmdOK), import_page);
     import.ClickAndWaitForClose(ID_frmImport_cmdCancel);
 
-    const DialogOnScreen dialog = (program.Choose(ID_mnuExport), program.Dialog(L"Exportálás"));
-    SendMessageW(dialog.Control(ID_frmExport_lstSource), LB_SETSEL, TRUE, 0);
-    dialog.Click(ID_frmExport_cmdBrowse);
-    program.Settle();
-    EXPECT_EQ(asked, (Asked{false, L"Arculatfájl kiválasztása", L"arculatfájlok (*.aut)|*.aut", L"", L"", L"",
-                            kAlways}));
-    const Asked page{true,   L"Exportálás", L"weblapok (*.htm)|*.htm",  L"",
-                     L"htm", L"",           kAlways | OFN_PATHMUSTEXIST};
-    const Asked text{true,   L"Exportálás", L"szövegfájlok (*.txt)|*.txt", L"",
-                     L"txt", L"",           kAlways | OFN_PATHMUSTEXIST};
+    const DialogOnScreen dialog = OpenExport();
+    const Asked theme{false,  L"Arculatfájl kiválasztása", L"arculatfájlok (*.aut)|*.aut", L"", L"", L"",
+                      kAlways};
+    EXPECT_EQ(AskedBy(dialog, ID_frmExport_cmdBrowse), theme);
+    const Asked page{true, L"Exportálás", L"weblapok (*.htm)|*.htm", L"", L"htm", L"", kSave};
+    const Asked text{true, L"Exportálás", L"szövegfájlok (*.txt)|*.txt", L"", L"txt", L"", kSave};
     for (const int kind : {0, 1, 0}) {
         dialog.Pick(ID_frmExport_cmbType, kind);
-        dialog.Click(ID_frmExport_cmdOK);
-        program.Settle();
-        EXPECT_EQ(asked, kind == 0 ? page : text);
+        EXPECT_EQ(AskedBy(dialog, ID_frmExport_cmdOK), kind == 0 ? page : text);
     }
     dialog.ClickAndWaitForClose(ID_frmExport_cmdCancel);
 
     EXPECT_EQ(AskedBy(ID_mnuOpen), open);
-    const Asked save_as{true, L"File mentése", kBooks, L"", L"lnd", folder, kAlways | OFN_PATHMUSTEXIST};
-    EXPECT_EQ(AskedBy(ID_mnuSaveAs), save_as);
+    Asked save{true, L"File mentése", kBooks, L"", L"lnd", folder, kSave};
+    EXPECT_EQ(AskedBy(ID_mnuSaveAs), save);
     program.OnUi([](frmStart& form) { form.OpenedBook().Modified = true; });
-    Asked first_save = save_as;
-    first_save.Flags |= OFN_OVERWRITEPROMPT;
-    EXPECT_EQ(AskedBy(ID_mnuSave), first_save);
+    save.Flags |= OFN_OVERWRITEPROMPT;
+    EXPECT_EQ(AskedBy(ID_mnuSave), save);
 }
 
 TEST_F(FileDialogTest, AMissingFileIsProposedAgain) {
     answer = L"C:\\nincs ilyen.lnd";
     program.Choose(ID_mnuOpen);
-    const BoxOnScreen box = program.Box();
-    EXPECT_EQ(box.Title(), L"Hiba");
-    EXPECT_EQ(box.Text(), L"A megadott fájl nem létezik");
-    answer = nullptr;
-    box.Press(IDOK);
-    program.Settle();
+    ExpectBox(L"A megadott fájl nem létezik", BoxIcon::None);
     EXPECT_TRUE(program.NothingIsOpen());
     EXPECT_EQ(asked.FileName, L"C:\\nincs ilyen.lnd");
 }
@@ -170,23 +175,21 @@ TEST_F(FileDialogTest, AMissingFileIsProposedAgain) {
 TEST_F(FileDialogTest, ADialogThatFailsIsToldOfAndChangesNothing) {
     const MainState before = program.State();
     reason = CDERR_INITIALIZATION;
-    program.Choose(ID_mnuOpen);
-    ExpectFailureIsTold();
-    program.Choose(ID_mnuSaveAs);
-    ExpectFailureIsTold();
-
-    const DialogOnScreen import = (program.Choose(ID_mnuImport), program.Dialog(L"Importálás"));
+    for (const int command : {ID_mnuOpen, ID_mnuSaveAs}) {
+        program.Choose(command);
+        ExpectFailureIsTold();
+    }
+    const DialogOnScreen import = OpenImport();
     import.Click(ID_frmImport_cmdOK);
     ExpectFailureIsTold();
     import.ClickAndWaitForClose(ID_frmImport_cmdCancel);
 
-    const DialogOnScreen dialog = (program.Choose(ID_mnuExport), program.Dialog(L"Exportálás"));
-    SendMessageW(dialog.Control(ID_frmExport_lstSource), LB_SETSEL, TRUE, 0);
-    dialog.Click(ID_frmExport_cmdBrowse);
-    ExpectFailureIsTold();
-    EXPECT_EQ(dialog.Text(ID_frmExport_cmbTheme), L"");
-    dialog.Click(ID_frmExport_cmdOK);
-    ExpectFailureIsTold();
+    const DialogOnScreen dialog = OpenExport();
+    for (const int button : {ID_frmExport_cmdBrowse, ID_frmExport_cmdOK}) {
+        EXPECT_EQ(dialog.Text(ID_frmExport_cmbTheme), L"");
+        dialog.Click(button);
+        ExpectFailureIsTold();
+    }
     dialog.WaitForClose();  // as after any failure of the export
     program.Settle();
     EXPECT_TRUE(program.NothingIsOpen());

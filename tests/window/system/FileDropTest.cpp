@@ -20,17 +20,22 @@ namespace {
 
 constexpr DWORD kAll = DROPEFFECT_COPY | DROPEFFECT_MOVE | DROPEFFECT_LINK;
 
-// What is dragged: files, or a text when there are none. Lives on the stack of the test.
-class Dragged final : public IDataObject {
+// A COM object that lives on the stack of the test.
+template <typename Interface>
+class OnStack : public Interface {
   public:
-    explicit Dragged(std::vector<std::wstring> files) : files_(std::move(files)) {}
-
     STDMETHODIMP QueryInterface(REFIID id, void** object) override {
-        *object = IsEqualIID(id, IID_IUnknown) || IsEqualIID(id, IID_IDataObject) ? this : nullptr;
+        *object = IsEqualIID(id, IID_IUnknown) || IsEqualIID(id, __uuidof(Interface)) ? this : nullptr;
         return *object != nullptr ? S_OK : E_NOINTERFACE;
     }
     STDMETHODIMP_(ULONG) AddRef() override { return 2; }
     STDMETHODIMP_(ULONG) Release() override { return 1; }
+};
+
+// What is dragged: files, or a text when there are none.
+class Dragged final : public OnStack<IDataObject> {
+  public:
+    explicit Dragged(std::vector<std::wstring> files) : files_(std::move(files)) {}
 
     STDMETHODIMP GetData(FORMATETC* form, STGMEDIUM* medium) override {
         *medium = {};
@@ -43,9 +48,9 @@ class Dragged final : public IDataObject {
         head.fWide = TRUE;
         const std::size_t bytes = names.size() * sizeof(wchar_t);
         const HGLOBAL memory = GlobalAlloc(GHND, sizeof head + bytes);
-        auto* const place = static_cast<char*>(GlobalLock(memory));
-        std::memcpy(place, &head, sizeof head);
-        std::memcpy(place + sizeof head, names.data(), bytes);
+        auto* const locked = static_cast<char*>(GlobalLock(memory));
+        std::memcpy(locked, &head, sizeof head);
+        std::memcpy(locked + sizeof head, names.data(), bytes);
         GlobalUnlock(memory);
         medium->tymed = TYMED_HGLOBAL;
         medium->hGlobal = memory;
@@ -73,16 +78,10 @@ class Dragged final : public IDataObject {
 
 // Drops once the cursor says what it should. When to drop is for the source to say; it does not wait for a
 // mouse button, whose release goes to another window when the focus has just changed.
-class Source final : public IDropSource {
+class Source final : public OnStack<IDropSource> {
   public:
     explicit Source(DWORD cursor) : cursor_(cursor) {}
 
-    STDMETHODIMP QueryInterface(REFIID id, void** object) override {
-        *object = IsEqualIID(id, IID_IUnknown) || IsEqualIID(id, IID_IDropSource) ? this : nullptr;
-        return *object != nullptr ? S_OK : E_NOINTERFACE;
-    }
-    STDMETHODIMP_(ULONG) AddRef() override { return 2; }
-    STDMETHODIMP_(ULONG) Release() override { return 1; }
     // Asked several times in a second.
     STDMETHODIMP QueryContinueDrag(BOOL escaped, DWORD) override {
         if (escaped || std::chrono::steady_clock::now() > deadline_) return DRAGDROP_S_CANCEL;
@@ -109,12 +108,15 @@ class FileDropTest : public FileSession {
     static constexpr Effects kRefused{DROPEFFECT_NONE, DROPEFFECT_NONE, DROPEFFECT_NONE};
     static constexpr Effects kTaken{DROPEFFECT_COPY, DROPEFFECT_COPY, DROPEFFECT_COPY};
 
-    // Through the target that is registered for the main window, on the program's thread, as the system does.
+    // The target that is registered for the main window.
+    static IDropTarget* TargetOf(const frmStart& form) {
+        return static_cast<IDropTarget*>(GetPropW(form.Handle(), L"OleDropTargetInterface"));
+    }
+    // On the program's thread, as the system does.
     Effects DropFiles(const std::vector<std::wstring>& files, DWORD offered = kAll) const {
         Effects effects{offered, offered, offered};
         program.OnUi([&](frmStart& form) {
-            auto* const target =
-                static_cast<IDropTarget*>(GetPropW(form.Handle(), L"OleDropTargetInterface"));
+            IDropTarget* const target = TargetOf(form);
             ASSERT_NE(target, nullptr);
             Dragged dragged(files);
             EXPECT_EQ(target->DragEnter(&dragged, MK_LBUTTON, {}, &effects.Enter), S_OK);
@@ -179,7 +181,7 @@ TEST_F(FileDropTest, AnythingElseIsRefused) {
 
 TEST_F(FileDropTest, ABookThatIsLeftAgainIsNotOpened) {
     program.OnUi([this](frmStart& form) {
-        auto* const target = static_cast<IDropTarget*>(GetPropW(form.Handle(), L"OleDropTargetInterface"));
+        IDropTarget* const target = TargetOf(form);
         Dragged dragged({book});
         DWORD effect = kAll;
         EXPECT_EQ(target->DragEnter(&dragged, MK_LBUTTON, {}, &effect), S_OK);

@@ -1,4 +1,4 @@
-// Where message boxes appear.
+// Where message boxes appear on the screen.
 
 #include "system/MsgBox.h"
 
@@ -15,14 +15,15 @@
 namespace lindrel::testing {
 namespace {
 
-RECT PlaceOf(HWND window) {
-    RECT place{};
-    EXPECT_TRUE(GetWindowRect(window, &place));
-    return place;
+RECT BoundsOf(HWND window) {
+    RECT bounds{};
+    EXPECT_TRUE(GetWindowRect(window, &bounds));
+    return bounds;
 }
 
-POINT MiddleOf(const RECT& place) {
-    return {(place.left + place.right) / 2, (place.top + place.bottom) / 2};
+POINT MiddleOf(HWND window) {
+    const RECT bounds = BoundsOf(window);
+    return {(bounds.left + bounds.right) / 2, (bounds.top + bounds.bottom) / 2};
 }
 
 RECT WorkArea() {
@@ -60,16 +61,15 @@ class MsgBoxTest : public ::testing::Test {
         program.Choose(ID_mnuFind);
         return SettledBox();
     }
-    // It is there a moment before it has come to its place.
+    // It appears a moment before it is moved.
     BoxOnScreen SettledBox() const {
         const BoxOnScreen box = program.Box();
         program.Settle();
         return box;
     }
-    static void ExpectMiddle(HWND box, const POINT& middle, const char* of) {
-        const POINT got = MiddleOf(PlaceOf(box));
-        EXPECT_NEAR(got.x, middle.x, 1) << of;
-        EXPECT_NEAR(got.y, middle.y, 1) << of;
+    static void ExpectOverMiddle(const BoxOnScreen& box, HWND owner, const char* name) {
+        EXPECT_NEAR(MiddleOf(box.Handle()).x, MiddleOf(owner).x, 1) << name;
+        EXPECT_NEAR(MiddleOf(box.Handle()).y, MiddleOf(owner).y, 1) << name;
     }
 
     Moves moves;
@@ -79,34 +79,34 @@ class MsgBoxTest : public ::testing::Test {
 TEST_F(MsgBoxTest, ABoxStandsOverTheMiddleOfItsOwner) {
     for (const POINT at : {POINT{0, 0}, POINT{300, 150}, POINT{500, 250}}) {
         const BoxOnScreen box = BoxOfMainAt(at.x, at.y);
-        ExpectMiddle(box.Handle(), MiddleOf(PlaceOf(program.Main())), "the main window");
+        ExpectOverMiddle(box, program.Main(), "the main window");
         box.Press(IDOK);
     }
 }
 
 TEST_F(MsgBoxTest, OfAnOwnerAtTheEdgeOfTheScreenTheBoxStaysOnIt) {
     const RECT work = WorkArea();
-    for (const POINT at : {POINT{work.right - 20, work.bottom - 20}, POINT{-700, -600}}) {
-        const BoxOnScreen box = BoxOfMainAt(at.x, at.y);
-        const RECT place = PlaceOf(box.Handle());
-        const bool far_edge = at.x > 0;
-        EXPECT_EQ(far_edge ? place.right : place.left, far_edge ? work.right : work.left);
-        EXPECT_EQ(far_edge ? place.bottom : place.top, far_edge ? work.bottom : work.top);
-        box.Press(IDOK);
-    }
+    const BoxOnScreen low = BoxOfMainAt(work.right - 20, work.bottom - 20);
+    EXPECT_EQ(BoundsOf(low.Handle()).right, work.right);
+    EXPECT_EQ(BoundsOf(low.Handle()).bottom, work.bottom);
+    low.Press(IDOK);
+    const BoxOnScreen high = BoxOfMainAt(-700, -600);
+    EXPECT_EQ(BoundsOf(high.Handle()).left, work.left);
+    EXPECT_EQ(BoundsOf(high.Handle()).top, work.top);
+    high.Press(IDOK);
 }
 
 TEST_F(MsgBoxTest, ABoxThatTheUserHasMovedStays) {
     const BoxOnScreen box = BoxOfMainAt(100, 100);
-    // The window manager may still be placing it.
+    // The window manager may still be moving it.
     WaitUntil("the box to stay where it was moved", [&] {
         SetWindowPos(box.Handle(), nullptr, 3, 4, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
         program.Settle();
-        return PlaceOf(box.Handle()).left == 3;
+        return BoundsOf(box.Handle()).left == 3;
     });
     program.LeaveAndComeBack();
-    EXPECT_EQ(PlaceOf(box.Handle()).left, 3);
-    EXPECT_EQ(PlaceOf(box.Handle()).top, 4);
+    EXPECT_EQ(BoundsOf(box.Handle()).left, 3);
+    EXPECT_EQ(BoundsOf(box.Handle()).top, 4);
     box.Press(IDOK);
 }
 
@@ -116,36 +116,35 @@ TEST_F(MsgBoxTest, ABoxOfADialogStandsOverTheDialog) {
     program.Choose(ID_mnuAdd);
     const DialogOnScreen dialog = program.Dialog(L"Új oldal hozzáadása");
     program.Settle();
-    EXPECT_GT(MiddleOf(PlaceOf(program.Main())).x, MiddleOf(PlaceOf(dialog.Handle())).x + 50);
+    EXPECT_GT(MiddleOf(program.Main()).x, MiddleOf(dialog.Handle()).x + 50);
     dialog.Click(ID_frmAdd_cmdOK);
     const BoxOnScreen box = SettledBox();
-    ExpectMiddle(box.Handle(), MiddleOf(PlaceOf(dialog.Handle())), "the dialog");
+    ExpectOverMiddle(box, dialog.Handle(), "the dialog");
     box.Press(IDOK);
     dialog.Cancel();
 }
 
-// The program's thread shows one while another is open, and its place must not be the other's.
 TEST_F(MsgBoxTest, ABoxOverABoxStandsOverItsOwnOwnerAndTheNextOneToo) {
     const BoxOnScreen outer = BoxOfMainAt(-400, -350);
-    const RECT place = PlaceOf(outer.Handle());
-    EXPECT_LT(MiddleOf(PlaceOf(program.Main())).x, 0);
-    EXPECT_EQ(place.left, WorkArea().left);
+    const RECT bounds = BoundsOf(outer.Handle());
+    EXPECT_LT(MiddleOf(program.Main()).x, 0);
+    EXPECT_EQ(bounds.left, WorkArea().left);
     const std::wstring text = L"belső";
     std::thread opening([&] { program.OnUi([&](frmStart&) { MsgBox(outer.Handle(), text); }); });
     EXPECT_TRUE(Eventually([&] { return program.Box().Text() == text; }));
     const BoxOnScreen inner = SettledBox();
-    ExpectMiddle(inner.Handle(), MiddleOf(place), "the outer box");
+    ExpectOverMiddle(inner, outer.Handle(), "the outer box");
     inner.Press(IDOK);
     opening.join();
     outer.Press(IDOK);
     const BoxOnScreen next = BoxOfMainAt(-400, -350);
-    const RECT next_place = PlaceOf(next.Handle());
-    EXPECT_TRUE(EqualRect(&next_place, &place));
+    const RECT next_bounds = BoundsOf(next.Handle());
+    EXPECT_TRUE(EqualRect(&next_bounds, &bounds));
     next.Press(IDOK);
 }
 
-// The system puts it into the middle of the screen then.
-TEST_F(MsgBoxTest, WithoutAnOwnerToBeSeenABoxStaysWhereTheSystemPutsIt) {
+// Windows puts it in the middle of the screen then.
+TEST_F(MsgBoxTest, WithoutAVisibleOwnerABoxStaysWhereWindowsPutsIt) {
     const auto moves_of_a_box = [this](int show) {
         program.OnUi([show](frmStart& form) { ShowWindow(form.Handle(), show); });
         program.Settle();

@@ -1,4 +1,4 @@
-// What is opened at once, and what only after a question.
+// Which addresses are opened at once, and which only after a question.
 
 #include "system/Shell.h"
 
@@ -25,7 +25,7 @@ HINSTANCE WINAPI RecordOpening(HWND, LPCWSTR verb, LPCWSTR address, LPCWSTR argu
     return reinterpret_cast<HINSTANCE>(INT_PTR{42});
 }
 
-BOOL WINAPI HoldXyzForDangerous(LPCWSTR extension) {
+BOOL WINAPI DeemXyzDangerous(LPCWSTR extension) {
     asked_about.emplace_back(extension);
     return asked_about.back() == L".xyz";
 }
@@ -59,7 +59,7 @@ class ShellTest : public ::testing::Test {
 
     Program program;
     const ReplacedImport shell_{&ShellExecuteW, &RecordOpening};
-    const ReplacedImport windows_{&AssocIsDangerous, &HoldXyzForDangerous};
+    const ReplacedImport windows_{&AssocIsDangerous, &DeemXyzDangerous};
 };
 
 TEST_F(ShellTest, WebAddressesAndDocumentsOpenAtOnceAndAsTheyAre) {
@@ -95,7 +95,7 @@ TEST_F(ShellTest, WhatMayStartAProgramIsAskedAboutFirst) {
     EXPECT_EQ(opened.size(), 5u);
 }
 
-TEST_F(ShellTest, WhatWindowsHoldsForDangerousIsAskedAboutToo) {
+TEST_F(ShellTest, WhatWindowsDeemsDangerousIsAskedAboutToo) {
     Open(L"C:\\Mappa.abc\\Egy.XYZ");
     ExpectQuestion(L"C:\\Mappa.abc\\Egy.XYZ").Press(IDNO);
     program.Settle();
@@ -125,12 +125,12 @@ TEST_F(ShellTest, ALongAddressIsShownInLinesThatFitOnTheScreen) {
     Open(address);
     const BoxOnScreen whole = ExpectQuestion(shown);
     const auto expect_on_screen = [](const BoxOnScreen& box) {
-        RECT place{};
+        RECT bounds{};
         RECT area{};
-        ASSERT_TRUE(GetWindowRect(box.Handle(), &place));
+        ASSERT_TRUE(GetWindowRect(box.Handle(), &bounds));
         ASSERT_TRUE(SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0));
         RECT both{};
-        EXPECT_TRUE(UnionRect(&both, &place, &area) && EqualRect(&both, &area));
+        EXPECT_TRUE(UnionRect(&both, &bounds, &area) && EqualRect(&both, &area));
     };
     expect_on_screen(whole);
     whole.Press(IDNO);

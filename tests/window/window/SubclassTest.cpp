@@ -1,4 +1,4 @@
-// Looking in on the messages of a window.
+// Handlers for the messages of other windows.
 
 #include "window/Subclass.h"
 
@@ -80,38 +80,33 @@ TEST_F(SubclassTest, AFaultIsKeptForTheLoopAndTheMessageIsDoneWith) {
     EXPECT_THROW(ThrowPendingFault(), std::runtime_error);
 }
 
-TEST_F(SubclassTest, OfSeveralTheLastIsAskedFirstAndEachGoesByItself) {
-    Subclass first;
-    first.Attach(window, Heard(L"első", std::nullopt));
-    auto second = std::make_unique<Subclass>();
-    second->Attach(window, Heard(L"második", std::nullopt));
-    SetText(L"egy");
-    EXPECT_EQ(heard, (Texts{L"második egy", L"első egy"}));
-    heard.clear();
-    second.reset();
-    SetText(L"kettő");
-    EXPECT_EQ(heard, Texts{L"első kettő"});
-    EXPECT_EQ(TextOf(window), L"kettő");
-}
-
-TEST_F(SubclassTest, WhicheverGoesTheOthersStayInTheirOrder) {
+TEST_F(SubclassTest, OfSeveralTheLastIsAskedFirstAndEachCanBeDetachedByItself) {
     for (int gone = 0; gone < 3; ++gone) {
-        Subclass handlers[3];
+        std::unique_ptr<Subclass> handlers[3];
         const std::wstring names[] = {L"egy", L"kettő", L"három"};
-        for (int i = 0; i < 3; ++i) handlers[i].Attach(window, Heard(names[i], std::nullopt));
-        handlers[gone].Detach();
-        Texts expected;
-        for (int i = 2; i >= 0; --i)
-            if (i != gone) expected.push_back(names[i] + L" új");
-        heard.clear();
-        SetText(L"új");
-        EXPECT_EQ(heard, expected) << gone;
-        // It can come back, as the last.
-        handlers[gone].Attach(window, Heard(names[gone], std::nullopt));
-        expected.insert(expected.begin(), names[gone] + L" új");
-        heard.clear();
-        SetText(L"új");
-        EXPECT_EQ(heard, expected) << gone;
+        const auto attach = [&](int i) {
+            handlers[i] = std::make_unique<Subclass>();
+            handlers[i]->Attach(window, Heard(names[i], std::nullopt));
+        };
+        const auto expect_heard = [&](const std::vector<int>& order) {
+            Texts expected;
+            for (const int i : order) expected.push_back(names[i] + L" új");
+            heard.clear();
+            EXPECT_EQ(SetText(L"új"), TRUE);
+            EXPECT_EQ(heard, expected) << gone;
+        };
+        for (int i = 0; i < 3; ++i) attach(i);
+        expect_heard({2, 1, 0});
+        handlers[gone]->Detach();
+        std::vector<int> left{2, 1, 0};
+        std::erase(left, gone);
+        expect_heard(left);
+        // Attached again, it is the last.
+        handlers[gone]->Attach(window, Heard(names[gone], std::nullopt));
+        expect_heard({gone, left[0], left[1]});
+        // An object detaches when it is destroyed.
+        handlers[gone].reset();
+        expect_heard(left);
     }
     EXPECT_EQ(SetText(L"szabad"), TRUE);
     EXPECT_EQ(TextOf(window), L"szabad");
@@ -131,32 +126,18 @@ TEST_F(SubclassTest, AHandlerThatDetachesItselfPassesTheMessageOn) {
     EXPECT_EQ(TextOf(window), L"kettő");
 }
 
-TEST_F(SubclassTest, EachOfSeveralHearsTheEndOfTheWindow) {
-    Subclass first;
-    Subclass second;
-    int ends = 0;
-    const auto count = [&](UINT message, WPARAM, LPARAM) -> Answer {
-        if (message != WM_NCDESTROY) return std::nullopt;
-        ++ends;
-        return Answer(1);
-    };
-    first.Attach(window, count);
-    second.Attach(window, count);
-    EXPECT_TRUE(DestroyWindow(window));
-    EXPECT_EQ(ends, 2);
-}
-
-TEST_F(SubclassTest, TheEndOfTheWindowIsHeardAndLeavesTheObjectAlone) {
-    Subclass subclass;
-    std::vector<UINT> messages;
-    subclass.Attach(window, [&](UINT message, WPARAM, LPARAM) -> Answer {
-        messages.push_back(message);
-        return message == WM_NCDESTROY ? Answer(1) : std::nullopt;
-    });
+TEST_F(SubclassTest, EachOfSeveralHearsTheEndOfTheWindowAndIsDetached) {
+    Subclass handlers[2];
+    std::vector<UINT> last_messages(2);
+    for (std::size_t i = 0; i < 2; ++i)
+        handlers[i].Attach(window, [&last_messages, i](UINT message, WPARAM, LPARAM) -> Answer {
+            last_messages[i] = message;
+            return message == WM_NCDESTROY ? Answer(1) : std::nullopt;
+        });
     EXPECT_TRUE(DestroyWindow(window));
     EXPECT_FALSE(IsWindow(window));
-    EXPECT_EQ(messages.back(), static_cast<UINT>(WM_NCDESTROY));
-    EXPECT_EQ(subclass.Default(WM_GETTEXTLENGTH, 0, 0), 0);
+    EXPECT_EQ(last_messages, std::vector<UINT>(2, WM_NCDESTROY));
+    for (const Subclass& handler : handlers) EXPECT_EQ(handler.Default(WM_GETTEXTLENGTH, 0, 0), 0);
 }
 
 TEST_F(SubclassTest, AWindowThatIsNoneIsAnError) {

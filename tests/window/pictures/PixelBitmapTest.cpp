@@ -1,6 +1,6 @@
-// Scaled pictures: their colours are blended, and each keeps to itself.
+// Scaled pictures: their colours are interpolated within each picture.
 
-#include "pictures/ScaledPictures.h"
+#include "pictures/PixelBitmap.h"
 
 #include <gtest/gtest.h>
 
@@ -28,8 +28,8 @@ std::vector<std::uint32_t> LineOf(const PixelBitmap& bitmap, int y) {
     return line;
 }
 
-TEST(ScaledPicturesTest, PicturesOfOneColourKeepItUpToTheirEdges) {
-    // Two squares of 2 by 2 pixels, a red one and a blue one.
+TEST(PixelBitmapTest, PicturesOfOneColourKeepItUpToTheirEdges) {
+    // Two pictures of 2 by 2 pixels, a red one and a blue one.
     const PixelBitmap strip = StripOf(2, {kRed, kRed, kBlue, kBlue});
     for (const int size : {1, 2, 3, 5, 8}) {
         const PixelBitmap scaled = Scaled(strip, size);
@@ -41,7 +41,7 @@ TEST(ScaledPicturesTest, PicturesOfOneColourKeepItUpToTheirEdges) {
     }
 }
 
-TEST(ScaledPicturesTest, BetweenTwoPixelsTheirColoursAreBlended) {
+TEST(PixelBitmapTest, BetweenTwoPixelsTheirColoursAreBlended) {
     // Red above blue.
     const PixelBitmap scaled = Scaled(StripOf(1, {kRed, kBlue}), 4);
     EXPECT_EQ(scaled.At(0, 0), kRed);
@@ -50,7 +50,7 @@ TEST(ScaledPicturesTest, BetweenTwoPixelsTheirColoursAreBlended) {
     EXPECT_EQ(scaled.At(3, 3), kBlue);
 }
 
-TEST(ScaledPicturesTest, WhatCannotBeSeenGivesNoColour) {
+TEST(PixelBitmapTest, WhatCannotBeSeenGivesNoColour) {
     // The invisible pixel has a green that must not shine through.
     const PixelBitmap scaled = Scaled(StripOf(1, {kRed, 0x0000FF00}), 4);
     EXPECT_EQ(LineOf(scaled, 1), std::vector<std::uint32_t>(4, 0xBFFF0000U));
@@ -58,7 +58,7 @@ TEST(ScaledPicturesTest, WhatCannotBeSeenGivesNoColour) {
     EXPECT_EQ(LineOf(scaled, 3), std::vector<std::uint32_t>(4, 0U));
 }
 
-TEST(ScaledPicturesTest, AStripInItsOwnSizeStaysAsItIs) {
+TEST(PixelBitmapTest, AStripInItsOwnSizeStaysAsItIs) {
     const PixelBitmap strip = StripOf(2, {kRed, kBlue, kBlue, 0x80123456});
     const PixelBitmap scaled = Scaled(strip, 2);
     EXPECT_TRUE(std::ranges::equal(scaled.Pixels(), strip.Pixels()));
