@@ -52,8 +52,8 @@ void frmExport::Form_Load() {
 void frmExport::FillThemes() const {
     const std::wstring styles = ProgramFolder() + L"\\styles";
     if (!FolderIsThere(styles)) {
-        static_cast<void>(
-            CreateDirectoryW(styles.c_str(), nullptr));  // if it fails, there are still no themes
+        // Without the right to create the folder there are no themes either.
+        static_cast<void>(CreateDirectoryW(styles.c_str(), nullptr));
         return;
     }
     const auto cmbTheme = Get<ComboBox>(ID_frmExport_cmbTheme);
