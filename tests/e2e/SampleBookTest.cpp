@@ -3,11 +3,9 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
-#include <numeric>
-
 #include "resources/resource.h"
 #include "tests/e2e/support/ShippedProgram.h"
+#include "tests/support/PlainBook.h"
 #include "tests/window/support/Program.h"
 
 namespace lindrel::testing {
@@ -33,22 +31,14 @@ class SampleBookTest : public ::testing::Test {
 
 TEST_F(SampleBookTest, EachTabIsReachedByTheKeyboardAndShowsItsEntries) {
     Open();
-    // Lines of each category, counted in the file; two make a row.
-    std::array<int, 13> lines{};
-    std::size_t category = 0;
-    for (std::size_t at = 0; at < bytes.size(); at = bytes.find('\n', at) + 1) {
-        if (bytes[at] == '#')
-            ++category;
-        else
-            ++lines.at(category);
-    }
-    ASSERT_EQ(category, 12u);
-    const int total = std::accumulate(lines.begin(), lines.end(), 0) / 2;
-
+    PlainBook expected;
+    ASSERT_TRUE(PlainReader(bytes).Read(expected).AllCategories);
     for (int tab = 1; tab <= 12; ++tab) {
-        const int rows = lines.at(static_cast<std::size_t>(tab)) / 2;
-        ExpectStatus(L"", L"megjelenítve (" + std::to_wstring(rows) + L" / " + std::to_wstring(total) + L")",
-                     L"bejelölve 0");
+        const int rows = expected.Of(tab).Count;
+        ExpectStatus(
+            L"",
+            L"megjelenítve (" + std::to_wstring(rows) + L" / " + std::to_wstring(expected.Total()) + L")",
+            L"bejelölve 0");
         EXPECT_EQ(program.SelectedTab(), tab);
         EXPECT_EQ(program.RowCount(), rows);
         EXPECT_EQ(program.SelectedRow(), 0);
