@@ -40,7 +40,7 @@ inline std::string Masked(std::string text, char mask) {
 
 inline std::string Replaced(std::string_view text, char what, std::string_view by) {
     std::string result;
-    for (const char c : text) c == what ? result += by : result += c;
+    for (const char c : text) result += c == what ? by : std::string_view(&c, 1);
     return result;
 }
 

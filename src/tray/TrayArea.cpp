@@ -154,14 +154,14 @@ void TrayArea::SetToolTip(std::wstring_view New_ToolTip) {
 
 void TrayArea::SetVisible(bool New_Visible) {
     if (New_Visible == properties_.Visible) return;
-    properties_.Visible = New_Visible;
     if (!New_Visible) {
         RemoveIcon();
     } else if (Handle() != nullptr && environment_ == Environment::Running) {
+        ListenForNewTaskbar();
         record_.uID = std::uniform_int_distribution<UINT>(1, 65535)(random_);
         AddIcon();
-        ListenForNewTaskbar();
     }
+    properties_.Visible = New_Visible;
     Announce(L"Visible");
 }
 

@@ -56,6 +56,7 @@ class TrayArea : public OwnWindow {
     void SetIcon(Picture New_Icon);  // nullopt hides the icon
     // Stored without blanks at its ends. The shell gets the first 64 characters.
     void SetToolTip(std::wstring_view New_ToolTip);
+    // Throws SystemFault when the owner's messages cannot be intercepted; nothing has changed then.
     void SetVisible(bool New_Visible);
 
     // A property was set: "Icon", "ToolTip" or "Visible".

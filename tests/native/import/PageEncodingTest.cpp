@@ -27,10 +27,7 @@ TextEncoding EncodingOf(std::string_view page) {
 
 // ASCII as UTF-16.
 std::string Wide(std::string_view ascii, std::endian order) {
-    std::string bytes;
-    for (const char byte : ascii)
-        bytes.append(order == std::endian::big ? std::string{'\0', byte} : std::string{byte, '\0'});
-    return bytes;
+    return testing::Utf16({ascii.begin(), ascii.end()}, order);
 }
 
 constexpr std::string_view kUtf8 =

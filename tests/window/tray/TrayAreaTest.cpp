@@ -60,7 +60,7 @@ class TrayAreaTest : public ::testing::Test {
     }
     ~TrayAreaTest() override {
         control.reset();
-        DestroyWindow(owner);  // fails where a test has destroyed it
+        static_cast<void>(DestroyWindow(owner));  // fails where a test has destroyed it
     }
 
     void PlaceControl(TrayArea::Environment environment) {
@@ -368,7 +368,7 @@ TEST_F(TrayAreaTest, TheEndOfTheControlAlwaysRemovesItsIcon) {
 
 TEST_F(TrayAreaTest, TheEndOfTheOwnerRemovesTheIconOnce) {
     Show();
-    DestroyWindow(owner);
+    EXPECT_TRUE(DestroyWindow(owner));
     EXPECT_EQ(Taken(), OneCall(NIM_DELETE, 1, nullptr, kNoTip));
     EXPECT_EQ(control->Handle(), nullptr);
     control.reset();
