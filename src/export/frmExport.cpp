@@ -52,8 +52,8 @@ void frmExport::Form_Load() {
 void frmExport::FillThemes() const {
     const std::wstring styles = ProgramFolder() + L"\\styles";
     if (!FolderIsThere(styles)) {
-        static_cast<void>(
-            CreateDirectoryW(styles.c_str(), nullptr));  // if it fails, there are still no themes
+        // If it fails, there are still no themes.
+        static_cast<void>(CreateDirectoryW(styles.c_str(), nullptr));
         return;
     }
     const auto cmbTheme = Get<ComboBox>(ID_frmExport_cmbTheme);
