@@ -15,11 +15,11 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
     if (words == nullptr || count != 4) return 1;
     lindrel::Book books[2];
     if (!LoadBook(books[0], words[2]) || !LoadBook(books[1], words[3])) return 1;
-    for (;;)
-        for (const lindrel::Book& book : books) try {
-                SaveBook(book, words[1]);
-            } catch (const lindrel::FileFault&) {
-                // On a busy machine, Wine may need seconds to close the files of the saver that was killed
-                // last.
-            }
+    for (int next = 0;; next = 1 - next) {
+        try {
+            SaveBook(books[next], words[1]);
+        } catch (const lindrel::FileFault&) {
+            // On a busy machine, Wine may take seconds to close the files of the saver that was killed last.
+        }
+    }
 }
