@@ -1,6 +1,6 @@
-// Faults: the exceptions that functions throw when they cannot do what they were asked for. Unless its header
-// says otherwise, a function that throws one has changed nothing. If no command handles a fault, the program
-// shows Number() and Meaning() in the run-time error report, offers to save the book, and ends.
+// Faults: the exceptions of functions that cannot do what they are asked for. Unless its header says
+// otherwise, a function that throws one has changed nothing. If no command handles a fault, the program shows
+// Number() and Meaning() in the run-time error report, offers to save the book, and ends.
 #pragma once
 
 #include <exception>
@@ -30,7 +30,7 @@ class ArgumentFault : public Fault {
     ArgumentFault() : Fault(5, L"Érvénytelen eljáráshívás vagy argumentum") {}
 };
 
-// A count or an index that does not fit into its 8 or 16 bits.
+// A count or an index that does not fit in its 8 or 16 bits.
 class OverflowFault : public Fault {
   public:
     OverflowFault() : Fault(6, L"Túlcsordulás") {}
@@ -54,22 +54,22 @@ class EndOfFileFault : public Fault {
     EndOfFileFault() : Fault(62, L"Olvasás a fájl vége után") {}
 };
 
-// Something that Windows was asked for and refused: a window, a picture, a menu. Number() is the system's
-// error number, 0 if it gave none; Meaning() tells what was asked for.
+// Windows was asked for something and refused: a window, a picture, a menu. Number() is the system's error
+// number, 0 if it gave none; Meaning() tells what was asked for.
 class SystemFault : public Fault {
   public:
-    // `asked_for` as it completes "Windows could not do this: ", in Hungarian.
+    // `asked_for` is in Hungarian and completes "Windows could not do this: ".
     SystemFault(const std::wstring& asked_for, unsigned long error)
         : Fault(static_cast<int>(error), L"A Windows ezt nem tudta teljesíteni: " + asked_for) {}
 };
 
-// A file or folder that cannot be opened, created, read or written. Meaning() is the system's reason for a
-// file, and for a folder what could not be done.
+// A file or folder that cannot be opened, created, read or written. For a file, Meaning() is the system's
+// reason; for a folder, what could not be done.
 class FileFault : public Fault {
   public:
     FileFault(std::wstring path, std::wstring reason)
         : Fault(75, std::move(reason)), path_(std::move(path)) {}
-    // Another fault, which a file has caused: the report names the file and keeps number and meaning.
+    // Another fault, caused by a file: adds the path and keeps number and meaning.
     FileFault(std::wstring path, const Fault& cause) : Fault(cause), path_(std::move(path)) {}
     const std::wstring& Path() const noexcept { return path_; }
 
@@ -77,12 +77,12 @@ class FileFault : public Fault {
     std::wstring path_;
 };
 
-// The exception being handled, as it is reported to the user: a fault with its number and meaning (after the
-// path if it has one), any other exception as missing memory or as an internal error. To be called in a catch
-// clause only.
+// The exception being handled, as reported to the user: a fault with its number and its meaning, which
+// follows the path if there is one; any other exception as a MemoryFault or an internal error. Only for catch
+// clauses.
 Fault CurrentFault();
 
-// Runs the handler of a file. What it throws leaves as a FileFault with that path.
+// Calls the handler. Whatever it throws becomes a FileFault with the path.
 template <typename Handler>
 auto NamingTheFile(const std::wstring& path, Handler&& handler) {
     try {

@@ -41,7 +41,7 @@ struct FileState {
     friend bool operator==(const FileState&, const FileState&) = default;
 };
 
-// Nothing if there is no file or it cannot be looked at. Throws nothing.
+// Nothing if there is no file or it cannot be looked at.
 std::optional<FileState> StateOf(const Path& path);
 
 // The part of a path after its last backslash, or all of it, without blanks at its ends.

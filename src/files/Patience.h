@@ -1,5 +1,4 @@
-// Trying again what another program stands in the way of for a moment: a virus scanner, a cloud client, a
-// backup that has the file open.
+// Retrying while another program, such as a virus scanner or a backup, holds what is needed.
 #pragma once
 
 #include <algorithm>
@@ -8,14 +7,15 @@
 
 namespace lindrel {
 
-// How long the opening and replacing of a file is tried.
+// For opening and replacing a file.
 inline constexpr std::chrono::milliseconds kFilePatience{2000};
 
 class Patience {
   public:
+    // `most` is the time that all pauses take together.
     explicit Patience(std::chrono::milliseconds most) : left_(most) {}
 
-    // Waits, each time longer than the last. Returns false at once when the time is over.
+    // Pauses for 10 ms, then twice as long each time. Returns false at once when the time is used up.
     bool Pause() {
         if (left_ <= std::chrono::milliseconds::zero()) return false;
         const std::chrono::milliseconds pause = std::min(next_, left_);

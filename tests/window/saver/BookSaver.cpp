@@ -5,23 +5,28 @@
 
 #include <shellapi.h>
 
-#include <exception>
-
 #include "book/BookFile.h"
+#include "faults/Faults.h"
 #include "files/Files.h"
+
+namespace {
+
+lindrel::Book BookIn(const wchar_t* path) {
+    return ReadBook(lindrel::Book(), lindrel::ReadFileBytes(path)).TheBook;
+}
+
+}  // namespace
 
 int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
     int count = 0;
     wchar_t** const words = CommandLineToArgvW(GetCommandLineW(), &count);
     if (words == nullptr || count != 4) return 1;
-    try {
-        const auto read = [](const wchar_t* path) {
-            return ReadBook(lindrel::Book(), lindrel::ReadFileBytes(path)).TheBook;
-        };
-        const lindrel::Book books[] = {read(words[2]), read(words[3])};
-        for (;;)
-            for (const lindrel::Book& book : books) lindrel::ReplaceFileBytes(words[1], SaveBook(book));
-    } catch (const std::exception&) {
-        return 1;
+    const lindrel::Book books[] = {BookIn(words[2]), BookIn(words[3])};
+    for (int next = 0;; next = 1 - next) {
+        try {
+            lindrel::ReplaceFileBytes(words[1], SaveBook(books[next]));
+        } catch (const lindrel::FileFault&) {
+            // On a busy machine, Wine may take seconds to close the files of the saver that was killed last.
+        }
     }
 }
