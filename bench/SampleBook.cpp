@@ -2,9 +2,9 @@
 
 #include <unistd.h>
 
-#include <array>
 #include <cstddef>
-#include <string_view>
+#include <iterator>
+#include <sstream>
 #include <system_error>
 #include <vector>
 
@@ -26,54 +26,40 @@ class Dice {
     unsigned long long state_ = 32767;
 };
 
-// As book text.
-constexpr std::array<std::string_view, 16> kWords = {"k\xF6nyvt\xE1r",
-                                                     "m\xFBsor",
-                                                     "h\xEDrek",
-                                                     "id\xF5j\xE1r\xE1s",
-                                                     "z\xF6lds\xE9g",
-                                                     "sz\xEDnh\xE1z",
-                                                     "vas\xFAt",
-                                                     "t\xE9rk\xE9p",
-                                                     "bolt",
-                                                     "\xDAjs\xE1g",
-                                                     "Sz\xE9kesfeh\xE9rv\xE1r",
-                                                     "r\xE1"
-                                                     "di\xF3",
-                                                     "recept",
-                                                     "mozi",
-                                                     "sz\xF3t\xE1r",
-                                                     "\xE1llat"};
-constexpr std::array<std::string_view, 8> kHosts = {"konyvtar", "musor",  "hirek",  "idojaras",
-                                                    "vasut",    "terkep", "szotar", "bolt"};
+using Words = std::vector<std::string>;
+
+Words WordsOf(const char* text) {
+    std::istringstream words(text);
+    return {std::istream_iterator<std::string>(words), {}};
+}
 
 NewEntry MakeEntry(Dice& dice, int number) {
+    // As book text.
+    static const Words words = WordsOf(
+        "k\xF6nyvt\xE1r m\xFBsor h\xEDrek id\xF5j\xE1r\xE1s z\xF6lds\xE9g sz\xEDnh\xE1z vas\xFAt "
+        "t\xE9rk\xE9p bolt \xDAjs\xE1g "
+        "Sz\xE9kesfeh\xE9rv\xE1r r\xE1"
+        "di\xF3 recept mozi sz\xF3t\xE1r \xE1llat");
+    static const Words hosts = WordsOf("konyvtar musor hirek idojaras vasut terkep szotar bolt");
+    const auto any = [&dice](const Words& list) { return list[dice.Roll(list.size())]; };
     NewEntry entry;
-    for (int word = 0; word < 3; ++word)
-        entry.SiteName.append(kWords[dice.Roll(kWords.size())]).push_back(' ');
+    for (int word = 0; word < 3; ++word) entry.SiteName += any(words) + ' ';
     entry.SiteName += std::to_string(number);
-    entry.URL = "http://www.";
-    entry.URL.append(kHosts[dice.Roll(kHosts.size())]).append("-").append(std::to_string(number));
-    entry.URL.append(".hu/").append(kHosts[dice.Roll(kHosts.size())]).append("/index.html");
+    entry.URL = "http://www." + any(hosts) + '-' + std::to_string(number) + ".hu/";
+    entry.URL += any(hosts) + "/index.html";
     return entry;
 }
 
-class TemporaryFolder {
-  public:
-    TemporaryFolder()
-        : path_(std::filesystem::temp_directory_path() / ("lindrel-bench-" + std::to_string(getpid()))) {
-        std::filesystem::create_directories(path_);
-    }
+struct TemporaryFolder {
+    TemporaryFolder() { std::filesystem::create_directories(Path); }
     ~TemporaryFolder() {
         std::error_code ignored;  // a leftover in the system's temporary folder does no harm
-        std::filesystem::remove_all(path_, ignored);
+        std::filesystem::remove_all(Path, ignored);
     }
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-    std::filesystem::path File(const std::string& name) const { return path_ / name; }
-
-  private:
-    std::filesystem::path path_;
+    const std::filesystem::path Path =
+        std::filesystem::temp_directory_path() / ("lindrel-bench-" + std::to_string(getpid()));
 };
 
 }  // namespace
@@ -103,7 +89,7 @@ const std::string& LargestBookFile() {
 
 std::filesystem::path TemporaryFile(const std::string& name) {
     static const TemporaryFolder folder;
-    return folder.File(name);
+    return folder.Path / name;
 }
 
 }  // namespace lindrel::bench

@@ -4,8 +4,10 @@
 
 #include <cstddef>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "book/CheckMarks.h"
 #include "book/PerCategory.h"
 #include "edit/CheckedRuns.h"
 #include "faults/Faults.h"
@@ -14,138 +16,96 @@
 namespace lindrel {
 namespace {
 
-using Texts = std::vector<std::string>;
-
-void Add(Book& book, int category, const Texts& names) {
+// A name of one letter for each entry.
+void Add(Book& book, int category, const std::string& letters) {
     std::vector<NewEntry> entries;
-    for (const std::string& name : names) entries.push_back({name, "http://" + name});
+    for (const char letter : letters) entries.push_back({{letter}, std::string("http://") + letter});
     book.AddEntry(category, entries);
 }
 
-Texts NamesOf(const Book& book, int category) {
-    Texts names;
-    for (int p = 1; p <= book.CategoryCounts(category); ++p) {
-        const int index = book.IndexOf(category, p);
-        names.emplace_back(book.SiteNames(index));
-        EXPECT_EQ(book.SiteURLs(index), "http://" + names.back());
-    }
-    return names;
+Book BookOf(const std::vector<std::pair<int, std::string>>& categories) {
+    Book book;
+    for (const auto& [category, letters] : categories) Add(book, category, letters);
+    return book;
 }
 
-std::vector<int> StartsOf(const Book& book) {
-    std::vector<int> starts;
-    for (int k = 1; k <= kCategories; ++k) starts.push_back(book.CategoryStarts(k));
-    return starts;
+// The names of each category that has any: "2:ab 5:c". Checks everything else that follows from them.
+std::string Shown(const Book& book) {
+    std::string shown;
+    int start = 1;
+    for (int k = 1; k <= kCategories; ++k) {
+        EXPECT_EQ(book.CategoryStarts(k), start);
+        const CategoryRows rows = book.RowsOf(k);
+        EXPECT_EQ(rows.Entries.size(), static_cast<std::size_t>(book.CategoryCounts(k)));
+        if (!rows.Entries.empty()) shown += (shown.empty() ? "" : " ") + std::to_string(k) + ":";
+        for (const AddressEntry& entry : rows.Entries) {
+            shown += entry.SiteName;
+            EXPECT_EQ(entry.URL, "http://" + std::string(entry.SiteName));
+            EXPECT_EQ(book.Entry(start), entry);
+            EXPECT_EQ(book.CategoryOf(start++), k);
+        }
+    }
+    EXPECT_EQ(book.EntryCount(), start - 1);
+    EXPECT_EQ(book.IsEmpty(), start == 1);
+    EXPECT_TRUE(start == 1 || book.UpperBound() == start - 1);
+    return shown;
 }
 
 TEST(BookTest, ANewBookIsEmpty) {
     const Book book;
-    EXPECT_TRUE(book.IsEmpty());
-    for (int k = 1; k <= kCategories; ++k) {
-        EXPECT_EQ(book.CategoryNames(k), "Project" + std::to_string(k));
-        EXPECT_EQ(book.CategoryCounts(k), 0);
-        EXPECT_EQ(book.CategoryStarts(k), 1);
-        EXPECT_EQ(book.Marks.SavedCheckCounts(k), 0);
-    }
-    EXPECT_EQ(book.EntryCount(), 0);
-    EXPECT_EQ(book.Marks.CheckedCount(), 0);
+    EXPECT_EQ(Shown(book), "");
+    for (int k = 1; k <= kCategories; ++k) EXPECT_EQ(book.CategoryNames(k), "Project" + std::to_string(k));
+    EXPECT_EQ(book.Marks, CheckMarks());
 }
 
-TEST(BookTest, AddingToTheLastCategoryGoesToTheEnd) {
-    Book book;
-    Add(book, 2, {"a", "b"});
-    Add(book, 12, {"x"});
-    Add(book, 12, {"y", "z"});
-    EXPECT_EQ(NamesOf(book, 2), (Texts{"a", "b"}));
-    EXPECT_EQ(NamesOf(book, 12), (Texts{"x", "y", "z"}));
-    EXPECT_EQ(book.EntryCount(), 5);
-}
-
-TEST(BookTest, ABookWithEntriesInTheLastCategoryAloneIsNotEmpty) {
-    Book book;
-    Add(book, 12, {"x"});
-    EXPECT_FALSE(book.IsEmpty());
-    Add(book, 3, {"c"});
-    EXPECT_EQ(NamesOf(book, 3), Texts{"c"});
-    EXPECT_EQ(NamesOf(book, 12), Texts{"x"});
+TEST(BookTest, EntriesAreAddedAtTheEndOfTheirCategory) {
+    Book book = BookOf({{12, "x"}});
+    EXPECT_EQ(Shown(book), "12:x");
+    Add(book, 3, "c");
+    Add(book, 2, "ab");
+    Add(book, 12, "yz");
+    EXPECT_EQ(Shown(book), "2:ab 3:c 12:xyz");
 }
 
 TEST(BookTest, DeletingTheLastEntryLeavesOneBlankElementAndThenTheEmptyPath) {
-    Book book;
-    Add(book, 4, {"a", "b"});
+    Book book = BookOf({{4, "ab"}});
     book.DeleteEntry(4, 1, 2);
-    EXPECT_TRUE(book.IsEmpty());
+    EXPECT_EQ(Shown(book), "");
     EXPECT_EQ(book.UpperBound(), 1);
     EXPECT_EQ(book.Entry(1), AddressEntry());
-    Add(book, 7, {"c"});
-    EXPECT_EQ(book.UpperBound(), 1);
-    EXPECT_EQ(NamesOf(book, 7), Texts{"c"});
+    Add(book, 7, "c");
+    EXPECT_EQ(Shown(book), "7:c");
 }
 
 TEST(BookTest, DeletingARunClosesTheGap) {
-    Book book;
-    Add(book, 1, {"a", "b", "c", "d"});
-    Add(book, 2, {"e"});
+    Book book = BookOf({{1, "abcd"}, {2, "e"}});
     book.DeleteEntry(1, 2, 2);
-    EXPECT_EQ(NamesOf(book, 1), (Texts{"a", "d"}));
-    EXPECT_EQ(NamesOf(book, 2), Texts{"e"});
-    EXPECT_EQ(StartsOf(book), (std::vector<int>{1, 3, 4, 4, 4, 4, 4, 4, 4, 4, 4, 4}));
-    EXPECT_EQ(book.UpperBound(), 3);
+    EXPECT_EQ(Shown(book), "1:ad 2:e");
 }
 
 TEST(BookTest, EntriesAnywhereAreDeletedAtOnce) {
-    Book book;
-    Add(book, 2, {"a", "b", "c"});
-    Add(book, 5, {"d", "e", "f"});
-    Add(book, 12, {"g", "h", "i"});
+    Book book = BookOf({{2, "abc"}, {5, "def"}, {12, "ghi"}});
     book.DeleteEntries({1, 3, 4, 5, 9});
-    EXPECT_EQ(NamesOf(book, 2), Texts{"b"});
-    EXPECT_EQ(NamesOf(book, 5), Texts{"f"});
-    EXPECT_EQ(NamesOf(book, 12), (Texts{"g", "h"}));
-    EXPECT_EQ(StartsOf(book), (std::vector<int>{1, 1, 2, 2, 2, 3, 3, 3, 3, 3, 3, 3}));
-    EXPECT_EQ(book.UpperBound(), 4);
+    EXPECT_EQ(Shown(book), "2:b 5:f 12:gh");
     book.DeleteEntries({});
-    EXPECT_EQ(book.EntryCount(), 4);
+    EXPECT_EQ(Shown(book), "2:b 5:f 12:gh");
     book.DeleteEntries({1, 2, 3, 4});
-    EXPECT_TRUE(book.IsEmpty());
+    EXPECT_EQ(Shown(book), "");
     EXPECT_EQ(book.UpperBound(), 1);
     EXPECT_EQ(book.Entry(1), AddressEntry());
 }
 
-TEST(BookTest, MovingTowardsTheFrontAppendsAndShiftsTheStartsBetween) {
-    Book book;
-    Add(book, 2, {"a", "b"});
-    Add(book, 3, {"c"});
-    Add(book, 5, {"d", "e", "f"});
+TEST(BookTest, AMovedEntryGoesToTheEndOfTheOtherCategory) {
+    Book book = BookOf({{2, "ab"}, {3, "c"}, {5, "def"}});
     book.Marks.SetCheckedCount(3);
     book.MoveEntry(5, 1, 2);
-    EXPECT_EQ(NamesOf(book, 2), (Texts{"a", "b", "e"}));
-    EXPECT_EQ(NamesOf(book, 3), Texts{"c"});
-    EXPECT_EQ(NamesOf(book, 5), (Texts{"d", "f"}));
-    EXPECT_EQ(StartsOf(book), (std::vector<int>{1, 1, 4, 5, 5, 7, 7, 7, 7, 7, 7, 7}));
+    EXPECT_EQ(Shown(book), "2:abe 3:c 5:df");
     EXPECT_EQ(book.Marks.CheckedCount(), 0);
-}
-
-TEST(BookTest, MovingTowardsTheEndAppendsAndShiftsTheStartsBetween) {
-    Book book;
-    Add(book, 2, {"a", "b"});
-    Add(book, 3, {"c"});
-    Add(book, 5, {"d", "e"});
     book.MoveEntry(2, 0, 5);
-    EXPECT_EQ(NamesOf(book, 2), Texts{"b"});
-    EXPECT_EQ(NamesOf(book, 3), Texts{"c"});
-    EXPECT_EQ(NamesOf(book, 5), (Texts{"d", "e", "a"}));
-    EXPECT_EQ(StartsOf(book), (std::vector<int>{1, 1, 2, 3, 3, 6, 6, 6, 6, 6, 6, 6}));
-}
-
-TEST(BookTest, MovingInABookOfOneChangesCountsAndStartsOnly) {
-    Book book;
-    Add(book, 5, {"a"});
-    book.MoveEntry(5, 0, 2);
-    EXPECT_EQ(NamesOf(book, 2), Texts{"a"});
-    EXPECT_EQ(book.CategoryCounts(5), 0);
-    EXPECT_EQ(book.UpperBound(), 1);
-    EXPECT_EQ(StartsOf(book), (std::vector<int>{1, 1, 2, 2, 2, 2, 2, 2, 2, 2, 2, 2}));
+    EXPECT_EQ(Shown(book), "2:be 3:c 5:dfa");
+    Book one = BookOf({{5, "a"}});
+    one.MoveEntry(5, 0, 2);
+    EXPECT_EQ(Shown(one), "2:a");
 }
 
 TEST(BookTest, AFullBookRefusesOneMoreAndStaysAsItWas) {
@@ -159,9 +119,7 @@ TEST(BookTest, AFullBookRefusesOneMoreAndStaysAsItWas) {
 }
 
 TEST(BookTest, BadArgumentsAreFaultsThatChangeNothing) {
-    Book book;
-    Add(book, 1, {"a", "b"});
-    Add(book, 2, {"c"});
+    Book book = BookOf({{1, "ab"}, {2, "c"}});
     EXPECT_THROW(book.DeleteEntry(0, 1, 1), RangeFault);
     EXPECT_THROW(book.DeleteEntry(13, 1, 1), RangeFault);
     EXPECT_THROW(book.DeleteEntry(1, 0, 1), RangeFault);
@@ -173,10 +131,11 @@ TEST(BookTest, BadArgumentsAreFaultsThatChangeNothing) {
     EXPECT_THROW(book.MoveEntry(1, 0, 13), RangeFault);
     EXPECT_THROW(book.MoveEntry(1, 0, 1), ArgumentFault);
     EXPECT_THROW(book.AddEntry(13, {{"x", "y"}}), RangeFault);
+    EXPECT_THROW(book.SetSiteName(4, "x"), RangeFault);
+    EXPECT_THROW(book.SetSiteURL(0, "x"), RangeFault);
     EXPECT_THROW(book.SiteNames(0), RangeFault);
     EXPECT_THROW(book.SiteNames(4), RangeFault);
-    EXPECT_EQ(NamesOf(book, 1), (Texts{"a", "b"}));
-    EXPECT_EQ(NamesOf(book, 2), Texts{"c"});
+    EXPECT_EQ(Shown(book), "1:ab 2:c");
 }
 
 // A book loaded from a file with eleven headers: category 11 keeps the count of the open book.
@@ -199,8 +158,10 @@ TEST(BookTest, ABookThatCountsMoreThanItHasIsLeftAloneByFaults) {
     EXPECT_THROW(DeleteRuns(book, 12, {{1, 1}, {2, 1}}), RangeFault);
     EXPECT_THROW(DeleteRuns(book, 11, {{1, 1}, {3, 1}}), RangeFault);
     EXPECT_EQ(book.UpperBound(), 2);
-    EXPECT_EQ(NamesOf(book, 11), (Texts{"a", "b"}));
-    EXPECT_EQ(StartsOf(book), StartsOf(WithTooFewHeaders(2)));
+    EXPECT_EQ(book.Entry(1), (AddressEntry{"a", "http://a"}));
+    EXPECT_EQ(book.Entry(2), (AddressEntry{"b", "http://b"}));
+    for (int k = 1; k <= kCategories; ++k)
+        EXPECT_EQ(book.CategoryStarts(k), WithTooFewHeaders(2).CategoryStarts(k)) << k;
 
     Book full = WithTooFewHeaders(kMostEntries);
     EXPECT_EQ(full.EntryCount(), kMostEntries + 2);
@@ -209,8 +170,7 @@ TEST(BookTest, ABookThatCountsMoreThanItHasIsLeftAloneByFaults) {
 }
 
 TEST(BookTest, EntriesAreThoseFromAnIndexOn) {
-    Book book;
-    Add(book, 1, {"a", "b", "c"});
+    const Book book = BookOf({{1, "abc"}});
     const auto entries = book.Entries(2, 2);
     ASSERT_EQ(entries.size(), 2U);
     EXPECT_EQ(entries[0], book.Entry(2));
@@ -226,24 +186,12 @@ TEST(BookTest, EntriesAreThoseFromAnIndexOn) {
 TEST(BookTest, RowsStayReadableAfterTheBookIsGone) {
     CategoryRows rows;
     {
-        Book book;
-        Add(book, 1, {"egy", "ketto"});
+        Book book = BookOf({{1, "ab"}});
         rows = book.RowsOf(1);
         book.SetSiteName(1, "mas");
         EXPECT_EQ(book.SiteNames(1), "mas");
     }
-    ASSERT_EQ(rows.Entries.size(), 2U);
-    EXPECT_EQ(rows.Entries[0].SiteName, "egy");
-    EXPECT_EQ(rows.Entries[1].URL, "http://ketto");
-}
-
-TEST(BookTest, TheCategoryOfAnIndexIsTheLastThatBeginsNotBehindIt) {
-    Book book;
-    Add(book, 2, {"a", "b"});
-    Add(book, 5, {"c"});
-    EXPECT_EQ(book.CategoryOf(1), 2);
-    EXPECT_EQ(book.CategoryOf(2), 2);
-    EXPECT_EQ(book.CategoryOf(3), 5);
+    EXPECT_EQ(rows.Entries, (std::vector<AddressEntry>{{"a", "http://a"}, {"b", "http://b"}}));
 }
 
 }  // namespace
