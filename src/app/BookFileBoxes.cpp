@@ -13,7 +13,7 @@ namespace {
 
 constexpr wchar_t kLoadErrorTitle[] = L"Hiba a beolvasásnál";
 
-// With a blank before the last three digits, as Hungarian numbers of five digits have it.
+// Hungarian numbers have a blank before the last three digits from five digits on.
 std::wstring NumberText(int number) {
     std::wstring text = std::to_wstring(number);
     if (text.size() > 4) text.insert(text.size() - 3, L"\u00A0");
@@ -24,7 +24,7 @@ std::wstring LineText(long long line) {
     return L"(" + std::to_wstring(line) + L". sor)";
 }
 
-// A name or an address as a box shows it. In a hostile file it may be longer than the screen is wide.
+// A name or an address, cut short: in a hostile file it may be longer than the screen is wide.
 std::wstring ShownText(const std::string& book_text) {
     constexpr std::size_t kMostShown = 100;
     const std::wstring text = FromBookText(book_text.substr(0, kMostShown));

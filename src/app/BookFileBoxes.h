@@ -1,5 +1,5 @@
-// What the user is asked and told when a book is opened or saved whose lines can be taken in two ways, or
-// whose file was edited by hand.
+// What the user is asked and told about a book file that cannot be read, whose lines can be read in two ways,
+// or that lacks something. All throw SystemFault if a box cannot be shown.
 #pragma once
 
 #include "book/BookFile.h"
@@ -9,14 +9,14 @@ namespace lindrel {
 
 inline constexpr wchar_t kWarningTitle[] = L"Figyelem";
 
-// Why a book could not be read: what the exception being handled says. To be called in a catch clause only.
+// Tells why a book could not be read: shows the exception being handled. To be called in a catch clause only.
 void TellWhyNotRead(HWND owner);
-// Whether a book may take the place of the open one though lines of its file are in doubt.
+// Asks whether a book may be opened though lines of its file are in doubt. True without asking if none are.
 bool MayOpenInDoubt(HWND owner, const DoubtfulLines& doubtful);
-// What is missing in a book that has just been opened, if anything is.
+// Tells what is missing in a book that has just been opened, if anything is.
 void TellWhatIsMissing(HWND owner, const BookFromFile& read);
-// What will come of the names and addresses that begin with "#" in a book that has just been saved, if they
-// are read in any other way than in silence.
+// Warns if names or addresses with the "#" prefix, in a book that has just been saved, will be taken for
+// headers or raise a question when it is opened again.
 void WarnOfHeaderLookalikes(HWND owner, const Book& book);
 
 }  // namespace lindrel

@@ -18,12 +18,10 @@ namespace {
 constexpr std::wstring_view kMostShown = L"megjelenítve (32767 / 32767)";
 constexpr std::wstring_view kMostChecked = L"bejelölve 32767";
 
-// Of a panel with this text, in pixels.
-int WidthOf(const StatusBar& bar, std::wstring_view text) {
+// Width of a panel that shows a text, in pixels.
+int PanelWidth(const StatusBar& bar, std::wstring_view text) {
     return bar.WidthOf(text) + 8 * GetSystemMetrics(SM_CXEDGE);
 }
-constexpr wchar_t kEmptyCategory[] =
-    L"Ebben a kategóriában nincs cím.\r\n\r\nCím hozzáadása: Ctrl+A\r\nKönyv megnyitása: Ctrl+O";
 
 }  // namespace
 
@@ -43,8 +41,8 @@ void BookView::Create(HWND window) {
     ListURLs.Activate = [this] { ListURLs_DblClick(); };
     ListURLs.Copy = [this] { ListURLs_Copy(); };
     ListURLs.MenuAsked = [this](POINT at) { ListURLs_ContextMenu(at); };
-    ListURLs.SetEmptyText(kEmptyCategory);
-
+    ListURLs.SetEmptyText(
+        L"Ebben a kategóriában nincs cím.\r\n\r\nCím hozzáadása: Ctrl+A\r\nKönyv megnyitása: Ctrl+O");
     StatusBar1 =
         StatusBar(CreateControl(window, STATUSCLASSNAMEW, L"", SBARS_SIZEGRIP, ID_frmStart_StatusBar1));
 }
@@ -52,29 +50,25 @@ void BookView::Create(HWND window) {
 void BookView::ApplyResolution(UINT dpi) {
     dpi_ = dpi;
     ListURLs.ApplyResolution(dpi);
-    DockStatusBar();  // takes the height that its font needs
+    DockStatusBar();  // adapts the height to the font
 }
 
 void BookView::DockStatusBar() const {
-    SendMessageW(StatusBar1.Handle(), WM_SIZE, 0, 0);  // it docks itself
-    SizeStatusPanels();
-}
-
-int BookView::StatusBarHeight() const {
-    RECT place{};
-    GetWindowRect(StatusBar1.Handle(), &place);
-    return place.bottom - place.top;
-}
-
-void BookView::SizeStatusPanels() const {
+    SendMessageW(StatusBar1.Handle(), WM_SIZE, 0, 0);  // makes the bar dock itself
     RECT client{};
     GetClientRect(window_, &client);
     const int grip = GetSystemMetricsForDpi(SM_CXVSCROLL, dpi_);
     const int checked =
-        client.right - std::max(PixelsOf(1900, dpi_), WidthOf(StatusBar1, kMostChecked) + grip);
-    const int shown = checked - std::max(PixelsOf(2700, dpi_), WidthOf(StatusBar1, kMostShown));
-    // A negative edge would be the end of the bar.
+        client.right - std::max(PixelsOf(1900, dpi_), PanelWidth(StatusBar1, kMostChecked) + grip);
+    const int shown = checked - std::max(PixelsOf(2700, dpi_), PanelWidth(StatusBar1, kMostShown));
+    // A negative edge would mean the end of the bar.
     StatusBar1.SetPanels({std::max(shown, 0), std::max(checked, 0), -1});
+}
+
+int BookView::StatusBarHeight() const {
+    RECT bounds{};
+    GetWindowRect(StatusBar1.Handle(), &bounds);
+    return bounds.bottom - bounds.top;
 }
 
 LRESULT BookView::Notify(const NMHDR& header) {
@@ -84,24 +78,16 @@ LRESULT BookView::Notify(const NMHDR& header) {
 }
 
 bool BookView::OnCommand(int id) {
-    const int shown = open_.CurrentCategory;
-    if (id == ID_NextTab)
-        SelectTab(shown % kCategories + 1);
-    else if (id == ID_PreviousTab)
-        SelectTab((shown + kCategories - 2) % kCategories + 1);
-    else
-        return false;
+    if (id != ID_NextTab && id != ID_PreviousTab) return false;
+    const int step = id == ID_NextTab ? 1 : kCategories - 1;
+    TabStrip1.Select((open_.CurrentCategory - 1 + step) % kCategories + 1);
+    TabStrip1_Click();
     return true;
 }
 
 void BookView::UpdateTabCaptions() const {
     for (int k = 1; k <= kCategories; ++k)
         TabStrip1.SetCaption(k, FromBookText(open_.TheBook.CategoryNames(k)));
-}
-
-void BookView::SelectTab(int category) {
-    TabStrip1.Select(category);
-    TabStrip1_Click();
 }
 
 void BookView::TabStrip1_Click() {
@@ -147,15 +133,11 @@ void BookView::ShowCheckedCount() const {
 
 void BookView::SaveCheckMarks(int category) {
     std::vector<std::int16_t> positions;
-    // Usually nothing is checked and there is nothing to look for.
+    // Usually none is checked, and no row needs to be asked.
     const bool any = open_.TheBook.Marks.CheckedCount() != 0;
     for (int position = 1; any && position <= ListURLs.Count(); ++position)
         if (ListURLs.IsChecked(position)) positions.push_back(static_cast<std::int16_t>(position));
     open_.TheBook.Marks.Save(category, std::move(positions));
-}
-
-void BookView::RestoreCheckMarks(int category) {
-    ListURLs.CheckRows(open_.TheBook.Marks.SavedCheckLists(category));
 }
 
 void BookView::SetAllChecks(bool value) {
@@ -174,15 +156,15 @@ void BookView::SelectRow(int position) {
     ListURLs.Select(position);
 }
 
-void BookView::ShowEntry(int index) const {
+void BookView::ShowEntry(int position) const {
+    const int index = open_.TheBook.IndexOf(open_.CurrentCategory, position);
     const std::wstring address = FromBookText(open_.TheBook.SiteURLs(index));
     fields_.Show(FromBookText(open_.TheBook.SiteNames(index)), address);
     StatusBar1.SetPanel(1, address);
 }
 
 void BookView::ListURLs_ItemClick() {
-    const int position = ListURLs.Selected();
-    if (position != 0) ShowEntry(open_.TheBook.IndexOf(open_.CurrentCategory, position));
+    if (ListURLs.Selected() != 0) ShowEntry(ListURLs.Selected());
 }
 
 void BookView::ListURLs_ItemCheck(int position) {
@@ -190,7 +172,7 @@ void BookView::ListURLs_ItemCheck(int position) {
     marks.SetCheckedCount(marks.CheckedCount() + (ListURLs.IsChecked(position) ? 1 : -1));
     ShowCheckedCount();
     if (position != ListURLs.Selected()) return;
-    // So the space bar checks one row after the other.
+    // Pressing the space bar again and again checks row after row.
     if (position != ListURLs.Count()) {
         ListURLs.Select(position + 1);
         ListURLs.EnsureVisible(position + 1);
@@ -199,11 +181,10 @@ void BookView::ListURLs_ItemCheck(int position) {
 }
 
 void BookView::ListURLs_ColumnClick() {
-    if (!fields_.HasName() && ListURLs.Count() != 0)
-        ShowEntry(open_.TheBook.CategoryStarts(open_.CurrentCategory));
+    if (!fields_.HasName() && ListURLs.Count() != 0) ShowEntry(1);
 }
 
-// The row may have been selected by the program, which leaves the fields alone.
+// If the program selected the row, the fields do not show it yet.
 void BookView::ListURLs_DblClick() {
     ListURLs_ItemClick();
     fields_.picGo_Click();
@@ -217,7 +198,7 @@ void BookView::ListURLs_Copy() const {
 }
 
 void BookView::ListURLs_ContextMenu(POINT at) {
-    // Without either there is nothing that the commands could act on.
+    // Otherwise the commands have nothing to act on.
     if (ListURLs.Selected() == 0 && open_.TheBook.Marks.CheckedCount() == 0) return;
     ListURLs_ItemClick();
     static constexpr int kCommands[] = {ID_mnuGoto, 0, ID_mnuEdit, ID_mnuMove, ID_mnuDel, 0, ID_mnuToDesktop};

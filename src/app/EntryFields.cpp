@@ -1,13 +1,12 @@
 #include "app/EntryFields.h"
 
-#include "resources/resource.h"
 #include "system/Clipboard.h"
 #include "system/MsgBox.h"
 #include "system/Shell.h"
 
 namespace lindrel {
 
-// Screen readers name a field by the label just before it.
+// Screen readers name a field after the label just before it.
 void EntryFields::Create(HWND window) {
     window_ = window;
     constexpr DWORD kField = WS_TABSTOP | ES_AUTOHSCROLL | ES_READONLY;
@@ -22,10 +21,6 @@ void EntryFields::Create(HWND window) {
     picGo.Attach(
         CreateControl(window, WC_BUTTONW, kGo, WS_TABSTOP | PictureButton::kStyle, ID_frmStart_picGo));
     tool_tips_.Set(window, picGo.Handle(), kGo);
-}
-
-void EntryFields::ApplyResolution(UINT dpi) {
-    picGo.SetPicture(IDI_picGo, LargePictureSize(dpi));
 }
 
 void EntryFields::Show(const std::wstring& name, const std::wstring& address) {

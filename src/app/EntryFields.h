@@ -1,9 +1,11 @@
 // Name and address of the entry that the user picked last, and the button that opens the address.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "pictures/PictureButton.h"
+#include "resources/resource.h"
 #include "window/Control.h"
 #include "window/Subclass.h"
 #include "window/ToolTips.h"
@@ -14,24 +16,24 @@ class EntryFields {
   public:
     explicit EntryFields(ToolTips& tool_tips) : tool_tips_(tool_tips) {}
 
-    // Makes the controls on a window, in their tab order. Throws SystemFault when the system cannot.
+    // Creates the controls on a window, in tab order. Throws SystemFault.
     void Create(HWND window);
-    // Shows the button's picture at a resolution. Throws SystemFault when it cannot be loaded.
-    void ApplyResolution(UINT dpi);
+    // Loads the button's picture for a resolution. Throws SystemFault and keeps the old one if it cannot.
+    void ApplyResolution(UINT dpi) { picGo.SetPicture(IDI_picGo, LargePictureSize(dpi)); }
 
     void Show(const std::wstring& name, const std::wstring& address);
     void Clear() {
         if (HasName() || HasAddress()) Show({}, {});
     }
-    // Gives the fields whose texts do not fit tips with the whole. To be called when their sizes have
-    // changed.
+    // Gives each field whose text does not fit a tool tip with the whole text. To be called when their sizes
+    // have changed.
     void ShowWholeTexts();
     bool HasName() const { return !txtSite.IsEmpty(); }
     bool HasAddress() const { return !txtURL.IsEmpty(); }
 
-    // WM_COMMAND of the window. True when the id is that of one of these controls.
+    // WM_COMMAND of the window. True if the id is that of one of these controls.
     bool OnCommand(int id) const;
-    // Opens the address, if there is one.
+    // Opens the address; beeps if there is none.
     void picGo_Click() const;
 
   private:

@@ -3,8 +3,8 @@
 #include <utility>
 
 #include "app/BookFileBoxes.h"
-#include "app/MenuCommands.h"
 #include "book/BookFile.h"
+#include "faults/Faults.h"
 #include "files/Files.h"
 #include "resources/resource.h"
 #include "system/FileDialog.h"
@@ -16,20 +16,34 @@ namespace lindrel {
 
 namespace {
 
-// No blank after the dash, as users know the title.
-std::wstring TitleOf(const std::wstring& path) {
-    return L"Lindrel -" + FileNameOf(path);
+// The spellings differ, and users know both.
+constexpr wchar_t kModifiedAtCommand[] = L"A file módosult";
+constexpr wchar_t kModifiedAtClosing[] = L"A fájl módosult";
+
+FileDialogOptions BookFileOptions(const wchar_t* title) {
+    return {.Title = title,
+            .Filter = L"Lindrel fájlok (*.lnd)|*.lnd",
+            .DefaultExt = L"lnd",
+            .InitDir = ProgramFolder() + L"\\"};  // a drive alone would mean its current folder
 }
 
 }  // namespace
 
 bool FileMenu::OnCommand(int id) {
-    static constexpr MenuCommand<FileMenu> kCommands[] = {
+    static constexpr struct {
+        int Id;
+        void (FileMenu::*Handler)();
+    } kCommands[] = {
         {ID_mnuNew, &FileMenu::mnuNew_Click},       {ID_mnuOpen, &FileMenu::mnuOpen_Click},
         {ID_mnuClose, &FileMenu::mnuClose_Click},   {ID_mnuSave, &FileMenu::mnuSave_Click},
         {ID_mnuSaveAs, &FileMenu::mnuSaveAs_Click}, {ID_mnuExit, &FileMenu::mnuExit_Click},
     };
-    return RunMenuCommand<FileMenu>(*this, kCommands, id);
+    for (const auto& [command, handler] : kCommands) {
+        if (command != id) continue;
+        (this->*handler)();
+        return true;
+    }
+    return false;
 }
 
 void FileMenu::ResetBook() {
@@ -38,102 +52,92 @@ void FileMenu::ResetBook() {
     open_.OpenedFile.clear();
     known_file_.clear();
     view_.ShowEmptyBook();
-    SetTitle(L"Lindrel ");  // with a blank at its end, as users know it
+    SetWindowTextW(window_, L"Lindrel ");  // the blank at its end is part of the title
 }
 
 void FileMenu::ResetAfterOffer() {
-    if (OfferToSave(SaveQuestion::Command) != SaveAnswer::CalledOff) ResetBook();
+    if (OfferToSave(kModifiedAtCommand) != Offer::CalledOff) ResetBook();
 }
 
 void FileMenu::mnuOpen_Click() {
-    // Yes saves and opens nothing: the user chooses Open again, as ever.
-    if (OfferToSave(SaveQuestion::Command) == SaveAnswer::NotSaved) OpenChosenBook();
-}
-
-void FileMenu::OpenChosenBook() {
-    const std::wstring before = open_.OpenedFile;
-    if (ChooseBookFile(Choice::Open)) OpenBookFile(before);
+    // Yes saves and opens nothing, as users know it: they choose Open again.
+    if (OfferToSave(kModifiedAtCommand) != Offer::NotSaved) return;
+    std::optional<std::wstring> path;
+    try {
+        path = ChooseExistingFile(window_, BookFileOptions(L"File megnyitása"));
+    } catch (const SystemFault&) {
+        return;  // the user has been told
+    }
+    if (path) OpenBookFile(*path);
 }
 
 void FileMenu::OpenDropped(const std::wstring& path) {
-    if (OfferToSave(SaveQuestion::Command) != SaveAnswer::NotSaved || !FileExists(window_, path)) return;
-    OpenBookFile(std::exchange(open_.OpenedFile, path));
-}
-
-void FileMenu::OpenBookFile(const std::wstring& before) {
-    if (!LoadBook(open_.OpenedFile)) {
-        open_.OpenedFile = before;
-        return;
-    }
-    view_.UpdateTabCaptions();
-    view_.FillAddressList(open_.CurrentCategory);
+    if (OfferToSave(kModifiedAtCommand) == Offer::NotSaved && FileExists(window_, path)) OpenBookFile(path);
 }
 
 void FileMenu::mnuSave_Click() {
     if (!open_.Modified) return;
-    if (open_.OpenedFile.empty()) {
-        if (ChooseBookFile(Choice::FirstSave)) SaveUnderNewName({});
-    } else {
+    if (!open_.OpenedFile.empty()) {
         SaveBook(open_.OpenedFile);
+        return;
     }
+    const std::optional<std::wstring> path = ChooseFileToSave(true);
+    if (path && SaveBook(*path)) ShowFileNameInTitle();
 }
 
 void FileMenu::mnuSaveAs_Click() {
     // Category 12 is ignored: for a book with entries only there the command has never done anything.
     if (open_.TheBook.CategoryStarts(kCategories) == 1) return;
     const std::wstring before = open_.OpenedFile;
-    int answer = IDYES;
-    do {
-        // The path is the book's from now on, even when the user then refuses to overwrite: later saves go
-        // there.
-        if (!ChooseBookFile(Choice::SaveAs)) return;
-        answer = IDYES;
-        if (FileIsThere(open_.OpenedFile))
-            answer =
-                MsgBox(window_, L"A " + open_.OpenedFile + L" már létezik.\r\nFelülírjam a már létező fájlt?",
-                       MB_YESNOCANCEL | MB_ICONQUESTION);
-    } while (answer == IDNO);
-    if (answer == IDYES) SaveUnderNewName(before);
+    int answer = IDNO;
+    while (answer == IDNO) {
+        const std::optional<std::wstring> path = ChooseFileToSave(false);
+        if (!path) return;
+        // Even if the user then refuses to overwrite the file, later saves use it.
+        open_.OpenedFile = *path;
+        answer = !FileIsThere(*path)
+                     ? IDYES
+                     : MsgBox(window_, L"A " + *path + L" már létezik.\r\nFelülírjam a már létező fájlt?",
+                              MB_YESNOCANCEL | MB_ICONQUESTION);
+    }
+    if (answer != IDYES) return;
+    if (SaveBook(open_.OpenedFile))
+        ShowFileNameInTitle();
+    else
+        open_.OpenedFile = before;  // or the next save would fail in the same way
 }
 
 void FileMenu::mnuExit_Click() {
     SendMessageW(window_, WM_CLOSE, 0, 0);
 }
 
-SaveAnswer FileMenu::OfferToSave(SaveQuestion question) {
-    if (!open_.Modified) return SaveAnswer::NotSaved;
-    const wchar_t* const title = question == SaveQuestion::Command ? L"A file módosult" : L"A fájl módosult";
-    const int answer =
-        MsgBox(window_, L"Kívánja menteni a módosításokat ?", MB_YESNOCANCEL | MB_ICONQUESTION, title);
-    if (answer == IDCANCEL) return SaveAnswer::CalledOff;
-    if (answer != IDYES) return SaveAnswer::NotSaved;
-    const std::wstring before = open_.OpenedFile;
-    if (before.empty() && !ChooseBookFile(Choice::FirstSave)) return SaveAnswer::Saved;
-    if (SaveBook(open_.OpenedFile)) return SaveAnswer::Saved;
-    open_.OpenedFile = before;
-    return SaveAnswer::CalledOff;
+bool FileMenu::MayClose() {
+    return OfferToSave(kModifiedAtClosing) != Offer::CalledOff;
 }
 
-bool FileMenu::ChooseBookFile(Choice choice) {
-    const bool open = choice == Choice::Open;
-    FileDialogOptions options;
-    options.Title = open ? L"File megnyitása" : L"File mentése";
-    options.Filter = L"Lindrel fájlok (*.lnd)|*.lnd";
-    options.FileName = open ? L"" : FileNameOf(open_.OpenedFile);
-    options.DefaultExt = L"lnd";
-    options.InitDir = ProgramFolder() + L"\\";  // a drive alone would mean its current folder
-    options.AskToOverwrite = choice == Choice::FirstSave;
+FileMenu::Offer FileMenu::OfferToSave(const wchar_t* title) {
+    if (!open_.Modified) return Offer::NotSaved;
+    const int answer =
+        MsgBox(window_, L"Kívánja menteni a módosításokat ?", MB_YESNOCANCEL | MB_ICONQUESTION, title);
+    if (answer == IDCANCEL) return Offer::CalledOff;
+    if (answer != IDYES) return Offer::NotSaved;
+    std::optional<std::wstring> path = open_.OpenedFile;
+    if (path->empty()) path = ChooseFileToSave(true);
+    return !path || SaveBook(*path) ? Offer::Saved : Offer::CalledOff;
+}
+
+std::optional<std::wstring> FileMenu::ChooseFileToSave(bool ask_to_overwrite) const {
+    FileDialogOptions options = BookFileOptions(L"File mentése");
+    options.FileName = FileNameOf(open_.OpenedFile);
+    options.AskToOverwrite = ask_to_overwrite;
     try {
-        const std::optional<std::wstring> path =
-            open ? ChooseExistingFile(window_, std::move(options)) : ChooseFileToSave(window_, options);
-        if (path) open_.OpenedFile = *path;
-        return path.has_value();
+        return lindrel::ChooseFileToSave(window_, options);
     } catch (const SystemFault&) {
-        return false;  // the user has been told
+        return std::nullopt;  // the user has been told
     }
 }
 
-bool FileMenu::LoadBook(const std::wstring& path) {
+void FileMenu::OpenBookFile(const std::wstring& path) {
     // Before the file is read, so that a change in between is not missed.
     const std::optional<FileState> state = StateOf(path);
     BookFromFile read;
@@ -141,36 +145,34 @@ bool FileMenu::LoadBook(const std::wstring& path) {
         const WaitCursor hourglass;
         read = ReadBook(open_.TheBook, ReadFileBytes(path));
     } catch (...) {
-        TellWhyNotRead(window_);
-        return false;
+        return TellWhyNotRead(window_);
     }
-    if (!MayOpenInDoubt(window_, read.Doubtful)) return false;
+    if (!MayOpenInDoubt(window_, read.Doubtful)) return;
     open_.TheBook = std::move(read.TheBook);
+    open_.OpenedFile = path;
     known_file_ = path;
     known_state_ = state;
-    SetTitle(TitleOf(path));
+    ShowFileNameInTitle();
     TellWhatIsMissing(window_, read);
-    view_.ShowCheckedCount();
     open_.Modified = false;
-    return true;
+    view_.UpdateTabCaptions();
+    view_.FillAddressList(open_.CurrentCategory);
 }
 
 bool FileMenu::SaveBook(const std::wstring& path) {
     if (!MayReplace(path)) return false;
     try {
         const WaitCursor hourglass;
-        ReplaceFileBytes(path, lindrel::SaveBook(open_.TheBook));
+        NamingTheFile(path, [&] { ReplaceFileBytes(path, lindrel::SaveBook(open_.TheBook)); });
     } catch (const FileFault&) {
         MsgBox(window_, CurrentFault().Meaning(), MB_OK | MB_ICONERROR, kErrorTitle);
         return false;
-    } catch (...) {
-        MsgBox(window_, path + L"\r\n" + CurrentFault().Meaning(), MB_OK | MB_ICONERROR, kErrorTitle);
-        return false;
     }
+    open_.OpenedFile = path;
     known_file_ = path;
     known_state_ = StateOf(path);
     open_.Modified = false;
-    MsgBox(window_, L"Elmentve : " + open_.OpenedFile);
+    MsgBox(window_, L"Elmentve : " + path);
     WarnOfHeaderLookalikes(window_, open_.TheBook);
     return true;
 }
@@ -186,15 +188,8 @@ bool FileMenu::MayReplace(const std::wstring& path) const {
                   MB_YESNO | MB_ICONWARNING | MB_DEFBUTTON2, kWarningTitle) == IDYES;
 }
 
-void FileMenu::SaveUnderNewName(const std::wstring& before) {
-    if (SaveBook(open_.OpenedFile))
-        SetTitle(TitleOf(open_.OpenedFile));
-    else
-        open_.OpenedFile = before;
-}
-
-void FileMenu::SetTitle(const std::wstring& title) const {
-    SetWindowTextW(window_, title.c_str());
+void FileMenu::ShowFileNameInTitle() const {
+    SetWindowTextW(window_, (L"Lindrel -" + FileNameOf(open_.OpenedFile)).c_str());
 }
 
 }  // namespace lindrel

@@ -10,66 +10,55 @@
 
 namespace lindrel {
 
-// The two titles of the question whether to save. Their spellings differ, as users have always seen them.
-enum class SaveQuestion { Command, Closing };
-
-// What came of the question.
-enum class SaveAnswer {
-    NotSaved,   // there was nothing to save, or the user does not want it saved
-    Saved,      // the user said Yes, even when the save dialog was then cancelled and the changes are lost
-    CalledOff,  // the user cancelled, or the book could not be written: what asked must not go on
-};
-
 class FileMenu {
   public:
     FileMenu(OpenBook& open, BookView& view) : open_(open), view_(view) {}
 
-    // The window that bears the title and owns the boxes.
+    // Sets the window that shows the book's title and owns the boxes.
     void Attach(HWND window) { window_ = window; }
-    // WM_COMMAND of the window. True when the id is that of one of these commands.
+    // WM_COMMAND of the window. True if the id is that of one of these commands.
     bool OnCommand(int id);
 
-    // Puts an empty book in the place of the open one.
+    // Replaces the open book with an empty one.
     void ResetBook();
-    // Opens the book of a path, with the question whether to save, as mnuOpen does with the chosen one.
+    // Does what mnuOpen does, with this file instead of a chosen one.
     void OpenDropped(const std::wstring& path);
-    // Asks when there are unsaved changes, and saves the book on Yes.
-    SaveAnswer OfferToSave(SaveQuestion question);
+    // Offers to save unsaved changes before the window is closed. False if it must stay open: the user
+    // cancelled, or the book could not be written.
+    bool MayClose();
 
   private:
     void mnuNew_Click() { ResetAfterOffer(); }
-    void mnuClose_Click() { ResetAfterOffer(); }
     void mnuOpen_Click();
+    void mnuClose_Click() { ResetAfterOffer(); }
     void mnuSave_Click();
     void mnuSaveAs_Click();
     void mnuExit_Click();
 
+    // What came of the offer to save.
+    enum class Offer {
+        NotSaved,   // there was nothing to save, or the user answered No
+        Saved,      // the user answered Yes, even if the save dialog was then cancelled
+        CalledOff,  // the user cancelled, or the book could not be written
+    };
+    Offer OfferToSave(const wchar_t* title);
     void ResetAfterOffer();
-    void OpenChosenBook();
-    // Shows the book of OpenedFile. When it cannot be read, tells why and puts `before` in its place.
-    void OpenBookFile(const std::wstring& before);
-    // What the file dialog is shown for. The first save of a book may meet another file of that name, and
-    // then it is the dialog that asks; Save As asks by itself.
-    enum class Choice { Open, FirstSave, SaveAs };
-    // Returns whether a file was picked; OpenedFile is its path then.
-    bool ChooseBookFile(Choice choice);
-    // Reads a book, sets the title and clears Modified. On failure tells why, changes nothing and returns
-    // false.
-    bool LoadBook(const std::wstring& path);
-    // Writes the book, clears Modified and tells the user. On failure tells why, changes nothing and returns
-    // false, as it does when the user does not want to replace what another program has written.
+    // Reads and shows a book and makes it the open one. If it cannot be read, tells the user why and changes
+    // nothing.
+    void OpenBookFile(const std::wstring& path);
+    // The chosen path, or nullopt if the user cancels or the dialog fails.
+    std::optional<std::wstring> ChooseFileToSave(bool ask_to_overwrite) const;
+    // Writes the book, which belongs to this file from then on, and tells the user. If it cannot be written,
+    // or the user keeps what another program has written there, tells why, changes nothing and returns false.
     bool SaveBook(const std::wstring& path);
-    // False when another program has changed the book's file and the user wants to keep that.
+    // False if another program has changed the book's file and the user wants to keep that.
     bool MayReplace(const std::wstring& path) const;
-    // Saves to the path that the user has just chosen, and shows its name in the title. When that fails the
-    // book belongs to the path before, so that the next save does not run into the same wall.
-    void SaveUnderNewName(const std::wstring& before);
-    void SetTitle(const std::wstring& title) const;
+    void ShowFileNameInTitle() const;
 
     OpenBook& open_;
     BookView& view_;
     HWND window_ = nullptr;
-    // The file that the book was read from or written to last, as it was then.
+    // The file that was last read or written, and its state at that time.
     std::wstring known_file_;
     std::optional<FileState> known_state_;
 };

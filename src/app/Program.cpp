@@ -13,18 +13,14 @@ namespace lindrel {
 
 namespace {
 
-// COM, which the shell needs to open folders and addresses, and the window to have files dropped on it.
-class ComApartment {
-  public:
-    ComApartment() : usable_(SUCCEEDED(OleInitialize(nullptr))) {}
+// COM, needed to open folders and addresses with the shell, and to accept dropped files.
+struct ComApartment {
+    const HRESULT Result = OleInitialize(nullptr);
+    ComApartment() = default;
     ~ComApartment() {
-        if (usable_) OleUninitialize();
+        if (SUCCEEDED(Result)) OleUninitialize();
     }
     ComApartment(const ComApartment&) = delete;
-    ComApartment& operator=(const ComApartment&) = delete;
-
-  private:
-    bool usable_;
 };
 
 int RunMessageLoop(frmStart& form) {
@@ -43,7 +39,7 @@ int RunMessageLoop(frmStart& form) {
 }  // namespace
 
 int RunProgram(HINSTANCE instance, int show) {
-    // A drive without a disk is an error like any other, not a box of the system's.
+    // An empty drive is an error like any other, not a box of the system.
     SetErrorMode(GetErrorMode() | SEM_FAILCRITICALERRORS);
     const ComApartment com;
     INITCOMMONCONTROLSEX classes{};
@@ -64,9 +60,9 @@ int RunProgram(HINSTANCE instance, int show) {
                    L"Futásidejű hiba: " + number + L"\r\n\r\n" + fault.Meaning() +
                        L".\r\n\r\nA program bezárul.",
                    MB_OK | MB_ICONERROR);
-            form.OfferToSave(SaveQuestion::Closing);
+            static_cast<void>(form.MayClose());  // the program ends either way
         } catch (...) {
-            // A second fault while the first is reported: there is nobody left to tell.
+            // A second fault while the first is reported cannot be reported as well.
         }
         return 1;
     }

@@ -5,9 +5,9 @@
 
 namespace lindrel {
 
-// Opens the main window on this thread and runs its message loop until the window is closed. Returns the exit
-// code: 0, or 1 after a fault that no command handled, which was reported and followed by the offer to save
-// what was unsaved. `show` is a SW_ value.
+// Opens the main window on this thread, as a SW_ value says, and runs its message loop until the window is
+// closed. Returns the exit code: 0, or 1 after a fault that no command handled. Such a fault is reported to
+// the user, and unsaved changes are offered for saving.
 int RunProgram(HINSTANCE instance, int show);
 
 }  // namespace lindrel

@@ -1,27 +1,10 @@
 #include "app/frmStart.h"
 
-#include "app/MenuCommands.h"
-#include "app/PlaceControls.h"
 #include "faults/Faults.h"
 #include "help/HTMLHelp.h"
 #include "resources/resource.h"
 
 namespace lindrel {
-
-namespace {
-
-constexpr wchar_t kWindowClass[] = L"frmStart";
-constexpr int kDesignedWidth = 11400;
-constexpr int kDesignedHeight = 7500;
-
-void MoveTo(HWND window, const RECT& place) {
-    SetWindowPos(window, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
-                 SWP_NOZORDER | SWP_NOACTIVATE);
-}
-
-}  // namespace
-
-frmStart::frmStart(HINSTANCE instance) : instance_(instance) {}
 
 void frmStart::Show(int show) {
     shortcuts_ = LoadAcceleratorsW(instance_, MAKEINTRESOURCEW(IDR_frmStart));
@@ -29,7 +12,7 @@ void frmStart::Show(int show) {
     WNDCLASSEXW description{};
     description.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
     description.lpszMenuName = MAKEINTRESOURCEW(IDR_frmStart);
-    description.lpszClassName = kWindowClass;
+    description.lpszClassName = L"frmStart";
     Create(description, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT);
     ShowWindow(Handle(), show);
     UpdateWindow(Handle());
@@ -44,14 +27,10 @@ LRESULT frmStart::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
             Form_Resize();
             return 0;
         case WM_GETMINMAXINFO:
-            LimitSize(*reinterpret_cast<MINMAXINFO*>(lparam), LeastHeight(Frame()), DpiOf(Handle()));
+            OnGetMinMaxInfo(*reinterpret_cast<MINMAXINFO*>(lparam));
             return 0;
         case WM_DPICHANGED:
-            // Its first size, before there are controls, may already put most of the window on another
-            // screen.
-            if (loaded_) ApplyResolution();
-            MoveTo(Handle(), *reinterpret_cast<const RECT*>(lparam));
-            Form_Resize();
+            OnDpiChanged(*reinterpret_cast<const RECT*>(lparam));
             return 0;
         case WM_SYSCOLORCHANGE:
             PassOnColours(Handle());
@@ -66,7 +45,7 @@ LRESULT frmStart::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
             OnEndSession(wparam != FALSE);
             return 0;
         case WM_CLOSE:
-            if (OfferToSave(SaveQuestion::Closing) != SaveAnswer::CalledOff) DestroyWindow(Handle());
+            if (MayClose()) DestroyWindow(Handle());
             return 0;
         case WM_DESTROY:
             Form_Unload();
@@ -106,7 +85,10 @@ LRESULT frmStart::OnControlMessage(UINT message, WPARAM wparam, LPARAM lparam) {
 }
 
 void frmStart::OnCommand(int id, int event) {
-    static constexpr MenuCommand<frmStart> kCommands[] = {
+    static constexpr struct {
+        int Id;
+        void (frmStart::*Handler)();
+    } kCommands[] = {
         {ID_mnuKat, &frmStart::mnuKat_Click},
         {ID_mnuAdd, &frmStart::mnuAdd_Click},
         {ID_mnuEdit, &frmStart::mnuEdit_Click},
@@ -127,7 +109,8 @@ void frmStart::OnCommand(int id, int event) {
     if (toolbar_.OnCommand(id) || file_menu_.OnCommand(id) || view_.OnCommand(id) || fields_.OnCommand(id) ||
         search_box_.OnCommand(id, event))
         return;
-    RunMenuCommand<frmStart>(*this, kCommands, id);
+    for (const auto& [command, handler] : kCommands)
+        if (command == id) return (this->*handler)();
 }
 
 LRESULT frmStart::OnNotify(const NMHDR& header) {
@@ -135,17 +118,17 @@ LRESULT frmStart::OnNotify(const NMHDR& header) {
     return view_.Notify(header);
 }
 
-// Whether the session may end, as far as the book is concerned. An open dialog answers for itself.
+// Whether the session may end, as far as the book is concerned. Open dialogs are asked too.
 bool frmStart::OnQueryEndSession() {
     session_.Release();  // an earlier question may have been refused
     if (!open_.Modified) return true;
     // A program without a visible window is ended when it does not answer at once.
     if (TrayArea.Visible()) LeaveTray();
     session_.Hold(Handle(), L"A könyv módosításai még nincsenek mentve.");
-    // With a box or dialog open a command is under way; saving in its middle could write half of its work.
+    // If a box or dialog is open, a command is running, and saving now could write half of its work.
     if (!IsWindowEnabled(Handle())) return false;
     // After a refusal the reason stays until the system has shown it.
-    if (OfferToSave(SaveQuestion::Closing) == SaveAnswer::CalledOff) return false;
+    if (!MayClose()) return false;
     session_.Release();
     return true;
 }
@@ -153,25 +136,26 @@ bool frmStart::OnQueryEndSession() {
 void frmStart::OnEndSession(bool ending) {
     session_.Release();
     if (!ending) return;
-    // The process can be gone as soon as this returns: what other programs show for it must go now.
+    // The process may be ended as soon as this returns; until then what other programs show for it must be
+    // removed.
     TrayArea.SetVisible(false);
     CloseHelp();
-    // An installer that asked waits for the program to end. A box or dialog that is open would take the end
-    // of its owner for a fault; then the system ends the process.
+    // If it was an installer that asked, it waits for the program to end. An open box or dialog would report
+    // the end of its owner as a fault; in that case the system ends the process.
     if (IsWindowEnabled(Handle())) DestroyWindow(Handle());
 }
 
 void frmStart::OnBookDropped() {
-    // A command that was on its way has opened a dialog, which works on the open book.
+    // A command may have opened a dialog since the drop, and the dialog works on the open book.
     if (!IsWindowEnabled(Handle())) return;
-    // Another program's dialog may have taken the front meanwhile; the book is opened all the same.
+    // Fails while another program keeps the foreground; the book is opened all the same.
     static_cast<void>(SetForegroundWindow(Handle()));
     file_menu_.OpenDropped(book_drop_.TakePath());
 }
 
 void frmStart::Form_Load() {
     const UINT dpi = DpiOf(Handle());
-    SetWindowPos(Handle(), nullptr, 0, 0, PixelsOf(kDesignedWidth, dpi), PixelsOf(kDesignedHeight, dpi),
+    SetWindowPos(Handle(), nullptr, 0, 0, PixelsOf(11400, dpi), PixelsOf(7500, dpi),
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     CreateControls();
     ApplyResolution();
@@ -189,8 +173,7 @@ void frmStart::EnableCommand(int id, bool enabled) {
 void frmStart::Form_Unload() {
     CloseHelp();
     book_drop_.Detach();
-    // A window that could not be made has no message loop to end; the quit message would swallow the report
-    // of the failure.
+    // If creation failed there is no message loop to end, and WM_QUIT would close the box that reports it.
     if (loaded_) PostQuitMessage(0);
 }
 

@@ -1,12 +1,12 @@
-// The main window. It owns the open book, the parts of the window that show it, and the commands of the
-// menus:
-//     frmStart.cpp         life of the window, dispatch of messages and commands, end of the session
+// The main window. It owns the open book, the parts of the window that show it, and the commands of the menus
+// (those of the file menu are in FileMenu):
+//     frmStart.cpp         creation and end of the window, dispatch of messages, end of the session
 //     frmStart_Window.cpp  controls, layout, resolution, keyboard focus
 //     frmStart_Menus.cpp   the commands of the menus
-// The file menu has a class of its own.
 #pragma once
 
 #include <optional>
+#include <string>
 
 #include "app/BookView.h"
 #include "app/EntryFields.h"
@@ -28,20 +28,23 @@ namespace lindrel {
 
 class frmStart : public OwnWindow {
   public:
-    explicit frmStart(HINSTANCE instance);
-    // Destroys the window, which is still there only when a fault ends the program.
+    explicit frmStart(HINSTANCE instance) : instance_(instance) {}
+    // The window still exists only if a fault ends the program.
     ~frmStart() override { Destroy(); }
 
-    // Makes and shows the window. Throws SystemFault when the system cannot.
+    // Creates the window and shows it as a SW_ value says. Throws SystemFault, and leaves no window then.
     void Show(int show);
-    // Shortcuts and keyboard navigation; true when the message is done with.
+    // Handles shortcuts and keyboard navigation. True if the message must not be dispatched.
     bool PreTranslate(MSG& message);
 
     OpenBook& OpenedBook() { return open_; }
     BookView& View() { return view_; }
-    SaveAnswer OfferToSave(SaveQuestion question) { return file_menu_.OfferToSave(question); }
+    bool MayClose() { return file_menu_.MayClose(); }
     // In the menu bar.
     void EnableCommand(int id, bool enabled);
+
+    // L"init" from when the add or edit dialog has stored an entry until the list shows it; otherwise empty.
+    std::wstring ResultTag;
 
   private:
     LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
@@ -49,6 +52,8 @@ class frmStart : public OwnWindow {
     void OnCommand(int id, int event);
     LRESULT OnNotify(const NMHDR& header);
     void OnActivate(WPARAM state);
+    void OnGetMinMaxInfo(MINMAXINFO& info) const;
+    void OnDpiChanged(const RECT& suggested);
     bool OnQueryEndSession();
     void OnEndSession(bool ending);
     void OnBookDropped();
@@ -61,6 +66,7 @@ class frmStart : public OwnWindow {
     void CreateControls();
     void ApplyResolution();
     void OnSettingsChange();
+    void PlaceControls(const MainLayout& layout) const;
     void ShowIcons();
     void RestoreFocus() const;
 
@@ -77,17 +83,17 @@ class frmStart : public OwnWindow {
     void LeaveTray();
     void mnuImport_Click();
     void mnuExport_Click();
-    void mnuGoto_Click();
+    void mnuGoto_Click() { fields_.picGo_Click(); }
     void mnuHelp_Click();
     void mnuGoHome_Click();
     void mnuAbout_Click();
 
     HINSTANCE instance_;
     HACCEL shortcuts_ = nullptr;
-    bool loaded_ = false;  // Form_Load did all its work
+    bool loaded_ = false;  // Form_Load is done
     UINT dpi_ = USER_DEFAULT_SCREEN_DPI;
     WindowMetrics metrics_;
-    // As the controls stand; empty when their font or pictures have changed.
+    // What the controls were last placed for; nullopt after their font or pictures have changed.
     std::optional<MainFrame> laid_out_;
     Font font_;
     Picture large_icon_, small_icon_, tray_icon_;

@@ -1,6 +1,8 @@
-// The commands of the menus, all but those of the file menu.
+// The commands of the menus, without those of the file menu.
 
 #include <shlobj.h>
+
+#include <algorithm>
 
 #include "app/frmStart.h"
 #include "edit/CheckedRuns.h"
@@ -25,7 +27,9 @@
 
 namespace lindrel {
 
-// Categories and entries.
+namespace {
+constexpr wchar_t kStored[] = L"init";  // as ResultTag
+}
 
 void frmStart::mnuKat_Click() {
     frmEditKats dialog(open_);
@@ -35,31 +39,34 @@ void frmStart::mnuKat_Click() {
 
 void frmStart::mnuAdd_Click() {
     view_.SaveCheckMarks(open_.CurrentCategory);
-    frmAdd(open_).ShowModal(Handle());
-    if (open_.ResultTag.empty()) return;
-    // Selects the row at the same place, not the new one: the user goes on from there.
+    frmAdd dialog(open_);
+    dialog.ShowModal(Handle());
+    if (dialog.Added()) ResultTag = kStored;
+    if (ResultTag.empty()) return;
+    // The row that was selected stays selected, not the new one.
     const int position = view_.SelectedRow();
-    open_.ResultTag.clear();
+    ResultTag.clear();
     view_.FillAddressList(open_.CurrentCategory);
     view_.RestoreCheckMarks(open_.CurrentCategory);
     view_.SelectRow(position);
 }
 
 void frmStart::mnuEdit_Click() {
-    if (view_.SelectedRow() == 0) return;
+    const int position = view_.SelectedRow();
+    if (position == 0) return;
     view_.SaveCheckMarks(open_.CurrentCategory);
-    frmEditRec(open_, [this] { return view_.SelectedRow(); }).ShowModal(Handle());
-    if (open_.ResultTag.empty()) return;
-    int position = view_.SelectedRow();
+    frmEditRec dialog(open_, position);
+    dialog.ShowModal(Handle());
+    if (dialog.Changed()) ResultTag = kStored;
+    if (ResultTag.empty()) return;
     view_.FillAddressList(open_.CurrentCategory);
-    if (open_.ResultTag == L"m")
+    if (ResultTag == L"m")
         view_.SetAllChecks(false);
     else
         view_.RestoreCheckMarks(open_.CurrentCategory);
-    open_.ResultTag.clear();
-    // The last row may have been moved away.
-    if (view_.RowCount() < position) --position;
-    view_.SelectRow(position);
+    ResultTag.clear();
+    // The last row may have been moved to another category.
+    view_.SelectRow(std::min(position, view_.RowCount()));
 }
 
 void frmStart::mnuFind_Click() {
@@ -75,8 +82,8 @@ void frmStart::mnuFind_Click() {
 }
 
 void frmStart::mnuMove_Click() {
-    const bool something_chosen = open_.TheBook.Marks.CheckedCount() != 0 || fields_.HasAddress();
-    if (!something_chosen || view_.RowCount() == 0) return SoundNothingToDo();
+    const bool any_chosen = open_.TheBook.Marks.CheckedCount() != 0 || fields_.HasAddress();
+    if (!any_chosen || view_.RowCount() == 0) return SoundNothingToDo();
     frmMove dialog(open_, view_.SelectedRow(), view_.CheckedRows());
     dialog.ShowModal(Handle());
     if (dialog.Moved()) view_.FillAddressList(open_.CurrentCategory);
@@ -96,9 +103,9 @@ void frmStart::mnuDel_Click() {
         open_.TheBook.DeleteEntry(open_.CurrentCategory, view_.SelectedRow(), 1);
     }
     open_.TheBook.Marks.SetCheckedCount(0);
-    const int place = view_.FocusedRow();
+    const int focused = view_.FocusedRow();
     view_.FillAddressList(open_.CurrentCategory);
-    view_.FocusRow(place);
+    view_.FocusRow(focused);
     open_.Modified = true;
 }
 
@@ -109,7 +116,9 @@ void frmStart::mnuSelectAll_Click() {
 }
 
 void frmStart::mnuToDesktop_Click() {
-    constexpr wchar_t kNotCreated[] = L"Nem jött létre a parancsikon";
+    const auto tell_failure = [this] {
+        MsgBox(Handle(), L"Nem jött létre a parancsikon", MB_OK | MB_ICONEXCLAMATION, kErrorTitle);
+    };
     Book& book = open_.TheBook;
     const int position = view_.SelectedRow();
     if (position == 0) return;
@@ -119,12 +128,9 @@ void frmStart::mnuToDesktop_Click() {
     if (MsgBox(Handle(), question, MB_OKCANCEL | MB_ICONQUESTION) != IDOK) return;
 
     const std::optional<std::wstring> desktop = ShellFolder(CSIDL_DESKTOPDIRECTORY);
-    if (!desktop) {
-        MsgBox(Handle(), kNotCreated, MB_OK | MB_ICONEXCLAMATION, kErrorTitle);
-        return;
-    }
-    // The entry takes the name of its file. Neither the list nor Modified shows it: users have never been
-    // asked to save because of a shortcut.
+    if (!desktop) return tell_failure();
+    // The entry is renamed to the name of its file. Neither the list nor Modified shows it: users have never
+    // been asked to save because of a shortcut.
     std::string name(book.SiteNames(entry));
     MakeShortcutFileName(name);
     book.SetSiteName(entry, name);
@@ -132,11 +138,9 @@ void frmStart::mnuToDesktop_Click() {
         WriteFileBytes(DesktopPath(*desktop) + L"\\" + FromBookText(name) + L".url",
                        ShortcutFile(book.SiteURLs(entry)));
     } catch (const FileFault&) {
-        MsgBox(Handle(), kNotCreated, MB_OK | MB_ICONEXCLAMATION, kErrorTitle);
+        tell_failure();
     }
 }
-
-// How the program shows itself.
 
 void frmStart::mnuGridLines_Click() {
     const HMENU menu = GetMenu(Handle());
@@ -149,18 +153,16 @@ void frmStart::mnuTray_Click() {
     ShowWindow(Handle(), SW_HIDE);
     TrayArea.SetToolTip(kApplicationTitle);
     TrayArea.SetVisible(true);
-    // Without an icon there would be no way back.
+    // Without an icon the user could not get the window back.
     if (!TrayArea.IsTaken()) LeaveTray();
 }
 
 void frmStart::LeaveTray() {
     ShowWindow(Handle(), SW_SHOW);
-    // Refused while another program keeps the front; the window is there all the same.
+    // Fails while another program keeps the foreground; the window is shown all the same.
     static_cast<void>(SetForegroundWindow(Handle()));
     TrayArea.SetVisible(false);
 }
-
-// Import, export, the page of the shown entry.
 
 void frmStart::mnuImport_Click() {
     view_.SaveCheckMarks(open_.CurrentCategory);
@@ -172,10 +174,9 @@ void frmStart::mnuImport_Click() {
 
 void frmStart::mnuExport_Click() {
     view_.SaveCheckMarks(open_.CurrentCategory);
-    bool something_checked = false;
-    for (int c = 1; c <= kCategories; ++c)
-        something_checked = something_checked || IsExported(open_.TheBook, c);
-    if (!something_checked) {
+    bool any_checked = false;
+    for (int c = 1; c <= kCategories; ++c) any_checked = any_checked || IsExported(open_.TheBook, c);
+    if (!any_checked) {
         MsgBox(Handle(),
                L"Kérem jelölje be (pipazza ki) az exportálni kívánt címeket /akár több kategóriából is/.",
                MB_OK, L"Nincsenek kijelölve címek");
@@ -183,12 +184,6 @@ void frmStart::mnuExport_Click() {
     }
     frmExport(open_).ShowModal(Handle());
 }
-
-void frmStart::mnuGoto_Click() {
-    fields_.picGo_Click();
-}
-
-// Help.
 
 void frmStart::mnuHelp_Click() {
     constexpr std::int16_t kHelpOfTheProgram = 1;

@@ -1,10 +1,11 @@
-// The main window's parts: made once, placed by the layout, in the user's font at the screen's resolution.
+// The main window's controls and their layout.
 
+#include <iterator>
 #include <utility>
 
-#include "app/PlaceControls.h"
 #include "app/frmStart.h"
 #include "resources/resource.h"
+#include "window/PlacedTogether.h"
 
 namespace lindrel {
 
@@ -24,7 +25,7 @@ void frmStart::CreateControls() {
     TrayArea.IconLost = [this] { LeaveTray(); };
 }
 
-// All that depends on the resolution: when the window is made, and when screen or settings change.
+// Sets everything that depends on the screen's resolution and the user's settings.
 void frmStart::ApplyResolution() {
     dpi_ = DpiOf(Handle());
     Font font(MessageFont(dpi_));
@@ -40,14 +41,14 @@ void frmStart::ApplyResolution() {
     laid_out_.reset();
 }
 
-// Comes often, and seldom with anything that is to be seen here.
+// Most settings do not change this window.
 void frmStart::OnSettingsChange() {
     if (WindowMetrics(dpi_) == metrics_) return;
     ApplyResolution();
     Form_Resize();
 }
 
-// The old icons are in use until the new ones are set.
+// The old icons are destroyed only when the new ones have replaced them.
 void frmStart::ShowIcons() {
     const int small_size = GetSystemMetricsForDpi(SM_CXSMICON, dpi_);
     Picture large_icon(instance_, IDI_frmStart, GetSystemMetricsForDpi(SM_CXICON, dpi_));
@@ -64,31 +65,75 @@ void frmStart::ShowIcons() {
 void frmStart::Form_Resize() {
     RECT outer{};
     if (!loaded_ || IsIconic(Handle()) || !GetWindowRect(Handle(), &outer)) return;
-    const int width = outer.right - outer.left;
-    const int height = outer.bottom - outer.top;
-    // Another size raises another WM_SIZE, which has laid out the window when this call returns. A window
-    // that cannot take it, as on a small screen, is laid out as it is.
-    const auto resize = [this, &outer](int new_width, int new_height) {
-        RECT now{};
-        return SetWindowPos(Handle(), nullptr, 0, 0, new_width, new_height,
-                            SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE) &&
-               GetWindowRect(Handle(), &now) && !EqualRect(&now, &outer);
-    };
     const MainFrame frame = Frame();
-    // Shown for the first time or again, a window is told the size that it has.
+    // WM_SIZE also comes when the window is shown, with the size that it had before.
     if (laid_out_ == frame) return;
-    const ResizeStep step = JudgeSize(frame);
-    if (step.Minimised) return;
-    if (step.TooLow && resize(width, PixelsAtLeast(LeastHeight(frame), dpi_))) return;
-    if (step.TooNarrow && resize(PixelsAtLeast(kLeastWidth, dpi_), height)) return;
+    const SizeVerdict verdict = JudgeSize(frame);
+    if (verdict == SizeVerdict::Minimised) return;
+    int width = outer.right - outer.left;
+    int height = outer.bottom - outer.top;
+    if (verdict == SizeVerdict::TooLow) height = PixelsAtLeast(LeastHeight(frame), dpi_);
+    if (verdict == SizeVerdict::TooNarrow) width = PixelsAtLeast(kLeastWidth, dpi_);
+    // A change of size raises WM_SIZE, so the window is laid out when the call returns. If the size cannot
+    // change, because the screen is too small, the window is laid out as it is.
+    RECT now{};
+    if (verdict != SizeVerdict::Good &&
+        SetWindowPos(Handle(), nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE) &&
+        GetWindowRect(Handle(), &now) && !EqualRect(&now, &outer))
+        return;
 
     view_.DockStatusBar();
-    PlaceControls(Handle(), LayOut(frame), dpi_);
+    PlaceControls(LayOut(frame));
     fields_.ShowWholeTexts();
     laid_out_ = frame;
 }
 
-// Zeros for what is not there yet.
+void frmStart::PlaceControls(const MainLayout& layout) const {
+    // The height of a combo box includes its list; the system chooses that of the closed box.
+    constexpr int kHeightOfFindersWithList = 3000;
+    const auto in_pixels = [this](const Bounds& bounds) {
+        return RECT{PixelsOf(bounds.Left, dpi_), PixelsOf(bounds.Top, dpi_), PixelsOf(bounds.Right(), dpi_),
+                    PixelsOf(bounds.Bottom(), dpi_)};
+    };
+    const auto in_frame = [&frame = layout.FrameSearch](Bounds bounds) {
+        bounds.Left += frame.Left;
+        bounds.Top += frame.Top;
+        return bounds;
+    };
+    Bounds finders = in_frame(layout.cmbFinders);
+    finders.Height = kHeightOfFindersWithList;
+    const std::pair<int, Bounds> moved[] = {
+        {ID_frmStart_ListURLs, layout.ListURLs},
+        {ID_frmStart_lblSiteName, layout.lblSiteName},
+        {ID_frmStart_txtSite, layout.txtSite},
+        {ID_frmStart_lblURL, layout.lblURL},
+        {ID_frmStart_txtURL, layout.txtURL},
+        {ID_frmStart_picGo, layout.picGo},
+        {ID_frmStart_FrameSearch, layout.FrameSearch},
+        {ID_frmStart_cmbFinders, finders},
+        {ID_frmStart_txtFind, in_frame(layout.txtFind)},
+        {ID_frmStart_Image1, in_frame(layout.Image1)},
+    };
+    PlacedTogether together(Handle(), static_cast<int>(std::size(moved)) + 2);
+    together.Stretch(ID_frmStart_Toolbar, in_pixels(layout.Toolbar));
+    together.Stretch(ID_frmStart_TabStrip1, in_pixels(layout.TabStrip1));
+    for (const auto& [id, bounds] : moved) together.Move(id, in_pixels(bounds));
+}
+
+void frmStart::OnGetMinMaxInfo(MINMAXINFO& info) const {
+    const UINT dpi = DpiOf(Handle());
+    info.ptMinTrackSize = {PixelsAtLeast(kLeastWidth, dpi), PixelsAtLeast(LeastHeight(Frame()), dpi)};
+}
+
+void frmStart::OnDpiChanged(const RECT& suggested) {
+    // Form_Load, in giving the window its first size, may already put most of it on another screen.
+    if (loaded_) ApplyResolution();
+    SetWindowPos(Handle(), nullptr, suggested.left, suggested.top, suggested.right - suggested.left,
+                 suggested.bottom - suggested.top, SWP_NOZORDER | SWP_NOACTIVATE);
+    Form_Resize();
+}
+
+// What does not exist yet has the size 0.
 MainFrame frmStart::Frame() const {
     RECT outer{};
     RECT client{};
@@ -102,7 +147,7 @@ MainFrame frmStart::Frame() const {
             .LineHeight = TwipsOf(font_.LineHeight(), dpi_)};
 }
 
-// Remembers which control has the focus while a dialog or another program is in front.
+// Remembers which control has the focus while another window is active.
 void frmStart::OnActivate(WPARAM state) {
     returned_focus_.OnActivate(state);
     if (LOWORD(state) != WA_INACTIVE) {
@@ -123,7 +168,7 @@ void frmStart::RestoreFocus() const {
 
 bool frmStart::PreTranslate(MSG& message) {
     if (Handle() == nullptr || (message.hwnd != Handle() && !IsChild(Handle(), message.hwnd))) return false;
-    // In the search box Del edits the text; everywhere else the menus' shortcuts win.
+    // In the search box Del edits the text; everywhere else it is a shortcut.
     const bool editing_search = message.message == WM_KEYDOWN && message.wParam == VK_DELETE &&
                                 message.hwnd == GetDlgItem(Handle(), ID_frmStart_txtFind);
     if (!editing_search && TranslateAcceleratorW(Handle(), shortcuts_, &message) != 0) return true;

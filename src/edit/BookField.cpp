@@ -10,10 +10,10 @@ namespace lindrel {
 
 namespace {
 
-// "U+0151", also of a surrogate pair.
+// "U+0151"; the character may be a surrogate pair.
 std::wstring CodeOf(std::wstring_view character) {
-    std::size_t place = 0;
-    const auto code = static_cast<unsigned long>(NextCharacter(character, place));
+    std::size_t offset = 0;
+    const auto code = static_cast<unsigned long>(NextCharacter(character, offset));
     wchar_t text[16];
     const int length = std::swprintf(text, 16, L"U+%04lX", code);
     return {text, static_cast<std::size_t>(length)};
@@ -38,10 +38,11 @@ bool FitsBook(const Dialog& dialog, int field_id) {
     const std::wstring text = field.Text();
     const std::optional<std::wstring> foreign = FirstForeignCharacter(text);
     if (!foreign) return true;
-    // On a line of its own, or the code could be broken in two.
-    const std::wstring shown = L"„" + *foreign + L"” (" + CodeOf(*foreign) + L")";
-    MsgBox(dialog.Handle(), L"Ezt a karaktert a könyv nem tudja tárolni:\r\n\r\n" + shown,
-           MB_OK | MB_ICONERROR, kErrorTitle);
+    // On a line of its own, so that the code is not wrapped.
+    MsgBox(
+        dialog.Handle(),
+        L"Ezt a karaktert a könyv nem tudja tárolni:\r\n\r\n„" + *foreign + L"” (" + CodeOf(*foreign) + L")",
+        MB_OK | MB_ICONERROR, kErrorTitle);
     dialog.FocusOn(field_id);
     field.Select(static_cast<int>(text.find(*foreign)), static_cast<int>(foreign->size()));
     return false;

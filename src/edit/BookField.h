@@ -1,4 +1,4 @@
-// Dialog fields for what is in a book.
+// Dialog fields that show and take texts of a book.
 #pragma once
 
 #include <string>
@@ -10,12 +10,13 @@
 
 namespace lindrel {
 
-// A text box that shows a text of the book. It cannot show everything: a window's text ends at a NUL, and
-// files that were damaged can hold one.
+// A text box that shows a text of the book. It may not show all of it: the text of a window ends at a NUL,
+// and a damaged file can hold one.
 class BookField {
   public:
     void Show(const TextBox& box, std::string_view text);
-    // What the book is to store: the text as typed, or the shown one as it was when the user left it alone.
+    // The text to store: what the user typed, or all of the shown text if the user has not changed it. What
+    // was typed must have passed FitsBook().
     std::string Text() const;
 
   private:
@@ -24,11 +25,11 @@ class BookField {
     std::wstring shown_;
 };
 
-// Whether a book can store the text of a text box. If not, tells the user which character it cannot store,
-// and selects that character in the box.
+// Whether a book can store the text of a text box. If not, tells the user which character it cannot store and
+// selects it. Throws SystemFault if the box cannot be shown.
 bool FitsBook(const Dialog& dialog, int field_id);
 
-// Fills a combo box with the names of the twelve categories and chooses one (1..12).
+// Fills an empty combo box with the names of the twelve categories and selects one (1..12).
 void FillWithCategories(const ComboBox& combo, const Book& book, int chosen);
 
 }  // namespace lindrel

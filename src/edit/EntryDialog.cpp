@@ -1,14 +1,9 @@
 #include "edit/EntryDialog.h"
 
-#include "edit/BookField.h"
 #include "system/MsgBox.h"
 #include "text/BookText.h"
 
 namespace lindrel {
-
-void EntryDialog::FillCategories() const {
-    FillWithCategories(Get<ComboBox>(fields_.cmbKateg), open_.TheBook, open_.CurrentCategory);
-}
 
 bool EntryDialog::FieldsAreGood() const {
     // The bare "http://" is long enough: an entry may be stored before its address is known.

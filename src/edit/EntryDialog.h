@@ -1,10 +1,8 @@
-// What the dialogs that add and edit an entry share: the fields for name, category and address, how they are
-// filled and checked.
+// What the dialogs that add and edit an entry share: the fields for name, category and address.
 #pragma once
 
-#include <string>
-
 #include "book/OpenBook.h"
+#include "edit/BookField.h"
 #include "window/Dialog.h"
 
 namespace lindrel {
@@ -26,10 +24,12 @@ class EntryDialog : public Dialog {
     // The chosen category, 1..12.
     int ChosenCategory() const { return Get<ComboBox>(fields_.cmbKateg).Selected() + 1; }
 
-    // The twelve names, with the shown category chosen.
-    void FillCategories() const;
-    // Whether name and address can be stored. If not, tells why and puts the focus where the user can mend
-    // it.
+    // Fills the field with the twelve names, and chooses the shown category.
+    void FillCategories() const {
+        FillWithCategories(Get<ComboBox>(fields_.cmbKateg), open_.TheBook, open_.CurrentCategory);
+    }
+    // Whether name and address can be stored. If not, tells the user why and moves the focus to the field
+    // that must change. Throws SystemFault if the box cannot be shown.
     bool FieldsAreGood() const;
 
   private:

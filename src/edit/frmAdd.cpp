@@ -1,7 +1,6 @@
 #include "edit/frmAdd.h"
 
 #include "edit/ClipboardAddress.h"
-#include "resources/resource.h"
 #include "system/Clipboard.h"
 #include "text/BookText.h"
 
@@ -12,9 +11,6 @@ constexpr wchar_t kBareWebAddress[] = L"http://";
 constexpr wchar_t kBareMailAddress[] = L"mailto:";
 }  // namespace
 
-frmAdd::frmAdd(OpenBook& open)
-    : EntryDialog(IDD_frmAdd, {ID_frmAdd_txtDesc, ID_frmAdd_cmbKateg, ID_frmAdd_txtURL}, open) {}
-
 void frmAdd::Form_Load() {
     FillCategories();
     SetToolTip(ID_frmAdd_cmdEmail, L"váltás a http:// és a mailto: előtag között");
@@ -24,32 +20,21 @@ void frmAdd::Form_Load() {
 }
 
 void frmAdd::OnCommand(int id, int event) {
-    switch (id) {
-        case ID_frmAdd_txtURL:
-            if (event == EN_SETFOCUS) txtURL_GotFocus();
-            return;
-        case ID_frmAdd_cmdEmail:
-            return cmdEmail_Click();
-        case ID_frmAdd_cmdOK:
-            return cmdOK_Click();
-        case ID_frmAdd_cmdCancel:
-        case IDCANCEL:
-            return cmdCancel_Click();
-        default:
-            return;
-    }
+    if (id == ID_frmAdd_txtURL && event == EN_SETFOCUS) txtURL_GotFocus();
+    if (id == ID_frmAdd_cmdEmail) cmdEmail_Click();
+    if (id == ID_frmAdd_cmdOK) cmdOK_Click();
+    if (id == ID_frmAdd_cmdCancel || id == IDCANCEL) cmdCancel_Click();
 }
 
 void frmAdd::txtURL_GotFocus() const {
-    // Past the end of the default text; the text box clamps it.
-    constexpr int kBehindTheText = 121;
+    constexpr int kAfterTheText = 121;  // clamped to the end by the text box
     if (ClipboardUsed)
         txtURL().SelectAll();
     else
-        txtURL().Select(kBehindTheText, 0);
+        txtURL().Select(kAfterTheText, 0);
 }
 
-// Swaps only the bare prefixes; a typed address stays.
+// Leaves anything but a bare prefix alone.
 void frmAdd::cmdEmail_Click() const {
     const std::wstring address = txtURL().Text();
     if (address == kBareWebAddress)
@@ -63,7 +48,7 @@ void frmAdd::cmdOK_Click() {
     OpenedBook().TheBook.AddEntry(ChosenCategory(),
                                   {{ToBookText(txtDesc().Text()), ToBookText(txtURL().Text())}});
     OpenedBook().Modified = true;
-    OpenedBook().ResultTag = kStored;
+    added_ = true;
     Unload();
 }
 

@@ -1,13 +1,18 @@
-// Adds an entry. The address is proposed from the clipboard when that holds one.
+// Adds an entry. If there is an address on the clipboard, proposes it.
 #pragma once
 
 #include "edit/EntryDialog.h"
+#include "resources/resource.h"
 
 namespace lindrel {
 
 class frmAdd : public EntryDialog {
   public:
-    explicit frmAdd(OpenBook& open);
+    explicit frmAdd(OpenBook& open)
+        : EntryDialog(IDD_frmAdd, {ID_frmAdd_txtDesc, ID_frmAdd_cmbKateg, ID_frmAdd_txtURL}, open) {}
+
+    // Whether an entry was added.
+    bool Added() const { return added_; }
 
   private:
     void Form_Load() override;
@@ -17,7 +22,8 @@ class frmAdd : public EntryDialog {
     void cmdOK_Click();
     void cmdCancel_Click() { Unload(); }
 
-    bool ClipboardUsed = false;  // the address came from the clipboard
+    bool ClipboardUsed = false;  // the proposed address came from the clipboard
+    bool added_ = false;
 };
 
 }  // namespace lindrel

@@ -1,19 +1,15 @@
 #include "edit/frmEditKats.h"
 
-#include "resources/resource.h"
-
 namespace lindrel {
 
 namespace {
 
-// The field of a category, 1..12; the fields are numbered from 0.
-int txtKateg(int category) {
+// The id of the field of a category (1..12). The fields are numbered from 0.
+constexpr int txtKateg(int category) {
     return ID_frmEditKats_txtKateg_0 + category - 1;
 }
 
 }  // namespace
-
-frmEditKats::frmEditKats(OpenBook& open) : Dialog(IDD_frmEditKats), open_(open) {}
 
 void frmEditKats::Form_Load() {
     for (int k = 1; k <= kCategories; ++k)
@@ -21,21 +17,14 @@ void frmEditKats::Form_Load() {
 }
 
 void frmEditKats::OnCommand(int id, int) {
-    switch (id) {
-        case ID_frmEditKats_cmdOk:
-            return cmdOK_Click();
-        case ID_frmEditKats_cmdCancel:
-        case IDCANCEL:
-            return cmdCancel_Click();
-        default:
-            return;
-    }
+    if (id == ID_frmEditKats_cmdOk) cmdOK_Click();
+    if (id == ID_frmEditKats_cmdCancel || id == IDCANCEL) cmdCancel_Click();
 }
 
 void frmEditKats::cmdOK_Click() {
     for (int k = 1; k <= kCategories; ++k)
         if (!FitsBook(*this, txtKateg(k))) return;
-    // Any other name is good: it may be empty, or equal to another.
+    // Names may be empty, and equal to each other.
     for (int k = 1; k <= kCategories; ++k) open_.TheBook.SetCategoryName(k, names_(k).Text());
     open_.Modified = true;
     renamed_ = true;

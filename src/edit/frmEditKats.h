@@ -3,13 +3,14 @@
 
 #include "book/OpenBook.h"
 #include "edit/BookField.h"
+#include "resources/resource.h"
 #include "window/Dialog.h"
 
 namespace lindrel {
 
 class frmEditKats : public Dialog {
   public:
-    explicit frmEditKats(OpenBook& open);
+    explicit frmEditKats(OpenBook& open) : Dialog(IDD_frmEditKats), open_(open) {}
 
     // Whether the names were stored, changed or not.
     bool Renamed() const { return renamed_; }

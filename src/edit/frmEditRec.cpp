@@ -1,33 +1,16 @@
 #include "edit/frmEditRec.h"
 
-#include <utility>
-
-#include "resources/resource.h"
-
 namespace lindrel {
 
-frmEditRec::frmEditRec(OpenBook& open, SelectedRow selected_row)
-    : EntryDialog(IDD_frmEditRec, {ID_frmEditRec_txtDesc, ID_frmEditRec_cmbKateg, ID_frmEditRec_txtURL},
-                  open),
-      selected_row_(std::move(selected_row)) {}
-
 void frmEditRec::Form_Load() {
-    OriginalCategory = OpenedBook().CurrentCategory;
     FillCategories();
     name_.Show(txtDesc(), OpenedBook().TheBook.SiteNames(Index()));
     address_.Show(txtURL(), OpenedBook().TheBook.SiteURLs(Index()));
 }
 
 void frmEditRec::OnCommand(int id, int) {
-    switch (id) {
-        case ID_frmEditRec_cmdOk:
-            return cmdOk_Click();
-        case ID_frmEditRec_Command1:
-        case IDCANCEL:
-            return Command1_Click();
-        default:
-            return;
-    }
+    if (id == ID_frmEditRec_cmdOk) cmdOk_Click();
+    if (id == ID_frmEditRec_Command1 || id == IDCANCEL) Command1_Click();
 }
 
 void frmEditRec::cmdOk_Click() {
@@ -37,12 +20,12 @@ void frmEditRec::cmdOk_Click() {
     book.SetSiteURL(Index(), address_.Text());
     const int chosen = ChosenCategory();
     if (chosen != OriginalCategory) {
-        book.MoveEntry(OriginalCategory, Position() - 1, chosen);
+        book.MoveEntry(OriginalCategory, selected_row_ - 1, chosen);
         // The saved positions would now mean other entries.
         book.Marks.Forget(OriginalCategory);
     }
     OpenedBook().Modified = true;
-    OpenedBook().ResultTag = kStored;
+    changed_ = true;
     Unload();
 }
 

@@ -1,19 +1,23 @@
-// Changes the selected entry, and moves it when another category is chosen.
+// Changes the selected entry, and moves it if another category is chosen.
 #pragma once
 
-#include <cstdint>
-#include <functional>
-
-#include "edit/BookField.h"
 #include "edit/EntryDialog.h"
+#include "resources/resource.h"
 
 namespace lindrel {
 
 class frmEditRec : public EntryDialog {
   public:
-    // Tells the 1-based position of the list's selected row; asked at each use.
-    using SelectedRow = std::function<int()>;
-    frmEditRec(OpenBook& open, SelectedRow selected_row);
+    // `selected_row` is the position of the entry in the shown category. Form_Load throws RangeFault if the
+    // book has no such entry.
+    frmEditRec(OpenBook& open, int selected_row)
+        : EntryDialog(IDD_frmEditRec, {ID_frmEditRec_txtDesc, ID_frmEditRec_cmbKateg, ID_frmEditRec_txtURL},
+                      open),
+          selected_row_(selected_row),
+          OriginalCategory(open.CurrentCategory) {}
+
+    // Whether the entry was stored, changed or not.
+    bool Changed() const { return changed_; }
 
   private:
     void Form_Load() override;
@@ -21,13 +25,13 @@ class frmEditRec : public EntryDialog {
     void cmdOk_Click();
     void Command1_Click() { Unload(); }
 
-    // 1-based position of the edited entry in its category, and its index in the book.
-    int Position() const { return selected_row_(); }
-    int Index() const { return OpenedBook().TheBook.IndexOf(OriginalCategory, Position()); }
+    // The index of the entry in the book.
+    int Index() const { return OpenedBook().TheBook.IndexOf(OriginalCategory, selected_row_); }
 
-    SelectedRow selected_row_;
+    int selected_row_;
+    int OriginalCategory;
     BookField name_, address_;
-    std::uint8_t OriginalCategory = 1;
+    bool changed_ = false;
 };
 
 }  // namespace lindrel

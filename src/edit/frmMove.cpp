@@ -15,15 +15,8 @@ void frmMove::Form_Load() {
 }
 
 void frmMove::OnCommand(int id, int) {
-    switch (id) {
-        case ID_frmMove_cmdOk:
-            return cmdOk_Click();
-        case ID_frmMove_cmdCancel:
-        case IDCANCEL:
-            return cmdCancel_Click();
-        default:
-            return;
-    }
+    if (id == ID_frmMove_cmdOk) cmdOk_Click();
+    if (id == ID_frmMove_cmdCancel || id == IDCANCEL) cmdCancel_Click();
 }
 
 void frmMove::cmdOk_Click() {
@@ -31,7 +24,6 @@ void frmMove::cmdOk_Click() {
     const int destination = Get<ComboBox>(ID_frmMove_cmbKateg).Selected() + 1;
     Unload();
     if (destination == source) return;
-
     if (!checked_runs_.empty()) {
         MoveRuns(open_.TheBook, source, checked_runs_, destination);
         open_.TheBook.Marks.SetCheckedCount(0);

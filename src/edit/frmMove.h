@@ -12,11 +12,11 @@ namespace lindrel {
 
 class frmMove : public Dialog {
   public:
-    // The 1-based position of the selected row, 0 for none, and the runs of the checked rows of the shown
-    // category.
+    // `selected_row` is 1-based, 0 for none; the runs are those of the checked rows, in the order of
+    // CheckedRuns().
     frmMove(OpenBook& open, int selected_row, std::vector<RowRun> checked_runs);
 
-    // Whether entries have left the shown category.
+    // Whether entries were moved to another category.
     bool Moved() const { return moved_; }
 
   private:

@@ -2,7 +2,6 @@
 
 #include "find/EntrySearch.h"
 #include "find/WebServices.h"
-#include "resources/resource.h"
 #include "system/MsgBox.h"
 #include "system/Shell.h"
 
@@ -15,7 +14,8 @@ void SearchBox::Create(HWND window) {
                                         ID_frmStart_cmbFinders));
     for (const WebService& service : kWebServices) cmbFinders.Add(service.Name);
     cmbFinders.Select(0);
-    // Names the next field for screen readers; on the screen, frame and picture say enough.
+    // Names the next field for screen readers. It is hidden, since frame and picture tell enough on the
+    // screen.
     Control(CreateControl(window, WC_STATICW, L"keresett szöveg", SS_LEFT, ID_frmStart_lblFind)).Show(false);
     txtFind = TextBox(CreateControl(window, WC_EDITW, L"", WS_TABSTOP | ES_AUTOHSCROLL, ID_frmStart_txtFind,
                                     WS_EX_CLIENTEDGE));
@@ -28,10 +28,6 @@ void SearchBox::Create(HWND window) {
     tool_tips_.Set(window, cmbFinders.Handle(), L"keress az interneten");
     tool_tips_.Set(window, txtFind.Handle(), L"a keresett szó");
     tool_tips_.Set(window, Image1.Handle(), kSearch);
-}
-
-void SearchBox::ApplyResolution(UINT dpi) {
-    Image1.SetPicture(IDI_Image1, PictureSize(dpi));
 }
 
 bool SearchBox::OnCommand(int id, int event) {
@@ -49,18 +45,10 @@ void SearchBox::Image1_Click() {
     constexpr std::size_t kShortestText = 2;
     const std::wstring text = txtFind.Text();
     if (text.size() < kShortestText) return;
-    if (cmbFinders.Selected() > 0)
-        SearchTheWeb(text);
-    else
-        SearchTheBook(text);
-}
-
-void SearchBox::SearchTheWeb(const std::wstring& text) const {
-    OpenAddress(window_, ServiceAddress(cmbFinders.Selected(), text));
-    cmbFinders.Select(0);
-}
-
-void SearchBox::SearchTheBook(const std::wstring& text) {
+    if (cmbFinders.Selected() > 0) {
+        OpenAddress(window_, ServiceAddress(cmbFinders.Selected(), text));
+        return cmbFinders.Select(0);
+    }
     if (open_.TheBook.CategoryCounts(open_.CurrentCategory) == 0) return;
     FindInCategory(open_.TheBook, text, open_.CurrentCategory, FindPosition);
     if (FindPosition == 0)
@@ -69,27 +57,16 @@ void SearchBox::SearchTheBook(const std::wstring& text) {
         Found(FindPosition);  // the focus stays here, so that Enter goes on to the next
 }
 
-// True when the text box has nothing left to do with the character.
 bool SearchBox::txtFind_KeyPress(wchar_t KeyAscii) {
     constexpr wchar_t kEnter = 13;
-    if (KeyAscii != kEnter) return false;
-    Image1_Click();
-    return true;
-}
-
-// Only a new text starts the search anew. After a tab change it goes on at the old place, as users know it.
-void SearchBox::txtFind_Change() {
-    FindPosition = 0;
-}
-
-void SearchBox::txtFind_GotFocus() const {
-    txtFind.SelectAll();
+    if (KeyAscii == kEnter) Image1_Click();
+    return KeyAscii == kEnter;
 }
 
 std::optional<LRESULT> SearchBox::OnTextMessage(UINT message, WPARAM wparam, LPARAM lparam) {
-    // A text box of one line would only sound a warning at Enter.
+    // A single-line text box would only beep at Enter.
     if (message == WM_CHAR && txtFind_KeyPress(static_cast<wchar_t>(wparam))) return 0;
-    // Or the keyboard navigation of the window would take Enter.
+    // Otherwise the keyboard navigation of the window would take Enter.
     const auto* const asked = reinterpret_cast<const MSG*>(lparam);
     if (message == WM_GETDLGCODE && asked != nullptr && asked->wParam == VK_RETURN)
         return text_messages_.Default(message, wparam, lparam) | DLGC_WANTMESSAGE;

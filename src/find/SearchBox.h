@@ -1,13 +1,14 @@
-// The search box: asks a service on the internet when one is chosen, and else goes through the site names of
-// the shown category, one hit after the other.
+// The search box: passes the text to a web service if one is chosen, and otherwise steps through the entries
+// of the shown category whose site names contain it.
 #pragma once
 
 #include <cstdint>
 #include <functional>
-#include <string>
+#include <optional>
 
 #include "book/OpenBook.h"
 #include "pictures/PictureButton.h"
+#include "resources/resource.h"
 #include "window/Control.h"
 #include "window/Subclass.h"
 #include "window/ToolTips.h"
@@ -18,25 +19,26 @@ class SearchBox {
   public:
     SearchBox(const OpenBook& open, ToolTips& tool_tips) : open_(open), tool_tips_(tool_tips) {}
 
-    // Makes the controls on a window, in their tab order. Throws SystemFault when the system cannot.
+    // Creates the controls on a window, in tab order. Throws SystemFault.
     void Create(HWND window);
-    // Shows the button's picture at a resolution. Throws SystemFault when it cannot be loaded.
-    void ApplyResolution(UINT dpi);
+    // Loads the button's picture for a resolution. Throws SystemFault and keeps the old one if it cannot.
+    void ApplyResolution(UINT dpi) { Image1.SetPicture(IDI_Image1, PictureSize(dpi)); }
 
-    // WM_COMMAND of the window. True when the id is that of one of these controls.
+    // WM_COMMAND of the window. True if the id is that of one of these controls.
     bool OnCommand(int id, int event);
     bool HasFocus() const { return txtFind.HasFocus(); }
 
-    // A hit: the row at this 1-based position of the shown category.
+    // Called with the position of a hit in the shown category. To be set before the first search.
     std::function<void(int position)> Found;
 
   private:
     void Image1_Click();
-    void SearchTheWeb(const std::wstring& text) const;
-    void SearchTheBook(const std::wstring& text);
+    // True if the text box must not get the character.
     bool txtFind_KeyPress(wchar_t KeyAscii);
-    void txtFind_Change();
-    void txtFind_GotFocus() const;
+    // Only a new text starts the search anew. After a tab change it goes on from the old position, as users
+    // know it.
+    void txtFind_Change() { FindPosition = 0; }
+    void txtFind_GotFocus() const { txtFind.SelectAll(); }
     std::optional<LRESULT> OnTextMessage(UINT message, WPARAM wparam, LPARAM lparam);
 
     const OpenBook& open_;
@@ -46,7 +48,7 @@ class SearchBox {
     TextBox txtFind;
     PictureButton Image1;
     Subclass text_messages_;
-    std::int16_t FindPosition = 0;  // 0-based place in the category where the next search starts
+    std::int16_t FindPosition = 0;  // of the last hit; the search goes on after it
 };
 
 }  // namespace lindrel

@@ -5,7 +5,6 @@
 
 #include "edit/DeleteQuestions.h"
 #include "find/CheckedHits.h"
-#include "resources/resource.h"
 #include "system/Clipboard.h"
 #include "system/Shell.h"
 #include "text/BookText.h"
@@ -40,12 +39,10 @@ void frmFind::Form_Load() {
                                  {ID_frmFind_Command3, Growth::Stays, Growth::Moves},
                                  {ID_frmFind_cmdDel, Growth::Moves, Growth::Moves}});
     // Opens larger than its smallest size, to show some hits.
-    RECT window{};
-    GetWindowRect(Handle(), &window);
-    const int width = window.right - window.left;
-    const int height = window.bottom - window.top;
-    SetWindowPos(Handle(), nullptr, 0, 0, width * 5 / 4, height * 3 / 2,
-                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    RECT bounds{};
+    GetWindowRect(Handle(), &bounds);
+    SetWindowPos(Handle(), nullptr, 0, 0, (bounds.right - bounds.left) * 5 / 4,
+                 (bounds.bottom - bounds.top) * 3 / 2, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void frmFind::LoadList() {
@@ -70,10 +67,6 @@ void frmFind::ApplyResolution(UINT dpi) {
     Form_Resize();
 }
 
-void frmFind::Form_Resize() {
-    anchors_.Place();
-}
-
 bool frmFind::OnMessage(UINT message, WPARAM wparam, LPARAM lparam, LRESULT&) {
     switch (message) {
         case WM_SIZE:
@@ -83,8 +76,7 @@ bool frmFind::OnMessage(UINT message, WPARAM wparam, LPARAM lparam, LRESULT&) {
             anchors_.LimitSize(*reinterpret_cast<MINMAXINFO*>(lparam));
             return true;
         case WM_DPICHANGED:
-            // The dialog manager scales window and controls after this; ApplyResolution() places them for
-            // good.
+            // The dialog manager scales window and controls after this, and ApplyResolution() corrects them.
             anchors_.ChangeResolution(LOWORD(wparam));
             return false;
         default:
@@ -93,24 +85,12 @@ bool frmFind::OnMessage(UINT message, WPARAM wparam, LPARAM lparam, LRESULT&) {
 }
 
 void frmFind::OnCommand(int id, int event) {
-    switch (id) {
-        case ID_frmFind_txtWhat:
-            if (event == EN_SETFOCUS) txtWhat_GotFocus();
-            return;
-        // The default button: Enter in the text boxes presses it too.
-        case ID_frmFind_cmdFind:
-            return cmdFind_Click();
-        case ID_frmFind_Command2:
-            return Command2_Click();
-        case ID_frmFind_Command3:
-            return Command3_Click();
-        case ID_frmFind_cmdDel:
-            return cmdDel_Click();
-        case IDCANCEL:
-            return Unload();
-        default:
-            return;
-    }
+    if (id == ID_frmFind_txtWhat && event == EN_SETFOCUS) txtWhat_GotFocus();
+    if (id == ID_frmFind_cmdFind) cmdFind_Click();  // the default button, so Enter presses it too
+    if (id == ID_frmFind_Command2) Command2_Click();
+    if (id == ID_frmFind_Command3) Command3_Click();
+    if (id == ID_frmFind_cmdDel) cmdDel_Click();
+    if (id == IDCANCEL) Unload();
 }
 
 LRESULT frmFind::OnNotify(const NMHDR& header) {
@@ -118,7 +98,7 @@ LRESULT frmFind::OnNotify(const NMHDR& header) {
 }
 
 bool frmFind::PreTranslate(const MSG& message) {
-    // Before they become characters, which the list would search for.
+    // Before the keys become characters, which the list would search for.
     return message.message == WM_KEYDOWN && message.hwnd == ListView.Handle() &&
            ListView_KeyDown(message.wParam);
 }
@@ -140,27 +120,18 @@ bool frmFind::ListView_KeyDown(WPARAM key) {
     }
 }
 
-void frmFind::txtWhat_GotFocus() const {
-    Get<TextBox>(ID_frmFind_txtWhat).SelectAll();
-}
-
 void frmFind::cmdFind_Click() {
     hits_ = FindEntries(open_.TheBook, Text(ID_frmFind_txtWhat), Text(ID_frmFind_txtTag));
     ListView.SetRows(static_cast<int>(hits_.Items.size()), [this](int row, int column) {
-        const Hit& hit = hits_.Items.at(static_cast<std::size_t>(row - 1));
+        const Hit& hit = HitIn(row);
         return FromBookText(column == kColumnOfNames ? hit.Entry.SiteName
                                                      : open_.TheBook.CategoryNames(hit.Category));
     });
     ListView.SetEmptyText(L"Nincs találat.");
     Get<Control>(ID_frmFind_lblSum_1).SetText(std::to_wstring(ListView.Count()));
-    // The hit whose address was shown is no longer selected, and may be gone.
+    // The hit whose address was shown is no longer selected.
     ShowAddress(L"");
     CheckedHits = 0;
-}
-
-const Hit* frmFind::SelectedHit() const {
-    const int row = ListView.Selected();
-    return row == 0 ? nullptr : &hits_.Items.at(static_cast<std::size_t>(row - 1));
 }
 
 void frmFind::ShowAddress(const std::wstring& address) {
@@ -178,18 +149,6 @@ void frmFind::ListView_DblClick() const {
 
 void frmFind::ListView_Copy() const {
     if (const Hit* const hit = SelectedHit()) SetClipboardText(Handle(), FromBookText(hit->Entry.URL));
-}
-
-void frmFind::ListView_ItemCheck(int row) {
-    CheckedHits += ListView.IsChecked(row) ? 1 : -1;
-}
-
-void frmFind::Command2_Click() {
-    SetAllChecks(true);
-}
-
-void frmFind::Command3_Click() {
-    SetAllChecks(false);
 }
 
 void frmFind::SetAllChecks(bool value) {
@@ -210,20 +169,19 @@ void frmFind::DeleteFromBook(const std::vector<int>& indices) {
     open_.TheBook.DeleteEntries(indices);
     open_.Modified = true;
     EntryDeleted = true;
-    const int place = ListView.Focused();
+    const int focused = ListView.Focused();
     cmdFind_Click();
-    ListView.Focus(place);
+    ListView.Focus(focused);
 }
 
 std::vector<int> frmFind::CheckedIndices() const {
     std::vector<int> indices;
     for (int row = 1; row <= ListView.Count(); ++row)
-        if (ListView.IsChecked(row))
-            indices.push_back(hits_.Items.at(static_cast<std::size_t>(row - 1)).Index);
+        if (ListView.IsChecked(row)) indices.push_back(HitIn(row).Index);
     return indices;
 }
 
-// With nothing checked and nothing deleted the check marks of the list stay as they were.
+// If no hit was checked or deleted, the check marks of the book stay as they were.
 void frmFind::Form_Unload() {
     if (EntryDeleted || CheckedHits >= 1) CheckOnly(open_.TheBook, CheckedIndices(), open_.CurrentCategory);
 }

@@ -1,6 +1,6 @@
-// What programs that read the screen aloud get to hear: name, role, state and shortcut of every control of
-// every window. The system's own answers are asked for; where they are those of a plain window (Wine's, for
-// most of the controls), the role says so.
+// What screen readers are told: name, role, state and shortcut of every control of every window. The system
+// gives the answers; a role is named only if it is not that of a plain window (as Wine gives to most
+// controls).
 
 #include <gtest/gtest.h>
 #include <oleacc.h>
@@ -47,8 +47,7 @@ std::string StateOf(IAccessible& object, const VARIANT& self) {
     return words;
 }
 
-// What Windows reads as the name of a list or combo box, which Wine takes from their contents: the label just
-// before.
+// The label just before a list or combo box, which Windows takes for its name (Wine takes the contents).
 std::string LabelOf(HWND window) {
     const HWND before = GetWindow(window, GW_HWNDPREV);
     if (before == nullptr || (SendMessageW(before, WM_GETDLGCODE, 0, 0) & DLGC_STATIC) == 0) return "";
@@ -77,7 +76,7 @@ std::string LineOf(HWND window) {
     return line;
 }
 
-// The rows of a list as the system's own reader of list views asks for them.
+// The rows of a list.
 Lines RowsOf(const ListOnScreen& list) {
     const std::vector<int> checked = list.Checked();
     Lines rows;
@@ -91,7 +90,7 @@ Lines RowsOf(const ListOnScreen& list) {
 
 class AccessibilityTest : public ::testing::Test {
   protected:
-    // A window and what stands in it, in the order in which they are read.
+    // A window and its controls, in the order in which they are read.
     Lines Heard(HWND window) const {
         Lines lines;
         program.OnUi([&](frmStart&) {
@@ -102,13 +101,17 @@ class AccessibilityTest : public ::testing::Test {
         });
         return lines;
     }
-    Lines HeardOfDialog(int command, const std::wstring& caption) const {
+    void ExpectHeard(const DialogOnScreen& dialog, const std::wstring& caption, Lines controls) const {
+        controls.insert(controls.begin(), "#32770 '" + Narrow(caption) + "'");
+        EXPECT_EQ(Heard(dialog.Handle()), controls);
+    }
+    // Opens a dialog in which there are these controls, and leaves it.
+    void ExpectDialog(int command, const std::wstring& caption, const Lines& controls) const {
         program.Choose(command);
         const DialogOnScreen dialog = program.Dialog(caption);
-        const Lines lines = Heard(dialog.Handle());
+        ExpectHeard(dialog, caption, controls);
         dialog.Cancel();
         program.Settle();
-        return lines;
     }
     // Two entries, one selected and one checked.
     void AddSelectedAndChecked() const {
@@ -131,124 +134,90 @@ TEST_F(AccessibilityTest, TheMainWindow) {
                      "Edit 'keresett szöveg' text", "Button 'Keresés'", "TrayArea '' invisible"}));
     EXPECT_EQ(RowsOf(program.List()),
               (Lines{"'Egy' 'http://egy.hu' selected", "'Kettő' 'http://ketto.hu' checked"}));
-    // The line in an empty list is not among its rows.
+    // The text in an empty list is not one of its rows.
     program.ClickTab(2);
     EXPECT_EQ(RowsOf(program.List()), Lines{});
 }
 
 TEST_F(AccessibilityTest, TheDialogOfTheCategories) {
-    EXPECT_EQ(HeardOfDialog(ID_mnuKat, L"Kategóriák nevei"), (Lines{"#32770 'Kategóriák nevei'",
-                                                                    "Static '1'",
-                                                                    "Edit '1' text",
-                                                                    "Static '2'",
-                                                                    "Edit '2' text",
-                                                                    "Static '3'",
-                                                                    "Edit '3' text",
-                                                                    "Static '4'",
-                                                                    "Edit '4' text",
-                                                                    "Static '5'",
-                                                                    "Edit '5' text",
-                                                                    "Static '6'",
-                                                                    "Edit '6' text",
-                                                                    "Static '7'",
-                                                                    "Edit '7' text",
-                                                                    "Static '8'",
-                                                                    "Edit '8' text",
-                                                                    "Static '9'",
-                                                                    "Edit '9' text",
-                                                                    "Static '10'",
-                                                                    "Edit '10' text",
-                                                                    "Static '11'",
-                                                                    "Edit '11' text",
-                                                                    "Static '12'",
-                                                                    "Edit '12' text",
-                                                                    "Button 'OK'",
-                                                                    "Button 'Mégse' Alt+M"}));
+    Lines controls;
+    for (int k = 1; k <= 12; ++k) {
+        controls.push_back("Static '" + std::to_string(k) + "'");
+        controls.push_back("Edit '" + std::to_string(k) + "' text");
+    }
+    controls.insert(controls.end(), {"Button 'OK'", "Button 'Mégse' Alt+M"});
+    ExpectDialog(ID_mnuKat, L"Kategóriák nevei", controls);
 }
 
 TEST_F(AccessibilityTest, TheDialogOfANewEntry) {
-    EXPECT_EQ(HeardOfDialog(ID_mnuAdd, L"Új oldal hozzáadása"),
-              (Lines{"#32770 'Új oldal hozzáadása'", "Button ' Az oldal adatai '",
-                     "Static 'az oldal neve' Alt+n", "Edit 'az oldal neve' text Alt+n",
-                     "Static 'kategória' Alt+k", "ComboBox 'Project1' labelled '&kategória'",
-                     "Static 'ebbe a kategóriában lesz létrehozva'", "Static 'URL címe' Alt+U",
-                     "Edit 'URL címe' text Alt+U", "Button '@'", "Button 'OK'", "Button 'Mégse' Alt+M"}));
+    ExpectDialog(
+        ID_mnuAdd, L"Új oldal hozzáadása",
+        {"Button ' Az oldal adatai '", "Static 'az oldal neve' Alt+n", "Edit 'az oldal neve' text Alt+n",
+         "Static 'kategória' Alt+k", "ComboBox 'Project1' labelled '&kategória'",
+         "Static 'ebbe a kategóriában lesz létrehozva'", "Static 'URL címe' Alt+U",
+         "Edit 'URL címe' text Alt+U", "Button '@'", "Button 'OK'", "Button 'Mégse' Alt+M"});
 }
 
 TEST_F(AccessibilityTest, TheDialogOfAnEntry) {
     AddSelectedAndChecked();
-    EXPECT_EQ(HeardOfDialog(ID_mnuEdit, L"Cím módosítása"),
-              (Lines{"#32770 'Cím módosítása'", "Button ' Az oldal adatai '", "Static 'az oldal neve' Alt+n",
-                     "Edit 'az oldal neve' text Alt+n", "Static 'kategória' Alt+k",
-                     "ComboBox 'Project1' labelled '&kategória'",
-                     "Static 'ebbe a kategóriába lesz áthelyezve'", "Static 'URL címe' Alt+U",
-                     "Edit 'URL címe' text Alt+U", "Button 'OK'", "Button 'Mégse' Alt+M"}));
+    ExpectDialog(
+        ID_mnuEdit, L"Cím módosítása",
+        {"Button ' Az oldal adatai '", "Static 'az oldal neve' Alt+n", "Edit 'az oldal neve' text Alt+n",
+         "Static 'kategória' Alt+k", "ComboBox 'Project1' labelled '&kategória'",
+         "Static 'ebbe a kategóriába lesz áthelyezve'", "Static 'URL címe' Alt+U",
+         "Edit 'URL címe' text Alt+U", "Button 'OK'", "Button 'Mégse' Alt+M"});
 }
 
 TEST_F(AccessibilityTest, TheDialogThatMoves) {
     AddSelectedAndChecked();
-    EXPECT_EQ(HeardOfDialog(ID_mnuMove, L"A kiválasztott címek áthelyezése"),
-              (Lines{"#32770 'A kiválasztott címek áthelyezése'",
-                     "Static 'ebbe a kategóriába lesz(nek) áthelyezve'",
-                     "ComboBox 'Project1' labelled 'ebbe a kategóriába lesz(nek) áthelyezve'", "Button 'OK'",
-                     "Button 'Mégse' Alt+M"}));
+    ExpectDialog(ID_mnuMove, L"A kiválasztott címek áthelyezése",
+                 {"Static 'ebbe a kategóriába lesz(nek) áthelyezve'",
+                  "ComboBox 'Project1' labelled 'ebbe a kategóriába lesz(nek) áthelyezve'", "Button 'OK'",
+                  "Button 'Mégse' Alt+M"});
 }
 
 TEST_F(AccessibilityTest, TheDialogThatExports) {
     AddSelectedAndChecked();
-    EXPECT_EQ(HeardOfDialog(ID_mnuExport, L"Exportálás"),
-              (Lines{"#32770 'Exportálás'",
-                     "Button ' exportálva lesz(nek)'",
-                     "Static 'Válassza ki, mely kategóriákból kíván exportálni'",
-                     "ListBox '' labelled 'Válassza ki, mely kategóriákból kíván exportálni'",
-                     "Static 'fájltipus' Alt+f",
-                     "ComboBox 'weblap - HTML' labelled '&fájltipus'",
-                     "Button ' weblap tulajdonságai '",
-                     "Static 'a weblap címe'",
-                     "Edit 'a weblap címe' text",
-                     "Static 'háttérszín :'",
-                     "Button 'fehér'",
-                     "Button 'fekete'",
-                     "Static 'arculat'",
-                     "ComboBox '' labelled 'arculat'",
-                     "Button 'Tallózz ..'",
-                     "Button ' hozzáadás a MS IE kedvencekhez beállitások' invisible",
-                     "Button 'tegye az összes címet egy mappa alá' invisible",
-                     "Button 'létrehozni a kategóriák neveivel új mappákat' invisible",
-                     "Button 'Exportálj ...' Alt+E",
-                     "Button 'Mégse' Alt+M"}));
+    ExpectDialog(
+        ID_mnuExport, L"Exportálás",
+        {"Button ' exportálva lesz(nek)'", "Static 'Válassza ki, mely kategóriákból kíván exportálni'",
+         "ListBox '' labelled 'Válassza ki, mely kategóriákból kíván exportálni'", "Static 'fájltipus' Alt+f",
+         "ComboBox 'weblap - HTML' labelled '&fájltipus'", "Button ' weblap tulajdonságai '",
+         "Static 'a weblap címe'", "Edit 'a weblap címe' text", "Static 'háttérszín :'", "Button 'fehér'",
+         "Button 'fekete'", "Static 'arculat'", "ComboBox '' labelled 'arculat'", "Button 'Tallózz ..'",
+         "Button ' hozzáadás a MS IE kedvencekhez beállitások' invisible",
+         "Button 'tegye az összes címet egy mappa alá' invisible",
+         "Button 'létrehozni a kategóriák neveivel új mappákat' invisible", "Button 'Exportálj ...' Alt+E",
+         "Button 'Mégse' Alt+M"});
 }
 
 TEST_F(AccessibilityTest, TheDialogThatImports) {
-    EXPECT_EQ(HeardOfDialog(ID_mnuImport, L"Importálás"),
-              (Lines{"#32770 'Importálás'", "Button ' forrás '", "Button 'weblap - HTML'",
-                     "Button 'MS IE kedvencek - URL'", "Button ' >>'",
-                     "Static 'a cimeket helyezd ebbe a kategóriába'",
-                     "ComboBox 'Project1' labelled 'a cimeket helyezd ebbe a kategóriába'",
-                     "Button 'Importálj' Alt+I", "Button 'Mégse' Alt+M"}));
+    ExpectDialog(ID_mnuImport, L"Importálás",
+                 {"Button ' forrás '", "Button 'weblap - HTML'", "Button 'MS IE kedvencek - URL'",
+                  "Button ' >>'", "Static 'a cimeket helyezd ebbe a kategóriába'",
+                  "ComboBox 'Project1' labelled 'a cimeket helyezd ebbe a kategóriába'",
+                  "Button 'Importálj' Alt+I", "Button 'Mégse' Alt+M"});
 }
 
 TEST_F(AccessibilityTest, TheAboutBox) {
-    EXPECT_EQ(HeardOfDialog(ID_mnuAbout, L"Lindrel névjegye"),
-              (Lines{"#32770 'Lindrel névjegye'", "Static ''", "Static 'Lindrel'",
-                     "Static 'Version " LINDREL_VERSION_TEXT "'", "Static ''", "Static '© 2026 Lindrel'",
-                     "SysLink '<a>https://lindrel.example/</a>'", "Static ''",
-                     "Static 'Figyelmeztetés: Jelen számítógépes program a szerzői jog és nemzetközi "
-                     "szerződések védelme alatt áll.'",
-                     "Button 'OK'"}));
+    ExpectDialog(ID_mnuAbout, L"Lindrel névjegye",
+                 {"Static ''", "Static 'Lindrel'", "Static 'Version " LINDREL_VERSION_TEXT "'", "Static ''",
+                  "Static '© 2026 Lindrel'", "SysLink '<a>https://lindrel.example/</a>'", "Static ''",
+                  "Static 'Figyelmeztetés: Jelen számítógépes program a szerzői jog és nemzetközi "
+                  "szerződések védelme alatt áll.'",
+                  "Button 'OK'"});
 }
 
 TEST_F(AccessibilityTest, TheFindDialogAndItsHits) {
     AddSelectedAndChecked();
     program.Choose(ID_mnuFind);
     const DialogOnScreen dialog = program.Dialog(L"Keresés");
-    EXPECT_EQ(
-        Heard(dialog.Handle()),
-        (Lines{"#32770 'Keresés'", "Static 'Amit keres' Alt+A", "Edit 'Amit keres' text Alt+A",
-               "Static 'utótagúakat' Alt+u", "Edit 'utótagúakat' text Alt+u", "Static 'szűkíti a keresést'",
-               "Button 'Keresés indítása' Alt+K", "Static '0'", "Static 'keresés eredménye :'",
-               "SysListView32 '' labelled 'keresés eredménye :'", "Static ''", "Button 'Mindent kijelöl'",
-               "Button 'Kijelölés megszüntetése'", "Button 'A kijelölt címek törlése'"}));
+    ExpectHeard(dialog, L"Keresés",
+                {"Static 'Amit keres' Alt+A", "Edit 'Amit keres' text Alt+A", "Static 'utótagúakat' Alt+u",
+                 "Edit 'utótagúakat' text Alt+u", "Static 'szűkíti a keresést'",
+                 "Button 'Keresés indítása' Alt+K", "Static '0'", "Static 'keresés eredménye :'",
+                 "SysListView32 '' labelled 'keresés eredménye :'", "Static ''", "Button 'Mindent kijelöl'",
+                 "Button 'Kijelölés megszüntetése'", "Button 'A kijelölt címek törlése'"});
     dialog.SetText(ID_frmFind_txtWhat, L"e");
     dialog.Click(ID_frmFind_cmdFind);
     program.Settle();
@@ -257,8 +226,6 @@ TEST_F(AccessibilityTest, TheFindDialogAndItsHits) {
     hits.ClickRow(2);
     program.Settle();
     EXPECT_EQ(RowsOf(hits), (Lines{"'Egy' 'Project1' checked", "'Kettő' 'Project1' selected"}));
-    dialog.Cancel();
-    program.Settle();
 }
 
 TEST_F(AccessibilityTest, TheDialogsThatChooseAFolder) {
@@ -268,14 +235,12 @@ TEST_F(AccessibilityTest, TheDialogsThatChooseAFolder) {
     import.Click(ID_frmImport_from_1);
     import.Click(ID_frmImport_cmdOK);
     const DialogOnScreen source = program.Dialog(L"Importálás a kedvencekből");
-    EXPECT_EQ(
-        Heard(source.Handle()),
-        (Lines{"#32770 'Importálás a kedvencekből'",
-               "Static 'Kérem válassza ki az azt a mappát, amelyből exportálni kíván'",
-               "SysTreeView32 '' labelled 'Kérem válassza ki az azt a mappát, amelyből exportálni kíván'",
-               "Static 'A kiválasztott könyvtárból lesznek importálva az ott található (*.url) fájlokból a "
-               "címek.'",
-               "Button 'Importálás' Alt+I", "Button 'Mégse' Alt+M"}));
+    ExpectHeard(source, L"Importálás a kedvencekből",
+                {"Static 'Kérem válassza ki az azt a mappát, amelyből exportálni kíván'",
+                 "SysTreeView32 '' labelled 'Kérem válassza ki az azt a mappát, amelyből exportálni kíván'",
+                 "Static 'A kiválasztott könyvtárból lesznek importálva az ott található (*.url) fájlokból a "
+                 "címek.'",
+                 "Button 'Importálás' Alt+I", "Button 'Mégse' Alt+M"});
     source.Cancel();
     source.WaitForClose();
     import.Cancel();
@@ -287,17 +252,12 @@ TEST_F(AccessibilityTest, TheDialogsThatChooseAFolder) {
     exporting.Pick(ID_frmExport_cmbType, 2);
     exporting.Click(ID_frmExport_cmdOK);
     const DialogOnScreen target = program.Dialog(L"Exportálás a kedvencekbe");
-    EXPECT_EQ(Heard(target.Handle()),
-              (Lines{"#32770 'Exportálás a kedvencekbe'",
-                     "Static 'Kérem válassza ki azt a mappát, amelybe exportálni kíván'",
-                     "SysTreeView32 '' labelled 'Kérem válassza ki azt a mappát, amelybe exportálni kíván'",
-                     "Static 'Az Ön által kiválasztott címek hozzáadódnak az Internet Explorer kedvenc lapok "
-                     "listájához'",
-                     "Button 'Export'", "Button 'Mégse'"}));
-    target.Cancel();
-    target.WaitForClose();
-    exporting.Cancel();
-    program.Settle();
+    ExpectHeard(target, L"Exportálás a kedvencekbe",
+                {"Static 'Kérem válassza ki azt a mappát, amelybe exportálni kíván'",
+                 "SysTreeView32 '' labelled 'Kérem válassza ki azt a mappát, amelybe exportálni kíván'",
+                 "Static 'Az Ön által kiválasztott címek hozzáadódnak az Internet Explorer kedvenc lapok "
+                 "listájához'",
+                 "Button 'Export'", "Button 'Mégse'"});
 }
 
 }  // namespace

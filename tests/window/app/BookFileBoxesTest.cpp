@@ -1,4 +1,4 @@
-// What is asked and told of files whose lines can be taken in two ways, or that were edited by hand.
+// What the user is asked and told about files whose lines can be read in two ways, or that lack something.
 
 #include "tests/window/app/FileSession.h"
 
@@ -13,25 +13,19 @@ class BookFileBoxesTest : public FileSession {
         for (int k = 1; k <= 12; ++k) bytes += "#" + std::to_string(k) + "\r\n" + (k == 3 ? lines : "");
         return bytes;
     }
-    void Open(const std::string& bytes) const {
-        program.Choose(ID_mnuOpen);
-        program.FileDialog().Accept(folder.Write(L"a.lnd", bytes));
-    }
-    void ExpectLoadBox(const std::wstring& text, BoxIcon icon, const std::vector<int>& buttons,
-                       int answer) const {
-        const BoxOnScreen box = program.Box();
-        EXPECT_EQ(box.Title(), L"Hiba a beolvasásnál");
-        EXPECT_EQ(box.Text(), text);
-        EXPECT_EQ(box.Icon(), icon);
-        EXPECT_EQ(box.Buttons(), buttons);
-        box.Press(answer);
+    void Open(const std::string& bytes) const { ChooseWithFile(ID_mnuOpen, folder.Write(L"a.lnd", bytes)); }
+    void ExpectLoadBox(const std::wstring& text, BoxIcon icon) const {
+        ExpectBox(program, {L"Hiba a beolvasásnál", text, icon});
     }
     void ExpectDoubt(const std::wstring& how_many_and_which, int answer) const {
-        ExpectLoadBox(
-            L"A fájlban tizenkettőnél több sor kezdődik „#” jellel. Könyvként csak úgy nyitható "
-            L"meg, ha közülük " +
-                how_many_and_which + L"\r\n\r\nMegnyissam így?",
-            BoxIcon::Question, {IDYES, IDNO}, answer);
+        ExpectBox(program,
+                  {L"Hiba a beolvasásnál",
+                   L"A fájlban tizenkettőnél több sor kezdődik „#” jellel. Könyvként csak úgy nyitható "
+                   L"meg, ha közülük " +
+                       how_many_and_which + L"\r\n\r\nMegnyissam így?",
+                   BoxIcon::Question,
+                   {IDYES, IDNO}},
+                  answer);
     }
     // Saves a book with these entries in its second category, and expects the warning after it.
     void ExpectWarning(const std::vector<NewEntry>& entries, const std::wstring& text) const {
@@ -43,23 +37,16 @@ class BookFileBoxesTest : public FileSession {
         });
         program.Choose(ID_mnuSave);
         ExpectSaved(folder.File(L"a.lnd"));
-        if (!text.empty()) {
-            const BoxOnScreen box = program.Box();
-            EXPECT_EQ(box.Title(), L"Figyelem");
-            EXPECT_EQ(box.Text(), text);
-            EXPECT_EQ(box.Icon(), BoxIcon::Exclamation);
-            EXPECT_EQ(box.Buttons(), std::vector<int>{IDOK});
-            box.Press(IDOK);
-        }
+        if (!text.empty()) ExpectBox(program, {L"Figyelem", text, BoxIcon::Exclamation});
         program.Settle();
         EXPECT_TRUE(program.NothingIsOpen());
         EXPECT_FALSE(program.State().Modified);
     }
 };
 
-TEST_F(BookFileBoxesTest, ANameInDoubtIsAskedAboutBeforeTheOpenBookGoes) {
+TEST_F(BookFileBoxesTest, ANameInDoubtIsAskedAboutBeforeTheOpenBookIsReplaced) {
     Change();
-    program.OnUi([](frmStart& form) { form.OpenedBook().Modified = false; });
+    SetModified(false);
     MainState before = ChangedState();
     before.Modified = false;
     const std::string bytes = FileWith("#n\xE9v\r\nhttp://a.hu\r\n#m\r\nwww.b.hu\r\n");
@@ -92,7 +79,7 @@ TEST_F(BookFileBoxesTest, YesIsTheDefaultAndALongNameIsCutInTheQuestion) {
     EXPECT_EQ(program.BookBytes(), bytes);
 }
 
-TEST_F(BookFileBoxesTest, AddressesWithinAPageOpenInSilence) {
+TEST_F(BookFileBoxesTest, AddressesWithinAPageRaiseNoQuestion) {
     const std::string bytes = FileWith("Vissza\r\n#fej\r\nLe\r\n#lab\r\n");
     Open(bytes);
     program.Settle();
@@ -100,22 +87,21 @@ TEST_F(BookFileBoxesTest, AddressesWithinAPageOpenInSilence) {
     EXPECT_EQ(program.BookBytes(), bytes);
 }
 
-TEST_F(BookFileBoxesTest, HeadersThatCannotBeToldAreRefusedWithTheLineOfTheThirteenth) {
+TEST_F(BookFileBoxesTest, HeadersThatCannotBeIdentifiedAreRefusedWithTheLineOfTheThirteenth) {
     const std::string before = program.BookBytes();
     Open(FileWith("#n\r\nx\r\ny\r\nhttp://z.hu\r\n"));
     ExpectLoadBox(
         L"A fájlban tizenkettőnél több „#” jellel kezdődő sor van, de nem lehet közülük úgy tizenkét "
         L"kategóriát választani, hogy köztük csak teljes (név, cím) párok maradjanak.\r\n(16. sor)",
-        BoxIcon::Error, {IDOK}, IDOK);
+        BoxIcon::Error);
     std::string several;
     for (int i = 0; i < 7; ++i) several += "#a\r\n#http://a.hu\r\n";
     Open(several);
     ExpectLoadBox(
         L"A fájlban tizenkettőnél több „#” jellel kezdődő sor van, és többféleképpen is lehet "
         L"közülük tizenkét kategóriát választani.\r\n(13. sor)",
-        BoxIcon::Error, {IDOK}, IDOK);
-    program.Settle();
-    EXPECT_EQ(program.State(), EmptyState());
+        BoxIcon::Error);
+    ExpectState(EmptyState());
     EXPECT_EQ(program.BookBytes(), before);
 }
 
@@ -124,7 +110,7 @@ TEST_F(BookFileBoxesTest, EntriesInNoCategoryAreToldOf) {
     ExpectLoadBox(
         L"A fájlban 1 címmel több van, mint amennyi a kategóriákba tartozik. A könyv mentésekor ennyi "
         L"cím elveszne.",
-        BoxIcon::Exclamation, {IDOK}, IDOK);
+        BoxIcon::Exclamation);
     program.Settle();
     program.ClickTab(3);
     EXPECT_EQ(program.State().Rows, (std::vector<Row>{{L"x", L"y"}}));
@@ -135,11 +121,11 @@ TEST_F(BookFileBoxesTest, MissingCategoriesComeBeforeEntriesInNone) {
     std::string bytes;
     for (int i = 0; i < 10000; ++i) bytes += "x\r\ny\r\n";
     Open(bytes + "#1\r\n#2\r\n#3\r\n#4\r\n#5\r\n#6\r\n#7\r\n#8\r\n#9\r\n#10\r\n#11\r\n");
-    ExpectLoadBox(L"Nem sikerült beolvasni az összes kategóriát", BoxIcon::Error, {IDOK}, IDOK);
+    ExpectLoadBox(L"Nem sikerült beolvasni az összes kategóriát", BoxIcon::Error);
     ExpectLoadBox(
         L"A fájlban 10\x00A0\x0030\x0030\x0030 címmel több van, mint amennyi a kategóriákba tartozik. "
         L"A könyv mentésekor ennyi cím elveszne.",
-        BoxIcon::Exclamation, {IDOK}, IDOK);
+        BoxIcon::Exclamation);
     program.Settle();
     EXPECT_EQ(program.State().Title, L"Lindrel -a.lnd");
 }
@@ -150,9 +136,8 @@ TEST_F(BookFileBoxesTest, AFileWithTooManyEntriesIsRefused) {
     Open(bytes);
     ExpectLoadBox(
         L"A fájl több címet tartalmaz, mint amennyi egy könyvben elfér (32\x00A0\x0037\x0036\x0037).",
-        BoxIcon::Error, {IDOK}, IDOK);
-    program.Settle();
-    EXPECT_EQ(program.State(), EmptyState());
+        BoxIcon::Error);
+    ExpectState(EmptyState());
 }
 
 TEST_F(BookFileBoxesTest, NamesThatWillBeAskedAboutAreWarnedOfAfterSaving) {
@@ -165,7 +150,7 @@ TEST_F(BookFileBoxesTest, NamesThatWillBeAskedAboutAreWarnedOfAfterSaving) {
                   L"A könyvben 2 olyan név van, amely „#” jellel kezdődik. Az első:\r\n\r\n#első" + next);
 }
 
-TEST_F(BookFileBoxesTest, NamesAndAddressesThatCannotBeToldAreWarnedOfAfterSaving) {
+TEST_F(BookFileBoxesTest, NamesAndAddressesThatCannotBeIdentifiedAreWarnedOfAfterSaving) {
     ExpectWarning(
         {{"#a", "localhost"}},
         L"A könyvben 1 olyan név van, amely „#” jellel kezdődik:\r\n\r\n#a\r\n\r\nA következő "
@@ -178,7 +163,7 @@ TEST_F(BookFileBoxesTest, NamesAndAddressesThatCannotBeToldAreWarnedOfAfterSavin
         L"írja át ezeket, és mentse újra a könyvet.");
 }
 
-TEST_F(BookFileBoxesTest, AddressesThatOpenInSilenceAreNotWarnedOf) {
+TEST_F(BookFileBoxesTest, AddressesThatRaiseNoQuestionAreNotWarnedOf) {
     ExpectWarning({{"Vissza", "#fej"}, {"Le", "#lab"}}, L"");
 }
 

@@ -1,5 +1,5 @@
-// What holds for every dialog of the program: keyboard access, labels before their controls, nothing outside,
-// nothing over another.
+// What is true of every dialog of the program: keyboard access, labels before their controls, nothing clipped
+// or overlapping.
 
 #include <gtest/gtest.h>
 
@@ -48,7 +48,7 @@ class DialogTemplatesTest : public ::testing::Test {
     static bool IsFrame(HWND window) {
         return ClassOf(window) == L"Button" && (StyleOf(window) & BS_TYPEMASK) == BS_GROUPBOX;
     }
-    // The lower-case letter behind a single "&", or 0.
+    // The lower-case letter after a single "&", or 0.
     static wchar_t AccessKeyOf(HWND window) {
         const std::wstring text = TextOf(window);
         for (std::size_t i = 0; i + 1 < text.size(); ++i) {
@@ -59,11 +59,11 @@ class DialogTemplatesTest : public ::testing::Test {
         }
         return 0;
     }
-    static RECT PlaceOf(HWND window, HWND dialog) {
-        RECT place{};
-        EXPECT_TRUE(GetWindowRect(window, &place));
-        MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&place), 2);
-        return place;
+    static RECT BoundsOf(HWND window, HWND dialog) {
+        RECT bounds{};
+        EXPECT_TRUE(GetWindowRect(window, &bounds));
+        MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&bounds), 2);
+        return bounds;
     }
     static std::string NameOf(HWND dialog, HWND control) {
         return Narrow(TextOf(dialog)) + " / " + Narrow(TextOf(control)) + " (" +
@@ -93,7 +93,7 @@ TEST_F(DialogTemplatesTest, AccessKeysAreUniqueInEachDialog) {
     }
 }
 
-TEST_F(DialogTemplatesTest, ALabelWithAKeyStandsJustBeforeTheControlThatItNames) {
+TEST_F(DialogTemplatesTest, ALabelWithAKeyIsJustBeforeTheControlThatItNames) {
     for (const HWND dialog : dialogs)
         for (const HWND child : ChildrenOf(dialog)) {
             if (ClassOf(child) != L"Static" || AccessKeyOf(child) == 0) continue;
@@ -117,22 +117,22 @@ TEST_F(DialogTemplatesTest, EveryTextBoxListAndComboHasALabelBeforeIt) {
         }
 }
 
-TEST_F(DialogTemplatesTest, NothingSticksOutOrLiesOverAnother) {
+TEST_F(DialogTemplatesTest, NothingSticksOutOrOverlaps) {
     for (const HWND dialog : dialogs) {
         RECT client{};
         ASSERT_TRUE(GetClientRect(dialog, &client));
         const std::vector<HWND> children = ChildrenOf(dialog);
         for (const HWND child : children) {
-            const RECT place = PlaceOf(child, dialog);
-            EXPECT_TRUE(place.left >= 0 && place.top >= 0 && place.right <= client.right &&
-                        (place.bottom <= client.bottom || ClassOf(child) == L"ComboBox"))
+            const RECT bounds = BoundsOf(child, dialog);
+            EXPECT_TRUE(bounds.left >= 0 && bounds.top >= 0 && bounds.right <= client.right &&
+                        (bounds.bottom <= client.bottom || ClassOf(child) == L"ComboBox"))
                 << NameOf(dialog, child);
             if (IsFrame(child) || (StyleOf(child) & WS_VISIBLE) == 0) continue;
             for (const HWND other : children) {
                 RECT common{};
-                const RECT others = PlaceOf(other, dialog);
+                const RECT others = BoundsOf(other, dialog);
                 const bool counted = other != child && !IsFrame(other) && (StyleOf(other) & WS_VISIBLE) != 0;
-                EXPECT_FALSE(counted && IntersectRect(&common, &place, &others))
+                EXPECT_FALSE(counted && IntersectRect(&common, &bounds, &others))
                     << NameOf(dialog, child) << " and " << NameOf(dialog, other);
             }
         }
@@ -146,11 +146,11 @@ TEST_F(DialogTemplatesTest, TheMarginsOnBothSidesAreEqual) {
         LONG left = client.right;
         LONG right = client.right;
         for (const HWND child : ChildrenOf(dialog)) {
-            const RECT place = PlaceOf(child, dialog);
-            left = std::min(left, place.left);
-            right = std::min(right, client.right - place.right);
+            const RECT bounds = BoundsOf(child, dialog);
+            left = std::min(left, bounds.left);
+            right = std::min(right, client.right - bounds.right);
         }
-        // Place and width of a control are rounded to pixels, each for itself.
+        // Left edge and width of a control are rounded to pixels one by one.
         EXPECT_NEAR(left, right, 2) << Narrow(TextOf(dialog));
     }
 }
@@ -161,35 +161,35 @@ TEST_F(DialogTemplatesTest, EveryTextBoxHasTheUsualHeight) {
         ASSERT_TRUE(MapDialogRect(dialog, &usual));
         for (const HWND child : ChildrenOf(dialog)) {
             if (ClassOf(child) != L"Edit") continue;
-            const RECT place = PlaceOf(child, dialog);
-            EXPECT_NEAR(place.bottom - place.top, usual.bottom, 1) << NameOf(dialog, child);
+            const RECT bounds = BoundsOf(child, dialog);
+            EXPECT_NEAR(bounds.bottom - bounds.top, usual.bottom, 1) << NameOf(dialog, child);
         }
     }
 }
 
 TEST_F(DialogTemplatesTest, NoTextIsWiderThanItsControl) {
     for (const HWND dialog : dialogs) {
-        const HDC paper = GetDC(dialog);
+        const HDC dc = GetDC(dialog);
         const HGDIOBJ before =
-            SelectObject(paper, reinterpret_cast<HFONT>(SendMessageW(dialog, WM_GETFONT, 0, 0)));
+            SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(dialog, WM_GETFONT, 0, 0)));
         for (const HWND child : ChildrenOf(dialog)) {
             const bool label = ClassOf(child) == L"Static" && (StyleOf(child) & SS_TYPEMASK) <= SS_RIGHT;
             const bool button = ClassOf(child) == L"Button" && (StyleOf(child) & BS_ICON) == 0;
             if (!label && !button) continue;
             const std::wstring text = TextOf(child);
             RECT needed{0, 0, 0, 0};
-            RECT place{};
-            ASSERT_TRUE(GetClientRect(child, &place));
-            if (label) needed.right = place.right;
-            DrawTextW(paper, text.c_str(), -1, &needed, DT_CALCRECT | (label ? DT_WORDBREAK : DT_SINGLELINE));
-            EXPECT_LE(needed.right, place.right) << NameOf(dialog, child);
-            // A line's own leading may reach one pixel further than the label.
+            RECT bounds{};
+            ASSERT_TRUE(GetClientRect(child, &bounds));
+            if (label) needed.right = bounds.right;
+            DrawTextW(dc, text.c_str(), -1, &needed, DT_CALCRECT | (label ? DT_WORDBREAK : DT_SINGLELINE));
+            EXPECT_LE(needed.right, bounds.right) << NameOf(dialog, child);
+            // The leading of the last line may reach one pixel below the label.
             if (label) {
-                EXPECT_LE(needed.bottom, place.bottom + 1) << NameOf(dialog, child);
+                EXPECT_LE(needed.bottom, bounds.bottom + 1) << NameOf(dialog, child);
             }
         }
-        SelectObject(paper, before);
-        ReleaseDC(dialog, paper);
+        SelectObject(dc, before);
+        ReleaseDC(dialog, dc);
     }
 }
 

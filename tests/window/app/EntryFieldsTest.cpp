@@ -1,10 +1,11 @@
-// Name and address of the entry that was picked last: opening and copying the address.
+// Name and address of the entry that was picked last; opening and copying the address.
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 
 #include "resources/resource.h"
+#include "tests/window/app/ExpectBox.h"
 #include "tests/window/support/Drawn.h"
 #include "tests/window/support/Program.h"
 #include "tests/window/support/RealClipboard.h"
@@ -19,6 +20,16 @@ class EntryFieldsTest : public ::testing::Test {
     EntryFieldsTest() {
         program.Add(
             1, {{L"Egy", L"http://egy.hu"}, {L"Kettő", L"http://ketto.hu"}, {L"Három", L"http://harom.hu"}});
+    }
+    void PressGo() const {
+        PostMessageW(program.Control(ID_frmStart_picGo), BM_CLICK, 0, 0);
+        program.Settle();
+    }
+    void DoubleClickAddress() const {
+        const HWND field = program.Control(ID_frmStart_txtURL);
+        PostMessageW(field, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(5, 5));
+        PostMessageW(field, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+        program.Settle();
     }
 
     Program program;
@@ -52,19 +63,18 @@ TEST_F(EntryFieldsTest, TheButtonOpensTheShownAddress) {
     const RecordedShell shell;
     program.Add(6, {{L"út", L"https://pelda.hu/két szó/ÁRVÍZTŰRŐ?a=1&b=%20"}});
     program.ClickTab(6);
-    const auto press = [&] {
-        PostMessageW(program.Control(ID_frmStart_picGo), BM_CLICK, 0, 0);
-        program.Settle();
-    };
-    // Nothing is shown yet.
-    press();
+    PressGo();  // the fields are empty
     program.ClickRow(1);
-    press();
+    PressGo();
     EXPECT_EQ(shell.NextAddress(), L"https://pelda.hu/két szó/ÁRVÍZTŰRŐ?a=1&b=%20");
     program.ClickTab(1);
+    program.Run(ID_mnuGoto);  // the fields are empty again
     program.ClickRow(3);
+    const MainState before = program.State();
     program.Run(ID_mnuGoto);
     EXPECT_EQ(shell.NextAddress(), L"http://harom.hu");
+    EXPECT_EQ(shell.Addresses().size(), 2u);
+    EXPECT_EQ(program.State(), before);
 }
 
 TEST_F(EntryFieldsTest, AnAddressThatTheShellCannotOpenShowsNothing) {
@@ -72,24 +82,16 @@ TEST_F(EntryFieldsTest, AnAddressThatTheShellCannotOpenShowsNothing) {
     program.ClickTab(6);
     program.ClickRow(1);
     const MainState before = program.State();
-    PostMessageW(program.Control(ID_frmStart_picGo), BM_CLICK, 0, 0);
-    program.Settle();
-    EXPECT_TRUE(program.NothingIsOpen());
-    EXPECT_EQ(program.State(), before);
+    PressGo();
+    ExpectState(program, before);
 }
 
 TEST_F(EntryFieldsTest, ADoubleClickOnTheAddressCopiesItAndAnEmptyOneLeavesTheClipboard) {
-    const HWND field = program.Control(ID_frmStart_txtURL);
-    const auto double_click = [&] {
-        PostMessageW(field, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(5, 5));
-        PostMessageW(field, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
-        program.Settle();
-    };
     PutClipboardText(L"régi");
-    double_click();
+    DoubleClickAddress();
     EXPECT_EQ(TextOnClipboard(), L"régi");
     program.ClickRow(2);
-    double_click();
+    DoubleClickAddress();
     EXPECT_EQ(TextOnClipboard(), L"http://ketto.hu");
 }
 
@@ -113,9 +115,7 @@ TEST_F(EntryFieldsTest, CopyingLeavesAPictureOnTheClipboard) {
     const std::string picture = "II*\0kép";
     PutClipboardBytes(CF_TIFF, picture);
     program.ClickRow(2);
-    const HWND field = program.Control(ID_frmStart_txtURL);
-    PostMessageW(field, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(5, 5));
-    program.Settle();
+    DoubleClickAddress();
     EXPECT_EQ(TextOnClipboard(), L"http://ketto.hu");
     EXPECT_EQ(BytesOnClipboard(CF_TIFF), picture);
 }

@@ -1,5 +1,4 @@
-// Saving where it cannot be done or should not be done: devices, another book of that name, a file that
-// another program has changed.
+// Saving to a device, over another book, over a file that another program has changed.
 
 #include "tests/window/app/FileSession.h"
 #include "tests/window/support/ReplacedImport.h"
@@ -9,33 +8,21 @@ namespace {
 
 class FileMenuFaultsTest : public FileSession {
   protected:
-    // The system's own words differ from version to version, so there only has to be something.
-    void ExpectFailure(const std::wstring& path) const {
-        const BoxOnScreen box = program.Box();
-        EXPECT_EQ(box.Title(), L"Hiba");
-        EXPECT_EQ(box.Text().substr(0, path.size() + 2), path + L"\r\n");
-        EXPECT_GT(box.Text().size(), path.size() + 2);
-        EXPECT_EQ(box.Icon(), BoxIcon::Error);
-        box.Press(IDOK);
-    }
     void ExpectChangedQuestion(const std::wstring& path, int answer) const {
-        const BoxOnScreen box = program.Box();
-        EXPECT_EQ(box.Title(), L"Figyelem");
-        EXPECT_EQ(
-            box.Text(),
-            path +
-                L"\r\n\r\nEzt a fájlt egy másik program megváltoztatta, mióta a könyvet megnyitotta vagy "
-                L"elmentette.\r\nFelülírjam a másik program változtatásait?");
-        EXPECT_EQ(box.Buttons(), (std::vector<int>{IDYES, IDNO}));
-        EXPECT_EQ(box.Icon(), BoxIcon::Exclamation);
-        EXPECT_EQ(DialogOnScreen(box.Handle()).Focus(), IDNO);
-        box.Press(answer);
+        EXPECT_EQ(DialogOnScreen(program.Box().Handle()).Focus(), IDNO);
+        ExpectBox(program,
+                  {L"Figyelem",
+                   path + L"\r\n\r\nEzt a fájlt egy másik program megváltoztatta, mióta a könyvet "
+                          L"megnyitotta vagy elmentette.\r\nFelülírjam a másik program "
+                          L"változtatásait?",
+                   BoxIcon::Exclamation,
+                   {IDYES, IDNO}},
+                  answer);
     }
     // Opens a book of one entry and changes it; returns its path.
     std::wstring OpenAndChange() const {
         const std::wstring path = folder.Write(L"közös.lnd", OneEntryBook("A\r\nhttp://a.hu\r\n"));
-        program.Choose(ID_mnuOpen);
-        program.FileDialog().Accept(path);
+        ChooseWithFile(ID_mnuOpen, path);
         program.Settle();
         Change();
         return path;
@@ -53,7 +40,7 @@ TEST_F(FileMenuFaultsTest, ABookIsNotSavedToADevice) {
         for (const int command : {ID_mnuSave, ID_mnuSaveAs}) {
             program.Choose(command);
             program.FileDialog().TypeAndPressOk(device);
-            // Some systems believe that a device is a file that exists, and ask whether to overwrite it.
+            // Some systems take a device for an existing file, and ask whether to overwrite it.
             if (program.Box().Title() != L"Hiba") program.Box().Press(IDYES);
             ExpectFailure(device);
             ExpectState(before);
@@ -107,13 +94,12 @@ TEST_F(FileMenuFaultsTest, AFileThatAnotherProgramHasChangedIsAskedAbout) {
     folder.Write(L"közös.lnd", "another program's");
     for (const int command : {ID_mnuSave, ID_mnuNew, ID_mnuOpen, ID_mnuClose}) {
         program.Choose(command);
-        if (command != ID_mnuSave) ExpectSaveQuestion(L"A file módosult", IDYES);
+        if (command != ID_mnuSave) ExpectSaveQuestion(kAtCommand, IDYES);
         ExpectChangedQuestion(path, IDNO);
         ExpectState(before);
         EXPECT_EQ(TemporaryFolder::Read(path), "another program's");
     }
-    program.Close();
-    ExpectSaveQuestion(L"A fájl módosult", IDYES);
+    CloseAndAnswer(IDYES);
     ExpectChangedQuestion(path, IDNO);
     ExpectState(before);
 
@@ -121,7 +107,7 @@ TEST_F(FileMenuFaultsTest, AFileThatAnotherProgramHasChangedIsAskedAbout) {
     ExpectChangedQuestion(path, IDYES);
     ExpectSaved(path);
     EXPECT_EQ(TemporaryFolder::Read(path), TwoEntries());
-    // From then on it is the program's own file again.
+    // From then on it is the program's own file again, which it overwrites without a question.
     Change();
     program.Choose(ID_mnuSave);
     ExpectSaved(path);
@@ -135,7 +121,7 @@ TEST_F(FileMenuFaultsTest, AChangeOfTheSameLengthIsSeenToo) {
     ExpectChangedQuestion(path, IDNO);
 }
 
-TEST_F(FileMenuFaultsTest, AFileThatIsGoneIsWrittenAnewWithoutAQuestion) {
+TEST_F(FileMenuFaultsTest, ADeletedFileIsWrittenAgainWithoutAQuestion) {
     const std::wstring path = OpenAndChange();
     ASSERT_TRUE(DeleteFileW(path.c_str()));
     program.Choose(ID_mnuSave);
@@ -146,9 +132,8 @@ TEST_F(FileMenuFaultsTest, AFileThatIsGoneIsWrittenAnewWithoutAQuestion) {
 TEST_F(FileMenuFaultsTest, AnotherFileIsNotAskedAbout) {
     const std::wstring path = OpenAndChange();
     folder.Write(L"közös.lnd", "another program's");
-    // Save As has its own question, and a new book has nothing to do with the file of the one before.
-    program.Choose(ID_mnuSaveAs);
-    program.FileDialog().Accept(folder.File(L"új.lnd"));
+    // Save As has its own question, and a new book is not connected with the old book's file.
+    ChooseWithFile(ID_mnuSaveAs, folder.File(L"új.lnd"));
     ExpectSaved(folder.File(L"új.lnd"));
     program.Run(ID_mnuNew);
     Change();
@@ -171,19 +156,15 @@ TEST_F(FileMenuFaultsTest, WithoutTheLibraryOfTheFileDialogsTheBookStays) {
         const ReplacedImport missing(&LoadLibraryExW, &LoadNothing);
         for (const int command : {ID_mnuSave, ID_mnuSaveAs}) {
             program.Choose(command);
-            const BoxOnScreen box = program.Box();
-            EXPECT_EQ(box.Title(), L"Hiba");
-            EXPECT_EQ(box.Text(),
-                      L"A Windows ezt nem tudta teljesíteni: a fájlválasztó ablak megnyitása\r\nHibakód: 2");
-            box.Press(IDOK);
-            program.Settle();
+            ExpectBox(program,
+                      {L"Hiba",
+                       L"A Windows ezt nem tudta teljesíteni: a fájlválasztó ablak megnyitása\r\nHibakód: 2",
+                       BoxIcon::Error});
+            ExpectState(before);
         }
     }
-    EXPECT_TRUE(program.NothingIsOpen());
-    EXPECT_EQ(program.State(), before);
-    // With the library it goes on.
-    program.Choose(ID_mnuSave);
-    program.FileDialog().Accept(folder.File(L"mégis.lnd"));
+    // With the library it can be saved.
+    ChooseWithFile(ID_mnuSave, folder.File(L"mégis.lnd"));
     ExpectSaved(folder.File(L"mégis.lnd"));
 }
 

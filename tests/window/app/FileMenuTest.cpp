@@ -1,8 +1,6 @@
 // Opening a book, a new one and closing it, with real boxes and file dialogs.
 
-#include <atomic>
 #include <filesystem>
-#include <thread>
 
 #include "system/FileDialog.h"
 #include "system/Shell.h"
@@ -20,7 +18,7 @@ TEST_F(FileMenuTest, StartsWithTheEmptyBook) {
     EXPECT_FALSE(program.CommandEnabled(ID_mnuToDesktop));
 }
 
-// Wherever the last file was chosen.
+// Wherever the last file was.
 TEST_F(FileMenuTest, FileDialogsStartInTheProgramsFolderWithBookFiles) {
     wchar_t own[MAX_PATH] = L"";
     ASSERT_NE(GetModuleFileNameW(nullptr, own, MAX_PATH), 0u);
@@ -47,11 +45,7 @@ TEST_F(FileMenuTest, FileDialogsStartInTheProgramsFolderWithBookFiles) {
 TEST_F(FileMenuTest, SavesAndOpensAgain) {
     Change();
     const std::wstring path = folder.File(L"m\x171sor.lnd");
-    program.Choose(ID_mnuSaveAs);
-    const FileDialogOnScreen dialog = program.FileDialog();
-    EXPECT_EQ(dialog.Title(), L"File mentése");
-    EXPECT_EQ(dialog.Filters(), std::vector<std::wstring>{L"Lindrel fájlok (*.lnd)"});
-    dialog.Accept(path);
+    ChooseWithFile(ID_mnuSaveAs, path);
     ExpectSaved(path);
     program.Settle();
     const MainState saved = program.State();
@@ -61,33 +55,27 @@ TEST_F(FileMenuTest, SavesAndOpensAgain) {
 
     program.Run(ID_mnuClose);
     EXPECT_EQ(program.State().Title, L"Lindrel ");
-    program.Choose(ID_mnuOpen);
-    program.FileDialog().Accept(path);
-    program.Settle();
-    EXPECT_EQ(program.State(), saved);
+    ChooseWithFile(ID_mnuOpen, path);
+    ExpectState(saved);
 }
 
 TEST_F(FileMenuTest, OpenWithChangesAndYesSavesAndOpensNothing) {
     Change();
-    program.Choose(ID_mnuOpen);
-    ExpectSaveQuestion(L"A file módosult", IDYES);
+    ChooseAndAnswer(ID_mnuOpen, IDYES);
     const std::wstring path = folder.File(L"a.lnd");
     program.FileDialog().Accept(path);
     ExpectSaved(path);
-    program.Settle();
-    EXPECT_TRUE(program.NothingIsOpen());
-    EXPECT_EQ(program.State().Title, L"Lindrel ");  // the save step leaves the title
-    EXPECT_FALSE(program.State().Modified);
+    MainState expected = ChangedState();  // the save step leaves the title
+    expected.OpenedFile = path;
+    expected.Modified = false;
+    ExpectState(expected);
 }
 
 TEST_F(FileMenuTest, NewWithYesAndACancelledSaveDialogLosesTheChanges) {
-    const MainState empty = program.State();
     Change();
-    program.Choose(ID_mnuNew);
-    ExpectSaveQuestion(L"A file módosult", IDYES);
+    ChooseAndAnswer(ID_mnuNew, IDYES);
     program.FileDialog().Cancel();
-    program.Settle();
-    EXPECT_EQ(program.State(), empty);
+    ExpectState(EmptyState());
 }
 
 // Entries in the first, the third and the seventh category.
@@ -103,8 +91,7 @@ TEST_F(FileMenuTest, OpenShowsTheCategoryOfTheSelectedTabAndForgetsAllCheckMarks
     program.ClickRow(2);
     program.ClickBox(1);
     const std::wstring path = folder.Write(L"három.lnd", kThreeEntries);
-    program.Choose(ID_mnuOpen);
-    program.FileDialog().Accept(path);
+    ChooseWithFile(ID_mnuOpen, path);
     MainState expected;
     expected.Title = L"Lindrel -három.lnd";
     expected.Tabs = {L"Hírek", L"2", L"3", L"4", L"5", L"6", L"7", L"8", L"9", L"10", L"11", L"12"};
@@ -133,7 +120,7 @@ TEST_F(FileMenuTest, OpenShowsTheCategoryOfTheSelectedTabAndForgetsAllCheckMarks
 
 TEST_F(FileMenuTest, AMalformedFileIsReportedWithItsLineAndLeavesTheOpenBook) {
     Change();
-    program.OnUi([](frmStart& form) { form.OpenedBook().Modified = false; });
+    SetModified(false);
     MainState expected = ChangedState();
     expected.Modified = false;
     // Too short a file, and one with five lines of entries: half of them is taken for two entries.
@@ -143,14 +130,8 @@ TEST_F(FileMenuTest, AMalformedFileIsReportedWithItsLineAndLeavesTheOpenBook) {
         {too_many, L"A fájlban több cím van, mint amennyi a sorok számából következik.\r\n(17. sor)"},
     };
     for (const auto& [bytes, text] : malformed) {
-        program.Choose(ID_mnuOpen);
-        program.FileDialog().Accept(folder.Write(L"rossz.lnd", bytes));
-        const BoxOnScreen box = program.Box();
-        EXPECT_EQ(box.Title(), L"Hiba a beolvasásnál");
-        EXPECT_EQ(box.Text(), text);
-        EXPECT_EQ(box.Buttons(), std::vector<int>{IDOK});
-        EXPECT_EQ(box.Icon(), BoxIcon::Error);
-        box.Press(IDOK);
+        ChooseWithFile(ID_mnuOpen, folder.Write(L"rossz.lnd", bytes));
+        ExpectBox(program, {L"Hiba a beolvasásnál", text, BoxIcon::Error});
         ExpectState(expected);
         EXPECT_EQ(program.BookBytes(), ChangedBook());
     }
@@ -161,81 +142,49 @@ TEST_F(FileMenuTest, AMissingFileIsReportedAndTheOpenDialogComesBack) {
     program.Choose(ID_mnuOpen);
     for (int attempt = 0; attempt < 2; ++attempt) {
         program.FileDialog().TypeAndPressOk(folder.File(L"nincs.lnd"));
-        const BoxOnScreen box = program.Box();
-        EXPECT_EQ(box.Title(), L"Hiba");
-        EXPECT_EQ(box.Text(), L"A megadott fájl nem létezik");
-        EXPECT_EQ(box.Buttons(), std::vector<int>{IDOK});
-        EXPECT_EQ(box.Icon(), BoxIcon::None);
-        box.Press(IDOK);
+        ExpectBox(program, {L"Hiba", L"A megadott fájl nem létezik"});
     }
     program.FileDialog().Cancel();
-    program.Settle();
-    EXPECT_EQ(program.State(), before);
+    ExpectState(before);
 }
 
-TEST_F(FileMenuTest, FileExistsOfAnEmptyPathSaysSoAndOfAPatternGoesByWhatMatches) {
-    std::atomic<bool> exists{true};
-    std::atomic<bool> answered{false};
-    std::thread asking([&] {
-        program.OnUi([&](frmStart& form) { exists = FileExists(form.Handle(), L""); });
-        answered = true;
+TEST_F(FileMenuTest, FileExistsRefusesAnEmptyPathAndAcceptsAPatternThatMatches) {
+    std::future<bool> exists = std::async(std::launch::async, [this] {
+        return program.Ask<bool>([](frmStart& form) { return FileExists(form.Handle(), L""); });
     });
-    const BoxOnScreen box = program.Box();
-    EXPECT_EQ(box.Title(), L"Hiba");
-    EXPECT_EQ(box.Text(), L"A megadott fájl nem létezik");
-    box.Press(IDOK);
-    asking.join();
-    EXPECT_TRUE(answered);
-    EXPECT_FALSE(exists);
+    ExpectBox(program, {L"Hiba", L"A megadott fájl nem létezik"});
+    EXPECT_FALSE(exists.get());
     folder.Write(L"van.lnd", "");
     EXPECT_TRUE(program.Ask<bool>(
         [this](frmStart& form) { return FileExists(form.Handle(), folder.File(L"v?n.*")); }));
 }
 
 TEST_F(FileMenuTest, NewAndCloseForgetTheBookOnNoAndKeepItOnCancel) {
-    const MainState empty = program.State();
     for (const int command : {ID_mnuNew, ID_mnuClose}) {
         Change();
-        const MainState changed = program.State();
-        program.Choose(command);
-        ExpectSaveQuestion(L"A file módosult", IDCANCEL);
-        program.Settle();
-        EXPECT_EQ(program.State(), changed);
-        program.Choose(command);
-        ExpectSaveQuestion(L"A file módosult", IDNO);
-        program.Settle();
-        EXPECT_EQ(program.State(), empty);
+        ChooseAndAnswer(command, IDCANCEL);
+        ExpectState(ChangedState());
+        ChooseAndAnswer(command, IDNO);
+        ExpectState(EmptyState());
     }
 }
 
 TEST_F(FileMenuTest, OpenWithChangesGoesOnAfterNoAndStopsAfterCancel) {
     Change();
-    const MainState changed = program.State();
-    program.Choose(ID_mnuOpen);
-    ExpectSaveQuestion(L"A file módosult", IDCANCEL);
-    program.Settle();
-    EXPECT_TRUE(program.NothingIsOpen());
-    program.Choose(ID_mnuOpen);
-    ExpectSaveQuestion(L"A file módosult", IDNO);
-    const FileDialogOnScreen dialog = program.FileDialog();
-    EXPECT_EQ(dialog.Title(), L"File megnyitása");
-    dialog.Cancel();
-    program.Settle();
-    EXPECT_EQ(program.State(), changed);
+    ChooseAndAnswer(ID_mnuOpen, IDCANCEL);
+    ExpectState(ChangedState());
+    ChooseAndAnswer(ID_mnuOpen, IDNO);
+    program.FileDialog().Cancel();
+    ExpectState(ChangedState());
 }
 
 TEST_F(FileMenuTest, AFileWithTooFewCategoriesIsLoadedWithAMessage) {
     Change();
-    program.Choose(ID_mnuOpen);
-    ExpectSaveQuestion(L"A file módosult", IDNO);
+    ChooseAndAnswer(ID_mnuOpen, IDNO);
     const std::wstring path = folder.Write(L"kevés.lnd", kElevenHeaders);
     program.FileDialog().Accept(path);
-    const BoxOnScreen box = program.Box();
-    EXPECT_EQ(box.Title(), L"Hiba a beolvasásnál");
-    EXPECT_EQ(box.Text(), L"Nem sikerült beolvasni az összes kategóriát");
-    EXPECT_EQ(box.Buttons(), std::vector<int>{IDOK});
-    EXPECT_EQ(box.Icon(), BoxIcon::Error);
-    box.Press(IDOK);
+    ExpectBox(program,
+              {L"Hiba a beolvasásnál", L"Nem sikerült beolvasni az összes kategóriát", BoxIcon::Error});
     program.Settle();
     MainState expected;
     expected.Title = L"Lindrel -kevés.lnd";

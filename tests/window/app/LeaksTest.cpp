@@ -1,4 +1,4 @@
-// Nothing of the system is left behind, however often something is done.
+// However often something is done, it leaves no windows, icons, handles and the like.
 
 #include <gtest/gtest.h>
 
@@ -8,18 +8,19 @@
 #include "resources/resource.h"
 #include "tests/support/Times.h"
 #include "tests/window/support/Program.h"
+#include "tests/window/support/ReplacedImport.h"
 #include "tests/window/support/SystemObjects.h"
 
 namespace lindrel::testing {
 namespace {
 
-// Does something some times, which fills the system's caches, then again and again.
+// Does something a few times, which fills the system's caches, then again and again.
 void ExpectNothingLeft(const std::function<void(int times)>& repeat, int times = Times(200, 12)) {
     repeat(10);
     const SystemObjects before = CountSystemObjects();
     repeat(times);
     SystemObjects after = CountSystemObjects();
-    // The system keeps some device contexts and pictures for later; what leaks, leaks each time.
+    // The system keeps some device contexts and pictures for later, but a leak grows each time.
     EXPECT_LT(after.GdiObjects - before.GdiObjects, times / 2);
     after.GdiObjects = before.GdiObjects;
     EXPECT_EQ(after, before);
@@ -29,6 +30,12 @@ std::function<void(int)> Repeating(const std::function<void()>& once) {
     return [once](int times) {
         for (int time = 0; time < times; ++time) once();
     };
+}
+
+// The resolution of the screen that every window is on.
+UINT dpi_of_screen = 96;
+UINT WINAPI DpiOfScreen(HWND) {
+    return dpi_of_screen;
 }
 
 int dialogs_left = 0;
@@ -44,8 +51,8 @@ void CALLBACK LeaveDialog(HWND, UINT, UINT_PTR, DWORD) {
 
 class LeaksTest : public ::testing::Test {
   protected:
-    // Runs a command that opens a dialog or a box, and leaves that, again and again: all in the program's
-    // thread, or it would take many times as long.
+    // Runs a command that opens a dialog or a box, and leaves that, again and again. All of it in the
+    // program's thread, which is many times faster.
     void ExpectDialogLeavesNothing(HWND window, int command) const {
         ExpectNothingLeft([&](int times) {
             dialogs_left = 0;
@@ -64,7 +71,7 @@ class LeaksTest : public ::testing::Test {
 };
 
 TEST_F(LeaksTest, EveryKindOfObjectIsCounted) {
-    // With its first window a thread gets one more, of the system's.
+    // With its first window a thread gets a second one, which belongs to the system.
     DestroyWindow(CreateWindowExW(0, L"Static", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr));
     SystemObjects expected = CountSystemObjects();
     const HWND window =
@@ -148,12 +155,19 @@ TEST_F(LeaksTest, ALargeCategoryIsFilledAgainAndAgain) {
 }
 
 TEST_F(LeaksTest, ChangesOfTheResolutionLeaveNothing) {
+    const ReplacedImport other_screen(&GetDpiForWindow, &DpiOfScreen);
+    const auto font_height = [this] {
+        return DialogOnScreen(program.Main()).Font(ID_frmStart_txtURL).lfHeight;
+    };
+    const LONG height = font_height();
     ExpectNothingLeft(Repeating([&] {
-                          for (const WORD dpi : {WORD{144}, WORD{96}})
+                          for (const UINT dpi : {192u, 96u})
                               program.OnUi([&](frmStart& form) {
-                                  RECT place{0, 0, 900, 600};
+                                  dpi_of_screen = dpi;
+                                  RECT bounds{0, 0, 900, 600};
                                   SendMessageW(form.Handle(), WM_DPICHANGED, MAKEWPARAM(dpi, dpi),
-                                               reinterpret_cast<LPARAM>(&place));
+                                               reinterpret_cast<LPARAM>(&bounds));
+                                  EXPECT_EQ(font_height(), dpi == 96 ? height : 2 * height);
                               });
                           program.Settle();
                       }),
@@ -173,15 +187,15 @@ TEST_F(LeaksTest, SavingLeavesNothing) {
 }
 
 TEST_F(LeaksTest, TheWholeProgramLeavesNothing) {
-    // Beside the one of the fixture, on a thread of its own.
+    // Besides the fixture's program, on a thread of its own.
     const int starts = Times(20, 8);
     const auto start = Repeating([] { const Program another; });
     start(2);
     const SystemObjects before = CountSystemObjects();
     start(starts);
     SystemObjects after = CountSystemObjects();
-    // Wine keeps two handles of each window that has ever taken drops, and an event of each lock that two
-    // threads have ever wanted at once: what leaks, leaks each time.
+    // Wine keeps two handles of each window that has ever accepted drops, and an event of each lock that two
+    // threads have ever wanted at once, but a leak grows each time.
     EXPECT_LT(after.Handles - before.Handles - 2 * starts, starts / 2);
     EXPECT_LT(after.GdiObjects - before.GdiObjects, starts / 2);
     after.Handles = before.Handles;

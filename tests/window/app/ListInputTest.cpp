@@ -1,8 +1,9 @@
-// What a user's hands try first in the address list, with real keys and a real mouse.
+// The address list, with real keys and a real mouse.
 
 #include <gtest/gtest.h>
 
 #include "resources/resource.h"
+#include "tests/window/app/MenuItems.h"
 #include "tests/window/support/Program.h"
 #include "tests/window/support/RealClipboard.h"
 #include "tests/window/support/RealInput.h"
@@ -11,14 +12,6 @@
 
 namespace lindrel::testing {
 namespace {
-
-struct RowMenuItem {
-    std::wstring Caption;  // with its shortcut; empty for a separator
-    UINT Id = 0;
-    bool Enabled = true;
-    bool Default = false;
-    bool operator==(const RowMenuItem&) const = default;
-};
 
 std::vector<UINT> beeps;
 BOOL WINAPI HearBeep(UINT sound) {
@@ -32,7 +25,7 @@ class ListInputTest : public ::testing::Test {
         program.Add(
             1, {{L"Egy", L"http://egy.hu"}, {L"Kettő", L"http://ketto.hu"}, {L"Három", L"http://harom.hu"}});
     }
-    // The state with a row picked by the user, 1..3.
+    // The state with a row picked by the user; 0 for none.
     MainState Picked(int row) const {
         MainState state = EmptyState();
         state.Rows = {
@@ -45,9 +38,9 @@ class ListInputTest : public ::testing::Test {
         return state;
     }
     RECT LabelOf(int row) const {
-        RECT place{};
-        ListView_GetItemRect(list, row - 1, &place, LVIR_LABEL);
-        return place;
+        RECT bounds{};
+        ListView_GetItemRect(list, row - 1, &bounds, LVIR_LABEL);
+        return bounds;
     }
     POINT TextOf(int row) const {
         return {LabelOf(row).left + 6, (LabelOf(row).top + LabelOf(row).bottom) / 2};
@@ -61,23 +54,13 @@ class ListInputTest : public ::testing::Test {
     }
     void LeaveMenu() const {
         hands.Press(VK_ESCAPE);
-        WaitUntil("the menu to go", [this] { return PoppedUpMenu(program.Thread()) == nullptr; });
+        WaitUntil("the menu to close", [this] { return PoppedUpMenu(program.Thread()) == nullptr; });
     }
-    std::vector<RowMenuItem> ItemsOf(HWND popup) const {
-        const auto menu = reinterpret_cast<HMENU>(SendMessageW(popup, MN_GETHMENU, 0, 0));
-        std::vector<RowMenuItem> items;
-        for (int i = 0; i < GetMenuItemCount(menu); ++i) {
-            wchar_t caption[80] = L"";
-            GetMenuStringW(menu, static_cast<UINT>(i), caption, 80, MF_BYPOSITION);
-            const UINT state = GetMenuState(menu, static_cast<UINT>(i), MF_BYPOSITION);
-            const bool separator = (state & MF_SEPARATOR) != 0;
-            items.push_back({caption, GetMenuItemID(menu, i),
-                             separator || (state & (MF_GRAYED | MF_DISABLED)) == 0,
-                             (state & MF_DEFAULT) != 0});
-        }
-        return items;
+    // The items of the menu that pops up.
+    std::vector<MenuItem> PoppedUpItems() const {
+        return ItemsOf(reinterpret_cast<HMENU>(SendMessageW(WaitForMenu(), MN_GETHMENU, 0, 0)));
     }
-    static std::vector<RowMenuItem> RowMenu() {
+    static std::vector<MenuItem> RowMenu() {
         return {{L"Ugorj az oldalra\tCtrl+G", ID_mnuGoto, true, true},
                 {},
                 {L"Cím módosítása...\tCtrl+E", ID_mnuEdit},
@@ -128,7 +111,7 @@ TEST_F(ListInputTest, ADoubleClickOnACheckBoxTogglesTwiceAndOpensNothing) {
 TEST_F(ListInputTest, ARightClickSelectsTheRowAndOpensItsMenu) {
     const RecordedShell shell;
     hands.RightClick(list, TextOf(2));
-    EXPECT_EQ(ItemsOf(WaitForMenu()), RowMenu());
+    EXPECT_EQ(PoppedUpItems(), RowMenu());
     EXPECT_EQ(program.State(), Picked(2));
     LeaveMenu();
     hands.RightClick(list, BoxOf(3));
@@ -142,9 +125,9 @@ TEST_F(ListInputTest, ARightClickSelectsTheRowAndOpensItsMenu) {
 TEST_F(ListInputTest, TheMenuFollowsTheMenuBar) {
     program.OnUi([](frmStart& form) { form.EnableCommand(ID_mnuMove, false); });
     hands.RightClick(list, TextOf(1));
-    std::vector<RowMenuItem> expected = RowMenu();
+    std::vector<MenuItem> expected = RowMenu();
     expected[3].Enabled = false;
-    EXPECT_EQ(ItemsOf(WaitForMenu()), expected);
+    EXPECT_EQ(PoppedUpItems(), expected);
     LeaveMenu();
 }
 
@@ -152,13 +135,13 @@ TEST_F(ListInputTest, KeysOpenTheMenuAtTheSelectedRow) {
     program.OnUi([](frmStart& form) { form.View().SelectRow(2); });
     const auto expect_menu = [this] {
         const HWND menu = WaitForMenu();
-        EXPECT_EQ(ItemsOf(menu), RowMenu());
-        RECT place{};
-        EXPECT_TRUE(GetWindowRect(menu, &place));
+        EXPECT_EQ(PoppedUpItems(), RowMenu());
+        RECT bounds{};
+        EXPECT_TRUE(GetWindowRect(menu, &bounds));
         POINT row{LabelOf(2).left, LabelOf(2).bottom};
         ClientToScreen(list, &row);
-        EXPECT_EQ(place.left, row.x);
-        EXPECT_EQ(place.top, row.y);
+        EXPECT_EQ(bounds.left, row.x);
+        EXPECT_EQ(bounds.top, row.y);
         EXPECT_EQ(program.State(), Picked(2));
         LeaveMenu();
     };
@@ -176,7 +159,7 @@ TEST_F(ListInputTest, WithNothingToActOnThereIsNoMenu) {
     // Check marks are enough.
     hands.Click(list, BoxOf(1));
     hands.Press(VK_APPS);
-    EXPECT_EQ(ItemsOf(WaitForMenu()), RowMenu());
+    EXPECT_EQ(PoppedUpItems(), RowMenu());
     LeaveMenu();
     hands.RightClick(list, BelowTheRows());
     WaitForMenu();
@@ -228,7 +211,7 @@ TEST_F(ListInputTest, ACommandThatFindsNothingToActOnBeepsOnce) {
         EXPECT_TRUE(program.NothingIsOpen());
         EXPECT_EQ(program.State(), Picked(0));
     }
-    // An address in the fields without a selected row is none to delete.
+    // The fields show an entry, but no row is selected.
     program.List().ClickHeader();
     program.Settle();
     beeps.clear();

@@ -14,7 +14,7 @@
 namespace lindrel::testing {
 namespace {
 
-// A window class of the program's that lets no window be made.
+// Replaces a window class of the program by one that lets no window be created.
 class RefusingClass {
   public:
     explicit RefusingClass(const wchar_t* name) : name_(name) {
@@ -52,7 +52,7 @@ TEST(ProgramTest, AStartThatFailsIsReported) {
     EXPECT_EQ(exit_code, 1);
 }
 
-TEST(ProgramTest, ADriveWithoutADiskOpensNoBoxOfTheSystem) {
+TEST(ProgramTest, AnEmptyDriveOpensNoBoxOfTheSystem) {
     const UINT before = SetErrorMode(SEM_NOOPENFILEERRORBOX);
     {
         const Program program;

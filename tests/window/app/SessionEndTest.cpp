@@ -1,5 +1,5 @@
-// The end of the session of Windows while the program runs: what it asks, what it shows the user as its
-// reason, and what it leaves behind.
+// The end of the Windows session while the program runs: the questions, the reason that the system shows, and
+// what is left after it.
 
 #include <ostream>
 
@@ -27,7 +27,7 @@ void PrintTo(const Reason& reason, std::ostream* out) {
 std::vector<Reason> reasons;
 bool icon_is_shown = false;
 
-// In the places of the system's, from before the program's start until after its end. They are called on its
+// Replaces the system's functions from before the program's start until after its end. They are called on its
 // thread only.
 class RecordingSystem {
   public:
@@ -55,34 +55,33 @@ class RecordingSystem {
     ReplacedImport shell_{&Shell_NotifyIconA, &NotifyIcon};
 };
 
-// The base of FileSession that comes first, so that it outlives the program.
-struct BeforeTheProgram {
-    RecordingSystem system;
-};
-
-class SessionEndTest : private BeforeTheProgram, public FileSession {
+// The first base, so that the recorder outlives the program.
+class SessionEndTest : private RecordingSystem, public FileSession {
   protected:
     std::vector<Reason> Reasons() const {
         return program.Ask<std::vector<Reason>>([](frmStart&) { return reasons; });
     }
     Reason Given(const wchar_t* text) const { return {program.Main(), text, true}; }
     Reason TakenBack() const { return {program.Main(), L"", true}; }
+    void ExpectReasonGivenAndTakenBack() const {
+        EXPECT_EQ(Reasons(), (std::vector{Given(kUnsavedBook), TakenBack()}));
+    }
     bool InTray() const {
         return !IsWindowVisible(program.Main()) && program.Ask<bool>([](frmStart&) { return icon_is_shown; });
     }
     // For a window that answers without a question.
     static LRESULT Query(HWND window) { return AnswerToEndSession(window); }
-    // The rest of what the system tells a window. Returns when the window has done its work.
+    // The message that follows the answers of all windows.
     static void End(HWND window, bool ending) {
         SendMessageW(window, WM_ENDSESSION, ending ? TRUE : FALSE, 0);
     }
     void AnswerWhileAsked(int answer, LRESULT expected) {
         std::future<LRESULT> asked = QueryEndSession();
-        program.Box();  // the reason is there before the question
+        program.Box();  // the reason comes before the question
         EXPECT_EQ(Reasons(), std::vector{Given(kUnsavedBook)});
         EXPECT_TRUE(IsWindowVisible(program.Main()));
         EXPECT_FALSE(InTray());
-        ExpectSaveQuestion(L"A fájl módosult", answer);
+        ExpectSaveQuestion(kAtClosing, answer);
         EXPECT_EQ(asked.get(), expected);
     }
     // Whether the window that takes input in the program is this one.
@@ -107,7 +106,7 @@ TEST_F(SessionEndTest, WithoutChangesNothingIsAskedAndTheTrayStays) {
 TEST_F(SessionEndTest, NoLetsTheSessionEndAndTheEndAsksNothingMore) {
     Change();
     AnswerWhileAsked(IDNO, TRUE);
-    EXPECT_EQ(Reasons(), (std::vector{Given(kUnsavedBook), TakenBack()}));
+    ExpectReasonGivenAndTakenBack();
     ExpectState(ChangedState());
     End(program.Main(), false);  // another program has refused
     ExpectState(ChangedState());
@@ -118,12 +117,12 @@ TEST_F(SessionEndTest, NoLetsTheSessionEndAndTheEndAsksNothingMore) {
 TEST_F(SessionEndTest, YesSavesBeforeTheSessionEnds) {
     Change();
     const std::wstring path = folder.File(L"könyv.lnd");
-    program.OnUi([&](frmStart& form) { form.OpenedBook().OpenedFile = path; });
+    SetOpenedFile(path);
     std::future<LRESULT> asked = QueryEndSession();
-    ExpectSaveQuestion(L"A fájl módosult", IDYES);
+    ExpectSaveQuestion(kAtClosing, IDYES);
     ExpectSaved(path);
     EXPECT_EQ(asked.get(), TRUE);
-    EXPECT_EQ(Reasons(), (std::vector{Given(kUnsavedBook), TakenBack()}));
+    ExpectReasonGivenAndTakenBack();
     End(program.Main(), true);
     EXPECT_EQ(program.WaitForEnd(), 0);
     EXPECT_EQ(TemporaryFolder::Read(path), ChangedBook());
@@ -134,19 +133,17 @@ TEST_F(SessionEndTest, AfterCancelTheReasonStaysUntilTheEndIsCalledOff) {
     AnswerWhileAsked(IDCANCEL, FALSE);
     EXPECT_EQ(Reasons(), std::vector{Given(kUnsavedBook)});
     End(program.Main(), false);
-    EXPECT_EQ(Reasons(), (std::vector{Given(kUnsavedBook), TakenBack()}));
+    ExpectReasonGivenAndTakenBack();
     ExpectState(ChangedState());
 }
 
 TEST_F(SessionEndTest, ABookThatCannotBeSavedHoldsTheSession) {
     Change();
     const std::wstring nowhere = folder.File(L"nincs\\könyv.lnd");
-    program.OnUi([&](frmStart& form) { form.OpenedBook().OpenedFile = nowhere; });
+    SetOpenedFile(nowhere);
     std::future<LRESULT> asked = QueryEndSession();
-    ExpectSaveQuestion(L"A fájl módosult", IDYES);
-    const BoxOnScreen box = program.Box();
-    EXPECT_EQ(box.Title(), L"Hiba");
-    box.Press(IDOK);
+    ExpectSaveQuestion(kAtClosing, IDYES);
+    ExpectFailure(nowhere);
     EXPECT_EQ(asked.get(), FALSE);
     EXPECT_EQ(Reasons(), std::vector{Given(kUnsavedBook)});
 }
@@ -154,9 +151,9 @@ TEST_F(SessionEndTest, ABookThatCannotBeSavedHoldsTheSession) {
 TEST_F(SessionEndTest, FromTheTrayTheWindowComesBackBeforeItAsks) {
     for (const int answer : {IDCANCEL, IDNO}) {
         reasons.clear();
-        program.OnUi([](frmStart& form) { form.OpenedBook().Modified = false; });
+        SetModified(false);
         program.Run(ID_mnuTray);
-        program.OnUi([](frmStart& form) { form.OpenedBook().Modified = true; });
+        SetModified(true);
         ASSERT_TRUE(InTray());
         AnswerWhileAsked(answer, answer == IDNO ? TRUE : FALSE);
         EXPECT_TRUE(IsWindowVisible(program.Main()));
@@ -175,21 +172,25 @@ TEST_F(SessionEndTest, AQuestionThatIsOpenIsNotAskedTwice) {
     EXPECT_EQ(Reasons(), std::vector{Given(kUnsavedBook)});
     EXPECT_TRUE(TakesInput(question.Handle()));
     End(program.Main(), false);
-    EXPECT_EQ(Reasons(), (std::vector{Given(kUnsavedBook), TakenBack()}));
-    ExpectSaveQuestion(L"A fájl módosult", IDCANCEL);
+    ExpectReasonGivenAndTakenBack();
+    ExpectSaveQuestion(kAtClosing, IDCANCEL);
     ExpectState(ChangedState());
-    // The next time it is asked as ever.
+    // The next time it is asked as usual.
     reasons.clear();
     AnswerWhileAsked(IDCANCEL, FALSE);
 }
 
-TEST_F(SessionEndTest, ABoxOverAnUnchangedBookHoldsNothing) {
+TEST_F(SessionEndTest, ABoxOverAnUnchangedBookAndTheAboutBoxHoldNothing) {
     program.Choose(ID_mnuFind);
     const BoxOnScreen box = program.Box();
     EXPECT_EQ(Query(program.Main()), TRUE);
     EXPECT_EQ(Query(box.Handle()), TRUE);
-    EXPECT_EQ(Reasons(), std::vector<Reason>{});
     box.Press(IDOK);
+    program.Choose(ID_mnuAbout);
+    const DialogOnScreen about = program.Dialog(L"Lindrel névjegye");
+    EXPECT_EQ(Query(program.Main()), TRUE);
+    EXPECT_EQ(Query(about.Handle()), TRUE);
+    EXPECT_EQ(Reasons(), std::vector<Reason>{});
 }
 
 TEST_F(SessionEndTest, ADialogThatIsOpenHoldsTheSessionAndKeepsWhatIsTypedInIt) {
@@ -222,29 +223,20 @@ TEST_F(SessionEndTest, OverAChangedBookADialogIsNotInterrupted) {
     program.Settle();
     reasons.clear();
     std::future<LRESULT> asked = QueryEndSession();
-    ExpectSaveQuestion(L"A fájl módosult", IDNO);
+    ExpectSaveQuestion(kAtClosing, IDNO);
     EXPECT_EQ(asked.get(), TRUE);
     EXPECT_EQ(Reasons(), (std::vector{TakenBack(), Given(kUnsavedBook), TakenBack()}));
 }
 
-TEST_F(SessionEndTest, TheAboutBoxHoldsNothing) {
-    program.Choose(ID_mnuAbout);
-    const DialogOnScreen about = program.Dialog(L"Lindrel névjegye");
-    EXPECT_EQ(Query(program.Main()), TRUE);
-    EXPECT_EQ(Query(about.Handle()), TRUE);
-    EXPECT_EQ(Reasons(), std::vector<Reason>{});
-    about.Cancel();
-}
-
 // The user has chosen in the system's own question to lose what is open.
-TEST_F(SessionEndTest, AnEndThatIsForcedOnAnOpenBoxBringsUpNoFault) {
+TEST_F(SessionEndTest, AnEndThatIsForcedOnAnOpenBoxCausesNoFault) {
     Change();
     program.Close();
     const BoxOnScreen question = program.Box();
     EXPECT_EQ(Query(program.Main()), FALSE);
     End(program.Main(), true);
     EXPECT_TRUE(TakesInput(question.Handle()));
-    ExpectSaveQuestion(L"A fájl módosult", IDCANCEL);
+    ExpectSaveQuestion(kAtClosing, IDCANCEL);
     ExpectState(ChangedState());
 }
 

@@ -1,5 +1,5 @@
-// Changes of the user's settings while the program runs: what has to do with its looks is followed, what has
-// not leaves everything alone.
+// Changes of the user's settings while the program runs: those of its fonts and measures are followed, all
+// others change nothing.
 
 #include <gtest/gtest.h>
 
@@ -13,7 +13,7 @@
 namespace lindrel::testing {
 namespace {
 
-// The user's settings as they are, but for a message font that a test makes larger and a wider scroll bar.
+// The user's settings, but for a message font that a test makes larger, and a wider scroll bar.
 class Settings {
   public:
     Settings() {
@@ -44,7 +44,7 @@ std::vector<HWND> ControlsOf(HWND window) {
     return controls;
 }
 
-// What a window has made from the settings, by handles, and what of it waits to be painted.
+// The handles of what a window has made from the settings, and the windows that wait to be painted.
 struct Made {
     std::vector<LRESULT> Handles;
     std::vector<HWND> Unpainted;
@@ -73,17 +73,14 @@ Made MadeBy(HWND window) {
     return made;
 }
 
-LONG FontHeight(HWND control) {
-    LOGFONTW font{};
-    const auto handle = reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0));
-    EXPECT_NE(GetObjectW(handle, sizeof font, &font), 0);
-    return font.lfHeight;
+LONG FontHeight(HWND window, int id) {
+    return DialogOnScreen(window).Font(id).lfHeight;
 }
 
 std::vector<LONG> FontHeights(HWND window) {
     std::vector<LONG> heights;
     for (const HWND control : ControlsOf(window))
-        if (ClassOf(control) != L"TrayArea") heights.push_back(FontHeight(control));
+        if (ClassOf(control) != L"TrayArea") heights.push_back(FontHeight(window, GetDlgCtrlID(control)));
     return heights;
 }
 
@@ -96,7 +93,7 @@ class SettingsTest : public ::testing::Test {
         program.Settle();
         return dialog;
     }
-    // What comes of messages to a window, before anything can be painted.
+    // What a window has after some messages, before anything can be painted.
     Made After(HWND window, const std::vector<UINT>& messages) const {
         return program.Ask<Made>([&](frmStart&) {
             for (const UINT message : messages) SendMessageW(window, message, 0, 0);
@@ -108,7 +105,7 @@ class SettingsTest : public ::testing::Test {
     Program program;
 };
 
-TEST_F(SettingsTest, SettingsThatAreNotSeenHereMakeNothingAnew) {
+TEST_F(SettingsTest, OtherSettingsChangeNothing) {
     const Made before = After(program.Main(), {});
     EXPECT_EQ(before.Unpainted, std::vector<HWND>{});
     EXPECT_EQ(After(program.Main(), std::vector<UINT>(20, WM_SETTINGCHANGE)), before);
@@ -130,19 +127,30 @@ TEST_F(SettingsTest, ANewMessageFontIsTakenOverByTheMainWindow) {
     for (const LONG height : heights) doubled.push_back(2 * height);
     EXPECT_EQ(FontHeights(program.Main()), doubled);
     EXPECT_NE(after.Handles, before.Handles);
-    // Once: the next message finds nothing new.
+    // Only once: the next message finds nothing new.
     program.Settle();
     const Made settled = After(program.Main(), {});
     EXPECT_EQ(After(program.Main(), {WM_SETTINGCHANGE}), settled);
 }
 
-TEST_F(SettingsTest, ANewMeasureOfWindowsCountsAsWell) {
+TEST_F(SettingsTest, TheColumnsKeepTheWidthsThatTheUserGaveThem) {
+    const HWND list = program.Control(ID_frmStart_ListURLs);
+    const int address = ListView_GetColumnWidth(list, 1);
+    ListView_SetColumnWidth(list, 0, 77);
+    for (const int message : {WM_SETTINGCHANGE, WM_SYSCOLORCHANGE, WM_THEMECHANGED})
+        SendMessageW(program.Main(), static_cast<UINT>(message), 0, 0);
+    program.Settle();
+    EXPECT_EQ(ListView_GetColumnWidth(list, 0), 77);
+    EXPECT_EQ(ListView_GetColumnWidth(list, 1), address);
+}
+
+TEST_F(SettingsTest, AWiderScrollBarCountsAsWell) {
     const Made before = After(program.Main(), {});
     program.OnUi([](frmStart&) { Settings::scroll_bar_more = 5; });
     EXPECT_NE(After(program.Main(), {WM_SETTINGCHANGE}).Handles, before.Handles);
 }
 
-// It is laid out for the font that it was opened with, as dialogs of the system are.
+// A dialog is laid out for the font that it was opened with, as the system's own are.
 TEST_F(SettingsTest, AnOpenDialogKeepsItsFontAndTheNextOneHasTheNew) {
     const DialogOnScreen find = OpenFind();
     const std::vector<LONG> heights = FontHeights(find.Handle());
@@ -155,11 +163,11 @@ TEST_F(SettingsTest, AnOpenDialogKeepsItsFontAndTheNextOneHasTheNew) {
     program.Settle();
     program.Choose(ID_mnuFind);
     const DialogOnScreen next = program.Dialog(L"Keresés");
-    EXPECT_EQ(FontHeight(next.Control(ID_frmFind_lblURL)), FontHeight(program.Control(ID_frmStart_txtURL)));
+    EXPECT_EQ(FontHeight(next.Handle(), ID_frmFind_lblURL), FontHeight(program.Main(), ID_frmStart_txtURL));
     next.Cancel();
 }
 
-TEST_F(SettingsTest, NewColoursMakeTheCheckBoxesAnew) {
+TEST_F(SettingsTest, NewColoursRedrawTheCheckBoxes) {
     const DialogOnScreen find = OpenFind();
     const HWND list_of_main = program.Control(ID_frmStart_ListURLs);
     const HWND list_of_dialog = find.Control(ID_frmFind_ListView);
@@ -170,11 +178,11 @@ TEST_F(SettingsTest, NewColoursMakeTheCheckBoxesAnew) {
     for (const auto& [window, message] : told) {
         const HWND list = window == program.Main() || window == list_of_main ? list_of_main : list_of_dialog;
         const int pictures = program.Ask<int>([&, told_window = window, told_message = message](frmStart&) {
-            // A mark in their place: one picture instead of two.
-            const HIMAGELIST mark = ImageList_Create(16, 16, ILC_COLOR32, 1, 0);
-            ImageList_SetImageCount(mark, 1);
+            // A list of one picture instead of two, by which a new one can be told.
+            const HIMAGELIST single = ImageList_Create(16, 16, ILC_COLOR32, 1, 0);
+            ImageList_SetImageCount(single, 1);
             const auto old = reinterpret_cast<HIMAGELIST>(
-                SendMessageW(list, LVM_SETIMAGELIST, LVSIL_STATE, reinterpret_cast<LPARAM>(mark)));
+                SendMessageW(list, LVM_SETIMAGELIST, LVSIL_STATE, reinterpret_cast<LPARAM>(single)));
             ImageList_Destroy(old);
             SendMessageW(told_window, told_message, 0, 0);
             return ImageList_GetImageCount(

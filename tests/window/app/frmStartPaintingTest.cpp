@@ -34,17 +34,10 @@ class frmStartPaintingTest : public ::testing::Test {
     Program program;
 };
 
-TEST_F(frmStartPaintingTest, AGrowingWindowShowsItsRightColumnAtItsNewPlace) {
-    Resize(800, 600);
-    Resize(1300, 700);
-    Resize(1400, 900);
-}
-
-TEST_F(frmStartPaintingTest, AShrinkingWindowLeavesNoGhosts) {
-    Resize(1400, 900);
-    Resize(1300, 700);
-    Resize(1000, 620);
-    Resize(520, 360);
+TEST_F(frmStartPaintingTest, AGrowingAndAShrinkingWindowLeaveNoGhosts) {
+    const std::pair<int, int> sizes[] = {{800, 600},  {1300, 700}, {1400, 900},
+                                         {1300, 700}, {1000, 620}, {520, 360}};
+    for (const auto& [width, height] : sizes) Resize(width, height);
 }
 
 TEST_F(frmStartPaintingTest, DraggingByAFewPixelsLeavesNoTraces) {

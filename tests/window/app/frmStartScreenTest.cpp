@@ -1,4 +1,4 @@
-// The main window on a screen of another resolution than the one that it was made on.
+// A main window that comes to another screen while it is created.
 
 #include <gtest/gtest.h>
 
@@ -16,7 +16,7 @@ namespace {
 
 constexpr RECT kProposed{30, 40, 930, 640};
 
-// The system, which finds most of the new window on another screen as soon as it has a size.
+// As if most of the new window were on another screen as soon as it has a size.
 BOOL(WINAPI* set_window_pos)(HWND, HWND, int, int, int, int, UINT) = nullptr;
 bool moved = false;
 BOOL WINAPI SetPosOnOtherScreen(HWND window, HWND after, int x, int y, int width, int height, UINT flags) {
@@ -26,27 +26,27 @@ BOOL WINAPI SetPosOnOtherScreen(HWND window, HWND after, int x, int y, int width
     return done;
 }
 
-using PlaceOfControl = std::tuple<int, LONG, LONG, LONG, LONG>;  // id, left, top, right, bottom
+using BoundsOfControl = std::tuple<int, LONG, LONG, LONG, LONG>;  // id, left, top, right, bottom
 
-std::vector<PlaceOfControl> Places(const Program& program) {
-    std::vector<PlaceOfControl> places;
+std::vector<BoundsOfControl> AllBounds(const Program& program) {
+    std::vector<BoundsOfControl> all;
     for (HWND child = GetWindow(program.Main(), GW_CHILD); child != nullptr;
          child = GetWindow(child, GW_HWNDNEXT)) {
-        RECT place{};
-        EXPECT_TRUE(GetWindowRect(child, &place));
-        places.emplace_back(GetDlgCtrlID(child), place.left, place.top, place.right, place.bottom);
+        RECT bounds{};
+        EXPECT_TRUE(GetWindowRect(child, &bounds));
+        all.emplace_back(GetDlgCtrlID(child), bounds.left, bounds.top, bounds.right, bounds.bottom);
     }
-    return places;
+    return all;
 }
 
 TEST(frmStartScreenTest, AnotherScreenBeforeThereAreControlsGivesTheWindowItsSize) {
-    std::vector<PlaceOfControl> expected;
+    std::vector<BoundsOfControl> expected;
     {
         const Program program;
         MoveWindow(program.Main(), kProposed.left, kProposed.top, kProposed.right - kProposed.left,
                    kProposed.bottom - kProposed.top, TRUE);
         program.Settle();
-        expected = Places(program);
+        expected = AllBounds(program);
     }
     set_window_pos = &SetWindowPos;
     moved = false;
@@ -54,11 +54,11 @@ TEST(frmStartScreenTest, AnotherScreenBeforeThereAreControlsGivesTheWindowItsSiz
     const Program program;
     other_screen.reset();
     EXPECT_TRUE(moved);
-    RECT place{};
-    EXPECT_TRUE(GetWindowRect(program.Main(), &place));
-    EXPECT_TRUE(EqualRect(&place, &kProposed));
+    RECT bounds{};
+    EXPECT_TRUE(GetWindowRect(program.Main(), &bounds));
+    EXPECT_TRUE(EqualRect(&bounds, &kProposed));
     EXPECT_EQ(program.State(), EmptyState());
-    EXPECT_EQ(Places(program), expected);
+    EXPECT_EQ(AllBounds(program), expected);
 }
 
 }  // namespace

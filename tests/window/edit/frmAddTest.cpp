@@ -1,18 +1,14 @@
 // The add dialog, with the real clipboard.
 
-#include <gtest/gtest.h>
-
-#include "resources/resource.h"
+#include "tests/window/edit/EditSession.h"
 #include "tests/window/edit/LongCategory.h"
-#include "tests/window/support/Expectations.h"
-#include "tests/window/support/Program.h"
 #include "tests/window/support/RealClipboard.h"
 #include "tests/window/support/ToolTipOf.h"
 
 namespace lindrel::testing {
 namespace {
 
-class frmAddTest : public ::testing::Test {
+class frmAddTest : public EditSession {
   protected:
     DialogOnScreen Open() const {
         program.Choose(ID_mnuAdd);
@@ -31,6 +27,9 @@ class frmAddTest : public ::testing::Test {
     }
     Address AddressFor(const std::wstring& clipboard) const {
         PutClipboardText(clipboard);
+        return AddressInDialog();
+    }
+    Address AddressInDialog() const {
         const DialogOnScreen dialog = Open();
         GoToAddress(dialog);
         const Address address{dialog.Text(ID_frmAdd_txtURL), dialog.Selection(ID_frmAdd_txtURL)};
@@ -46,30 +45,18 @@ class frmAddTest : public ::testing::Test {
         dialog.ClickAndWaitForClose(ID_frmAdd_cmdOK);
         program.Settle();
     }
-
-    Program program;
 };
 
 TEST_F(frmAddTest, OpensWithTheShownCategoryAndTheBareAddress) {
     program.ClickTab(4);
     const DialogOnScreen dialog = Open();
-    EXPECT_EQ(dialog.Text(ID_frmAdd_Frame1), L" Az oldal adatai ");
-    EXPECT_EQ(dialog.Text(ID_frmAdd_Label1), L"az oldal &neve");
-    EXPECT_EQ(dialog.Text(ID_frmAdd_Label2), L"&kategória");
-    EXPECT_EQ(dialog.Text(ID_frmAdd_lblHint), L"ebbe a kategóriában lesz létrehozva");
-    EXPECT_EQ(dialog.Text(ID_frmAdd_lblURL), L"&URL címe");
-    EXPECT_EQ(dialog.Text(ID_frmAdd_cmdEmail), L"@");
     EXPECT_EQ(ToolTipOf(program, dialog.Control(ID_frmAdd_cmdEmail)),
               L"váltás a http:// és a mailto: előtag között");
-    EXPECT_EQ(dialog.Text(ID_frmAdd_cmdOK), L"OK");
-    EXPECT_EQ(dialog.Text(ID_frmAdd_cmdCancel), L"&Mégse");
     EXPECT_EQ(dialog.ComboItems(ID_frmAdd_cmbKateg), EmptyState().Tabs);
     EXPECT_EQ(dialog.Picked(ID_frmAdd_cmbKateg), 3);
     EXPECT_EQ(dialog.Text(ID_frmAdd_txtDesc), L"");
     EXPECT_EQ(dialog.Text(ID_frmAdd_txtURL), L"http://");
     EXPECT_EQ(dialog.Focus(), ID_frmAdd_txtDesc);
-    dialog.Cancel();
-    dialog.WaitForClose();
 }
 
 TEST_F(frmAddTest, ProposesTheAddressOnTheClipboardAndSelectsIt) {
@@ -82,33 +69,12 @@ TEST_F(frmAddTest, ProposesTheAddressOnTheClipboardAndSelectsIt) {
 }
 
 TEST_F(frmAddTest, LeavesTheBareAddressForAnythingElseWithTheCaretAtItsEnd) {
-    EXPECT_EQ(AddressFor(L"árvíztűrő szavak"), (Address{L"http://", {7, 7}}));
+    const Address bare{L"http://", {7, 7}};
+    EXPECT_EQ(AddressFor(L"árvíztűrő szavak"), bare);
     EmptyTheClipboard();
-    const DialogOnScreen dialog = Open();
-    EXPECT_EQ(dialog.Text(ID_frmAdd_txtURL), L"http://");
-    dialog.Cancel();
-    dialog.WaitForClose();
+    EXPECT_EQ(AddressInDialog(), bare);
     PutClipboardBytes(RegisterClipboardFormatW(L"Lindrel test form"), "http://nem.szoveg");
-    const DialogOnScreen again = Open();
-    EXPECT_EQ(again.Text(ID_frmAdd_txtURL), L"http://");
-    again.Cancel();
-    again.WaitForClose();
-}
-
-TEST_F(frmAddTest, TheTabKeyComesToTheAddressWithTheSameSelection) {
-    const std::pair<const wchar_t*, std::pair<int, int>> selections[] = {{L"http://a.hu/", {0, 12}},
-                                                                         {L"nem cím", {7, 7}}};
-    for (const auto& [clipboard, selection] : selections) {
-        PutClipboardText(clipboard);
-        const DialogOnScreen dialog = Open();
-        program.PressKey(dialog.Control(ID_frmAdd_txtDesc), VK_TAB);
-        EXPECT_EQ(dialog.Focus(), ID_frmAdd_cmbKateg);
-        program.PressKey(dialog.Control(ID_frmAdd_cmbKateg), VK_TAB);
-        EXPECT_EQ(dialog.Focus(), ID_frmAdd_txtURL);
-        EXPECT_EQ(dialog.Selection(ID_frmAdd_txtURL), selection);
-        dialog.Cancel();
-        dialog.WaitForClose();
-    }
+    EXPECT_EQ(AddressInDialog(), bare);
 }
 
 TEST_F(frmAddTest, TheMailButtonExchangesBareBeginningsOnly) {
@@ -124,22 +90,24 @@ TEST_F(frmAddTest, TheMailButtonExchangesBareBeginningsOnly) {
     EXPECT_EQ(after_click(L"HTTP://"), L"HTTP://");
     EXPECT_EQ(after_click(L"http://a"), L"http://a");
     EXPECT_EQ(after_click(L""), L"");
-    dialog.Cancel();
-    dialog.WaitForClose();
 }
 
-TEST_F(frmAddTest, ComingBackToTheDialogLeavesTheCaretWhereItWas) {
+TEST_F(frmAddTest, TheAddressIsSelectedWhenTheUserGoesThereButNotOnComingBackToTheDialog) {
     const std::pair<const wchar_t*, std::pair<int, int>> selections[] = {{L"http://a.hu/", {0, 12}},
                                                                          {L"nem cím", {7, 7}}};
     for (const auto& [clipboard, on_arrival] : selections) {
         PutClipboardText(clipboard);
         const DialogOnScreen dialog = Open();
-        GoToAddress(dialog);
+        program.PressKey(dialog.Control(ID_frmAdd_txtDesc), VK_TAB);
+        EXPECT_EQ(dialog.Focus(), ID_frmAdd_cmbKateg);
+        program.PressKey(dialog.Control(ID_frmAdd_cmbKateg), VK_TAB);
+        EXPECT_EQ(dialog.Focus(), ID_frmAdd_txtURL);
+        EXPECT_EQ(dialog.Selection(ID_frmAdd_txtURL), on_arrival);
         SendMessageW(dialog.Control(ID_frmAdd_txtURL), EM_SETSEL, 2, 4);
         program.LeaveAndComeBack();
         EXPECT_EQ(dialog.Focus(), ID_frmAdd_txtURL);
         EXPECT_EQ(dialog.Selection(ID_frmAdd_txtURL), std::pair(2, 4));
-        // Going there from another field is another thing.
+        // The user goes there again.
         program.OnUi([&](frmStart&) { SetFocus(dialog.Control(ID_frmAdd_txtDesc)); });
         program.LeaveAndComeBack();
         EXPECT_EQ(dialog.Focus(), ID_frmAdd_txtDesc);
@@ -159,49 +127,32 @@ TEST_F(frmAddTest, MissingFieldsAreAskedForAndNothingIsStored) {
         dialog.SetText(ID_frmAdd_txtDesc, name);
         dialog.SetText(ID_frmAdd_txtURL, address);
         dialog.Click(ID_frmAdd_cmdOK);
-        const BoxOnScreen box = program.Box();
-        EXPECT_EQ(box.Title(), L"Nem töltött ki minden mezőt");
-        EXPECT_EQ(box.Text(), L"Kérem előbb töltse ki a szükséges mezőket!");
-        EXPECT_EQ(box.Buttons(), std::vector<int>{IDOK});
-        EXPECT_EQ(box.Icon(), BoxIcon::None);
-        box.Press(IDOK);
-        program.Settle();
+        ExpectMissingFields();
         EXPECT_TRUE(dialog.IsOpen());
         EXPECT_EQ(dialog.Focus(), ID_frmAdd_txtDesc);
         EXPECT_EQ(dialog.Text(ID_frmAdd_txtDesc), name);
         EXPECT_EQ(dialog.Text(ID_frmAdd_txtURL), address);
     }
-    dialog.Cancel();
-    dialog.WaitForClose();
-    program.Settle();
-    EXPECT_EQ(program.State(), before);
+    ExpectUnchangedAfter(dialog, before);
 }
 
 TEST_F(frmAddTest, OneLetterAndTheBareAddressAreStoredAsTyped) {
     Store(L" ű ", L"http://", 1);
-    MainState expected = EmptyState();
-    expected.Rows = {{L" ű ", L"http://"}};
-    expected.Status[1] = L"megjelenítve (1 / 1)";
-    expected.Modified = true;
-    EXPECT_EQ(program.State(), expected);
+    EXPECT_EQ(program.State(), Changed(1, {{L" ű ", L"http://"}}, 1));
 }
 
-TEST_F(frmAddTest, TheListKeepsItsMarksAndThePlaceOfItsSelection) {
-    program.Add(1, {{L"A", L"http://a.hu"}, {L"B", L"http://b.hu"}, {L"C", L"http://c.hu"}});
+TEST_F(frmAddTest, TheListKeepsItsCheckMarksAndItsSelectedRow) {
+    AddNamed(1, {L"a", L"b", L"c"});
     program.ClickBox(1);
     program.ClickBox(3);
     program.ClickRow(2);
-    Store(L"D", L"http://d.hu", 1);
-    MainState expected = EmptyState();
-    expected.Rows = {
-        {L"A", L"http://a.hu"}, {L"B", L"http://b.hu"}, {L"C", L"http://c.hu"}, {L"D", L"http://d.hu"}};
+    Store(L"d", L"http://d.hu", 1);
+    MainState expected = Changed(1, RowsNamed({L"a", L"b", L"c", L"d"}), 4);
     expected.Checked = {1, 3};
     expected.SelectedRow = 2;
-    expected.Status[1] = L"megjelenítve (4 / 4)";
     expected.Status[2] = L"bejelölve 2";
-    expected.Modified = true;
     EXPECT_EQ(program.State(), expected);
-    EXPECT_EQ(program.Ask<std::wstring>([](frmStart& form) { return form.OpenedBook().ResultTag; }), L"");
+    EXPECT_EQ(program.Ask<std::wstring>([](frmStart& form) { return form.ResultTag; }), L"");
 }
 
 TEST_F(frmAddTest, InALongListTheRowThatWasSelectedIsScrolledBackIntoView) {
@@ -216,19 +167,15 @@ TEST_F(frmAddTest, InALongListTheRowThatWasSelectedIsScrolledBackIntoView) {
 }
 
 TEST_F(frmAddTest, AnEntryOfAnotherCategoryLeavesTheShownOne) {
-    program.Add(1, {{L"A", L"http://a.hu"}});
-    Store(L"D", L"http://d.hu", 12);
-    MainState expected = EmptyState();
-    expected.Rows = {{L"A", L"http://a.hu"}};
-    expected.Status[1] = L"megjelenítve (1 / 2)";
-    expected.Modified = true;
-    EXPECT_EQ(program.State(), expected);
+    AddNamed(1, {L"a"});
+    Store(L"d", L"http://d.hu", 12);
+    EXPECT_EQ(program.State(), Changed(1, RowsNamed({L"a"}), 2));
     program.ClickTab(12);
-    EXPECT_EQ(program.State().Rows, (std::vector<Row>{{L"D", L"http://d.hu"}}));
+    EXPECT_EQ(program.State(), Changed(12, RowsNamed({L"d"}), 2));
 }
 
 TEST_F(frmAddTest, CancelChangesNothing) {
-    program.Add(1, {{L"A", L"http://a.hu"}, {L"B", L"http://b.hu"}});
+    AddNamed(1, {L"a", L"b"});
     program.ClickBox(2);
     program.ClickRow(1);
     ExpectCancelChangesNothing(
@@ -241,11 +188,7 @@ TEST_F(frmAddTest, ACharacterThatABookCannotHoldIsRefusedAndTheTextStays) {
     const DialogOnScreen dialog = Open();
     const auto expect_refusal = [&](int field, const std::wstring& shown, int start, int end) {
         dialog.Click(ID_frmAdd_cmdOK);
-        const BoxOnScreen box = program.Box();
-        EXPECT_EQ(box.Title(), L"Hiba");
-        EXPECT_EQ(box.Text(), L"Ezt a karaktert a könyv nem tudja tárolni:\r\n\r\n" + shown);
-        box.Press(IDOK);
-        program.Settle();
+        ExpectForeignCharacter(shown);
         EXPECT_EQ(dialog.Focus(), field);
         EXPECT_EQ(dialog.Selection(field), std::pair(start, end));
     };
@@ -255,10 +198,7 @@ TEST_F(frmAddTest, ACharacterThatABookCannotHoldIsRefusedAndTheTextStays) {
     EXPECT_EQ(dialog.Text(ID_frmAdd_txtDesc), L"Az Ω jel");
     dialog.SetText(ID_frmAdd_txtDesc, L"Az Őz");
     expect_refusal(ID_frmAdd_txtURL, L"„\xD83D\xDE00” (U+1F600)", 12, 14);
-    dialog.Cancel();
-    dialog.WaitForClose();
-    program.Settle();
-    EXPECT_EQ(program.State(), before);
+    ExpectUnchangedAfter(dialog, before);
 }
 
 TEST_F(frmAddTest, AFullBookEndsInTheReportOffersToSaveAndLosesNothing) {

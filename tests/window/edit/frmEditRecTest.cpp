@@ -1,23 +1,19 @@
 // The edit dialog.
 
-#include <gtest/gtest.h>
-
 #include <string>
 #include <utility>
 
-#include "resources/resource.h"
+#include "tests/window/edit/EditSession.h"
 #include "tests/window/edit/LongCategory.h"
-#include "tests/window/support/Expectations.h"
-#include "tests/window/support/Program.h"
 
 namespace lindrel::testing {
 namespace {
 
-class frmEditRecTest : public ::testing::Test {
+class frmEditRecTest : public EditSession {
   protected:
     frmEditRecTest() {
-        program.Add(1, {{L"A", L"http://a.hu"}, {L"B", L"http://b.hu"}, {L"C", L"http://c.hu"}});
-        program.Add(3, {{L"X", L"http://x.hu"}, {L"Y", L"http://y.hu"}});
+        AddNamed(1, {L"a", L"b", L"c"});
+        AddNamed(3, {L"x", L"y"});
     }
     DialogOnScreen Open() const {
         program.Choose(ID_mnuEdit);
@@ -27,46 +23,27 @@ class frmEditRecTest : public ::testing::Test {
         dialog.ClickAndWaitForClose(ID_frmEditRec_cmdOk);
         program.Settle();
     }
-    static MainState FirstCategory() {
-        MainState state = EmptyState();
-        state.Rows = {{L"A", L"http://a.hu"}, {L"B", L"http://b.hu"}, {L"C", L"http://c.hu"}};
-        state.Status[1] = L"megjelenítve (3 / 5)";
-        return state;
+    // Moves the selected entry to another category (1..12).
+    void MoveTo(int category) const {
+        const DialogOnScreen dialog = Open();
+        dialog.Pick(ID_frmEditRec_cmbKateg, category - 1);
+        Accept(dialog);
     }
-
-    Program program;
 };
 
 TEST_F(frmEditRecTest, ShowsTheSelectedEntryAndTheShownCategory) {
     program.ClickRow(2);
     const DialogOnScreen dialog = Open();
-    EXPECT_EQ(dialog.Text(ID_frmEditRec_Frame1), L" Az oldal adatai ");
-    EXPECT_EQ(dialog.Text(ID_frmEditRec_Label1), L"az oldal &neve");
-    EXPECT_EQ(dialog.Text(ID_frmEditRec_Label2), L"&kategória");
-    EXPECT_EQ(dialog.Text(ID_frmEditRec_lblHint), L"ebbe a kategóriába lesz áthelyezve");
-    EXPECT_EQ(dialog.Text(ID_frmEditRec_lblURL), L"&URL címe");
-    EXPECT_EQ(dialog.Text(ID_frmEditRec_txtDesc), L"B");
+    EXPECT_EQ(dialog.Text(ID_frmEditRec_txtDesc), L"b");
     EXPECT_EQ(dialog.Text(ID_frmEditRec_txtURL), L"http://b.hu");
     EXPECT_EQ(dialog.ComboItems(ID_frmEditRec_cmbKateg), EmptyState().Tabs);
     EXPECT_EQ(dialog.Picked(ID_frmEditRec_cmbKateg), 0);
-    EXPECT_EQ(dialog.Text(ID_frmEditRec_cmdOk), L"OK");
-    EXPECT_EQ(dialog.Text(ID_frmEditRec_Command1), L"&Mégse");
-    dialog.Cancel();
-    dialog.WaitForClose();
 }
 
-TEST_F(frmEditRecTest, AnEmptyListOpensNothing) {
+TEST_F(frmEditRecTest, AnEmptyListAndNoSelectedRowOpenNothing) {
+    ExpectNothingDone(ID_mnuEdit);
     program.ClickTab(2);
-    const MainState before = program.State();
-    program.Run(ID_mnuEdit);
-    EXPECT_TRUE(program.NothingIsOpen());
-    EXPECT_EQ(program.State(), before);
-}
-
-TEST_F(frmEditRecTest, NoSelectedRowOpensNothing) {
-    program.Run(ID_mnuEdit);
-    EXPECT_TRUE(program.NothingIsOpen());
-    EXPECT_EQ(program.State(), FirstCategory());
+    ExpectNothingDone(ID_mnuEdit);
 }
 
 TEST_F(frmEditRecTest, ChangesTheEntryInPlaceExactlyAsTyped) {
@@ -76,26 +53,24 @@ TEST_F(frmEditRecTest, ChangesTheEntryInPlaceExactlyAsTyped) {
     dialog.SetText(ID_frmEditRec_txtDesc, L" Őz ");
     dialog.SetText(ID_frmEditRec_txtURL, L"http://oz.hu ");
     Accept(dialog);
-    MainState expected = FirstCategory();
+    MainState expected = Changed(1, RowsNamed({L"a", L"b", L"c"}), 5);
     expected.Rows[1] = {L" Őz ", L"http://oz.hu "};
     expected.Checked = {3};
     expected.SelectedRow = 2;
     expected.Status[2] = L"bejelölve 1";
-    expected.Modified = true;
     EXPECT_EQ(program.State(), expected);
-    EXPECT_EQ(program.Ask<std::wstring>([](frmStart& form) { return form.OpenedBook().ResultTag; }), L"");
+    EXPECT_EQ(program.Ask<std::wstring>([](frmStart& form) { return form.ResultTag; }), L"");
 }
 
-TEST_F(frmEditRecTest, OkWithoutAChangeMarksTheBook) {
+TEST_F(frmEditRecTest, OkWithoutAChangeModifiesTheBook) {
     program.ClickRow(1);
     Accept(Open());
-    MainState expected = FirstCategory();
+    MainState expected = Changed(1, RowsNamed({L"a", L"b", L"c"}), 5);
     expected.SelectedRow = 1;
-    expected.Modified = true;
     EXPECT_EQ(program.State(), expected);
 }
 
-// A window's text ends at a NUL, and files that were damaged can hold one.
+// The text of a window ends at a NUL, and a damaged file can hold one.
 TEST_F(frmEditRecTest, AFieldThatWasNotChangedKeepsWhatTheWindowCannotShow) {
     using namespace std::string_literals;
     program.OnUi([](frmStart& form) {
@@ -130,15 +105,12 @@ TEST_F(frmEditRecTest, MovingTheLastRowAwaySelectsTheNewLastRow) {
     dialog.SetText(ID_frmEditRec_txtDesc, L"Új C");
     dialog.Pick(ID_frmEditRec_cmbKateg, 2);
     Accept(dialog);
-    MainState expected = FirstCategory();
-    expected.Rows.pop_back();
+    MainState expected = Changed(1, RowsNamed({L"a", L"b"}), 5);
     expected.SelectedRow = 2;
-    expected.Status[1] = L"megjelenítve (2 / 5)";
-    expected.Modified = true;
     EXPECT_EQ(program.State(), expected);
     program.ClickTab(3);
     EXPECT_EQ(program.State().Rows,
-              (std::vector<Row>{{L"X", L"http://x.hu"}, {L"Y", L"http://y.hu"}, {L"Új C", L"http://c.hu"}}));
+              (std::vector<Row>{{L"x", L"http://x.hu"}, {L"y", L"http://y.hu"}, {L"Új C", L"http://c.hu"}}));
 }
 
 TEST_F(frmEditRecTest, InALongListTheEditedRowIsScrolledBackIntoView) {
@@ -156,9 +128,7 @@ TEST_F(frmEditRecTest, InALongListTheEditedRowIsScrolledBackIntoView) {
 TEST_F(frmEditRecTest, InALongListTheNewLastRowIsScrolledIntoView) {
     const LongCategory many(program, 5, LongCategory::kRows);
     MainState expected = many.WithoutFields();
-    const DialogOnScreen dialog = Open();
-    dialog.Pick(ID_frmEditRec_cmbKateg, 1);
-    Accept(dialog);
+    MoveTo(2);
     expected.Rows.pop_back();
     expected.SelectedRow = 199;
     expected.Status[1] = L"megjelenítve (199 / 205)";
@@ -167,50 +137,33 @@ TEST_F(frmEditRecTest, InALongListTheNewLastRowIsScrolledIntoView) {
     many.ExpectScrolledIntoView(199);
 }
 
-TEST_F(frmEditRecTest, MovingTowardsTheFrontSelectsTheRowThatTookThePlace) {
+TEST_F(frmEditRecTest, MovingTowardsTheFrontSelectsTheNextRow) {
     program.ClickTab(3);
     program.ClickRow(1);
-    const DialogOnScreen dialog = Open();
-    dialog.Pick(ID_frmEditRec_cmbKateg, 0);
-    Accept(dialog);
-    MainState expected = EmptyState();
-    expected.SelectedTab = 3;
-    expected.Rows = {{L"Y", L"http://y.hu"}};
+    MoveTo(1);
+    MainState expected = Changed(3, RowsNamed({L"y"}), 5);
     expected.SelectedRow = 1;
-    expected.Status[1] = L"megjelenítve (1 / 5)";
-    expected.Modified = true;
     EXPECT_EQ(program.State(), expected);
 }
 
 TEST_F(frmEditRecTest, MovingTheOnlyRowAwaySelectsNothing) {
-    program.Add(2, {{L"E", L"http://e.hu"}});
+    AddNamed(2, {L"e"});
     program.ClickTab(2);
     program.ClickRow(1);
-    const DialogOnScreen dialog = Open();
-    dialog.Pick(ID_frmEditRec_cmbKateg, 11);
-    Accept(dialog);
-    MainState expected = EmptyState();
-    expected.SelectedTab = 2;
-    expected.Status[1] = L"megjelenítve (0 / 6)";
-    expected.Modified = true;
-    EXPECT_EQ(program.State(), expected);
+    MoveTo(12);
+    EXPECT_EQ(program.State(), Changed(2, {}, 6));
 }
 
-TEST_F(frmEditRecTest, MovingForgetsTheMarksOfTheSourceOnly) {
+TEST_F(frmEditRecTest, MovingForgetsTheCheckMarksOfTheSourceOnly) {
     program.ClickTab(3);
     program.ClickBox(2);
     program.ClickTab(1);
     program.ClickBox(1);
     program.ClickBox(3);
     program.ClickRow(2);
-    const DialogOnScreen dialog = Open();
-    dialog.Pick(ID_frmEditRec_cmbKateg, 4);
-    Accept(dialog);
-    MainState expected = FirstCategory();
-    expected.Rows.erase(expected.Rows.begin() + 1);
+    MoveTo(5);
+    MainState expected = Changed(1, RowsNamed({L"a", L"c"}), 5);
     expected.SelectedRow = 2;
-    expected.Status[1] = L"megjelenítve (2 / 5)";
-    expected.Modified = true;
     EXPECT_EQ(program.State(), expected);
     program.ClickTab(3);
     EXPECT_EQ(program.State().Checked, std::vector<int>{2});
@@ -219,7 +172,7 @@ TEST_F(frmEditRecTest, MovingForgetsTheMarksOfTheSourceOnly) {
     EXPECT_EQ(program.State().Checked, std::vector<int>{});
 }
 
-TEST_F(frmEditRecTest, CancelLeavesListAndMarks) {
+TEST_F(frmEditRecTest, CancelLeavesListAndCheckMarks) {
     program.ClickBox(1);
     program.ClickRow(3);
     ExpectCancelChangesNothing(
@@ -234,24 +187,13 @@ TEST_F(frmEditRecTest, MissingFieldsAndForeignCharactersAreRefused) {
     const DialogOnScreen dialog = Open();
     dialog.SetText(ID_frmEditRec_txtDesc, L" ");
     dialog.Click(ID_frmEditRec_cmdOk);
-    const BoxOnScreen missing = program.Box();
-    EXPECT_EQ(missing.Title(), L"Nem töltött ki minden mezőt");
-    EXPECT_EQ(missing.Text(), L"Kérem előbb töltse ki a szükséges mezőket!");
-    missing.Press(IDOK);
-    program.Settle();
+    ExpectMissingFields();
     dialog.SetText(ID_frmEditRec_txtDesc, L"漢");
     dialog.Click(ID_frmEditRec_cmdOk);
-    const BoxOnScreen foreign = program.Box();
-    EXPECT_EQ(foreign.Title(), L"Hiba");
-    EXPECT_EQ(foreign.Text(), L"Ezt a karaktert a könyv nem tudja tárolni:\r\n\r\n„漢” (U+6F22)");
-    foreign.Press(IDOK);
-    program.Settle();
+    ExpectForeignCharacter(L"„漢” (U+6F22)");
     EXPECT_EQ(dialog.Focus(), ID_frmEditRec_txtDesc);
     EXPECT_EQ(dialog.Text(ID_frmEditRec_txtDesc), L"漢");
-    dialog.Cancel();
-    dialog.WaitForClose();
-    program.Settle();
-    EXPECT_EQ(program.State(), before);
+    ExpectUnchangedAfter(dialog, before);
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "resources/resource.h"
+#include "tests/window/app/ExpectBox.h"
 #include "tests/window/support/Program.h"
 
 namespace lindrel::testing {
@@ -40,6 +41,19 @@ class FindDialog : public DialogOnScreen {
     }
     // A key in the list. Returns at once: it may open a box.
     void ListKey(WPARAM key) const { PostMessageW(List().Handle(), WM_KEYDOWN, key, 1); }
+    // Deletes the selected or the checked hits, after their question.
+    void DeleteSelected(int answer = IDOK) const {
+        ListKey(VK_DELETE);
+        ExpectDeleteQuestion(program_, answer);
+    }
+    void DeleteHit(int row) const {
+        ClickHit(row);
+        DeleteSelected();
+    }
+    void DeleteChecked(int count, int answer = IDYES) const {
+        Click(ID_frmFind_cmdDel);
+        ExpectDeleteQuestion(program_, count, answer);
+    }
     // The address of each hit, as a click on it shows it.
     std::vector<std::wstring> Addresses() const {
         std::vector<std::wstring> addresses;
@@ -64,16 +78,33 @@ class FindSession : public ::testing::Test {
         program.Choose(ID_mnuFind);
         return {program, program.Dialog(L"Keresés")};
     }
-    // Five entries in three categories.
-    void AddHungarianEntries() const {
+    // The dialog over a book of one category, all of it found.
+    FindDialog FindAll(const std::vector<Row>& rows) const {
+        program.Add(1, rows);
+        const FindDialog dialog = Open();
+        dialog.Search(L"");
+        return dialog;
+    }
+    // Five entries in three categories, not searched yet.
+    FindDialog OpenHungarian() const {
         program.Add(1, {{L"MŰSOR", L"http://www.musor.hu"}, {L"Időjárás", L"http://idojaras.com"}});
         program.Add(3, {{L"űrhajó", L"http://urhajo.hu/"}, {L"Bolt & társa", L"http://bolt.hu/?a=1&b=2"}});
         program.Add(12, {{L"tűrő", L"ftp://tur.gov/"}});
+        return Open();
     }
     // Six entries in two categories; every name holds "x".
     void AddSixEntries() const {
         program.Add(2, {{L"x1", L"http://1.hu"}, {L"x2", L"http://2.hu"}, {L"x3", L"http://3.hu"}});
         program.Add(5, {{L"x4", L"http://4.hu"}, {L"x5", L"http://5.hu"}, {L"x6", L"http://6.hu"}});
+    }
+    FindDialog FindSix() const {
+        AddSixEntries();
+        return FindX();
+    }
+    FindDialog FindX() const {
+        const FindDialog dialog = Open();
+        dialog.Search(L"x");
+        return dialog;
     }
 
     Program program;

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "resources/resource.h"
+#include "tests/window/app/ExpectBox.h"
 #include "tests/window/support/Program.h"
 #include "tests/window/support/RecordedShell.h"
 #include "tests/window/support/ToolTipOf.h"
@@ -22,7 +23,7 @@ class SearchBoxTest : public ::testing::Test {
                         {L"ABlak", L"http://4.hu"}});
         program.Add(2, {{L"TŰZIJÁTÉK", L"http://tuz.hu"}, {L"időjárás", L"http://ido.hu"}});
     }
-    HWND Control(int id) const { return GetDlgItem(program.Main(), id); }
+    HWND Control(int id) const { return program.Control(id); }
     void Type(const std::wstring& text) const {
         SendMessageW(Control(ID_frmStart_txtFind), EM_SETSEL, 0, -1);
         SendMessageW(Control(ID_frmStart_txtFind), EM_REPLACESEL, TRUE,
@@ -44,13 +45,14 @@ class SearchBoxTest : public ::testing::Test {
     }
     void NothingMoreIsFound() const {
         PressSearch();
-        const BoxOnScreen box = program.Box();
-        EXPECT_EQ(box.Title(), L"Lindrel");
-        EXPECT_EQ(box.Text(), L"Nem találtam többet");
-        EXPECT_EQ(box.Buttons(), std::vector<int>{IDOK});
-        EXPECT_EQ(box.Icon(), BoxIcon::None);
-        box.Press(IDOK);
+        ExpectNoMore();
+    }
+    void ExpectNoMore() const {
+        ExpectBox(program, {.Text = L"Nem találtam többet"});
         program.Settle();
+    }
+    void FocusOn(int id) const {
+        program.OnUi([&](frmStart&) { SetFocus(Control(id)); });
     }
     std::wstring ToolTip(int id) const { return ToolTipOf(program, Control(id)); }
 
@@ -76,21 +78,15 @@ TEST_F(SearchBoxTest, EachControlHasItsToolTip) {
 }
 
 TEST_F(SearchBoxTest, SearchesWalkThroughTheHitsOfTheCategoryAndStartAgain) {
+    MainState expected = program.State();  // the fields do not show the hits
     Type(L"ab");
-    EXPECT_EQ(SelectedAfterSearch(), 2);
+    Search();
+    expected.SelectedRow = 2;
+    EXPECT_EQ(program.State(), expected);
     EXPECT_EQ(SelectedAfterSearch(), 4);
     NothingMoreIsFound();
     EXPECT_EQ(program.List().Selected(), 4);
     EXPECT_EQ(SelectedAfterSearch(), 2);
-}
-
-TEST_F(SearchBoxTest, AHitIsSelectedButNotShownInTheFields) {
-    const MainState before = program.State();
-    Type(L"ab");
-    Search();
-    MainState expected = before;
-    expected.SelectedRow = 2;
-    EXPECT_EQ(program.State(), expected);
 }
 
 TEST_F(SearchBoxTest, AChangedTextSearchesFromTheFirstEntry) {
@@ -102,7 +98,7 @@ TEST_F(SearchBoxTest, AChangedTextSearchesFromTheFirstEntry) {
     Type(L"abá");
     EXPECT_EQ(SelectedAfterSearch(), 2);
     // One letter taken away by the keyboard.
-    program.OnUi([&](frmStart&) { SetFocus(Control(ID_frmStart_txtFind)); });
+    FocusOn(ID_frmStart_txtFind);
     SendMessageW(Control(ID_frmStart_txtFind), EM_SETSEL, 3, 3);
     PostMessageW(Control(ID_frmStart_txtFind), WM_CHAR, VK_BACK, 1);
     program.Settle();
@@ -110,7 +106,11 @@ TEST_F(SearchBoxTest, AChangedTextSearchesFromTheFirstEntry) {
     EXPECT_EQ(SelectedAfterSearch(), 2);
 }
 
-TEST_F(SearchBoxTest, HungarianLettersAreFoundInEitherCase) {
+TEST_F(SearchBoxTest, NamesOfTheShownCategoryAreSearchedInEitherCase) {
+    Type(L"http");
+    NothingMoreIsFound();
+    Type(L"időjárás");
+    NothingMoreIsFound();
     program.ClickTab(2);
     Type(L"tűzijáték");
     EXPECT_EQ(SelectedAfterSearch(), 1);
@@ -120,14 +120,7 @@ TEST_F(SearchBoxTest, HungarianLettersAreFoundInEitherCase) {
     NothingMoreIsFound();
 }
 
-TEST_F(SearchBoxTest, OnlyNamesOfTheShownCategoryAreSearched) {
-    Type(L"http");
-    NothingMoreIsFound();
-    Type(L"időjárás");
-    NothingMoreIsFound();
-}
-
-TEST_F(SearchBoxTest, ASearchGoesOnAtTheOldPlaceAfterATabChange) {
+TEST_F(SearchBoxTest, ASearchGoesOnAtTheOldPositionAfterATabChange) {
     program.Add(3, {{L"ab1", L"1"}, {L"ab2", L"2"}, {L"ab3", L"3"}});
     Type(L"ab");
     EXPECT_EQ(SelectedAfterSearch(), 2);
@@ -155,13 +148,16 @@ TEST_F(SearchBoxTest, FewerThanTwoCharactersDoNothing) {
     EXPECT_EQ(shell.NextAddress(), std::wstring(kExcite) + L"ab");
 }
 
-TEST_F(SearchBoxTest, AnEmptyCategoryIsNotSearched) {
+TEST_F(SearchBoxTest, AnEmptyCategoryIsNotSearchedButAServiceIsAsked) {
+    const RecordedShell shell;
     program.ClickTab(5);
     Type(L"ab");
     const MainState before = program.State();
     Search();
-    EXPECT_TRUE(program.NothingIsOpen());
-    EXPECT_EQ(program.State(), before);
+    ExpectState(program, before);
+    Choose(3);
+    Search();
+    EXPECT_EQ(shell.NextAddress(), std::wstring(kExcite) + L"ab");
 }
 
 TEST_F(SearchBoxTest, AHitOutsideTheViewIsScrolledIn) {
@@ -189,7 +185,7 @@ TEST_F(SearchBoxTest, AServiceOpensItsPageWithTheWordsAsTypedAndIsThenLeft) {
     EXPECT_EQ(TextOf(Control(ID_frmStart_cmbFinders)), L"");
     EXPECT_EQ(TextOf(Control(ID_frmStart_txtFind)), L"két szó");
     EXPECT_EQ(program.State(), before);
-    // The next search goes to the book.
+    // The next search is in the book again.
     Type(L"ab");
     EXPECT_EQ(SelectedAfterSearch(), 2);
     EXPECT_EQ(shell.Addresses().size(), 1u);
@@ -209,19 +205,10 @@ TEST_F(SearchBoxTest, EveryServiceOpensItsOwnPage) {
     }
 }
 
-TEST_F(SearchBoxTest, AServiceIsAskedFromAnEmptyCategoryToo) {
-    const RecordedShell shell;
-    program.ClickTab(9);
-    Choose(3);
-    Type(L"ab");
-    Search();
-    EXPECT_EQ(shell.NextAddress(), std::wstring(kExcite) + L"ab");
-}
-
 TEST_F(SearchBoxTest, EnterInTheTextBoxSearches) {
     const RecordedShell shell;
     Type(L"ab");
-    program.OnUi([&](frmStart&) { SetFocus(Control(ID_frmStart_txtFind)); });
+    FocusOn(ID_frmStart_txtFind);
     const auto enter = [&] { program.PressKey(Control(ID_frmStart_txtFind), VK_RETURN); };
     enter();
     EXPECT_EQ(program.List().Selected(), 2);
@@ -229,75 +216,40 @@ TEST_F(SearchBoxTest, EnterInTheTextBoxSearches) {
     enter();
     EXPECT_EQ(program.List().Selected(), 4);
     PostMessageW(Control(ID_frmStart_txtFind), WM_KEYDOWN, VK_RETURN, 1);
-    const BoxOnScreen box = program.Box();
-    EXPECT_EQ(box.Text(), L"Nem találtam többet");
-    box.Press(IDOK);
-    program.Settle();
+    ExpectNoMore();
     Choose(3);
     enter();
     EXPECT_EQ(shell.NextAddress(), std::wstring(kExcite) + L"ab");
     EXPECT_EQ(Chosen(), 0);
 }
 
-TEST_F(SearchBoxTest, EnterPressesThePictureButtonThatHasTheFocus) {
-    Type(L"ab");
-    program.OnUi([&](frmStart&) { SetFocus(Control(ID_frmStart_Image1)); });
-    program.PressKey(Control(ID_frmStart_Image1), VK_RETURN);
-    EXPECT_EQ(program.List().Selected(), 2);
-}
-
-TEST_F(SearchBoxTest, TheTextIsSelectedWheneverItsBoxGainsTheFocus) {
+TEST_F(SearchBoxTest, TheTextIsSelectedWheneverItsBoxGainsTheFocusFromTheUser) {
     Type(L"műsor");
+    FocusOn(ID_frmStart_ListURLs);
+    FocusOn(ID_frmStart_txtFind);
     const TextBox box(Control(ID_frmStart_txtFind));
-    program.OnUi([&](frmStart&) {
-        SetFocus(Control(ID_frmStart_ListURLs));
-        box.SetFocus();
-    });
     EXPECT_EQ(box.SelectedText(), L"műsor");
-}
-
-TEST_F(SearchBoxTest, ComingBackToTheWindowLeavesTheCaretInTheSearchText) {
-    Type(L"műsor");
-    const TextBox box(Control(ID_frmStart_txtFind));
-    program.OnUi([&](frmStart&) {
-        box.SetFocus();
-        box.Select(1, 2);
-    });
+    program.OnUi([&](frmStart&) { box.Select(1, 2); });
     program.LeaveAndComeBack();
     EXPECT_TRUE(program.Ask<bool>([&](frmStart&) { return box.HasFocus(); }));
     EXPECT_EQ(box.SelectedText(), L"űs");
-}
-
-TEST_F(SearchBoxTest, DelInTheTextBoxDeletesTextNotEntries) {
-    Type(L"ab");
-    program.ClickBox(1);
-    program.OnUi([&](frmStart&) { SetFocus(Control(ID_frmStart_txtFind)); });
-    program.PressKey(Control(ID_frmStart_txtFind), VK_DELETE);
-    EXPECT_TRUE(program.NothingIsOpen());
-    EXPECT_EQ(TextOf(Control(ID_frmStart_txtFind)), L"");
-    EXPECT_EQ(program.State().Rows.size(), 4u);
 }
 
 TEST_F(SearchBoxTest, APictureButtonHasABorderWhileTheMouseHoldsIt) {
     for (const int id : {ID_frmStart_Image1, ID_frmStart_picGo}) {
         const HWND button = Control(id);
         const auto has_border = [&] { return (GetWindowLongPtrW(button, GWL_STYLE) & WS_BORDER) != 0; };
+        const auto has_border_after = [&](UINT message, int x) {
+            PostMessageW(button, message, message == WM_LBUTTONDOWN ? MK_LBUTTON : 0, MAKELPARAM(x, 5));
+            program.Settle();
+            return has_border();
+        };
         EXPECT_FALSE(has_border());
-        PostMessageW(button, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
-        program.Settle();
-        EXPECT_TRUE(has_border());
-        PostMessageW(button, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
-        program.Settle();
-        EXPECT_FALSE(has_border());
-        // Released elsewhere.
-        PostMessageW(button, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
-        PostMessageW(button, WM_LBUTTONUP, 0, MAKELPARAM(-50, -50));
-        program.Settle();
-        EXPECT_FALSE(has_border());
-        // Taken away.
-        PostMessageW(button, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
-        program.Settle();
-        EXPECT_TRUE(has_border());
+        for (const int released_at : {5, -50}) {
+            EXPECT_TRUE(has_border_after(WM_LBUTTONDOWN, 5));
+            EXPECT_FALSE(has_border_after(WM_LBUTTONUP, released_at));
+        }
+        EXPECT_TRUE(has_border_after(WM_LBUTTONDOWN, 5));
         program.OnUi([](frmStart&) { ReleaseCapture(); });
         EXPECT_FALSE(has_border());
     }

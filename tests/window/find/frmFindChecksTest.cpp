@@ -14,9 +14,7 @@ class frmFindChecksTest : public FindSession {
 };
 
 TEST_F(frmFindChecksTest, KeysOfTheNumberPadAndTheTwoButtonsCheckAndUncheckAll) {
-    AddSixEntries();
-    const FindDialog dialog = Open();
-    dialog.Search(L"x");
+    const FindDialog dialog = FindSix();
     const std::vector<int> all{1, 2, 3, 4, 5, 6};
     const auto checked_after_key = [&](WPARAM key) {
         program.PressKey(dialog.List().Handle(), key);
@@ -30,45 +28,31 @@ TEST_F(frmFindChecksTest, KeysOfTheNumberPadAndTheTwoButtonsCheckAndUncheckAll) 
     dialog.Check({2});
     dialog.Press(ID_frmFind_Command2);
     EXPECT_EQ(dialog.List().Checked(), all);
-    dialog.Close();
 }
 
 TEST_F(frmFindChecksTest, TheKeysOfTheNumberPadLeaveTheSelectionWhereItIs) {
-    program.Add(1, {{L"+", L"http://plusz.hu"}, {L"egy", L"http://egy.hu"}, {L"*", L"http://csillag.hu"}});
-    const FindDialog dialog = Open();
-    dialog.Search(L"");
+    const FindDialog dialog =
+        FindAll({{L"+", L"http://plusz.hu"}, {L"egy", L"http://egy.hu"}, {L"*", L"http://csillag.hu"}});
     dialog.ClickHit(2);
     for (const WPARAM key : std::initializer_list<WPARAM>{VK_MULTIPLY, VK_ADD, VK_SUBTRACT}) {
         program.PressKey(dialog.List().Handle(), key);
         EXPECT_EQ(dialog.List().Selected(), 2);
     }
-    dialog.Close();
 }
 
 TEST_F(frmFindChecksTest, TheNumberOfCheckedHitsIsAlwaysRight) {
-    AddSixEntries();
-    const FindDialog dialog = Open();
-    dialog.Search(L"x");
-    const auto number_in_question = [&] {
-        dialog.Click(ID_frmFind_cmdDel);
-        const BoxOnScreen box = program.Box();
-        const std::wstring text = box.Text();
-        box.Press(IDNO);
-        program.Settle();
-        return text;
-    };
+    const FindDialog dialog = FindSix();
     dialog.Check({1, 4, 6});
-    EXPECT_EQ(number_in_question(), L"Töröljem a (3) bejelölt címet?");
+    dialog.DeleteChecked(3, IDNO);
     dialog.Check({4});
-    EXPECT_EQ(number_in_question(), L"Töröljem a (2) bejelölt címet?");
+    dialog.DeleteChecked(2, IDNO);
     dialog.Press(ID_frmFind_Command2);
-    EXPECT_EQ(number_in_question(), L"Töröljem a (6) bejelölt címet?");
+    dialog.DeleteChecked(6, IDNO);
     dialog.Check({5});
-    EXPECT_EQ(number_in_question(), L"Töröljem a (5) bejelölt címet?");
+    dialog.DeleteChecked(5, IDNO);
     dialog.Press(ID_frmFind_Command3);
     dialog.Check({2});
-    EXPECT_EQ(number_in_question(), L"Töröljem a (1) bejelölt címet?");
-    dialog.Close();
+    dialog.DeleteChecked(1, IDNO);
 }
 
 TEST_F(frmFindChecksTest, CheckedHitsOfTwoCategoriesBecomeTheOnlyCheckMarks) {
@@ -78,8 +62,7 @@ TEST_F(frmFindChecksTest, CheckedHitsOfTwoCategoriesBecomeTheOnlyCheckMarks) {
     program.ClickBox(1);
     program.ClickTab(2);
     for (const int row : {1, 2, 3}) program.ClickBox(row);
-    const FindDialog dialog = Open();
-    dialog.Search(L"x");
+    const FindDialog dialog = FindX();
     dialog.Check({2, 6});
     dialog.Close();
 
@@ -104,10 +87,8 @@ TEST_F(frmFindChecksTest, CheckedHitsOfTwoCategoriesBecomeTheOnlyCheckMarks) {
     EXPECT_EQ(program.State(), expected);
 }
 
-TEST_F(frmFindChecksTest, SeveralCheckedHitsOfOneCategoryKeepTheirPlaces) {
-    AddSixEntries();
-    const FindDialog dialog = Open();
-    dialog.Search(L"x");
+TEST_F(frmFindChecksTest, SeveralCheckedHitsOfOneCategoryKeepTheirPositions) {
+    const FindDialog dialog = FindSix();
     dialog.Check({6, 4, 1});
     dialog.Close();
     EXPECT_EQ(program.State().Status[2], L"bejelölve 0");
@@ -137,16 +118,14 @@ TEST_F(frmFindChecksTest, WithNothingCheckedAndNothingDeletedTheCheckMarksStay) 
     for (const int row : {1, 3}) program.ClickBox(row);
     const MainState before = program.State();
     {
-        const FindDialog dialog = Open();
-        dialog.Search(L"x");
+        const FindDialog dialog = FindX();
         dialog.ClickHit(2);
         dialog.Close();
         EXPECT_EQ(program.State(), before);
     }
     {
         // Checked and unchecked again in three ways.
-        const FindDialog dialog = Open();
-        dialog.Search(L"x");
+        const FindDialog dialog = FindX();
         dialog.Check({2, 2});
         dialog.Press(ID_frmFind_Command2);
         dialog.Press(ID_frmFind_Command3);
@@ -164,12 +143,8 @@ TEST_F(frmFindChecksTest, ADeletionClearsAllCheckMarks) {
     program.ClickBox(2);
     program.ClickTab(2);
     for (const int row : {1, 3}) program.ClickBox(row);
-    const FindDialog dialog = Open();
-    dialog.Search(L"x");
-    dialog.ClickHit(1);
-    dialog.ListKey(VK_DELETE);
-    program.Box().Press(IDOK);
-    program.Settle();
+    const FindDialog dialog = FindX();
+    dialog.DeleteHit(1);
     dialog.Close();
     EXPECT_EQ(program.State().Checked, std::vector<int>{});
     EXPECT_EQ(program.State().Status[2], L"bejelölve 0");
@@ -177,14 +152,9 @@ TEST_F(frmFindChecksTest, ADeletionClearsAllCheckMarks) {
     EXPECT_EQ(program.State().Status[2], L"bejelölve 0");
 }
 
-TEST_F(frmFindChecksTest, HitsCheckedAfterADeletionKeepTheirNewPlaces) {
-    AddSixEntries();
-    const FindDialog dialog = Open();
-    dialog.Search(L"x");
-    dialog.ClickHit(1);
-    dialog.ListKey(VK_DELETE);
-    program.Box().Press(IDOK);
-    program.Settle();
+TEST_F(frmFindChecksTest, HitsCheckedAfterADeletionKeepTheirNewPositions) {
+    const FindDialog dialog = FindSix();
+    dialog.DeleteHit(1);
     dialog.Check({1, 3});
     dialog.Close();
     EXPECT_EQ(CheckedOn(2), std::vector<int>{1});

@@ -6,8 +6,6 @@
 namespace lindrel::testing {
 namespace {
 
-constexpr wchar_t kDeleteTitle[] = L"Törlés engedélyezése";
-
 class frmFindDeleteTest : public FindSession {
   protected:
     // The names that the book holds, in its order.
@@ -21,33 +19,18 @@ class frmFindDeleteTest : public FindSession {
     }
 };
 
-TEST_F(frmFindDeleteTest, AfterADeletionTheArrowKeysGoOnFromTheSamePlace) {
-    AddSixEntries();
-    const FindDialog dialog = Open();
-    dialog.Search(L"x");
-    dialog.ClickHit(3);
-    PostMessageW(dialog.List().Handle(), WM_KEYDOWN, VK_DELETE, 1);
-    program.Box().Press(IDOK);
-    program.Settle();
+TEST_F(frmFindDeleteTest, AfterADeletionTheArrowKeysGoOnFromTheSameRow) {
+    const FindDialog dialog = FindSix();
+    dialog.DeleteHit(3);
     EXPECT_EQ(dialog.List().Count(), 5);
     EXPECT_EQ(dialog.List().Selected(), 0);
     EXPECT_EQ(ListView_GetNextItem(dialog.List().Handle(), -1, LVNI_FOCUSED) + 1, 3);
-    dialog.Close();
 }
 
 TEST_F(frmFindDeleteTest, DeleteAsksAndCancelKeepsTheEntry) {
-    AddSixEntries();
-    const FindDialog dialog = Open();
-    dialog.Search(L"x");
+    const FindDialog dialog = FindSix();
     dialog.ClickHit(3);
-    dialog.ListKey(VK_DELETE);
-    const BoxOnScreen box = program.Box();
-    EXPECT_EQ(box.Title(), kDeleteTitle);
-    EXPECT_EQ(box.Text(), L"Tényleg ki akarja törölni ezt a web címet ?");
-    EXPECT_EQ(box.Buttons(), (std::vector<int>{IDOK, IDCANCEL}));
-    EXPECT_EQ(box.Icon(), BoxIcon::Question);
-    box.Press(IDCANCEL);
-    program.Settle();
+    dialog.DeleteSelected(IDCANCEL);
     EXPECT_EQ(dialog.List().Count(), 6);
     EXPECT_EQ(dialog.List().Selected(), 3);
     dialog.Close();
@@ -56,16 +39,8 @@ TEST_F(frmFindDeleteTest, DeleteAsksAndCancelKeepsTheEntry) {
 }
 
 TEST_F(frmFindDeleteTest, DeleteRemovesTheSelectedHitSearchesAgainAndNumbersTheHitsAnew) {
-    AddSixEntries();
-    const FindDialog dialog = Open();
-    dialog.Search(L"x");
-    const auto remove = [&](int row) {
-        dialog.ClickHit(row);
-        dialog.ListKey(VK_DELETE);
-        program.Box().Press(IDOK);
-        program.Settle();
-    };
-    remove(2);
+    const FindDialog dialog = FindSix();
+    dialog.DeleteHit(2);
     EXPECT_EQ(dialog.Text(ID_frmFind_lblSum_1), L"5");
     EXPECT_EQ(dialog.Text(ID_frmFind_lblURL), L"");
     EXPECT_EQ(dialog.List().Rows(), (std::vector<Row>{{L"x1", L"Project2"},
@@ -75,8 +50,8 @@ TEST_F(frmFindDeleteTest, DeleteRemovesTheSelectedHitSearchesAgainAndNumbersTheH
                                                       {L"x6", L"Project5"}}));
     EXPECT_EQ(dialog.Addresses(), (std::vector<std::wstring>{L"http://1.hu", L"http://3.hu", L"http://4.hu",
                                                              L"http://5.hu", L"http://6.hu"}));
-    // The next one goes by the new numbers, in the other category.
-    remove(4);
+    // The next deletion uses the new indices, in the other category.
+    dialog.DeleteHit(4);
     EXPECT_EQ(BookNames(), (std::vector<std::wstring>{L"x1", L"x3", L"x4", L"x6"}));
     dialog.Close();
     EXPECT_TRUE(program.State().Modified);
@@ -85,15 +60,11 @@ TEST_F(frmFindDeleteTest, DeleteRemovesTheSelectedHitSearchesAgainAndNumbersTheH
     EXPECT_EQ(program.State().Status[1], L"megjelenítve (2 / 4)");
 }
 
-TEST_F(frmFindDeleteTest, ASearchAfterADeletionGoesByTheTextsThatStandThereNow) {
-    AddSixEntries();
-    const FindDialog dialog = Open();
-    dialog.Search(L"x");
+TEST_F(frmFindDeleteTest, ASearchAfterADeletionUsesTheTextsThatAreThereNow) {
+    const FindDialog dialog = FindSix();
     dialog.ClickHit(1);
     dialog.SetText(ID_frmFind_txtWhat, L"x5");
-    dialog.ListKey(VK_DELETE);
-    program.Box().Press(IDOK);
-    program.Settle();
+    dialog.DeleteSelected();
     EXPECT_EQ(dialog.List().Rows(), (std::vector<Row>{{L"x5", L"Project5"}}));
     dialog.Close();
     EXPECT_EQ(BookNames(), (std::vector<std::wstring>{L"x2", L"x3", L"x4", L"x5", L"x6"}));
@@ -109,22 +80,12 @@ TEST_F(frmFindDeleteTest, DeleteWithoutASelectedHitAsksNothing) {
     program.Settle();
     EXPECT_TRUE(IsWindowEnabled(dialog.Handle()));
     EXPECT_EQ(dialog.List().Count(), 6);
-    dialog.Close();
 }
 
 TEST_F(frmFindDeleteTest, DeletingTheCheckedHitsAsksForYesOrNo) {
-    AddSixEntries();
-    const FindDialog dialog = Open();
-    dialog.Search(L"x");
+    const FindDialog dialog = FindSix();
     dialog.Check({2, 5});
-    dialog.Click(ID_frmFind_cmdDel);
-    const BoxOnScreen box = program.Box();
-    EXPECT_EQ(box.Title(), kDeleteTitle);
-    EXPECT_EQ(box.Text(), L"Töröljem a (2) bejelölt címet?");
-    EXPECT_EQ(box.Buttons(), (std::vector<int>{IDYES, IDNO}));
-    EXPECT_EQ(box.Icon(), BoxIcon::Question);
-    box.Press(IDNO);
-    program.Settle();
+    dialog.DeleteChecked(2, IDNO);
     EXPECT_EQ(dialog.List().Checked(), (std::vector<int>{2, 5}));
     dialog.Press(ID_frmFind_Command3);
     dialog.Close();
@@ -135,12 +96,9 @@ TEST_F(frmFindDeleteTest, DeletingTheCheckedHitsAsksForYesOrNo) {
 TEST_F(frmFindDeleteTest, DeletingTheCheckedHitsOfSeveralCategoriesLeavesTheOthers) {
     AddSixEntries();
     program.Add(2, {{L"marad", L"http://marad.hu"}});
-    const FindDialog dialog = Open();
-    dialog.Search(L"x");
+    const FindDialog dialog = FindX();
     dialog.Check({1, 3, 4, 6});
-    dialog.Click(ID_frmFind_cmdDel);
-    program.Box().Press(IDYES);
-    program.Settle();
+    dialog.DeleteChecked(4);
     EXPECT_EQ(dialog.List().Rows(), (std::vector<Row>{{L"x2", L"Project2"}, {L"x5", L"Project5"}}));
     EXPECT_EQ(dialog.Addresses(), (std::vector<std::wstring>{L"http://2.hu", L"http://5.hu"}));
     EXPECT_EQ(dialog.Text(ID_frmFind_lblSum_1), L"2");
@@ -157,9 +115,7 @@ TEST_F(frmFindDeleteTest, DeletingEverythingLeavesNoBlankHit) {
     const FindDialog dialog = Open();
     dialog.Search(L"");
     dialog.Press(ID_frmFind_Command2);
-    dialog.Click(ID_frmFind_cmdDel);
-    program.Box().Press(IDYES);
-    program.Settle();
+    dialog.DeleteChecked(6);
     EXPECT_EQ(dialog.List().Rows(), std::vector<Row>{});
     EXPECT_EQ(dialog.Text(ID_frmFind_lblSum_1), L"0");
     dialog.Close();
