@@ -31,7 +31,7 @@ void Check(bool good) {
 
 // Floor of loading: read the file and count its lines.
 void FloorReadAndCountLines(benchmark::State& state) {
-    const std::string path = PathOf("floor.lnd", LargestBookFile());
+    const std::string path = PathOf("read.lnd", LargestBookFile());
     const std::size_t size = LargestBookFile().size();
     for (auto _ : state) {
         const int file = open(path.c_str(), O_RDONLY);

@@ -12,12 +12,13 @@ namespace lindrel {
 
 namespace {
 
+// Of a file: twelve headers and two for each entry.
 constexpr std::size_t kMostLines = kCategories + 2 * kMostEntries;
 
 // The lines of a text. They end in LF or CR LF; the last line may lack its end.
 std::vector<std::string_view> LinesOf(std::string_view text) {
     std::vector<std::string_view> lines;
-    lines.reserve(kMostLines);  // memory costs nothing until it is used
+    lines.reserve(std::min(kMostLines, text.size()));  // memory costs nothing until it is used
     while (!text.empty()) {
         if (lines.size() == kMostLines)
             throw MalformedBook(

@@ -150,7 +150,7 @@ std::uint64_t WordAt(std::string_view text, std::size_t offset) {
     return word;
 }
 
-// Sets the high bit of each zero byte. Bytes of 1 above the lowest zero byte may be marked as well.
+// Sets the high bit of each zero byte, and perhaps that of bytes of 1 above the lowest zero byte.
 constexpr std::uint64_t ZeroBytes(std::uint64_t word) {
     return (word - kOnes) & ~word & (kOnes << 7);
 }
