@@ -12,7 +12,7 @@ namespace {
 
 // The functions for image lists and device contexts give no error number.
 void Require(bool done) {
-    if (!done) throw SystemFault(L"a jelölőnégyzetek rajzolása", 0);
+    if (!done) throw SystemFault(L"a jelölőnégyzetek megrajzolása", 0);
 }
 
 // A picture of an image list on a background of one colour, `top` pixels below the upper edge.

@@ -97,7 +97,7 @@ void FileDrop::Attach(HWND window) {
     const HRESULT registered = RegisterDragDrop(window, target);
     target->Release();
     if (FAILED(registered))
-        throw SystemFault(L"fájl fogadása egérrel", static_cast<unsigned long>(registered));
+        throw SystemFault(L"egérrel húzott fájlok fogadása", static_cast<unsigned long>(registered));
     window_ = window;
 }
 

@@ -133,10 +133,10 @@ TEST_F(ToolbarTest, TheSecondToTheEighthButtonOpenTheirDialogs) {
     expect_dialog(4, L"Új oldal hozzáadása");
     TwoEntries();
     expect_dialog(6, L"Cím módosítása");
-    expect_dialog(7, L"Keresés");
     expect_dialog(8, L"A kiválasztott címek áthelyezése");
     program.ClickBox(2);
     expect_dialog(5, L"Exportálás");
+    expect_dialog(7, L"Keresés");
     program.OnUi([](frmStart& form) { form.OpenedBook().Modified = true; });
     expect_file_dialog(3, L"File mentése");
 }
