@@ -226,6 +226,8 @@ TEST_F(AccessibilityTest, TheFindDialogAndItsHits) {
     hits.ClickRow(2);
     program.Settle();
     EXPECT_EQ(RowsOf(hits), (Lines{"'Egy' 'Project1' checked", "'Kettő' 'Project1' selected"}));
+    dialog.Cancel();
+    program.Settle();
 }
 
 TEST_F(AccessibilityTest, TheDialogsThatChooseAFolder) {
@@ -258,6 +260,10 @@ TEST_F(AccessibilityTest, TheDialogsThatChooseAFolder) {
                  "Static 'Az Ön által kiválasztott címek hozzáadódnak az Internet Explorer kedvenc lapok "
                  "listájához'",
                  "Button 'Export'", "Button 'Mégse'"});
+    target.Cancel();
+    target.WaitForClose();
+    exporting.Cancel();
+    program.Settle();
 }
 
 }  // namespace

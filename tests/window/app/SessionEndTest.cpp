@@ -191,6 +191,7 @@ TEST_F(SessionEndTest, ABoxOverAnUnchangedBookAndTheAboutBoxHoldNothing) {
     EXPECT_EQ(Query(program.Main()), TRUE);
     EXPECT_EQ(Query(about.Handle()), TRUE);
     EXPECT_EQ(Reasons(), std::vector<Reason>{});
+    about.Cancel();
 }
 
 TEST_F(SessionEndTest, ADialogThatIsOpenHoldsTheSessionAndKeepsWhatIsTypedInIt) {

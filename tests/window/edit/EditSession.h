@@ -22,10 +22,13 @@ class EditSession : public ::testing::Test {
                   {L"Hiba", L"Ezt a karaktert a könyv nem tudja tárolni:\r\n\r\n" + shown, BoxIcon::Error});
         program.Settle();
     }
-    // Leaves a dialog: nothing may have changed.
-    void ExpectUnchangedAfter(const DialogOnScreen& dialog, const MainState& before) const {
+    static void Leave(const DialogOnScreen& dialog) {
         dialog.Cancel();
         dialog.WaitForClose();
+    }
+    // Leaves a dialog: nothing may have changed.
+    void ExpectUnchangedAfter(const DialogOnScreen& dialog, const MainState& before) const {
+        Leave(dialog);
         ExpectState(program, before);
     }
     // A command that must neither open nor change anything.

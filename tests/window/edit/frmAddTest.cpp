@@ -33,8 +33,7 @@ class frmAddTest : public EditSession {
         const DialogOnScreen dialog = Open();
         GoToAddress(dialog);
         const Address address{dialog.Text(ID_frmAdd_txtURL), dialog.Selection(ID_frmAdd_txtURL)};
-        dialog.Cancel();
-        dialog.WaitForClose();
+        Leave(dialog);
         return address;
     }
     void Store(const std::wstring& name, const std::wstring& address, int category) const {
@@ -57,6 +56,7 @@ TEST_F(frmAddTest, OpensWithTheShownCategoryAndTheBareAddress) {
     EXPECT_EQ(dialog.Text(ID_frmAdd_txtDesc), L"");
     EXPECT_EQ(dialog.Text(ID_frmAdd_txtURL), L"http://");
     EXPECT_EQ(dialog.Focus(), ID_frmAdd_txtDesc);
+    Leave(dialog);
 }
 
 TEST_F(frmAddTest, ProposesTheAddressOnTheClipboardAndSelectsIt) {
@@ -90,6 +90,7 @@ TEST_F(frmAddTest, TheMailButtonExchangesBareBeginningsOnly) {
     EXPECT_EQ(after_click(L"HTTP://"), L"HTTP://");
     EXPECT_EQ(after_click(L"http://a"), L"http://a");
     EXPECT_EQ(after_click(L""), L"");
+    Leave(dialog);
 }
 
 TEST_F(frmAddTest, TheAddressIsSelectedWhenTheUserGoesThereButNotOnComingBackToTheDialog) {
@@ -113,8 +114,7 @@ TEST_F(frmAddTest, TheAddressIsSelectedWhenTheUserGoesThereButNotOnComingBackToT
         EXPECT_EQ(dialog.Focus(), ID_frmAdd_txtDesc);
         GoToAddress(dialog);
         EXPECT_EQ(dialog.Selection(ID_frmAdd_txtURL), on_arrival);
-        dialog.Cancel();
-        dialog.WaitForClose();
+        Leave(dialog);
     }
 }
 

@@ -23,6 +23,7 @@ TEST_F(frmEditKatsTest, ShowsTheTwelveNames) {
     const DialogOnScreen dialog = Open();
     for (int k = 1; k <= 12; ++k)
         EXPECT_EQ(dialog.Text(Field(k)), k == 7 ? L"H&írek" : L"Project" + std::to_wstring(k));
+    Leave(dialog);
 }
 
 TEST_F(frmEditKatsTest, OkWithoutAChangeModifiesTheBook) {

@@ -38,6 +38,7 @@ TEST_F(frmEditRecTest, ShowsTheSelectedEntryAndTheShownCategory) {
     EXPECT_EQ(dialog.Text(ID_frmEditRec_txtURL), L"http://b.hu");
     EXPECT_EQ(dialog.ComboItems(ID_frmEditRec_cmbKateg), EmptyState().Tabs);
     EXPECT_EQ(dialog.Picked(ID_frmEditRec_cmbKateg), 0);
+    Leave(dialog);
 }
 
 TEST_F(frmEditRecTest, AnEmptyListAndNoSelectedRowOpenNothing) {

@@ -36,6 +36,7 @@ TEST_F(frmMoveTest, ShowsTheCategoriesWithTheShownOneChosen) {
     const DialogOnScreen dialog = Open();
     EXPECT_EQ(dialog.ComboItems(ID_frmMove_cmbKateg), EmptyState().Tabs);
     EXPECT_EQ(dialog.Picked(ID_frmMove_cmbKateg), 3);
+    Leave(dialog);
 }
 
 TEST_F(frmMoveTest, CheckedRowsGoToTheEndInTheirOrder) {

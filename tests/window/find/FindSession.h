@@ -76,7 +76,13 @@ class FindSession : public ::testing::Test {
   protected:
     FindDialog Open() const {
         program.Choose(ID_mnuFind);
-        return {program, program.Dialog(L"Keresés")};
+        const FindDialog dialog{program, program.Dialog(L"Keresés")};
+        opened_ = dialog.Handle();
+        return dialog;
+    }
+    // Closes the dialog if the test has not done so.
+    void TearDown() override {
+        if (IsWindow(opened_)) FindDialog(program, DialogOnScreen(opened_)).Close();
     }
     // The dialog over a book of one category, all of it found.
     FindDialog FindAll(const std::vector<Row>& rows) const {
@@ -108,6 +114,9 @@ class FindSession : public ::testing::Test {
     }
 
     Program program;
+
+  private:
+    mutable HWND opened_ = nullptr;
 };
 
 }  // namespace lindrel::testing
