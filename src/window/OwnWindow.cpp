@@ -12,6 +12,7 @@ void OwnWindow::Create(WNDCLASSEXW description, DWORD style, DWORD extended_styl
     description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     // Fails if the class is registered already, from the same description.
     static_cast<void>(RegisterClassExW(&description));
+    SetLastError(ERROR_SUCCESS);  // not to report the failure of the registration below
     const HWND window = CreateWindowExW(extended_style, description.lpszClassName, nullptr, style,
                                         CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, parent,
                                         nullptr, description.hInstance, this);

@@ -7,8 +7,7 @@
 
 #include "resources/resource.h"
 #include "tests/support/Times.h"
-#include "tests/window/support/Program.h"
-#include "tests/window/support/ReplacedImport.h"
+#include "tests/window/support/OtherScreen.h"
 #include "tests/window/support/SystemObjects.h"
 
 namespace lindrel::testing {
@@ -30,12 +29,6 @@ std::function<void(int)> Repeating(const std::function<void()>& once) {
     return [once](int times) {
         for (int time = 0; time < times; ++time) once();
     };
-}
-
-// The resolution of the screen that every window is on.
-UINT dpi_of_screen = 96;
-UINT WINAPI DpiOfScreen(HWND) {
-    return dpi_of_screen;
 }
 
 int dialogs_left = 0;
@@ -155,21 +148,16 @@ TEST_F(LeaksTest, ALargeCategoryIsFilledAgainAndAgain) {
 }
 
 TEST_F(LeaksTest, ChangesOfTheResolutionLeaveNothing) {
-    const ReplacedImport other_screen(&GetDpiForWindow, &DpiOfScreen);
+    const OtherScreen screen(program);
     const auto font_height = [this] {
         return DialogOnScreen(program.Main()).Font(ID_frmStart_txtURL).lfHeight;
     };
     const LONG height = font_height();
     ExpectNothingLeft(Repeating([&] {
-                          for (const UINT dpi : {192u, 96u})
-                              program.OnUi([&](frmStart& form) {
-                                  dpi_of_screen = dpi;
-                                  RECT bounds{0, 0, 900, 600};
-                                  SendMessageW(form.Handle(), WM_DPICHANGED, MAKEWPARAM(dpi, dpi),
-                                               reinterpret_cast<LPARAM>(&bounds));
-                                  EXPECT_EQ(font_height(), dpi == 96 ? height : 2 * height);
-                              });
-                          program.Settle();
+                          screen.Move(192);
+                          EXPECT_EQ(font_height(), 2 * height);
+                          screen.Move(96);
+                          EXPECT_EQ(font_height(), height);
                       }),
                       20);
 }

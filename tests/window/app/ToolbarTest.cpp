@@ -2,26 +2,18 @@
 
 #include <gtest/gtest.h>
 
-#include <optional>
 #include <set>
 
 #include "resources/resource.h"
 #include "tests/window/support/Drawn.h"
-#include "tests/window/support/Program.h"
+#include "tests/window/support/OtherScreen.h"
 #include "tests/window/support/RealInput.h"
-#include "tests/window/support/ReplacedImport.h"
 
 namespace lindrel::testing {
 namespace {
 
 const std::vector<std::wstring> kNames{L"Új fájl", L"Megnyit", L"Mentés",   L"Hozzáad", L"Export",
                                        L"Módosít", L"Keresés", L"Áthelyez", L"Töröl",   L"ki/bejelöl"};
-
-// The resolution of the screen that every window is on, for as long as the import is replaced.
-UINT screen_dpi = 0;
-UINT WINAPI DpiOfScreen(HWND) {
-    return screen_dpi;
-}
 
 class ToolbarTest : public ::testing::Test {
   protected:
@@ -229,30 +221,19 @@ TEST_F(ToolbarTest, TheTwoPictureButtonsShowDifferentPicturesAndKeepTheirNames) 
 
 TEST_F(ToolbarTest, ANewResolutionScalesThePicturesAndKeepsButtonsAndNames) {
     const MainState before = TwoEntries();
-    const auto move_to_screen = [this](UINT dpi) {
-        program.OnUi([dpi](frmStart& form) {
-            screen_dpi = dpi;
-            const RECT proposed{0, 0, 1200, 900};
-            SendMessageW(form.Handle(), WM_DPICHANGED, MAKEWPARAM(dpi, dpi),
-                         reinterpret_cast<LPARAM>(&proposed));
-        });
-        program.Settle();
-    };
-    std::optional<ReplacedImport> screen;
-    program.OnUi([&](frmStart&) { screen.emplace(&GetDpiForWindow, &DpiOfScreen); });
-    move_to_screen(144);
+    const OtherScreen screen(program);
+    screen.Move(144);
     ExpectButtons(36, 43, 42);
     EXPECT_EQ(program.State(), before);
     Press(10);
     program.Settle();
     EXPECT_EQ(program.State().Checked, (std::vector<int>{1, 2}));
-    move_to_screen(168);
+    screen.Move(168);
     ExpectButtons(42, 49, 48);
-    move_to_screen(96);
+    screen.Move(96);
     ExpectButtons(24, 31, 30);
     SendMessageW(program.Main(), WM_SETTINGCHANGE, 0, 0);
     ExpectButtons(24, 31, 30);
-    program.OnUi([&](frmStart&) { screen.reset(); });
 }
 
 }  // namespace
