@@ -61,7 +61,8 @@ DWORD WINAPI Reason() {
     return reason;
 }
 
-const auto find_function = &GetProcAddress;
+// Set at run time: as a constant, it would be read from the replaced import.
+decltype(&GetProcAddress) find_function = nullptr;
 
 FARPROC WINAPI FindFunction(HMODULE module, LPCSTR name) {
     if (std::strcmp(name, "GetOpenFileNameW") == 0)
@@ -119,7 +120,7 @@ class FileDialogTest : public ::testing::Test {
                   BoxIcon::Error);
     }
 
-    ReplacedImport functions{&GetProcAddress, &FindFunction};
+    ReplacedImport functions{find_function = &GetProcAddress, &FindFunction};
     Program program;
 };
 
