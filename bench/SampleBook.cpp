@@ -9,23 +9,13 @@
 #include <vector>
 
 #include "book/BookFile.h"
+#include "tests/native/support/AnyText.h"
 
 namespace lindrel::bench {
 
 namespace {
 
-// The same numbers everywhere, unlike those of the standard library's distributions.
-class Dice {
-  public:
-    std::size_t Roll(std::size_t sides) {
-        state_ = state_ * 6364136223846793005u + 1442695040888963407u;
-        return static_cast<std::size_t>(state_ >> 33) % sides;
-    }
-
-  private:
-    unsigned long long state_ = 32767;
-};
-
+using testing::Dice;
 using Words = std::vector<std::string>;
 
 Words WordsOf(const char* text) {
@@ -70,7 +60,7 @@ int EntriesOf(int category, int categories) {
 }
 
 Book MakeLargestBook(int categories) {
-    Dice dice;
+    Dice dice(32767);
     Book book;
     int number = 0;
     for (int category = 1; category <= categories; ++category) {

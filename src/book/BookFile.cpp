@@ -1,8 +1,10 @@
 #include "book/BookFile.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstddef>
+#include <optional>
 #include <string_view>
 
 #include "book/BookHeaders.h"
@@ -12,30 +14,31 @@ namespace lindrel {
 
 namespace {
 
-// Of a file: twelve headers and two for each entry.
-constexpr std::size_t kMostLines = kCategories + 2 * kMostEntries;
+// Goes through the lines of a text. They end in LF or CR LF; the last line may lack its end.
+class LineReader {
+  public:
+    explicit LineReader(std::string_view text) : rest_(text) {}
 
-// The lines of a text. They end in LF or CR LF; the last line may lack its end.
-std::vector<std::string_view> LinesOf(std::string_view text) {
-    std::vector<std::string_view> lines;
-    lines.reserve(std::min(kMostLines, text.size()));  // memory costs nothing until it is used
-    while (!text.empty()) {
-        if (lines.size() == kMostLines)
-            throw MalformedBook(
-                L"A fájl több címet tartalmaz, mint amennyi egy könyvben elfér (32\u00A0767).", 0);
-        const std::size_t end = text.find('\n');
-        std::string_view line = text.substr(0, end);
-        text.remove_prefix(std::min(line.size() + 1, text.size()));
+    bool Next(std::string_view& line) {
+        if (rest_.empty()) return false;
+        const std::size_t end = rest_.find('\n');
+        line = rest_.substr(0, end);
+        rest_.remove_prefix(std::min(line.size() + 1, rest_.size()));
         if (end != std::string_view::npos && line.ends_with('\r')) line.remove_suffix(1);
-        lines.push_back(line);
+        return true;
     }
-    return lines;
-}
+
+  private:
+    std::string_view rest_;
+};
 
 // Entries in a file of that many lines: half of what the twelve headers leave, rounded half to even.
-std::size_t EstimatedEntries(std::size_t lines) {
-    const long estimate = std::lrint((static_cast<double>(lines) - kCategories) / 2);
+std::size_t EstimatedEntries(long long lines) {
+    const long long estimate = std::llrint(static_cast<double>(lines - kCategories) / 2);
     if (estimate < 0) throw MalformedBook(L"A fájl túl rövid: tizenkét kategória sem fér bele.", 0);
+    if (estimate > kMostEntries)
+        throw MalformedBook(L"A fájl több címet tartalmaz, mint amennyi egy könyvben elfér (32\u00A0767).",
+                            0);
     return static_cast<std::size_t>(estimate);
 }
 
@@ -45,8 +48,13 @@ std::size_t EstimatedEntries(std::size_t lines) {
 class BookReader {
   public:
     // Takes names and counts from the open book for categories that the file may not reach.
-    BookReader(const Book& open, std::vector<char> bytes)
-        : lines_(LinesOf({bytes.data(), bytes.size()})), estimate_(EstimatedEntries(lines_.size())) {
+    BookReader(const Book& open, std::vector<char> bytes) : text_(bytes.data(), bytes.size()) {
+        long long lines = 0;
+        ForEachLine([&](std::string_view line) {
+            ++lines;
+            if (HasHeaderPrefix(line)) ++with_prefix_;
+        });
+        estimate_ = EstimatedEntries(lines);
         Book& book = read_.TheBook;
         book.names_ = open.names_;
         book.counts_ = open.counts_;
@@ -60,8 +68,8 @@ class BookReader {
     }
 
     BookFromFile Read() {
-        FindHeaders();
-        TakeLines();
+        if (with_prefix_ > kCategories) ChooseTwelveHeaders();
+        ForEachLine([this](std::string_view line) { TakeLine(line); });
         Book& book = read_.TheBook;
         book.counts_(kCategories) = count_;
         book.RecomputeStarts();
@@ -73,43 +81,54 @@ class BookReader {
     }
 
   private:
-    void FindHeaders() {
-        for (std::size_t line = 0; line < lines_.size(); ++line)
-            if (HasHeaderPrefix(lines_[line])) headers_.push_back(line);
-        if (headers_.size() <= kCategories) return;
-        const ChosenHeaders chosen = ChooseHeaders(lines_);
-        if (chosen.Choice != HeaderChoice::One) RefuseHeaders(chosen.Choice);
-        if (!chosen.Doubtful.empty()) {
-            const std::size_t first = chosen.Doubtful.front();
-            read_.Doubtful = {static_cast<int>(chosen.Doubtful.size()), std::string(lines_[first]),
-                              static_cast<long long>(first) + 1};
-        }
-        headers_.assign(chosen.Lines.begin(), chosen.Lines.end());
+    // A list of all lines would take longer to allocate than going through the text again.
+    template <typename Visitor>
+    void ForEachLine(Visitor visit) const {
+        LineReader lines(text_);
+        for (std::string_view line; lines.Next(line);) visit(line);
     }
 
-    [[noreturn]] void RefuseHeaders(HeaderChoice choice) const {
+    void ChooseTwelveHeaders() {
+        std::vector<std::string_view> lines;
+        ForEachLine([&](std::string_view line) { lines.push_back(line); });
+        const ChosenHeaders chosen = ChooseHeaders(lines);
+        if (chosen.Choice != HeaderChoice::One) RefuseHeaders(chosen.Choice, lines);
+        if (!chosen.Doubtful.empty()) {
+            const std::size_t first = chosen.Doubtful.front();
+            read_.Doubtful = {static_cast<int>(chosen.Doubtful.size()), std::string(lines[first]),
+                              static_cast<long long>(first) + 1};
+        }
+        headers_ = chosen.Lines;
+    }
+
+    [[noreturn]] static void RefuseHeaders(HeaderChoice choice, const std::vector<std::string_view>& lines) {
         std::wstring message = L"A fájlban tizenkettőnél több „#” jellel kezdődő sor van, ";
         message += choice == HeaderChoice::Several
                        ? L"és többféleképpen is lehet közülük tizenkét kategóriát választani."
                        : L"de nem lehet közülük úgy tizenkét kategóriát választani, hogy köztük csak teljes "
                          L"(név, cím) párok maradjanak.";
-        throw MalformedBook(std::move(message), static_cast<long long>(headers_[kCategories]) + 1);
+        int count = 0;
+        const auto thirteenth = std::find_if(lines.begin(), lines.end(), [&count](std::string_view line) {
+            return HasHeaderPrefix(line) && ++count > kCategories;
+        });
+        throw MalformedBook(std::move(message), thirteenth - lines.begin() + 1);
     }
 
-    void TakeLines() {
-        auto header = headers_.begin();
-        for (std::size_t line = 0; line < lines_.size(); ++line) {
-            if (header != headers_.end() && line == *header) {
-                TakeHeader(lines_[line].substr(1));
-                ++header;
-            } else if (expecting_name_) {
-                TakeName(line);
-            } else {
-                read_.TheBook.entries_[entries_ - 1].URL = lines_[line];
-                // Even after a header in between: books that were edited by hand have always been read this
-                // way.
-                expecting_name_ = true;
-            }
+    bool IsHeader(std::string_view line) const {
+        if (!HasHeaderPrefix(line)) return false;
+        return !headers_ || std::binary_search(headers_->begin(), headers_->end(), line_ - 1);
+    }
+
+    void TakeLine(std::string_view line) {
+        ++line_;
+        if (IsHeader(line)) {
+            TakeHeader(line.substr(1));
+        } else if (expecting_name_) {
+            TakeName(line);
+        } else {
+            read_.TheBook.entries_[entries_ - 1].URL = line;
+            // Even after a header in between: books that were edited by hand have always been read this way.
+            expecting_name_ = true;
         }
     }
 
@@ -119,19 +138,22 @@ class BookReader {
         count_ = 0;
     }
 
-    void TakeName(std::size_t line) {
+    void TakeName(std::string_view line) {
         if (entries_ == estimate_)
             throw MalformedBook(L"A fájlban több cím van, mint amennyi a sorok számából következik.",
-                                static_cast<long long>(line) + 1);
-        read_.TheBook.entries_[entries_++].SiteName = lines_[line];
+                                static_cast<long long>(line_));
+        read_.TheBook.entries_[entries_++].SiteName = line;
         ++count_;
         expecting_name_ = false;
     }
 
     BookFromFile read_;
-    std::vector<std::string_view> lines_;
-    std::vector<std::size_t> headers_;  // 0-based lines, ascending
-    std::size_t estimate_;
+    std::string_view text_;
+    int with_prefix_ = 0;  // lines that start with "#"
+    // 0-based lines, ascending; not set if every line with the prefix is a header.
+    std::optional<std::array<std::size_t, kCategories>> headers_;
+    std::size_t line_ = 0;  // 1-based
+    std::size_t estimate_ = 0;
     std::size_t entries_ = 0;  // so far
     std::int16_t count_ = 0;   // of them after the last header
     int category_ = 0;         // of the last header; 0 before the first

@@ -8,7 +8,7 @@
 namespace lindrel {
 
 // Prints values when a comparison fails.
-static void PrintTo(const Bounds& bounds, std::ostream* out) {
+void PrintTo(const Bounds& bounds, std::ostream* out) {
     *out << "{left " << bounds.Left << ", top " << bounds.Top << ", " << bounds.Width << " x "
          << bounds.Height << "}";
 }

@@ -11,6 +11,7 @@ namespace lindrel::testing {
 // The same numbers everywhere, unlike those of the standard library's distributions.
 class Dice {
   public:
+    explicit Dice(std::uint64_t seed = 1250) : state_(seed) {}
     // 0..sides - 1
     std::size_t Roll(std::size_t sides) {
         state_ = state_ * 6364136223846793005u + 1442695040888963407u;
@@ -18,7 +19,7 @@ class Dice {
     }
 
   private:
-    std::uint64_t state_ = 1250;
+    std::uint64_t state_;
 };
 
 // A character of any length in UTF-8 except U+FEFF, the BOM; often ASCII or a Hungarian letter.

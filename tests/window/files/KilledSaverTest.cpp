@@ -16,11 +16,12 @@
 namespace lindrel::testing {
 namespace {
 
-// A book file with all entries in the first category.
+// A book file with all entries in the first category; so long that a kill can come while it is written.
 std::string BookWith(int entries, const std::string& name) {
+    const std::string rest(500, name.front());
     std::string bytes = "#1\r\n";
     for (int i = 0; i < entries; ++i)
-        bytes += name + std::to_string(i) + "\r\nhttp://www." + name + ".hu/\r\n";
+        bytes += name + std::to_string(i) + "\r\nhttp://www." + name + ".hu/" + rest + "\r\n";
     for (int k = 2; k <= 12; ++k) bytes += "#" + std::to_string(k) + "\r\n";
     return bytes;
 }
@@ -67,7 +68,7 @@ TEST(KilledSaverTest, ThereIsAWholeBookAndNothingElseAfterTheNextSave) {
         given == nullptr ? std::random_device{}() : static_cast<unsigned>(std::strtoul(given, nullptr, 10));
     std::cout << "LINDREL_SEED=" << seed << std::endl;
     std::mt19937 random(seed);
-    std::uniform_int_distribution<int> microseconds(0, 20000);
+    std::uniform_int_distribution<int> microseconds(0, 100000);
 
     const std::string first = BookWith(3000, "egy");
     const std::string second = BookWith(20000, "k\xE9t");

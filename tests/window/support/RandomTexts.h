@@ -3,9 +3,11 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <random>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace lindrel::testing {
 
@@ -16,9 +18,9 @@ class RandomTexts {
     // 0..sides - 1.
     int Roll(int sides) { return static_cast<int>(dice_() % static_cast<std::uint32_t>(sides)); }
     bool OneIn(int times) { return Roll(times) == 0; }
-    template <typename T, std::size_t Count>
-    const T& OneOf(const T (&choices)[Count]) {
-        return choices[Roll(static_cast<int>(Count))];
+    template <typename Choices>
+    const auto& OneOf(const Choices& choices) {
+        return std::data(choices)[Roll(static_cast<int>(std::size(choices)))];
     }
 
     // A name that the dialogs take: with a letter, so that it is not blank, and without the prefix of a
@@ -26,18 +28,11 @@ class RandomTexts {
     std::wstring Name() { return WithoutPrefix(Words(OneIn(60) ? 120 : 3) + (OneIn(2) ? L"n" : L"Ű")); }
     // An address with the prefix of a header could make opening the book ask something.
     std::wstring Address() {
-        static constexpr std::wstring_view kHosts[] = {L"http://www.hu.com",
-                                                       L"http://wwwhu",
-                                                       L"HTTP://WWW.hírek.HU",
-                                                       L"https://a.hu",
-                                                       L"ftp://x.gov/hu",
-                                                       L"mailto:ki@lap.hu",
-                                                       L"lap.hu",
-                                                       L"c:\\könyv.txt",
-                                                       L"http://",
-                                                       L"http://a.hu/ő?x=1&y=\"2\"#hely"};
+        static const std::vector<std::wstring> hosts = SplitAtBlanks(
+            L"http://www.hu.com http://wwwhu HTTP://WWW.hírek.HU https://a.hu ftp://x.gov/hu "
+            L"mailto:ki@lap.hu lap.hu c:\\könyv.txt http:// http://a.hu/ő?x=1&y=\"2\"#hely");
         const std::wstring before = OneIn(4) ? Words(2) : L"";
-        const std::wstring host(OneOf(kHosts));
+        const std::wstring host = OneOf(hosts);
         return WithoutPrefix(before + host + (OneIn(4) ? Words(OneIn(30) ? 120 : 2) : L""));
     }
     std::wstring CategoryName() { return Words(2); }
@@ -52,6 +47,15 @@ class RandomTexts {
     }
 
   private:
+    static std::vector<std::wstring> SplitAtBlanks(std::wstring_view text) {
+        std::vector<std::wstring> words(1);
+        for (const wchar_t c : text)
+            if (c == L' ')
+                words.emplace_back();
+            else
+                words.back() += c;
+        return words;
+    }
     static std::wstring Spaces(int count) { return std::wstring(static_cast<std::size_t>(count), L' '); }
     static std::wstring WithoutPrefix(const std::wstring& text) {
         return text.starts_with(L'#') ? L"n" + text : text;
@@ -67,43 +71,11 @@ class RandomTexts {
         return words;
     }
     std::wstring Word() {
-        static constexpr std::wstring_view kWords[] = {L"árvíztűrő",
-                                                       L"tükörfúrógép",
-                                                       L"ŐSZ",
-                                                       L"Űrhajó",
-                                                       L"Bolt & társa",
-                                                       L"&",
-                                                       L"&&",
-                                                       L"#",
-                                                       L"#1",
-                                                       L"\"idézet\"",
-                                                       L"„így”",
-                                                       L"'",
-                                                       L"a",
-                                                       L"x",
-                                                       L"hír",
-                                                       L"Hírek",
-                                                       L"HÍR",
-                                                       L"időjárás",
-                                                       L"Č",
-                                                       L"ß",
-                                                       L"€",
-                                                       L"…",
-                                                       L"–",
-                                                       L"<b>",
-                                                       L"100%",
-                                                       L"\\",
-                                                       L"/",
-                                                       L"|",
-                                                       L",",
-                                                       L"()",
-                                                       L"\xA0",
-                                                       L"www",
-                                                       L"http://",
-                                                       L"łódź",
-                                                       L"%s"};
+        static const std::vector<std::wstring> words = SplitAtBlanks(
+            L"árvíztűrő tükörfúrógép ŐSZ Űrhajó társa & && # #1 \"idézet\" „így” ' a x hír Hírek HÍR "
+            L"időjárás Č ß € … – <b> 100% \\ / | , () \xA0 www http:// łódź %s");
         if (OneIn(40)) return std::wstring(static_cast<std::size_t>(Roll(400)), OneIn(2) ? L'ő' : L'&');
-        return std::wstring(OneOf(kWords));
+        return OneOf(words);
     }
 
     std::mt19937 dice_;
