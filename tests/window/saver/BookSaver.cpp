@@ -6,7 +6,6 @@
 #include <shellapi.h>
 
 #include "book/BookFile.h"
-#include "faults/Faults.h"
 #include "files/Files.h"
 
 namespace {
@@ -22,11 +21,6 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
     wchar_t** const words = CommandLineToArgvW(GetCommandLineW(), &count);
     if (words == nullptr || count != 4) return 1;
     const lindrel::Book books[] = {BookIn(words[2]), BookIn(words[3])};
-    for (int next = 0;; next = 1 - next) {
-        try {
-            lindrel::ReplaceFileBytes(words[1], SaveBook(books[next]));
-        } catch (const lindrel::FileFault&) {
-            // On a busy machine, Wine may take seconds to close the files of the saver that was killed last.
-        }
-    }
+    for (;;)
+        for (const lindrel::Book& book : books) lindrel::ReplaceFileBytes(words[1], SaveBook(book));
 }
