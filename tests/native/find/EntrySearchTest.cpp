@@ -3,14 +3,18 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <set>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
 #include "book/Book.h"
+#include "book/CheckMarks.h"
 #include "book/PerCategory.h"
 #include "faults/Faults.h"
+#include "find/CheckedHits.h"
+#include "find/WebServices.h"
 #include "tests/native/support/BookFromText.h"
 #include "text/BookText.h"
 
@@ -211,6 +215,68 @@ TEST(EntrySearchTest, TheLastEntryOfTheLargestBookIsFound) {
     book.AddEntry(1, entries);
     EXPECT_EQ(Found(book, L"űr", L"hu"), Indices{kMostEntries});
     EXPECT_EQ(Steps(book, L"űr", 1, 2), (Indices{kMostEntries, 0}));
+}
+
+class CheckedHitsTest : public ::testing::Test {
+  protected:
+    // Indices 1 to 9, some of them checked.
+    CheckedHitsTest() {
+        for (const int category : {2, 5, 12}) book.AddEntry(category, {{"a", "u"}, {"b", "u"}, {"c", "u"}});
+        book.Marks.Save(1, {4, 5});
+        book.Marks.Save(5, {1, 2, 3});
+        book.Marks.SetCheckedCount(3);
+    }
+    Book book;
+    CheckMarks expected;
+};
+
+TEST_F(CheckedHitsTest, ChecksExactlyTheEntriesInTheirCategories) {
+    CheckOnly(book, {1, 3, 5}, 2);
+    expected.Save(2, {1, 3});
+    expected.Save(5, {2});
+    expected.SetCheckedCount(2);
+    EXPECT_EQ(book.Marks, expected);
+}
+
+TEST_F(CheckedHitsTest, TheShownCategoryMayHaveNoneOfThem) {
+    CheckOnly(book, {9}, 5);
+    expected.Save(12, {3});
+    EXPECT_EQ(book.Marks, expected);
+}
+
+TEST_F(CheckedHitsTest, NoneClearsEveryCheckMark) {
+    CheckOnly(book, {}, 2);
+    EXPECT_EQ(book.Marks, expected);
+}
+
+TEST_F(CheckedHitsTest, ABadCategoryIsAFaultThatChangesNothing) {
+    expected = book.Marks;
+    EXPECT_THROW(CheckOnly(book, {1}, 13), RangeFault);
+    EXPECT_EQ(book.Marks, expected);
+}
+
+TEST(WebServicesTest, SixChoicesTheFirstEmpty) {
+    std::vector<std::wstring_view> names;
+    for (const WebService& service : kWebServices) names.push_back(service.Name);
+    EXPECT_EQ(names, (std::vector<std::wstring_view>{L"", L"AltaVista", L"Lycos", L"Excite", L"Yahoo",
+                                                     L"Altavizsla - hu!"}));
+}
+
+TEST(WebServicesTest, TheTextFollowsThePrefixAsTyped) {
+    EXPECT_EQ(ServiceAddress(3, L"két szó"),
+              L"http://search.excite.com/search.gw?searchType=Concept&search=két szó");
+    EXPECT_EQ(ServiceAddress(4, L"ŰR & 100% +?#"), L"https://search.yahoo.com/search?p=ŰR & 100% +?#");
+}
+
+TEST(WebServicesTest, EveryServiceHasAWebAddressOfItsOwn) {
+    std::set<std::wstring> prefixes;
+    for (int service = 1; service <= 5; ++service) {
+        const std::wstring prefix = ServiceAddress(service, L"");
+        EXPECT_TRUE(prefix.starts_with(service == 3 ? L"http://" : L"https://")) << service;
+        EXPECT_TRUE(prefix.ends_with(L'=')) << service;
+        EXPECT_TRUE(prefixes.insert(prefix).second) << service;
+    }
+    for (const int service : {-1, 0, 6}) EXPECT_THROW(ServiceAddress(service, L"x"), RangeFault);
 }
 
 }  // namespace

@@ -7,7 +7,6 @@
 #include "files/Files.h"
 #include "files/Folder.h"
 #include "tests/window/export/ExportSession.h"
-#include "tests/window/support/DeepFolder.h"
 #include "tests/window/support/Expectations.h"
 #include "tests/window/support/FavoritesFolder.h"
 

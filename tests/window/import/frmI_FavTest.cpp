@@ -9,7 +9,6 @@
 #include "files/Files.h"
 #include "import/Shortcuts.h"
 #include "tests/window/import/ImportSession.h"
-#include "tests/window/support/DeepFolder.h"
 #include "tests/window/support/Expectations.h"
 #include "tests/window/support/FavoritesFolder.h"
 
