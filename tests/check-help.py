@@ -200,7 +200,7 @@ def texts_of(sources):
     """Every text that the program can show, one a line; pieces of one literal are joined."""
     code = "\n".join(
         path.read_text(encoding="utf-8")
-        for path in sorted((sources / "src").glob("*/*.cpp")) + sorted((sources / "src").glob("*/*.rc")))
+        for path in sorted((sources / "src").glob("*/*.*")) if path.suffix in (".cpp", ".h", ".rc"))
     literals = re.findall(r'"(?:[^"\\\n]|\\.)*"(?:\s*L?"(?:[^"\\\n]|\\.)*")*', code)
     return "\n".join(re.sub(r'"\s*L?"', "", literal)[1:-1] for literal in literals)
 
