@@ -42,6 +42,7 @@ void DeleteRuns(Book& book, int category, const std::vector<RowRun>& runs) {
 void MoveRuns(Book& book, int source, const std::vector<RowRun>& runs, int destination) {
     const std::vector<int> indices = IndicesOf(book, source, runs);
     std::vector<NewEntry> moved;
+    moved.reserve(indices.size());
     for (const int index : indices)
         moved.push_back({std::string(book.SiteNames(index)), std::string(book.SiteURLs(index))});
     // On a copy, so that the book is unchanged if it cannot take the entries.

@@ -35,8 +35,8 @@ std::string Head(const PageStyle& style, const Fragments& parts) {
     if (!style.ThemeApplied) head += "<BASEFONT FACE=\"Arial,Helvetica\">\r\n";
     head += "</HEAD><BODY ";
     if (!style.ThemeApplied)
-        head += "BGCOLOR=" + style.Background +
-                " link=\"#725E50\" vlink=\"#990000\" alink=\"#ff0000\" text=" + style.Text;
+        head += "BGCOLOR=" + style.Background + R"( link="#725E50" vlink="#990000" alink="#ff0000" text=)" +
+                style.Text;
     return head + "><BR><BR>\r\n";
 }
 
