@@ -1,5 +1,7 @@
 #include "app/FileMenu.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "app/BookFileBoxes.h"
@@ -30,20 +32,19 @@ FileDialogOptions BookFileOptions(const wchar_t* title) {
 }  // namespace
 
 bool FileMenu::OnCommand(int id) {
-    static constexpr struct {
+    struct Command {
         int Id;
         void (FileMenu::*Handler)();
-    } kCommands[] = {
+    };
+    static constexpr Command kCommands[] = {
         {ID_mnuNew, &FileMenu::mnuNew_Click},       {ID_mnuOpen, &FileMenu::mnuOpen_Click},
         {ID_mnuClose, &FileMenu::mnuClose_Click},   {ID_mnuSave, &FileMenu::mnuSave_Click},
         {ID_mnuSaveAs, &FileMenu::mnuSaveAs_Click}, {ID_mnuExit, &FileMenu::mnuExit_Click},
     };
-    for (const auto& [command, handler] : kCommands) {
-        if (command != id) continue;
-        (this->*handler)();
-        return true;
-    }
-    return false;
+    const auto* const command = std::ranges::find(kCommands, id, &Command::Id);
+    if (command == std::end(kCommands)) return false;
+    (this->*command->Handler)();
+    return true;
 }
 
 void FileMenu::ResetBook() {

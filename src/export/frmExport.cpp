@@ -167,7 +167,7 @@ bool frmExport::ExportToFile(Kind kind) {
 // Nothing if the user cancels the dialog or does not want to overwrite the file.
 std::optional<std::wstring> frmExport::ChooseFile(Kind kind) const {
     const bool text = kind == TextFile;
-    const std::optional<std::wstring> path = ChooseFileToSave(
+    std::optional<std::wstring> path = ChooseFileToSave(
         Handle(), {.Title = L"Exportálás",
                    .Filter = text ? L"szövegfájlok (*.txt)|*.txt" : L"weblapok (*.htm)|*.htm",
                    .DefaultExt = text ? L"txt" : L"htm"});
