@@ -76,8 +76,8 @@ struct FreeItem {
 using ClipboardItem = std::unique_ptr<void, FreeItem>;
 
 void Put(ClipboardItem item) {
-    // Windows owns what it takes.
-    if (SetClipboardData(item.get_deleter().Format, item.get()) != nullptr) item.release();
+    if (SetClipboardData(item.get_deleter().Format, item.get()) == nullptr) return;
+    static_cast<void>(item.release());  // Windows owns it now
 }
 
 // A null item if there is no memory.

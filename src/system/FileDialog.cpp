@@ -54,16 +54,16 @@ std::optional<std::wstring> ChooseFile(HWND owner, const FileDialogOptions& opti
     DWORD reason = 0;
     if (Show(save, dialog, reason)) return path.data();
     if (reason == 0) return std::nullopt;
-    const SystemFault fault(L"a fájlválasztó ablak megnyitása", reason);
-    MsgBox(owner, fault.Meaning() + L"\r\nHibakód: " + std::to_wstring(reason), MB_OK | MB_ICONERROR,
-           kErrorTitle);
-    throw fault;
+    constexpr wchar_t kAskedFor[] = L"a fájlválasztó ablak megnyitása";
+    MsgBox(owner, SystemFault(kAskedFor, reason).Meaning() + L"\r\nHibakód: " + std::to_wstring(reason),
+           MB_OK | MB_ICONERROR, kErrorTitle);
+    throw SystemFault(kAskedFor, reason);
 }
 
 }  // namespace
 
 std::optional<std::wstring> ChooseExistingFile(HWND owner, FileDialogOptions options) {
-    while (const std::optional<std::wstring> path = ChooseFileToOpen(owner, options)) {
+    while (std::optional<std::wstring> path = ChooseFileToOpen(owner, options)) {
         if (FileExists(owner, *path)) return path;
         options.FileName = *path;
     }

@@ -89,8 +89,8 @@ std::wstring ComboBox::Item(int index) const {
 void ComboBox::WidenList() const {
     int widest = 0;
     for (int i = 0; i < Count(); ++i) widest = std::max(widest, WidthOf(Item(i)));
-    const int edges = GetSystemMetrics(SM_CXVSCROLL) + 4 * GetSystemMetrics(SM_CXEDGE);
-    Send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(widest + edges));
+    const int width = widest + GetSystemMetrics(SM_CXVSCROLL) + 4 * GetSystemMetrics(SM_CXEDGE);
+    Send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(width));
 }
 
 void TabStrip::Add(std::wstring_view caption) const {
