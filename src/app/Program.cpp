@@ -6,6 +6,7 @@
 
 #include "app/frmStart.h"
 #include "faults/Faults.h"
+#include "faults/LastError.h"
 #include "faults/PendingFault.h"
 #include "system/MsgBox.h"
 
@@ -26,7 +27,7 @@ struct ComApartment {
 int RunMessageLoop(frmStart& form) {
     MSG message{};
     while (const BOOL got = GetMessageW(&message, nullptr, 0, 0)) {
-        if (got == -1) throw SystemFault(L"üzenet fogadása", GetLastError());
+        if (got == -1) ThrowLastError(L"üzenet fogadása");
         if (!form.PreTranslate(message)) {
             TranslateMessage(&message);
             DispatchMessageW(&message);

@@ -1,6 +1,6 @@
 #include "app/frmStart.h"
 
-#include "faults/Faults.h"
+#include "faults/LastError.h"
 #include "help/HTMLHelp.h"
 #include "resources/resource.h"
 
@@ -8,7 +8,7 @@ namespace lindrel {
 
 void frmStart::Show(int show) {
     shortcuts_ = LoadAcceleratorsW(instance_, MAKEINTRESOURCEW(IDR_frmStart));
-    if (shortcuts_ == nullptr) throw SystemFault(L"a billentyűparancsok betöltése", GetLastError());
+    if (shortcuts_ == nullptr) ThrowLastError(L"a billentyűparancsok betöltése");
     WNDCLASSEXW description{};
     description.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
     description.lpszMenuName = MAKEINTRESOURCEW(IDR_frmStart);
