@@ -29,13 +29,20 @@ class KilledSaveTest : public ::testing::Test {
   protected:
     static constexpr int kEntries = 20000;
 
-    // Opens the book and deletes its first entry, by the keyboard.
+    // By a message: of the many real keys that this test would press, Wine loses one now and then while other
+    // programs start and end, and its subject is the file.
+    static void Command(const ShippedProgram& program, int id) {
+        ASSERT_TRUE(PostMessageW(program.Main(), WM_COMMAND, static_cast<WPARAM>(id), 0));
+    }
+
+    // Opens the book and deletes its first entry.
     void OpenAndDeleteTheFirst(const ShippedProgram& program, int rows) const {
-        program.OpenBook(book);
+        Command(program, ID_mnuOpen);
+        program.FileDialog().Accept(book);
         WaitUntil("the rows of the book", [&] { return program.RowCount() == rows; });
-        program.Press({VK_DOWN});
+        ASSERT_TRUE(PostMessageW(program.Control(ID_frmStart_ListURLs), WM_KEYDOWN, VK_DOWN, 0));
         WaitUntil("the first row", [&] { return program.SelectedRow() == 1; });
-        program.Press({VK_DELETE});
+        Command(program, ID_mnuDel);
         program.Box().Press(IDOK);
         WaitUntil("the deletion", [&] { return program.RowCount() == rows - 1; });
     }
@@ -58,7 +65,7 @@ TEST_F(KilledSaveTest, ThereIsTheOldBookOrTheNewOneAndNothingElseAfterTheNextSav
         {
             const ShippedProgram program;
             OpenAndDeleteTheFirst(program, kEntries - first + 1);
-            program.Press({'S', {VK_CONTROL}});
+            Command(program, ID_mnuSave);
             const auto end =
                 std::chrono::steady_clock::now() + std::chrono::milliseconds(milliseconds(random));
             while (std::chrono::steady_clock::now() < end) {
@@ -72,7 +79,7 @@ TEST_F(KilledSaveTest, ThereIsTheOldBookOrTheNewOneAndNothingElseAfterTheNextSav
     std::cout << first - 1 << " of " << kills << " kills came after the save\n";
     const ShippedProgram program;
     OpenAndDeleteTheFirst(program, kEntries - first + 1);
-    program.Press({'S', {VK_CONTROL}});
+    Command(program, ID_mnuSave);
     WaitUntil("the box that tells of the save",
               [&] { return program.Title() == L"Lindrel -a.lnd" && !IsWindowEnabled(program.Main()); });
     program.Box().Press(IDOK);
