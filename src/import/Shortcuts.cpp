@@ -23,17 +23,17 @@ bool IsShortcutName(const std::wstring& name) {
            LowerCase(ToBookText(name.substr(name.size() - kExtensionLength))) == ".url";
 }
 
-struct ShortcutFile {
+struct FoundFile {
     std::string Name;  // as book text
     Path FileName;
 };
 
-std::vector<ShortcutFile> FilesOf(const Path& folder) {
-    std::vector<ShortcutFile> files;
+std::vector<FoundFile> FilesOf(const Path& folder) {
+    std::vector<FoundFile> files;
     for (const Path& file : FilesIn(folder))
         if (const std::wstring name = WideText(file); IsShortcutName(name))
             files.push_back({ToBookText(name), file});
-    std::sort(files.begin(), files.end(), [](const ShortcutFile& a, const ShortcutFile& b) {
+    std::sort(files.begin(), files.end(), [](const FoundFile& a, const FoundFile& b) {
         return std::pair(LowerCase(a.Name), a.FileName) < std::pair(LowerCase(b.Name), b.FileName);
     });
     return files;
@@ -58,7 +58,7 @@ std::string ShortcutAddress(std::vector<char> file) {
 std::vector<NewEntry> ShortcutsOfFolder(const Path& folder) {
     std::vector<NewEntry> staged;
     const Path exact = ExactPath(folder);
-    for (const ShortcutFile& file : FilesOf(folder))
+    for (const FoundFile& file : FilesOf(folder))
         NamingTheFile(WideText(Joined(folder, file.FileName)), [&] {
             std::string address = ShortcutAddress(ReadFileBytes(Joined(exact, file.FileName)));
             if (staged.size() == kMostShortcuts) throw OverflowFault();

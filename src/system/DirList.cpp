@@ -96,7 +96,7 @@ HTREEITEM DirList::Add(HTREEITEM parent, const std::wstring& name, HTREEITEM aft
     item.item.iImage = closed_picture_;
     item.item.iSelectedImage = open_picture_;
     const HTREEITEM added = TreeView_InsertItem(Handle(), &item);
-    if (added == nullptr) throw SystemFault(L"mappa megjelenítése", GetLastError());
+    if (added == nullptr) throw SystemFault(L"mappa megjelenítése", 0);
     return added;
 }
 

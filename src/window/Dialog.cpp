@@ -172,10 +172,12 @@ INT_PTR Dialog::OnSystemMessage(UINT message) {
         case WM_SETCURSOR:
             tool_tips_.OnSetCursor(handle_);
             return FALSE;
-        case WM_QUERYENDSESSION:
-            if (HoldsSession()) session_.Hold(handle_, L"Egy párbeszédablak még nyitva van.");
-            SetWindowLongPtrW(handle_, DWLP_MSGRESULT, HoldsSession() ? FALSE : TRUE);
+        case WM_QUERYENDSESSION: {
+            const bool holds = HoldsSession();
+            if (holds) session_.Hold(handle_, L"Egy párbeszédablak még nyitva van.");
+            SetWindowLongPtrW(handle_, DWLP_MSGRESULT, holds ? FALSE : TRUE);
             return TRUE;
+        }
         case WM_ENDSESSION:
             session_.Release();
             return TRUE;

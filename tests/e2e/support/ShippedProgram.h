@@ -143,6 +143,10 @@ class ShippedProgram {
     }
     static void PointAt(HWND window, POINT point) { MoveRealMouse(window, point); }
 
+    // A command of a menu, without opening the menu. Returns at once.
+    void Choose(int menu_id) const {
+        Demand(PostMessageW(main_, WM_COMMAND, MAKEWPARAM(menu_id, 0), 0) != FALSE, "the command of a menu");
+    }
     // Opens a menu of the menu bar by its access key, and waits until it is open.
     void OpenMenu(WORD key) const {
         // Menus follow a pointer that rests on the menu bar, where a click may have left it.
