@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Runs the end-to-end tests on the program of one width under Debian 13's Wine 10, in a root folder below build/wine10:
+# Runs the end-to-end tests on the program of one width, and the tests of what the windows paint, under Debian 13's Wine 10, in
+# a root folder below build/wine10:
 #   tests/wine10.sh x64|x86
 # Needs root, and the builds x64 and x86. The exit code is 77 where this cannot be tried.
 set -eu
@@ -57,7 +58,13 @@ make_root
 if [ "$width" = x86 ]; then
   ends_with_32 run_in_session "$checkout/tests/wine-run.sh" || cannot "32-bit programs cannot be started"
 fi
-echo "== end-to-end tests of $width under $(in_root wine --version)"
+wine_10=$(in_root wine --version)
+if [ "$width" = x64 ]; then # the window tests have this width only
+  echo "== what the windows paint under $wine_10"
+  run_in_session "$checkout/tests/wine-run.sh" "$checkout/build/x64/tests/window/window_tests.exe" --gtest_brief=1 \
+    --gtest_filter='*Painting*:frmFindLayoutTest.*'
+fi
+echo "== end-to-end tests of $width under $wine_10"
 # All but TrayTest, which clicks on an icon in the window that Wine 8 makes for the notification area.
 run_in_session LINDREL_PROGRAM="Z:$checkout/build/$width/lindrel/lindrel.exe" \
   "$checkout/tests/wine-run.sh" "$checkout/build/x64/tests/e2e/e2e_tests.exe" --gtest_brief=1 --gtest_filter=-TrayTest.*

@@ -91,6 +91,8 @@ void BookView::UpdateTabCaptions() const {
 }
 
 void BookView::TabStrip1_Click() {
+    // The control may leave a piece of the tab that was selected.
+    InvalidateRect(TabStrip1.Handle(), nullptr, TRUE);
     SaveCheckMarks(open_.CurrentCategory);
     open_.CurrentCategory = static_cast<std::uint8_t>(TabStrip1.Selected());
     CheckMarks& marks = open_.TheBook.Marks;

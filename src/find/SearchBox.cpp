@@ -4,12 +4,22 @@
 #include "find/WebServices.h"
 #include "system/MsgBox.h"
 #include "system/Shell.h"
+#include "window/Display.h"
 
 namespace lindrel {
 
+namespace {
+
+constexpr int kFrameBorder = 90;  // twips; the controls inside begin at 150
+
+}  // namespace
+
 void SearchBox::Create(HWND window) {
     window_ = window;
-    CreateControl(window, WC_BUTTONW, L"&keresés", BS_GROUPBOX, ID_frmStart_FrameSearch, WS_EX_TRANSPARENT);
+    FrameSearch = CreateControl(window, WC_BUTTONW, L"&keresés", BS_GROUPBOX, ID_frmStart_FrameSearch);
+    frame_messages_.Attach(FrameSearch, [this](UINT message, WPARAM wparam, LPARAM lparam) {
+        return OnFrameMessage(message, wparam, lparam);
+    });
     cmbFinders = ComboBox(CreateControl(window, WC_COMBOBOXW, L"", WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST,
                                         ID_frmStart_cmbFinders));
     for (const WebService& service : kWebServices) cmbFinders.Add(service.Name);
@@ -28,6 +38,33 @@ void SearchBox::Create(HWND window) {
     tool_tips_.Set(window, cmbFinders.Handle(), L"keress az interneten");
     tool_tips_.Set(window, txtFind.Handle(), L"a keresett szó");
     tool_tips_.Set(window, Image1.Handle(), kSearch);
+}
+
+// A group box covers the controls in it and paints no background. Cut out to its border, and filling that
+// itself, it overlaps nothing, so it does not matter what is painted first.
+std::optional<LRESULT> SearchBox::OnFrameMessage(UINT message, WPARAM wparam, LPARAM lparam) {
+    if (message == WM_ERASEBKGND) {
+        FillRgn(reinterpret_cast<HDC>(wparam), BorderOfFrame().get(), GetSysColorBrush(COLOR_BTNFACE));
+        return TRUE;
+    }
+    if (message != WM_SIZE && message != WM_SETFONT) return std::nullopt;
+    const LRESULT result = frame_messages_.Default(message, wparam, lparam);
+    Owned<HRGN> border = BorderOfFrame();
+    // From then on the region is the system's.
+    if (SetWindowRgn(FrameSearch, border.get(), TRUE)) static_cast<void>(border.release());
+    return result;
+}
+
+Owned<HRGN> SearchBox::BorderOfFrame() const {
+    RECT client{};
+    GetClientRect(FrameSearch, &client);
+    const int width = PixelsOf(kFrameBorder, DpiOf(window_));
+    const auto font = reinterpret_cast<HFONT>(SendMessageW(FrameSearch, WM_GETFONT, 0, 0));
+    const int caption = static_cast<int>(TextSize(font, L"k").cy);
+    Owned<HRGN> border(CreateRectRgnIndirect(&client));
+    const Owned<HRGN> inside(CreateRectRgn(width, caption, client.right - width, client.bottom - width));
+    CombineRgn(border.get(), border.get(), inside.get(), RGN_DIFF);
+    return border;
 }
 
 bool SearchBox::OnCommand(int id, int event) {

@@ -10,6 +10,7 @@
 #include "pictures/PictureButton.h"
 #include "resources/resource.h"
 #include "window/Control.h"
+#include "window/Owned.h"
 #include "window/Subclass.h"
 #include "window/ToolTips.h"
 
@@ -39,14 +40,19 @@ class SearchBox {
     // know it.
     void txtFind_Change() { FindPosition = 0; }
     void txtFind_GotFocus() const { txtFind.SelectAll(); }
+    std::optional<LRESULT> OnFrameMessage(UINT message, WPARAM wparam, LPARAM lparam);
+    // In pixels of the frame; the caption is part of it.
+    Owned<HRGN> BorderOfFrame() const;
     std::optional<LRESULT> OnTextMessage(UINT message, WPARAM wparam, LPARAM lparam);
 
     const OpenBook& open_;
     ToolTips& tool_tips_;
     HWND window_ = nullptr;
+    HWND FrameSearch = nullptr;
     ComboBox cmbFinders;
     TextBox txtFind;
     PictureButton Image1;
+    Subclass frame_messages_;
     Subclass text_messages_;
     std::int16_t FindPosition = 0;  // of the last hit; the search goes on after it
 };

@@ -3,10 +3,9 @@
 namespace lindrel {
 
 PlacedTogether::~PlacedTogether() {
-    if (pass_ == nullptr || !EndDeferWindowPos(pass_) || !IsWindowVisible(window_)) return;
-    // The window too: it shows through a group box, which draws no background.
-    for (const RECT& area : to_redraw_)
-        RedrawWindow(window_, &area, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+    if (pass_ == nullptr || !EndDeferWindowPos(pass_)) return;
+    // A status bar that docks itself does not tell the window what it leaves.
+    RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_NOCHILDREN);
 }
 
 void PlacedTogether::Move(HWND control, const RECT& bounds) {
@@ -14,8 +13,6 @@ void PlacedTogether::Move(HWND control, const RECT& bounds) {
     GetWindowRect(control, &before);
     MapWindowPoints(HWND_DESKTOP, window_, reinterpret_cast<POINT*>(&before), 2);
     if (EqualRect(&before, &bounds)) return;
-    to_redraw_.push_back(before);
-    to_redraw_.push_back(bounds);
     Defer(control, bounds, SWP_NOCOPYBITS);
 }
 

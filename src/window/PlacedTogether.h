@@ -2,8 +2,6 @@
 // along pixels that another one has covered meanwhile.
 #pragma once
 
-#include <vector>
-
 #include "window/Windows.h"
 
 namespace lindrel {
@@ -28,7 +26,6 @@ class PlacedTogether {
 
     HWND window_;
     HDWP pass_;
-    std::vector<RECT> to_redraw_;
 };
 
 }  // namespace lindrel

@@ -10,10 +10,10 @@
 
 namespace lindrel::testing {
 
-// The bounds of what changes in a window of the program when everything in it is painted anew, which means it
-// was painted wrongly or not at all; empty when nothing changes. In pixels from the window's corner.
-inline RECT StalePart(const Program& program, HWND window) {
-    RECT stale{};
+// The bounds of what changes in a window of the program when something in it is painted; empty when nothing
+// does. In pixels from the window's corner. `paint` runs on the program's thread.
+inline RECT ChangedPart(const Program& program, HWND window, const std::function<void()>& paint) {
+    RECT changed{};
     program.OnUi([&](frmStart&) {
         RECT bounds{};
         EXPECT_TRUE(GetWindowRect(window, &bounds));
@@ -29,19 +29,26 @@ inline RECT StalePart(const Program& program, HWND window) {
         };
         // What the window knows to be out of date, it may still paint.
         RedrawWindow(window, nullptr, nullptr, RDW_ALLCHILDREN | RDW_UPDATENOW);
-        const auto shown = picture();
-        RedrawWindow(window, nullptr, nullptr,
-                     RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
-        const auto anew = picture();
+        const auto before = picture();
+        paint();
+        const auto after = picture();
         for (int y = 0; y < height; ++y)
             for (int x = 0; x < width; ++x) {
                 const auto at = static_cast<std::size_t>(y * width + x);
                 const RECT pixel{x, y, x + 1, y + 1};
-                const RECT so_far = stale;
-                if (shown[at] != anew[at]) UnionRect(&stale, &so_far, &pixel);
+                const RECT so_far = changed;
+                if (before[at] != after[at]) UnionRect(&changed, &so_far, &pixel);
             }
     });
-    return stale;
+    return changed;
+}
+
+// The same when everything is painted anew: what was painted wrongly or not at all.
+inline RECT StalePart(const Program& program, HWND window) {
+    return ChangedPart(program, window, [window] {
+        RedrawWindow(window, nullptr, nullptr,
+                     RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
+    });
 }
 
 }  // namespace lindrel::testing
