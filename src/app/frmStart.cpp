@@ -45,7 +45,7 @@ LRESULT frmStart::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
             OnEndSession(wparam != FALSE);
             return 0;
         case WM_CLOSE:
-            if (MayClose()) DestroyWindow(Handle());
+            OnClose();
             return 0;
         case WM_DESTROY:
             Form_Unload();
@@ -116,6 +116,18 @@ void frmStart::OnCommand(int id, int event) {
 LRESULT frmStart::OnNotify(const NMHDR& header) {
     toolbar_.Notify(header);
     return view_.Notify(header);
+}
+
+// From the user, or from another program: an installer or the task manager asks at any time.
+void frmStart::OnClose() {
+    // If a box or dialog is open, a command is running, and the window has to stay until it is done.
+    if (!IsWindowEnabled(Handle())) {
+        // Refused while the user works in another program; the taskbar button flashes then.
+        static_cast<void>(SetForegroundWindow(GetLastActivePopup(Handle())));
+        return;
+    }
+    if (open_.Modified && TrayArea.Visible()) LeaveTray();
+    if (MayClose()) DestroyWindow(Handle());
 }
 
 // Whether the session may end, as far as the book is concerned. Open dialogs are asked too.

@@ -54,6 +54,7 @@ class frmStart : public OwnWindow {
     void OnActivate(WPARAM state);
     void OnGetMinMaxInfo(MINMAXINFO& info) const;
     void OnDpiChanged(const RECT& suggested);
+    void OnClose();
     bool OnQueryEndSession();
     void OnEndSession(bool ending);
     void OnBookDropped();

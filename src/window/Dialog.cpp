@@ -172,6 +172,9 @@ INT_PTR Dialog::OnSystemMessage(UINT message) {
         case WM_SETCURSOR:
             tool_tips_.OnSetCursor(handle_);
             return FALSE;
+        case WM_CLOSE:
+            // From another program, while a box of the dialog is open: a handler is still running.
+            return IsWindowEnabled(handle_) ? FALSE : TRUE;
         case WM_QUERYENDSESSION: {
             const bool holds = HoldsSession();
             if (holds) session_.Hold(handle_, L"Egy párbeszédablak még nyitva van.");

@@ -229,6 +229,21 @@ TEST_F(SessionEndTest, OverAChangedBookADialogIsNotInterrupted) {
     EXPECT_EQ(Reasons(), (std::vector{TakenBack(), Given(kUnsavedBook), TakenBack()}));
 }
 
+// Another program that closes this one asks only its window, and what is asked there may lie in front of
+// nothing.
+TEST_F(SessionEndTest, AWindowThatIsClosedInTheTrayComesBackBeforeItAsks) {
+    Change();
+    program.Run(ID_mnuTray);
+    ASSERT_TRUE(InTray());
+    program.Close();
+    const BoxOnScreen question = program.Box();
+    EXPECT_TRUE(IsWindowVisible(program.Main()));
+    EXPECT_FALSE(InTray());
+    EXPECT_TRUE(TakesInput(question.Handle()));
+    ExpectSaveQuestion(kAtClosing, IDCANCEL);
+    ExpectState(ChangedState());
+}
+
 // The user has chosen in the system's own question to lose what is open.
 TEST_F(SessionEndTest, AnEndThatIsForcedOnAnOpenBoxCausesNoFault) {
     Change();

@@ -8,6 +8,7 @@
 #include <thread>
 #include <vector>
 
+#include "faults/Faults.h"
 #include "resources/resource.h"
 #include "tests/window/support/Program.h"
 #include "tests/window/support/ReplacedImport.h"
@@ -49,6 +50,11 @@ class Moves {
     static inline BOOL(WINAPI* system)(HWND, HWND, int, int, int, int, UINT);
     std::optional<ReplacedImport> move_;
 };
+
+int WINAPI RefuseBox(HWND, const wchar_t*, const wchar_t*, UINT) {
+    SetLastError(ERROR_INVALID_WINDOW_HANDLE);
+    return 0;
+}
 
 class MsgBoxTest : public ::testing::Test {
   protected:
@@ -158,6 +164,17 @@ TEST_F(MsgBoxTest, WithoutAVisibleOwnerABoxStaysWhereWindowsPutsIt) {
     EXPECT_EQ(moves_of_a_box(SW_RESTORE), 1);
     EXPECT_EQ(moves_of_a_box(SW_HIDE), 0);
     EXPECT_EQ(moves_of_a_box(SW_SHOW), 1);
+}
+
+TEST_F(MsgBoxTest, ABoxThatCannotBeShownIsReportedAsThatAndNotAsALackOfMemory) {
+    const ReplacedImport refused(&MessageBoxW, &RefuseBox);
+    try {
+        MsgBox(nullptr, L"szöveg");
+        ADD_FAILURE() << "no fault";
+    } catch (const SystemFault& fault) {
+        EXPECT_EQ(fault.Number(), ERROR_INVALID_WINDOW_HANDLE);
+        EXPECT_EQ(fault.Meaning(), L"A Windows ezt nem tudta teljesíteni: üzenetablak megjelenítése");
+    }
 }
 
 }  // namespace
