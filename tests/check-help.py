@@ -8,6 +8,7 @@ import html.parser
 import pathlib
 import posixpath
 import re
+import struct
 import subprocess
 import sys
 import tempfile
@@ -15,6 +16,9 @@ import urllib.parse
 
 ENCODING = "cp1250"
 LEAST_PAGES = 15
+# The viewer writes the contents and the index in this font; 238 stands for the letters of Central Europe, whatever the
+# code page of the machine.
+FONT_OF_CONTENTS = "Segoe UI,9,238"
 complaints = []
 
 
@@ -108,6 +112,16 @@ def windows_of(chm):
     """The names of the window types that the file defines."""
     report = subprocess.run(["chmls", "printwindows", chm], check=True, capture_output=True).stdout
     return re.findall(r"WindowType\s*:\s*(\S+)", report.decode(ENCODING))
+
+
+def font_of_contents(system):
+    """The default font among the entries of the stream #SYSTEM (after its version, each a code, a length and the bytes)."""
+    entries, place = {}, 4
+    while place < len(system):
+        code, length = struct.unpack_from("<HH", system, place)
+        entries[code] = system[place + 4:place + 4 + length]
+        place += 4 + length
+    return entries.get(16, b"").decode(ENCODING).rstrip("\0")
 
 
 def menu_of(sources):
@@ -228,6 +242,9 @@ def main():
         complain(chm, f"has {len(pages)} pages")
     if windows_of(chm) != ["main"]:
         complain(chm, f"defines the windows {windows_of(chm)}")
+    font = font_of_contents(archive["#SYSTEM"])
+    if font != FONT_OF_CONTENTS:
+        complain("contents", f"are in the font {font!r}, not in {FONT_OF_CONTENTS!r}")
     check_pages(archive, pages, home_page)
     check_pictures(archive, pages)
     contents, index = Sitemap(texts["lnd.hhc"]).entries, Sitemap(texts["lnd.hhk"]).entries
