@@ -31,7 +31,7 @@ class Page(html.parser.HTMLParser):
 
     def __init__(self, text):
         super().__init__()
-        self.links, self.files, self.anchors = [], [], set()
+        self.links, self.files, self.anchors, self.widths = [], [], set(), []
         self.title, self.heading, self.charset = "", "", ""
         self.menu_paths, self.rows = [], []
         self._open, self._inside = [], None
@@ -51,6 +51,7 @@ class Page(html.parser.HTMLParser):
             self.links.append(values["href"])
         if tag == "img":
             self.files.append(values["src"])
+            self.widths.append((values["src"], values.get("style", "")))
             if not values.get("alt"):
                 complain(values["src"], "a picture without a text in its place")
         if tag == "link":
@@ -173,6 +174,17 @@ def check_pictures(archive, pages):
                 complain(name, "is shown by no page")
 
 
+def check_widths(archive, pages):
+    """Each picture is as wide as its pixels where letters have the usual size, and grows with the letters."""
+    letters = 16 * int(re.search(r"body \{[^}]*font-size: (\d+)%", archive["stilus.css"].decode(ENCODING))[1]) / 100
+    for name, page in pages.items():
+        for file, style in page.widths:
+            width = re.fullmatch(r"width: ([\d.]+)em", style)
+            pixels = struct.unpack(">I", archive[file][16:20])[0]
+            if not width or round(float(width[1]) * letters) != pixels:
+                complain(name, f"shows {file}, {pixels} pixels wide, with the style {style!r}")
+
+
 def check_contents(pages, entries):
     shown = [page for _, page in entries if page]
     for name, page in entries:
@@ -247,6 +259,7 @@ def main():
         complain("contents", f"are in the font {font!r}, not in {FONT_OF_CONTENTS!r}")
     check_pages(archive, pages, home_page)
     check_pictures(archive, pages)
+    check_widths(archive, pages)
     contents, index = Sitemap(texts["lnd.hhc"]).entries, Sitemap(texts["lnd.hhk"]).entries
     check_contents(pages, contents)
     check_index(pages, index)
