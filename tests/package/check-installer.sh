@@ -77,11 +77,34 @@ run reg query "$key" >/dev/null && fail "there is an entry before anything is in
 mkdir -p "${folder%/*}"
 run reg add "${key%\\*}" >/dev/null
 
-echo "== refuses an old Windows, which a new prefix of Wine is"
+# Makes Wine one version of Windows; programs of each width have a registry of their own.
+be_windows() { # <version> <build>
+  local view name='HKLM\Software\Microsoft\Windows NT\CurrentVersion'
+  for view in 32 64; do
+    run reg add "$name" /v CurrentVersion /d "$1" /f "/reg:$view" >/dev/null
+    run reg add "$name" /v CurrentBuildNumber /d "$2" /f "/reg:$view" >/dev/null
+  done
+}
+
+x86_64-w64-mingw32-strings -el "$installer" | grep -A1 '^CompanyName$' | grep -qx Lindrel || fail "the properties name nobody"
+
 files_before=$(files_of_user)
-same "the installer's exit code" 2 "$(exit_code "$installer" /S)"
+for windows in '6.1 7601' '6.3 9600' '10.0 14392'; do
+  echo "== refuses Windows $windows"
+  be_windows $windows
+  same "the installer's exit code" 2 "$(exit_code "$installer" /S)"
+  same "the files" "$files_before" "$(files_of_user)"
+done
+
+echo "== says why, unless it is silent"
+wine "$installer" </dev/null >/dev/null 2>&1 &
+eventually "the message" xdotool search --onlyvisible --name '^Lindrel Telepítő$' windowfocus key Return >/dev/null 2>&1
+code=0
+wait $! || code=$?
+same "the installer's exit code" 2 $code
 same "the files" "$files_before" "$(files_of_user)"
-run reg add 'HKCU\Software\Wine' /v Version /d win10 >/dev/null
+
+be_windows 10.0 14393
 registry_before=$(registry)
 
 echo "== installs"
