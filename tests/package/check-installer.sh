@@ -25,7 +25,7 @@ if [ -z "$why_not" ]; then
   use_libraries_32
 else
   echo "$why_not: the same installer is tried as a 64-bit program."
-  installer=$PWD/build/wine/telepito-64.exe
+  installer=$lindrel_wine/telepito-64.exe
   packaging/make-installer.sh "$version" "$stage" "$installer" amd64-unicode
 fi
 start_display
@@ -98,9 +98,9 @@ done
 
 echo "== says why, unless it is silent"
 wine "$installer" </dev/null >/dev/null 2>&1 &
+process=$! code=0
 eventually "the message" xdotool search --onlyvisible --name '^Lindrel Telepítő$' windowfocus key Return >/dev/null 2>&1
-code=0
-wait $! || code=$?
+wait $process || code=$?
 same "the installer's exit code" 2 $code
 same "the files" "$files_before" "$(files_of_user)"
 
