@@ -22,11 +22,12 @@ done
 version=$(sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=//p' build/x64/CMakeCache.txt)
 
 packaging/third_party.py licences "$stage/LICENSES"
+packaging/make-first-page.py OLVASS.md "$stage/OLVASS.html"
 packages=()
 for width in x64 x86; do
   package=dist/lindrel-$version-$width.zip
   echo "== $package"
-  cp -r "$stage/LICENSES" samples/minta.lnd "$stage/$width/Lindrel/"
+  cp -r "$stage/LICENSES" "$stage/OLVASS.html" samples/minta.lnd "$stage/$width/Lindrel/"
   packaging/make-zip.py "$package" "$stage/$width/Lindrel" "$SOURCE_DATE_EPOCH"
   packages+=("$package")
 done

@@ -2,7 +2,7 @@
 # Builds the help file from its pages:
 #   help/build-chm.sh <pages> <scratch folder> <lnd.chm> <home page>
 # The pages are in UTF-8. The viewer reads the contents and the index in the code page of the file's language, so all
-# texts are converted to Windows-1250, and their charset declarations are changed.
+# texts are converted to Windows-1250, and their charset declarations are changed. Every picture gets its width.
 set -eu
 here=$(cd "$(dirname "$0")" && pwd)
 pages=$1 scratch=$2 target=$3 home_page=$4
@@ -10,8 +10,13 @@ pages=$1 scratch=$2 target=$3 home_page=$4
 rm -rf "$scratch"
 mkdir -p "$scratch"
 cp -r "$pages/pictures" "$scratch/"
+widths=()
+for picture in "$pages"/pictures/*.png; do
+  width=$("$here/picture-width.py" "$picture")
+  widths+=(-e "s|src=\"pictures/$(basename "$picture")\"|& style=\"width: $width\"|")
+done
 for source in "$pages"/*.html "$pages"/lnd.hh? "$pages"/*.css; do
-  sed -e 's/charset=utf-8/charset=windows-1250/' -e "s|@LINDREL_HOME_PAGE@|$home_page|g" "$source" |
+  sed -e 's/charset=utf-8/charset=windows-1250/' -e "s|@LINDREL_HOME_PAGE@|$home_page|g" "${widths[@]}" "$source" |
     iconv -f UTF-8 -t WINDOWS-1250 >"$scratch/$(basename "$source")"
 done
 

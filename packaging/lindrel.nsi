@@ -47,6 +47,7 @@ InstallDirRegKey HKCU "${UNINSTALL_KEY}" "InstallLocation"
 !insertmacro MUI_LANGUAGE "Hungarian"
 
 VIProductVersion "${VERSION}.0"
+VIAddVersionKey /LANG=${LANG_HUNGARIAN} "CompanyName" "Lindrel"
 VIAddVersionKey /LANG=${LANG_HUNGARIAN} "ProductName" "Lindrel"
 VIAddVersionKey /LANG=${LANG_HUNGARIAN} "FileDescription" "Lindrel telepítő"
 VIAddVersionKey /LANG=${LANG_HUNGARIAN} "FileVersion" "${VERSION}"
@@ -116,8 +117,8 @@ Function StayWhereItIs
 FunctionEnd
 
 Function .onInit
-  ${IfNot} ${AtLeastWin10}
-    MessageBox MB_OK|MB_ICONSTOP "A Lindrelhez Windows 10 vagy újabb szükséges." /SD IDOK
+  ${IfNot} ${AtLeastBuild} 14393 ; Windows 10, version 1607
+    MessageBox MB_OK|MB_ICONSTOP "A Lindrelhez a Windows 10 1607-es vagy újabb változata szükséges." /SD IDOK
     SetErrorLevel 2
     Quit
   ${EndIf}

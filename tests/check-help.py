@@ -8,6 +8,7 @@ import html.parser
 import pathlib
 import posixpath
 import re
+import struct
 import subprocess
 import sys
 import tempfile
@@ -15,6 +16,9 @@ import urllib.parse
 
 ENCODING = "cp1250"
 LEAST_PAGES = 15
+# The viewer writes the contents and the index in this font; 238 stands for the letters of Central Europe, whatever the
+# code page of the machine.
+FONT_OF_CONTENTS = "Segoe UI,9,238"
 complaints = []
 
 
@@ -27,7 +31,7 @@ class Page(html.parser.HTMLParser):
 
     def __init__(self, text):
         super().__init__()
-        self.links, self.files, self.anchors = [], [], set()
+        self.links, self.files, self.anchors, self.widths = [], [], set(), []
         self.title, self.heading, self.charset = "", "", ""
         self.menu_paths, self.rows = [], []
         self._open, self._inside = [], None
@@ -47,6 +51,7 @@ class Page(html.parser.HTMLParser):
             self.links.append(values["href"])
         if tag == "img":
             self.files.append(values["src"])
+            self.widths.append((values["src"], values.get("style", "")))
             if not values.get("alt"):
                 complain(values["src"], "a picture without a text in its place")
         if tag == "link":
@@ -110,6 +115,16 @@ def windows_of(chm):
     return re.findall(r"WindowType\s*:\s*(\S+)", report.decode(ENCODING))
 
 
+def font_of_contents(system):
+    """The default font among the entries of the stream #SYSTEM (after its version, each a code, a length and the bytes)."""
+    entries, place = {}, 4
+    while place < len(system):
+        code, length = struct.unpack_from("<HH", system, place)
+        entries[code] = system[place + 4:place + 4 + length]
+        place += 4 + length
+    return entries.get(16, b"").decode(ENCODING).rstrip("\0")
+
+
 def menu_of(sources):
     """The program's menu: for each item "Menu > Item" its shortcut."""
     resource = (sources / "src/app/frmStart.rc").read_text(encoding="utf-8")
@@ -157,6 +172,17 @@ def check_pictures(archive, pages):
                 complain(name, "is no whole PNG picture")
             if name not in used:
                 complain(name, "is shown by no page")
+
+
+def check_widths(archive, pages):
+    """Each picture is as wide as its pixels where letters have the usual size, and grows with the letters."""
+    letters = 16 * int(re.search(r"body \{[^}]*font-size: (\d+)%", archive["stilus.css"].decode(ENCODING))[1]) / 100
+    for name, page in pages.items():
+        for file, style in page.widths:
+            width = re.fullmatch(r"width: ([\d.]+)em", style)
+            pixels = struct.unpack(">I", archive[file][16:20])[0]
+            if not width or round(float(width[1]) * letters) != pixels:
+                complain(name, f"shows {file}, {pixels} pixels wide, with the style {style!r}")
 
 
 def check_contents(pages, entries):
@@ -228,8 +254,12 @@ def main():
         complain(chm, f"has {len(pages)} pages")
     if windows_of(chm) != ["main"]:
         complain(chm, f"defines the windows {windows_of(chm)}")
+    font = font_of_contents(archive["#SYSTEM"])
+    if font != FONT_OF_CONTENTS:
+        complain("contents", f"are in the font {font!r}, not in {FONT_OF_CONTENTS!r}")
     check_pages(archive, pages, home_page)
     check_pictures(archive, pages)
+    check_widths(archive, pages)
     contents, index = Sitemap(texts["lnd.hhc"]).entries, Sitemap(texts["lnd.hhk"]).entries
     check_contents(pages, contents)
     check_index(pages, index)

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Checks that a shipped program runs on every Windows from 10 on, and safely: it imports the system's own libraries only,
-# its header switches on the system's protections, it is small, and it does not name the folder in which it was built.
+# its header switches on the system's protections, its properties say what and whose it is, it is small, and it does not name
+# the folder in which it was built.
 #   tests/check-program.sh lindrel.exe
 set -u
 program=$1
@@ -26,6 +27,30 @@ fi
 for line in "${wanted[@]}"; do
   grep -qE "$line" <<<"$headers" || { echo "the header of $program has no $line"; failed=1; }
 done
+
+# What the properties of the file show. (Only the letters of ASCII are compared: the copyright begins with its sign.)
+version=$(sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=//p' "$(dirname "$program")/../CMakeCache.txt")
+diff - <(x86_64-w64-mingw32-strings -el "$program" | sed -n '/^StringFileInfo$/,/^VarFileInfo$/p') <<END || failed=1
+StringFileInfo
+040E04B0
+CompanyName
+Lindrel
+FileDescription
+Lindrel
+FileVersion
+$version
+InternalName
+lindrel
+LegalCopyright
+ 2026 Lindrel
+OriginalFilename
+lindrel.exe
+ProductName
+Lindrel
+ProductVersion
+$version
+VarFileInfo
+END
 
 # The size is what a download and a start cost. Exception handling takes more of it in the 32-bit program.
 most=1100000

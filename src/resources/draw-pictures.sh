@@ -9,12 +9,22 @@ trap 'rm -rf "$work"' EXIT
 # The toolbar's pictures, in its order. Each size is one strip, so that the program loads one picture instead of ten.
 toolbar=(mnuNew mnuOpen mnuSave mnuAdd mnuExport mnuEdit mnuFind mnuMove mnuDel mnuSelectAll)
 
-# The sizes at 100, 125, 150 and 200 %. The shell shows the program's own icon in larger sizes too.
+# Sides in pixels at 100, 125, ... 350 % of what they are at 100 %.
+scaled() {
+  local side percent
+  for side in "$@"; do
+    for percent in 100 125 150 175 200 225 250 300 350; do echo $((side * percent / 100)); done
+  done | sort -nu
+}
+
+# The window's icon is small in the frame, larger in the task switcher and largest in the about box; the shell shows it in
+# larger sizes yet.
 sizes_of() { # name
   case $1 in
-    mnu* | picGo) echo 24 30 36 48 ;;
-    frmStart) echo 16 20 24 32 40 48 64 256 ;;
-    *) echo 16 20 24 32 ;;
+    mnu*) echo 24 30 36 48 ;;
+    picGo) scaled 24 ;;
+    frmStart) scaled 16 32 48; echo 256 ;;
+    *) scaled 16 ;;
   esac
 }
 
@@ -24,7 +34,7 @@ for drawing in *.svg; do
   for size in $(sizes_of "$name"); do
     ../fit-to-pixels.py "$drawing" "$size" | rsvg-convert -f png -o "$work/plain.png"
     convert "$work/plain.png" -strip "PNG32:$work/$name-$size.png"
-    [ "$size" -lt 256 ] || rendered+=(-r) # stays compressed, as Windows expects it
+    [ "$size" -le 32 ] || rendered+=(-r) # stays compressed, which keeps the program small
     rendered+=("$work/$name-$size.png")
   done
   [[ $name == mnu* ]] || icotool -c -o "$name.ico" "${rendered[@]}"

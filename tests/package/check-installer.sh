@@ -25,7 +25,7 @@ if [ -z "$why_not" ]; then
   use_libraries_32
 else
   echo "$why_not: the same installer is tried as a 64-bit program."
-  installer=$PWD/build/wine/telepito-64.exe
+  installer=$lindrel_wine/telepito-64.exe
   packaging/make-installer.sh "$version" "$stage" "$installer" amd64-unicode
 fi
 start_display
@@ -77,11 +77,43 @@ run reg query "$key" >/dev/null && fail "there is an entry before anything is in
 mkdir -p "${folder%/*}"
 run reg add "${key%\\*}" >/dev/null
 
-echo "== refuses an old Windows, which a new prefix of Wine is"
+# Makes Wine one version of Windows; programs of each width have a registry of their own.
+be_windows() { # <version> <build>
+  local view name='HKLM\Software\Microsoft\Windows NT\CurrentVersion'
+  for view in 32 64; do
+    run reg add "$name" /v CurrentVersion /d "$1" /f "/reg:$view" >/dev/null
+    run reg add "$name" /v CurrentBuildNumber /d "$2" /f "/reg:$view" >/dev/null
+  done
+}
+
+x86_64-w64-mingw32-strings -el "$installer" | grep -A1 '^CompanyName$' | grep -qx Lindrel || fail "the properties name nobody"
+
 files_before=$(files_of_user)
-same "the installer's exit code" 2 "$(exit_code "$installer" /S)"
+# The oldest that the project promises to run on.
+oldest=$(sed -n 's/.*(version 1607, build \([0-9]*\), or later).*/\1/p' README.md)
+for windows in '6.1 7601' '6.3 9600' "10.0 $((oldest - 1))"; do
+  echo "== refuses Windows $windows"
+  be_windows $windows
+  same "the installer's exit code" 2 "$(exit_code "$installer" /S)"
+  same "the files" "$files_before" "$(files_of_user)"
+done
+
+echo "== says why, unless it is silent"
+wine "$installer" </dev/null >/dev/null 2>&1 &
+process=$! code=0
+message_is_shown() { xdotool search --onlyvisible --name '^Lindrel Telepítő$' >/dev/null 2>&1; }
+eventually "the message" message_is_shown
+# Closed by a message: a key whose window goes while it is pressed would stay down.
+has_ended() {
+  run taskkill /im "$(basename "$installer")" >/dev/null || true # it may have ended
+  ! kill -0 $process 2>/dev/null
+}
+eventually "the installer's end" has_ended
+wait $process || code=$?
+same "the installer's exit code" 2 $code
 same "the files" "$files_before" "$(files_of_user)"
-run reg add 'HKCU\Software\Wine' /v Version /d win10 >/dev/null
+
+be_windows 10.0 "$oldest"
 registry_before=$(registry)
 
 echo "== installs"

@@ -16,7 +16,7 @@ own_prefix
 start_display
 
 expected=$(
-  printf '%s\n' ./lindrel.exe ./lnd.chm ./minta.lnd
+  printf '%s\n' ./lindrel.exe ./lnd.chm ./minta.lnd ./OLVASS.html
   (cd styles && printf './styles/%s\n' *.aut)
   printf './LICENSES/%s\n' Artistic.txt GFDL-1.2.txt GPL.txt GPL-2.txt GPL-3.txt LGPL.txt LGPL-2.txt LGPL-2.1.txt \
     gcc-mingw-w64.txt mingw-w64.txt
@@ -33,6 +33,7 @@ for width in x64 x86; do
   cmp minta.lnd "$sources/samples/minta.lnd"
   diff -r styles "$sources/styles" --exclude=CMakeLists.txt
   cd "$sources"
+  tests/package/check-first-page.py "$folder/Lindrel" OLVASS.md dist
 done
 
 folder="$WINEPREFIX/drive_c/users/Szép új könyvjelzők x64/Lindrel"

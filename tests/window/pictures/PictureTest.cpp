@@ -44,11 +44,30 @@ std::vector<int> SizesIn(int id) {
     return sizes;
 }
 
-TEST(PictureTest, EveryPictureIsThereInTheSizesOfItsPlace) {
-    EXPECT_EQ(SizesIn(IDI_frmStart), (std::vector<int>{16, 20, 24, 32, 40, 48, 64, 256}));
-    for (const int id : {IDI_TrayArea, IDI_Image1})
-        EXPECT_EQ(SizesIn(id), (std::vector<int>{16, 20, 24, 32})) << id;
-    EXPECT_EQ(SizesIn(IDI_picGo), (std::vector<int>{24, 30, 36, 48}));
+// Sides in pixels at 100 % of the places that show an icon. The first is in the frame, the task switcher and
+// the about box.
+struct Shown {
+    int Id;
+    std::set<int> Sides;
+};
+const std::array<Shown, 4> kIcons{
+    {{IDI_frmStart, {16, 32, 48}}, {IDI_TrayArea, {16}}, {IDI_Image1, {16}}, {IDI_picGo, {24}}}};
+
+// And at every scale that Windows offers, up to 350 %.
+std::set<int> SizesOf(const Shown& icon) {
+    std::set<int> sizes;
+    for (const int percent : {100, 125, 150, 175, 200, 225, 250, 300, 350})
+        for (const int side : icon.Sides) sizes.insert(side * percent / 100);
+    return sizes;
+}
+
+TEST(PictureTest, EveryIconIsThereInTheSizesOfItsPlaces) {
+    constexpr int kLargestOfTheShell = 256;
+    for (const Shown& icon : kIcons) {
+        std::set<int> sizes = SizesOf(icon);
+        if (icon.Id == IDI_frmStart) sizes.insert(kLargestOfTheShell);
+        EXPECT_EQ(SizesIn(icon.Id), (std::vector<int>{sizes.begin(), sizes.end()})) << icon.Id;
+    }
 }
 
 TEST(PictureTest, EveryStripHoldsThePicturesOfTheToolbarInItsSize) {
@@ -122,6 +141,16 @@ double Darkness(const std::vector<COLORREF>& pixels) {
     for (const COLORREF pixel : pixels)
         darkness += 765 - GetRValue(pixel) - GetGValue(pixel) - GetBValue(pixel);
     return darkness / (765.0 * static_cast<double>(pixels.size()));
+}
+
+TEST(PictureTest, AnIconLooksTheSameInEverySize) {
+    constexpr int kMeasure = 48;
+    for (const Shown& icon : kIcons) {
+        const double expected = Darkness(OnWhite(Picture(Instance(), icon.Id, kMeasure).Handle(), kMeasure));
+        for (const int size : SizesOf(icon))
+            EXPECT_NEAR(Darkness(OnWhite(Picture(Instance(), icon.Id, size).Handle(), size)), expected, 0.03)
+                << icon.Id << " at " << size;
+    }
 }
 
 TEST(PictureTest, AScaledPictureLooksLikeTheDrawnOne) {
