@@ -51,7 +51,11 @@ void SetCheckState(const ListOnScreen& list, int row, int image) {
 
 TEST(CheckListViewTest, ACheckMarkSetByMessageIsAToggleOfTheUser) {
     const Program program;
-    program.Add(1, {{L"1", L"http://1.hu"}, {L"2", L"http://2.hu"}, {L"3", L"http://3.hu"}});
+    program.Add(1, {{L"1", L"http://1.hu"},
+                    {L"2", L"http://2.hu"},
+                    {L"3", L"http://3.hu"},
+                    {L"4", L"http://4.hu"},
+                    {L"5", L"http://5.hu"}});
     const ListOnScreen list = program.List();
     program.ClickRow(1);
     const auto expect = [&program](int selected, const std::vector<int>& checked) {
@@ -74,13 +78,13 @@ TEST(CheckListViewTest, ACheckMarkSetByMessageIsAToggleOfTheUser) {
     SetCheckState(list, 1, kChecked);
     expect(2, {1});  // as after the user's
     SetCheckState(list, 0, kChecked);
-    expect(3, {1, 2, 3});
+    expect(3, {1, 2, 3, 4, 5});
     SetCheckState(list, 0, kUnchecked);
-    expect(3, {});
+    expect(4, {});
     // Neither one nor the other, and no such row.
     for (const int image : {0, 3}) SetCheckState(list, 1, image);
-    for (const int row : {-1, 4}) SetCheckState(list, row, kChecked);
-    expect(3, {});
+    for (const int row : {-1, 6}) SetCheckState(list, row, kChecked);
+    expect(4, {});
 }
 
 TEST(CheckListViewTest, NoCheckMarkIsSetByMessageBehindADialog) {
