@@ -38,7 +38,8 @@ void BookView::Create(HWND window) {
     ListURLs.ItemClick = [this] { ListURLs_ItemClick(); };
     ListURLs.ItemCheck = [this](int position) { ListURLs_ItemCheck(position); };
     ListURLs.ColumnClick = [this] { ListURLs_ColumnClick(); };
-    ListURLs.Activate = [this] { ListURLs_DblClick(); };
+    ListURLs.DblClick = [this] { ListURLs_DblClick(); };
+    ListURLs.Enter = [this] { ListURLs_DblClick(); };
     ListURLs.Copy = [this] { ListURLs_Copy(); };
     ListURLs.MenuAsked = [this](POINT at) { ListURLs_ContextMenu(at); };
     ListURLs.SetEmptyText(

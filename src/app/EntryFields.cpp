@@ -1,7 +1,6 @@
 #include "app/EntryFields.h"
 
 #include "system/Clipboard.h"
-#include "system/MsgBox.h"
 #include "system/Shell.h"
 
 namespace lindrel {
@@ -41,10 +40,7 @@ bool EntryFields::OnCommand(int id) const {
 }
 
 void EntryFields::picGo_Click() const {
-    if (HasAddress())
-        OpenAddress(window_, txtURL.Text());
-    else
-        SoundNothingToDo();
+    if (HasAddress()) OpenAddress(window_, txtURL.Text());
 }
 
 std::optional<LRESULT> EntryFields::OnUrlMessage(UINT message, WPARAM wparam, LPARAM lparam) const {

@@ -33,7 +33,7 @@ class EntryFields {
 
     // WM_COMMAND of the window. True if the id is that of one of these controls.
     bool OnCommand(int id) const;
-    // Opens the address; beeps if there is none.
+    // Opens the address, if there is one.
     void picGo_Click() const;
 
   private:

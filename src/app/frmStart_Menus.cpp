@@ -83,7 +83,7 @@ void frmStart::mnuFind_Click() {
 
 void frmStart::mnuMove_Click() {
     const bool any_chosen = open_.TheBook.Marks.CheckedCount() != 0 || fields_.HasAddress();
-    if (!any_chosen || view_.RowCount() == 0) return SoundNothingToDo();
+    if (!any_chosen || view_.RowCount() == 0) return;
     frmMove dialog(open_, view_.SelectedRow(), view_.CheckedRows());
     dialog.ShowModal(Handle());
     if (dialog.Moved()) view_.FillAddressList(open_.CurrentCategory);
@@ -93,7 +93,7 @@ void frmStart::mnuDel_Click() {
     // In the search box the Del key deletes text.
     if (search_box_.HasFocus()) return;
     const int checked = open_.TheBook.Marks.CheckedCount();
-    if (checked == 0 && (!fields_.HasAddress() || view_.SelectedRow() == 0)) return SoundNothingToDo();
+    if (checked == 0 && (!fields_.HasAddress() || view_.SelectedRow() == 0)) return;
 
     if (checked != 0) {
         if (!MayDeleteChecked(Handle(), checked)) return;

@@ -23,6 +23,10 @@ void Book::Reset() {
     Marks.Clear();
 }
 
+int Book::StoredCount(int category) const {
+    return std::clamp(UpperBound() + 1 - starts_(category), 0, int{counts_(category)});
+}
+
 std::size_t Book::Slot(int index) const {
     if (index < 1 || index > UpperBound()) throw RangeFault();
     return static_cast<std::size_t>(index - 1);
@@ -35,7 +39,7 @@ std::span<const AddressEntry> Book::Entries(int index, int count) const {
 }
 
 CategoryRows Book::RowsOf(int category) const {
-    const auto entries = Entries(starts_(category), counts_(category));
+    const auto entries = Entries(starts_(category), StoredCount(category));
     return {{entries.begin(), entries.end()}, texts_};
 }
 

@@ -7,7 +7,7 @@
 // unchanged.
 //
 // A book that was loaded from a file with too few headers may count entries that are not stored. Functions
-// that would need one of those throw RangeFault.
+// that would need one of those throw RangeFault; see StoredCount() and IsWhole().
 #pragma once
 
 #include <cstddef>
@@ -61,6 +61,10 @@ class Book {
     // Entries in the whole book, 0..32,767; more only in a book that was loaded with too few headers.
     int EntryCount() const { return starts_(kCategories) + counts_(kCategories) - 1; }
     bool IsEmpty() const { return EntryCount() == 0; }
+    // How many of the entries that a category counts are stored: the first ones.
+    int StoredCount(int category) const;
+    // Whether all entries that the book counts are stored.
+    bool IsWhole() const { return EntryCount() <= UpperBound(); }
     // Number of stored entries. Not a test for an empty book, which may still store a blank entry, or those
     // of the book before.
     int UpperBound() const { return static_cast<int>(entries_.size()); }
@@ -73,7 +77,7 @@ class Book {
     // `count` entries from an index on, valid until the book changes. Throws RangeFault unless all of them
     // are stored; no entries (count 0) may be asked for at any index.
     std::span<const AddressEntry> Entries(int index, int count) const;
-    // A copy of a category's entries. Throws RangeFault unless all of them are stored.
+    // A copy of a category's stored entries.
     CategoryRows RowsOf(int category) const;
     std::shared_ptr<const TextStore> Texts() const { return texts_; }
 

@@ -28,9 +28,11 @@ class EntryDialog : public Dialog {
     void FillCategories() const {
         FillWithCategories(Get<ComboBox>(fields_.cmbKateg), open_.TheBook, open_.CurrentCategory);
     }
-    // Whether name and address can be stored. If not, tells the user why and moves the focus to the field
-    // that must change. Throws SystemFault if the box cannot be shown.
-    bool FieldsAreGood() const;
+    // Whether neither name nor address is missing, and whether a book can store them. If not, tell the user;
+    // FieldsFitBook() then selects the character that it cannot store. They throw SystemFault if the box
+    // cannot be shown.
+    bool FieldsAreFilled() const;
+    bool FieldsFitBook() const { return FitsBook(*this, fields_.txtDesc) && FitsBook(*this, fields_.txtURL); }
 
   private:
     Fields fields_;

@@ -1,6 +1,7 @@
 #include "edit/frmAdd.h"
 
 #include "edit/ClipboardAddress.h"
+#include "edit/IncompleteBook.h"
 #include "system/Clipboard.h"
 #include "text/BookText.h"
 
@@ -44,9 +45,11 @@ void frmAdd::cmdEmail_Click() const {
 }
 
 void frmAdd::cmdOK_Click() {
-    if (!FieldsAreGood()) return;
-    OpenedBook().TheBook.AddEntry(ChosenCategory(),
-                                  {{ToBookText(txtDesc().Text()), ToBookText(txtURL().Text())}});
+    if (!FieldsAreFilled()) return FocusOn(ID_frmAdd_txtDesc);
+    if (!FieldsFitBook()) return;
+    Book& book = OpenedBook().TheBook;
+    const std::vector<NewEntry> entry = {{ToBookText(txtDesc().Text()), ToBookText(txtURL().Text())}};
+    if (!AddedUnlessIncomplete(Handle(), book, [&] { book.AddEntry(ChosenCategory(), entry); })) return;
     OpenedBook().Modified = true;
     added_ = true;
     Unload();

@@ -1,5 +1,7 @@
 #include "edit/frmEditRec.h"
 
+#include "edit/IncompleteBook.h"
+
 namespace lindrel {
 
 void frmEditRec::Form_Load() {
@@ -14,16 +16,19 @@ void frmEditRec::OnCommand(int id, int) {
 }
 
 void frmEditRec::cmdOk_Click() {
-    if (!FieldsAreGood()) return;
+    if (!FieldsAreFilled() || !FieldsFitBook()) return;
     Book& book = OpenedBook().TheBook;
-    book.SetSiteName(Index(), name_.Text());
-    book.SetSiteURL(Index(), address_.Text());
     const int chosen = ChosenCategory();
+    int index = Index();
     if (chosen != OriginalCategory) {
-        book.MoveEntry(OriginalCategory, selected_row_ - 1, chosen);
+        const auto move = [&] { book.MoveEntry(OriginalCategory, selected_row_ - 1, chosen); };
+        if (!AddedUnlessIncomplete(Handle(), book, move)) return;
+        index = book.IndexOf(chosen, book.CategoryCounts(chosen));
         // The saved positions would now mean other entries.
         book.Marks.Forget(OriginalCategory);
     }
+    book.SetSiteName(index, name_.Text());
+    book.SetSiteURL(index, address_.Text());
     OpenedBook().Modified = true;
     changed_ = true;
     Unload();

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "edit/BookField.h"
+#include "edit/IncompleteBook.h"
 #include "resources/resource.h"
 
 namespace lindrel {
@@ -22,18 +23,19 @@ void frmMove::OnCommand(int id, int) {
 void frmMove::cmdOk_Click() {
     const int source = open_.CurrentCategory;
     const int destination = Get<ComboBox>(ID_frmMove_cmbKateg).Selected() + 1;
-    Unload();
-    if (destination == source) return;
-    if (!checked_runs_.empty()) {
-        MoveRuns(open_.TheBook, source, checked_runs_, destination);
-        open_.TheBook.Marks.SetCheckedCount(0);
-    } else if (selected_row_ != 0) {
-        open_.TheBook.MoveEntry(source, selected_row_ - 1, destination);
-    } else {
-        return;
+    if (destination != source && (!checked_runs_.empty() || selected_row_ != 0)) {
+        if (!AddedUnlessIncomplete(Handle(), open_.TheBook, [&] { MoveTo(destination); })) return;
+        open_.Modified = true;
+        moved_ = true;
     }
-    open_.Modified = true;
-    moved_ = true;
+    Unload();
+}
+
+void frmMove::MoveTo(int destination) {
+    if (checked_runs_.empty())
+        return open_.TheBook.MoveEntry(open_.CurrentCategory, selected_row_ - 1, destination);
+    MoveRuns(open_.TheBook, open_.CurrentCategory, checked_runs_, destination);
+    open_.TheBook.Marks.SetCheckedCount(0);
 }
 
 }  // namespace lindrel

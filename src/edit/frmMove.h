@@ -24,6 +24,7 @@ class frmMove : public Dialog {
     void OnCommand(int id, int event) override;
     void cmdOk_Click();
     void cmdCancel_Click() { Unload(); }
+    void MoveTo(int destination);
 
     OpenBook& open_;
     int selected_row_;

@@ -34,14 +34,11 @@ Hits FindEntries(const Book& book, std::wstring_view what, std::wstring_view end
     if (!name_part || !url_part) return {};
     const CaselessNeedle* const url_needle = ending.empty() ? nullptr : &*url_part;
     Hits hits{.Items = {}, .Texts = book.Texts()};
-    // A book that was loaded with too few headers may count more entries than it stores.
-    const int last = std::min(book.EntryCount(), book.UpperBound());
     // All at once: growing would copy the hits again and again. Memory costs nothing until it is used.
-    hits.Items.reserve(static_cast<std::size_t>(last));
+    hits.Items.reserve(static_cast<std::size_t>(std::min(book.EntryCount(), book.UpperBound())));
     for (int category = 1; category <= kCategories; ++category) {
         int index = book.CategoryStarts(category);
-        const int count = std::clamp(last + 1 - index, 0, int{book.CategoryCounts(category)});
-        for (const AddressEntry& entry : book.Entries(index, count)) {
+        for (const AddressEntry& entry : book.Entries(index, book.StoredCount(category))) {
             if (name_part->IsIn(entry.SiteName) &&
                 (url_needle == nullptr || CarriesEnding(entry.URL, *url_needle)))
                 hits.Items.push_back({index, category, entry});
@@ -54,7 +51,7 @@ Hits FindEntries(const Book& book, std::wstring_view what, std::wstring_view end
 void FindInCategory(const Book& book, std::wstring_view text, int category, std::int16_t& position) {
     const std::optional<CaselessNeedle> needle = NeedleOf(text);
     int found = 0;
-    for (int next = position + 1; needle && found == 0 && next <= book.CategoryCounts(category); ++next)
+    for (int next = position + 1; needle && found == 0 && next <= book.StoredCount(category); ++next)
         if (needle->IsIn(book.SiteNames(book.IndexOf(category, next)))) found = next;
     position = static_cast<std::int16_t>(found);
 }

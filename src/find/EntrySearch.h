@@ -38,7 +38,7 @@ bool CarriesEnding(std::string_view url, const CaselessNeedle& ending);
 
 // One step of the search in a category: sets the position (1-based) to the first entry after it whose name
 // contains the text, or to 0 if there is none. Start with 0. Throws RangeFault for a category outside 1..12
-// or an entry that is not stored (see Book), and leaves the position unchanged then.
+// and leaves the position unchanged then.
 void FindInCategory(const Book& book, std::wstring_view text, int category, std::int16_t& position);
 
 }  // namespace lindrel

@@ -50,7 +50,7 @@ void frmFind::LoadList() {
     ListView.AddColumn(L"webhely neve", 2);
     ListView.AddColumn(L"kategória", 1);
     ListView.ItemClick = [this] { ListView_Click(); };
-    ListView.Activate = [this] { ListView_DblClick(); };
+    ListView.DblClick = [this] { ListView_DblClick(); };
     ListView.Copy = [this] { ListView_Copy(); };
     ListView.ItemCheck = [this](int row) { ListView_ItemCheck(row); };
 }

@@ -3,6 +3,7 @@
 #include <exception>
 
 #include "edit/BookField.h"
+#include "edit/IncompleteBook.h"
 #include "files/Files.h"
 #include "files/Folder.h"
 #include "import/PageEncoding.h"
@@ -95,7 +96,7 @@ void frmImport::ImportHtmlLinks(const std::wstring& fileName) {
         const TextFile page = TextOfPage(ReadFileBytes(fileName));
         links = LinksOfPage(page.Text(), page.Encoding, choice_);
     }
-    AddToChosenCategory(links);
+    if (!AddToChosenCategory(links)) return;
     ShowResult(links.size());
     imported_ = true;
 }
@@ -113,14 +114,16 @@ void frmImport::ImportFavoritesFolder() {
         return;
     }
     ShowResult(entries.size());
-    AddToChosenCategory(entries);
-    imported_ = true;
+    imported_ = AddToChosenCategory(entries) || imported_;
 }
 
-void frmImport::AddToChosenCategory(const std::vector<NewEntry>& entries) {
-    if (entries.empty()) return;
-    open_.TheBook.AddEntry(Get<ComboBox>(ID_frmImport_cmbKateg).Selected() + 1, entries);
+bool frmImport::AddToChosenCategory(const std::vector<NewEntry>& entries) {
+    if (entries.empty()) return true;
+    const int category = Get<ComboBox>(ID_frmImport_cmbKateg).Selected() + 1;
+    Book& book = open_.TheBook;
+    if (!AddedUnlessIncomplete(Handle(), book, [&] { book.AddEntry(category, entries); })) return false;
     open_.Modified = true;
+    return true;
 }
 
 void frmImport::ShowResult(std::size_t count) const {

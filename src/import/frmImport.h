@@ -32,7 +32,8 @@ class frmImport : public Dialog {
     // These throw what reading the page or the folder throws; nothing is added then.
     void ImportHtmlLinks(const std::wstring& fileName);
     void ImportFavoritesFolder();
-    void AddToChosenCategory(const std::vector<NewEntry>& entries);
+    // False if the book cannot take them; the user has been told.
+    bool AddToChosenCategory(const std::vector<NewEntry>& entries);
     void ShowResult(std::size_t count) const;
 
     OpenBook& open_;

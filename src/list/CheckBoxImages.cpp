@@ -1,6 +1,5 @@
 #include "list/CheckBoxImages.h"
 
-#include <algorithm>
 #include <cstdint>
 
 #include "faults/Faults.h"
@@ -42,6 +41,12 @@ std::uint32_t WithAlpha(std::uint32_t on_black, std::uint32_t on_white) {
 }
 
 }  // namespace
+
+Owned<HIMAGELIST> NoPictures(int height) {
+    Owned<HIMAGELIST> pictures(ImageList_Create(1, height, ILC_COLOR32, 0, 1));
+    Require(pictures != nullptr);
+    return pictures;
+}
 
 Owned<HIMAGELIST> InMiddleOf(HIMAGELIST pictures, int height) {
     constexpr std::uint32_t kBlack = 0;

@@ -13,16 +13,49 @@ namespace {
 
 constexpr int kUncheckedImage = 1;
 constexpr int kCheckedImage = 2;
-constexpr int kRowHeight = 300;  // twips
 constexpr DWORD kExtendedStyles = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_LABELTIP;
 constexpr WPARAM kControlC = 3;  // as a character
 
-// The list handles Enter itself; the keyboard navigation would press the default button.
+// Gives a list view pictures of a kind and destroys those that it had. The control destroys the last ones.
+void SetPictures(HWND list, int kind, Owned<HIMAGELIST> pictures) {
+    const Owned<HIMAGELIST> replaced(ListView_SetImageList(list, pictures.release(), kind));
+}
+
+// If the list handles Enter itself, the keyboard navigation must not press the default button.
 bool IsEnter(const MSG* key) {
     return key != nullptr && key->message == WM_KEYDOWN && key->wParam == VK_RETURN;
 }
 
 }  // namespace
+
+// While it lives, the list is scrolled to the top and not redrawn. If the height of the rows changed in a
+// list that is scrolled, Windows would take its place for another one and draw rubbish.
+class CheckListView::Unscrolled {
+  public:
+    explicit Unscrolled(CheckListView& list) : list_(list) {
+        if (std::exchange(list_.unscrolled_, true)) return;
+        outermost_ = true;
+        top_ = ListView_GetTopIndex(list_.Handle()) + 1;
+        SetWindowRedraw(list_.Handle(), FALSE);
+        list_.EnsureVisible(1);
+    }
+    ~Unscrolled() {
+        if (!outermost_) return;
+        // From the end, so that the row comes to the top.
+        list_.EnsureVisible(list_.Count());
+        list_.EnsureVisible(top_);
+        SetWindowRedraw(list_.Handle(), TRUE);
+        list_.Repaint();
+        list_.unscrolled_ = false;
+    }
+    Unscrolled(const Unscrolled&) = delete;
+    Unscrolled& operator=(const Unscrolled&) = delete;
+
+  private:
+    CheckListView& list_;
+    bool outermost_ = false;
+    int top_ = 0;
+};
 
 void CheckListView::Attach(HWND list) {
     Wrap(list);
@@ -40,6 +73,10 @@ std::optional<LRESULT> CheckListView::OnMessage(UINT message, WPARAM wparam, LPA
         case WM_NOTIFY:
             columns_.OnNotify(*reinterpret_cast<const NMHDR*>(lparam));
             return std::nullopt;
+        case WM_SETFONT: {
+            const Unscrolled unscrolled(*this);
+            return subclass_.Default(message, wparam, lparam);
+        }
         case WM_SIZE:
         case WM_PAINT:
         case WM_PRINTCLIENT:
@@ -107,6 +144,22 @@ void CheckListView::Toggle(int position) {
     if (ItemCheck) ItemCheck(position);
 }
 
+// Programs that serve the disabled check rows by their state, which the control itself does not keep. They
+// may do what the user could do now, and nothing while a dialog is open.
+void CheckListView::SetByMessage(int index, const LVITEMW& item) {
+    const UINT state = item.state & LVIS_STATEIMAGEMASK;
+    const bool checked = state == INDEXTOSTATEIMAGEMASK(kCheckedImage);
+    if ((item.stateMask & LVIS_STATEIMAGEMASK) != LVIS_STATEIMAGEMASK || unscrolled_ ||
+        (!checked && state != INDEXTOSTATEIMAGEMASK(kUncheckedImage)) ||
+        !IsWindowEnabled(GetAncestor(Handle(), GA_ROOT)))
+        return;
+    const bool all = index == -1;
+    if (!all && (index < 0 || index >= Count())) return;
+    // Upwards, since ItemCheck may select the row below.
+    for (int position = all ? Count() : index + 1; position > (all ? 0 : index); --position)
+        if (IsChecked(position) != checked) Toggle(position);
+}
+
 LVHITTESTINFO CheckListView::HitAt(POINT point) const {
     LVHITTESTINFO hit{};
     hit.pt = point;
@@ -123,9 +176,9 @@ bool CheckListView::ToggledByMouse(POINT point) {
 }
 
 bool CheckListView::AskForMenu(LPARAM point) {
-    constexpr LPARAM kByKeys = -1;
     POINT at{GET_X_LPARAM(point), GET_Y_LPARAM(point)};
-    if (point == kByKeys) {
+    // By keys. Not the whole of `point` counts: from a program of 32 bits only its lower half comes.
+    if (at.x == -1 && at.y == -1) {
         at = BelowSelectedRow();
     } else {
         POINT inside = at;
@@ -139,16 +192,20 @@ bool CheckListView::AskForMenu(LPARAM point) {
     return true;
 }
 
-// In screen coordinates; below the header when no row is selected.
+// In screen coordinates; below the header when no row is selected. Stays in the list, which may be scrolled
+// sideways.
 POINT CheckListView::BelowSelectedRow() const {
     RECT bounds{};
+    RECT client{};
+    GetClientRect(Handle(), &client);
     if (const int row = Selected(); row != 0) {
         ListView_EnsureVisible(Handle(), row - 1, FALSE);
         ListView_GetItemRect(Handle(), row - 1, &bounds, LVIR_LABEL);
     } else {
         GetClientRect(ListView_GetHeader(Handle()), &bounds);
     }
-    POINT below{bounds.left, bounds.bottom};
+    POINT below{std::clamp(bounds.left, client.left, client.right),
+                std::clamp(bounds.bottom, client.top, client.bottom)};
     ClientToScreen(Handle(), &below);
     return below;
 }
@@ -170,8 +227,11 @@ std::optional<LRESULT> CheckListView::OnInput(UINT message, WPARAM wparam, LPARA
             if (wparam == L' ' || wparam == L'\r' || wparam == kControlC) return 0;
             return std::nullopt;
         case WM_GETDLGCODE:
-            if (!IsEnter(reinterpret_cast<const MSG*>(lparam))) return std::nullopt;
+            if (!Enter || !IsEnter(reinterpret_cast<const MSG*>(lparam))) return std::nullopt;
             return subclass_.Default(message, wparam, lparam) | DLGC_WANTMESSAGE;
+        case LVM_SETITEMSTATE:
+            SetByMessage(static_cast<int>(wparam), *reinterpret_cast<const LVITEMW*>(lparam));
+            return std::nullopt;
         case WM_CONTEXTMENU:
             // Not in the header, which is a window of its own.
             if (reinterpret_cast<HWND>(wparam) != Handle() || !AskForMenu(lparam)) return std::nullopt;
@@ -186,17 +246,23 @@ void CheckListView::ApplyResolution(UINT dpi) {
     columns_.ApplyResolution(dpi);
 }
 
-// A row is as high as its check box. Without space between them, the check boxes of neighbouring rows would
-// touch.
+// A row is as high as its check box, with space between those of neighbouring rows. The order matters:
+// Windows misplaces check boxes that are higher than the small pictures, computes the height of the rows when
+// the list gets a font, and may keep the old height when pictures are taken away. A list that is told to have
+// no check boxes destroys their pictures.
 void CheckListView::MakeCheckBoxes(UINT dpi) {
+    const Unscrolled unscrolled(*this);
+    for (const int kind : {LVSIL_STATE, LVSIL_SMALL}) SetPictures(Handle(), kind, NoPictures(1));
     ListView_SetExtendedListViewStyleEx(Handle(), LVS_EX_CHECKBOXES, 0);
     ListView_SetExtendedListViewStyleEx(Handle(), LVS_EX_CHECKBOXES, LVS_EX_CHECKBOXES);
     const HIMAGELIST boxes = ListView_GetImageList(Handle(), LVSIL_STATE);
     int width = 0;
-    int height = 0;
-    if (!ImageList_GetIconSize(boxes, &width, &height)) return;
-    Owned<HIMAGELIST> spaced = InMiddleOf(boxes, std::max(height, PixelsOf(kRowHeight, dpi)));
-    const Owned<HIMAGELIST> replaced(ListView_SetImageList(Handle(), spaced.release(), LVSIL_STATE));
+    int box_height = 0;
+    if (!ImageList_GetIconSize(boxes, &width, &box_height)) return;
+    const int height = RowHeight(box_height, dpi);
+    SetPictures(Handle(), LVSIL_STATE, InMiddleOf(boxes, height));
+    SetPictures(Handle(), LVSIL_SMALL, NoPictures(height));
+    Send(WM_SETFONT, static_cast<WPARAM>(Send(WM_GETFONT)), FALSE);
 }
 
 void CheckListView::SetRows(int count, CellText text) {
@@ -278,10 +344,10 @@ LRESULT CheckListView::Notify(const NMHDR& header) {
                 ItemClick();
             return 0;
         case NM_DBLCLK:
-            if (reinterpret_cast<const NMITEMACTIVATE&>(header).iItem >= 0 && Activate) Activate();
+            if (reinterpret_cast<const NMITEMACTIVATE&>(header).iItem >= 0 && DblClick) DblClick();
             return 0;
         case NM_RETURN:
-            if (Selected() != 0 && Activate) Activate();
+            if (Selected() != 0 && Enter) Enter();
             return 0;
         default:
             return 0;
@@ -297,6 +363,7 @@ void CheckListView::FillCell(NMLVDISPINFOW& cell) const {
         const std::size_t length = std::min(text.size(), static_cast<std::size_t>(item.cchTextMax) - 1);
         *std::copy_n(text.begin(), length, item.pszText) = L'\0';
     }
+    if ((item.mask & LVIF_IMAGE) != 0) item.iImage = I_IMAGENONE;
     if ((item.mask & LVIF_STATE) != 0)
         item.state = INDEXTOSTATEIMAGEMASK(IsChecked(position) ? kCheckedImage : kUncheckedImage);
 }

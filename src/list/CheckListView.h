@@ -62,10 +62,12 @@ class CheckListView : public Control {
     void SetEmptyText(const std::wstring& text);
 
     // What the user does.
-    std::function<void()> ItemClick;              // selected or clicked a row, by mouse or keys
-    std::function<void(int position)> ItemCheck;  // toggled a check box, by mouse or space bar
+    std::function<void()> ItemClick;  // selected or clicked a row, by mouse or keys
+    // Toggled a check box, by mouse, space bar or a program that serves the disabled.
+    std::function<void(int position)> ItemCheck;
     std::function<void()> ColumnClick;
-    std::function<void()> Activate;  // double-clicked the selected row, or pressed Enter
+    std::function<void()> DblClick;  // double-clicked a row
+    std::function<void()> Enter;     // pressed Enter; not set, Enter presses the window's default button
     std::function<void()> Copy;      // pressed Ctrl+C
     // Asked for a menu by mouse or keys, at a point of the screen. A row under the mouse is selected first.
     std::function<void(POINT at)> MenuAsked;
@@ -79,6 +81,9 @@ class CheckListView : public Control {
     std::optional<LRESULT> OnInput(UINT message, WPARAM wparam, LPARAM lparam);
     bool ShowsEmptyText() const { return !empty_text_.empty() && ListView_GetItemCount(Handle()) == 0; }
     void DrawEmptyText(HDC dc) const;
+    class Unscrolled;
+    // LVM_SETITEMSTATE from another program; the index is 0-based, or -1 for all rows.
+    void SetByMessage(int index, const LVITEMW& item);
     // What is at a point of the client area.
     LVHITTESTINFO HitAt(POINT point) const;
     bool ToggledByMouse(POINT point);
@@ -98,7 +103,8 @@ class CheckListView : public Control {
     std::wstring empty_text_;
     std::vector<bool> checked_;
     CellText text_;
-    bool selecting_ = false;  // the program itself is changing the selection
+    bool selecting_ = false;   // the program itself is changing the selection
+    bool unscrolled_ = false;  // the height of the rows is changing
 };
 
 }  // namespace lindrel

@@ -38,6 +38,26 @@ TEST_F(ListTest, EnterOpensTheRow) {
     EXPECT_EQ(program.CheckedRows(), std::vector<int>{});
 }
 
+TEST_F(ListTest, AnotherProgramChecksRows) {
+    const auto expect = [this](const std::vector<int>& checked) {
+        EXPECT_EQ(program.CheckedRows(), checked);
+        EXPECT_EQ(program.StatusPanel(3), L"bejelölve " + std::to_wstring(checked.size()));
+    };
+    program.SetCheckState(2, true);
+    program.SetCheckState(4, true);
+    program.SetCheckState(4, true);
+    expect({2, 4});
+    program.SetCheckState(2, false);
+    expect({4});
+    std::vector<int> all;
+    for (int row = 1; row <= program.RowCount(); ++row) all.push_back(row);
+    ASSERT_GT(all.size(), 4u);
+    program.SetCheckState(0, true);
+    expect(all);
+    program.SetCheckState(0, false);
+    expect({});
+}
+
 TEST_F(ListTest, TheMenuKeyOpensTheMenuOfTheRow) {
     program.Press({VK_DOWN});
     WaitUntil("the first row", [this] { return program.SelectedRow() == 1; });

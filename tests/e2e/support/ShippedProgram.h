@@ -193,6 +193,15 @@ class ShippedProgram {
     int RowCount() const { return List().Count(); }
     int SelectedRow() const { return List().Selected(); }  // 0 for none
     std::vector<int> CheckedRows() const { return List().Checked(); }
+    // As programs that serve the disabled do it; row 0 means all rows.
+    void SetCheckState(int row, bool checked) const {
+        constexpr int kItem =
+            sizeof(RemoteItem<std::uint64_t>);  // the first members are those of 32 bits too
+        const RemoteMemory memory(process_.hProcess, kItem);
+        const auto state = static_cast<UINT>(INDEXTOSTATEIMAGEMASK(checked ? 2 : 1));
+        memory.Put(RemoteItem<std::uint64_t>{0, 0, 0, state, LVIS_STATEIMAGEMASK, 0, 0, {}});
+        memory.Ask<int>(List().Handle(), LVM_SETITEMSTATE, row - 1);
+    }
     std::wstring Cell(int row, int column) const {  // 0-based column
         constexpr std::size_t kTextAt = 256;
         const RemoteMemory memory(process_.hProcess, kTextAt + sizeof(TextBuffer));

@@ -154,7 +154,6 @@ TEST(BookTest, ABookThatCountsMoreThanItHasIsLeftAloneByFaults) {
     EXPECT_EQ(book.UpperBound(), 2);
     EXPECT_THROW(book.MoveEntry(11, 0, 12), RangeFault);
     EXPECT_THROW(book.AddEntry(12, {{"m", "http://m"}}), RangeFault);
-    EXPECT_THROW(book.RowsOf(12), RangeFault);
     EXPECT_THROW(MoveRuns(book, 11, {{1, 1}}, 12), RangeFault);
     EXPECT_THROW(DeleteRuns(book, 12, {{1, 1}, {2, 1}}), RangeFault);
     EXPECT_THROW(DeleteRuns(book, 11, {{1, 1}, {3, 1}}), RangeFault);
@@ -168,6 +167,23 @@ TEST(BookTest, ABookThatCountsMoreThanItHasIsLeftAloneByFaults) {
     EXPECT_EQ(full.EntryCount(), kMostEntries + 2);
     EXPECT_THROW(full.AddEntry(1, {{"m", "http://m"}}), OverflowFault);
     EXPECT_EQ(full.UpperBound(), 2);
+}
+
+TEST(BookTest, ABookThatCountsMoreThanItHasKnowsWhatItHas) {
+    const Book book = WithTooFewHeaders(5);
+    EXPECT_FALSE(book.IsWhole());
+    for (int k = 1; k <= kCategories; ++k) {
+        const std::size_t stored = k == 11 ? 2 : 0;
+        EXPECT_EQ(book.StoredCount(k), static_cast<int>(stored)) << k;
+        EXPECT_EQ(book.RowsOf(k).Entries.size(), stored) << k;
+    }
+    EXPECT_EQ(book.RowsOf(11).Entries, (std::vector<AddressEntry>{{"a", "http://a"}, {"b", "http://b"}}));
+    EXPECT_THROW(book.StoredCount(13), RangeFault);
+
+    EXPECT_TRUE(Book().IsWhole());
+    const Book whole = BookOf({{1, "abc"}, {3, "d"}});
+    EXPECT_TRUE(whole.IsWhole());
+    for (int k = 1; k <= kCategories; ++k) EXPECT_EQ(whole.StoredCount(k), whole.CategoryCounts(k)) << k;
 }
 
 TEST(BookTest, EntriesAreThoseFromAnIndexOn) {

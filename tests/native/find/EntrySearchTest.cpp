@@ -117,8 +117,12 @@ TEST(EntrySearchTest, ABookThatCountsMoreThanItHasIsSearchedToItsEnd) {
     const std::vector<Hit> expected = {{1, 11, book.Entry(1)}, {2, 11, book.Entry(2)}};
     EXPECT_EQ(FindEntries(book, L"", L"").Items, expected);
     std::int16_t position = 1;
-    EXPECT_THROW(FindInCategory(book, L"a", 12, position), RangeFault);
-    EXPECT_EQ(position, 1);
+    FindInCategory(book, L"b", 11, position);
+    EXPECT_EQ(position, 2);
+    FindInCategory(book, L"b", 11, position);
+    EXPECT_EQ(position, 0);
+    FindInCategory(book, L"a", 12, position);
+    EXPECT_EQ(position, 0);
 }
 
 TEST(EntrySearchTest, HitsStayReadableWhenTheirEntriesAreGone) {

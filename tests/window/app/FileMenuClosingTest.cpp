@@ -15,8 +15,10 @@ class FileMenuClosingTest : public FileSession {
 };
 
 TEST_F(FileMenuClosingTest, AFaultThatNoCommandHandlesIsReportedAndEndsTheProgram) {
-    OpenBookWithoutItsEntries();
-    SendMessageW(program.Control(ID_frmStart_TabStrip1), TCM_SETCURFOCUS, 10, 0);
+    Change();
+    // The next command finds a category that no book has.
+    program.OnUi([](frmStart& form) { form.OpenedBook().CurrentCategory = 13; });
+    program.Choose(ID_mnuImport);
     ExpectBox(program,
               {.Text = L"Futásidejű hiba: 9\r\n\r\nAz index a tartományon kívül esik.\r\n\r\nA program "
                        L"bezárul.",

@@ -255,7 +255,7 @@ TEST_F(LeaksTest, ChangesOfTheResolutionLeaveNothing) {
                           screen.Move(96);
                           EXPECT_EQ(font_height(), height);
                       }),
-                      20);
+                      50);
 }
 
 TEST_F(LeaksTest, SavingLeavesNothing) {

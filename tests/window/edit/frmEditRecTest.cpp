@@ -186,9 +186,14 @@ TEST_F(frmEditRecTest, MissingFieldsAndForeignCharactersAreRefused) {
     program.ClickRow(1);
     const MainState before = program.State();
     const DialogOnScreen dialog = Open();
+    // The focus stays where it is.
+    program.OnUi([&](frmStart&) { SetFocus(dialog.Control(ID_frmEditRec_txtURL)); });
+    SendMessageW(dialog.Control(ID_frmEditRec_txtURL), EM_SETSEL, 2, 5);
     dialog.SetText(ID_frmEditRec_txtDesc, L" ");
-    dialog.Click(ID_frmEditRec_cmdOk);
+    program.PressKey(dialog.Control(ID_frmEditRec_txtURL), VK_RETURN);
     ExpectMissingFields();
+    EXPECT_EQ(dialog.Focus(), ID_frmEditRec_txtURL);
+    EXPECT_EQ(dialog.Selection(ID_frmEditRec_txtURL), std::pair(2, 5));
     dialog.SetText(ID_frmEditRec_txtDesc, L"漢");
     dialog.Click(ID_frmEditRec_cmdOk);
     ExpectForeignCharacter(L"„漢” (U+6F22)");

@@ -155,19 +155,31 @@ TEST_F(frmFindTest, TheQuestionBeforeAProgramIsStartedBelongsToTheDialog) {
     program.Settle();
 }
 
-TEST_F(frmFindTest, ArrowKeysShowTheAddressAndEnterOpensItAndKeepsTheCheckMarks) {
-    const RecordedShell shell;
+TEST_F(frmFindTest, ArrowKeysShowTheAddressAndKeepTheCheckMarks) {
     const FindDialog dialog = FindSix();
     dialog.List().ClickBox(1);
-    program.PressKey(dialog.List().Handle(), VK_RETURN);  // no hit is selected
     dialog.ClickHit(3);
     program.PressKey(dialog.List().Handle(), VK_DOWN);
     EXPECT_EQ(dialog.Text(ID_frmFind_lblURL), L"http://4.hu");
-    program.PressKey(dialog.List().Handle(), VK_RETURN);
-    EXPECT_EQ(shell.NextAddress(), L"http://4.hu");
-    EXPECT_EQ(shell.Addresses(), std::vector<std::wstring>{L"http://4.hu"});
     EXPECT_EQ(dialog.List().Checked(), std::vector<int>{1});
     EXPECT_EQ(dialog.List().Selected(), 4);
+}
+
+TEST_F(frmFindTest, EnterInTheHitsSearchesAgain) {
+    const RecordedShell shell;
+    const FindDialog dialog = FindSix();
+    const HWND hits = dialog.List().Handle();
+    dialog.ClickHit(3);
+    dialog.SetText(ID_frmFind_txtWhat, L"x1");
+    program.PressKey(hits, VK_RETURN);
+    ExpectHits(dialog, {{L"x1", L"Project2"}});
+    EXPECT_EQ(dialog.Text(ID_frmFind_lblURL), L"");
+    EXPECT_EQ(GetDlgCtrlID(hits), dialog.Focus());
+    // Without a selected hit too.
+    dialog.SetText(ID_frmFind_txtWhat, L"x2");
+    program.PressKey(hits, VK_RETURN);
+    ExpectHits(dialog, {{L"x2", L"Project2"}});
+    EXPECT_EQ(shell.Addresses(), std::vector<std::wstring>{});
 }
 
 TEST_F(frmFindTest, TheWholeAddressIsTheTipOfTheLineThatMayCutIt) {

@@ -40,6 +40,74 @@ TEST(CheckListViewTest, ChangesOfCheckMarksAreTold) {
     EXPECT_TRUE(UnhookWinEvent(hook));
 }
 
+// What a program that serves the disabled sends; row 0 means all rows.
+void SetCheckState(const ListOnScreen& list, int row, int image) {
+    LVITEMW item{};
+    item.stateMask = LVIS_STATEIMAGEMASK;
+    item.state = static_cast<UINT>(INDEXTOSTATEIMAGEMASK(image));
+    SendMessageW(list.Handle(), LVM_SETITEMSTATE, static_cast<WPARAM>(row - 1),
+                 reinterpret_cast<LPARAM>(&item));
+}
+
+TEST(CheckListViewTest, ACheckMarkSetByMessageIsAToggleOfTheUser) {
+    const Program program;
+    program.Add(1, {{L"1", L"http://1.hu"},
+                    {L"2", L"http://2.hu"},
+                    {L"3", L"http://3.hu"},
+                    {L"4", L"http://4.hu"},
+                    {L"5", L"http://5.hu"}});
+    const ListOnScreen list = program.List();
+    program.ClickRow(1);
+    const auto expect = [&program](int selected, const std::vector<int>& checked) {
+        const MainState state = program.State();
+        EXPECT_EQ(state.Checked, checked);
+        EXPECT_EQ(state.Status[2], L"bejelölve " + std::to_wstring(checked.size()));
+        EXPECT_EQ(state.SelectedRow, selected);
+        EXPECT_EQ(state.txtSite, std::to_wstring(selected));
+        EXPECT_FALSE(state.Modified);
+    };
+    constexpr int kUnchecked = 1;
+    constexpr int kChecked = 2;
+    SetCheckState(list, 3, kChecked);
+    expect(1, {3});
+    SetCheckState(list, 3, kChecked);
+    SetCheckState(list, 2, kUnchecked);
+    expect(1, {3});
+    SetCheckState(list, 3, kUnchecked);
+    expect(1, {});
+    SetCheckState(list, 1, kChecked);
+    expect(2, {1});  // as after the user's
+    SetCheckState(list, 0, kChecked);
+    expect(3, {1, 2, 3, 4, 5});
+    SetCheckState(list, 0, kUnchecked);
+    expect(4, {});
+    // Neither one nor the other, and no such row.
+    for (const int image : {0, 3}) SetCheckState(list, 1, image);
+    for (const int row : {-1, 6}) SetCheckState(list, row, kChecked);
+    expect(4, {});
+}
+
+TEST(CheckListViewTest, NoCheckMarkIsSetByMessageBehindADialog) {
+    const Program program;
+    program.Add(1, {{L"1", L"http://1.hu"}, {L"2", L"http://2.hu"}});
+    program.ClickRow(1);
+    const MainState before = program.State();
+    program.Choose(ID_mnuFind);
+    const DialogOnScreen dialog = program.Dialog(L"Keresés");
+    dialog.Click(ID_frmFind_cmdFind);
+    program.Settle();
+    SetCheckState(program.List(), 0, 2);
+    EXPECT_EQ(program.State(), before);
+    // The dialog's own list takes it.
+    const ListOnScreen hits(dialog.Control(ID_frmFind_ListView));
+    SetCheckState(hits, 2, 2);
+    EXPECT_EQ(hits.Checked(), std::vector<int>{2});
+    dialog.Cancel();
+    program.Settle();
+    EXPECT_EQ(program.State().Checked, std::vector<int>{2});
+    EXPECT_EQ(program.State().Status[2], L"bejelölve 1");
+}
+
 using Wanted = std::function<bool(UINT message, LPARAM lparam)>;
 
 // Counts the messages of a window that are wanted, while a piece of code runs in the program's thread.
