@@ -351,12 +351,22 @@ DWORD WINAPI AttributesOfALink(LPCWSTR path) {
     const bool link = std::wstring_view(path).ends_with(L"\\a.lnd");
     return link ? FILE_ATTRIBUTE_REPARSE_POINT : get_file_attributes(path);
 }
-DWORD WINAPI AttributesOfALeftoverBeingDeleted(LPCWSTR path) {
+// Of a file that is being deleted nothing can be learned.
+DWORD WINAPI AttributesUnlessBeingDeleted(LPCWSTR path) {
     const DWORD attributes = get_file_attributes(path);
     const bool leftover = std::wstring_view(path).ends_with(L".tmp");
     if (!leftover || attributes == INVALID_FILE_ATTRIBUTES) return attributes;
     SetLastError(ERROR_ACCESS_DENIED);
     return INVALID_FILE_ATTRIBUTES;
+}
+HANDLE WINAPI CreationUnlessBeingDeleted(LPCWSTR path, DWORD access, DWORD sharing,
+                                         LPSECURITY_ATTRIBUTES security, DWORD creation, DWORD attributes,
+                                         HANDLE pattern) {
+    if (creation != CREATE_NEW || get_file_attributes(path) == INVALID_FILE_ATTRIBUTES)
+        return create_file(path, access, sharing, security, creation, attributes, pattern);
+    ++tries;
+    SetLastError(ERROR_ACCESS_DENIED);
+    return INVALID_HANDLE_VALUE;
 }
 DWORD WINAPI AttributesWithEncryption(LPCWSTR path) {
     const DWORD attributes = get_file_attributes(path);
@@ -379,10 +389,14 @@ TEST_F(FileFaultsTest, ALeftoverThatIsBeingDeleted) {
     Old();
     const std::wstring leftover = folder.Write(kTemporary, "x");
     get_file_attributes = &GetFileAttributesW;
-    const ReplacedImport attributes(&GetFileAttributesW, &AttributesOfALeftoverBeingDeleted);
+    create_file = &CreateFileW;
+    tries = 0;
     const Holder other(leftover, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, kMoment);
     ASSERT_TRUE(DeleteFileW(leftover.c_str()));
+    const ReplacedImport attributes(&GetFileAttributesW, &AttributesUnlessBeingDeleted);
+    const ReplacedImport creation(&CreateFileW, &CreationUnlessBeingDeleted);
     EXPECT_EQ(FaultOfReplacing(file), kNone);
+    EXPECT_GT(tries, 1);
     Expect(kNew);
 }
 
