@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 #include <utility>
+#include <vector>
 
 #include "app/BookFileBoxes.h"
 #include "book/BookFile.h"
@@ -102,7 +103,7 @@ void FileMenu::mnuSaveAs_Click() {
                               MB_YESNOCANCEL | MB_ICONQUESTION);
     }
     if (answer != IDYES) return;
-    if (SaveBook(open_.OpenedFile))
+    if (WriteBook(open_.OpenedFile))  // the user has agreed already, whoever has changed the file
         ShowFileNameInTitle();
     else
         open_.OpenedFile = before;  // or the next save would fail in the same way
@@ -139,12 +140,13 @@ std::optional<std::wstring> FileMenu::ChooseFileToSave(bool ask_to_overwrite) co
 }
 
 void FileMenu::OpenBookFile(const std::wstring& path) {
-    // Before the file is read, so that a change in between is not missed.
-    const std::optional<FileState> state = StateOf(path);
     BookFromFile read;
+    ContentSum content;
     try {
         const WaitCursor hourglass;
-        read = ReadBook(open_.TheBook, ReadFileBytes(path));
+        std::vector<char> bytes = ReadFileBytes(path);
+        content = ContentSum({bytes.data(), bytes.size()});
+        read = ReadBook(open_.TheBook, std::move(bytes));
     } catch (...) {
         return TellWhyNotRead(window_);
     }
@@ -152,7 +154,7 @@ void FileMenu::OpenBookFile(const std::wstring& path) {
     open_.TheBook = std::move(read.TheBook);
     open_.OpenedFile = path;
     known_file_ = path;
-    known_state_ = state;
+    known_content_ = content;
     ShowFileNameInTitle();
     TellWhatIsMissing(window_, read);
     open_.Modified = false;
@@ -160,18 +162,19 @@ void FileMenu::OpenBookFile(const std::wstring& path) {
     view_.FillAddressList(open_.CurrentCategory);
 }
 
-bool FileMenu::SaveBook(const std::wstring& path) {
-    if (!MayReplace(path)) return false;
+bool FileMenu::WriteBook(const std::wstring& path) {
     try {
         const WaitCursor hourglass;
-        NamingTheFile(path, [&] { ReplaceFileBytes(path, lindrel::SaveBook(open_.TheBook)); });
+        NamingTheFile(path, [&] {
+            const std::string bytes = lindrel::SaveBook(open_.TheBook);
+            ReplaceFileBytes(path, bytes);
+            known_content_ = ContentSum(bytes);
+        });
     } catch (const FileFault&) {
-        MsgBox(window_, CurrentFault().Meaning(), MB_OK | MB_ICONERROR, kErrorTitle);
-        return false;
+        return TellWhyNotSaved();
     }
     open_.OpenedFile = path;
     known_file_ = path;
-    known_state_ = StateOf(path);
     open_.Modified = false;
     MsgBox(window_, L"Elmentve : " + path);
     WarnOfHeaderLookalikes(window_, open_.TheBook);
@@ -179,14 +182,30 @@ bool FileMenu::SaveBook(const std::wstring& path) {
 }
 
 bool FileMenu::MayReplace(const std::wstring& path) const {
-    if (path != known_file_) return true;
-    const std::optional<FileState> now = StateOf(path);
-    if (!now || now == known_state_) return true;
+    try {
+        if (path != known_file_ || !HasChanged(path)) return true;
+    } catch (const FileFault&) {
+        return TellWhyNotSaved();
+    }
     return MsgBox(window_,
                   path +
                       L"\r\n\r\nEzt a fájlt egy másik program megváltoztatta, mióta a könyvet megnyitotta "
                       L"vagy elmentette.\r\nFelülírjam a másik program változtatásait?",
                   MB_YESNO | MB_ICONWARNING | MB_DEFBUTTON2, kWarningTitle) == IDYES;
+}
+
+bool FileMenu::HasChanged(const std::wstring& path) const {
+    const WaitCursor hourglass;
+    return NamingTheFile(path, [&] {
+        if (!IsFile(path)) return false;
+        const std::vector<char> bytes = ReadFileBytes(path);
+        return ContentSum({bytes.data(), bytes.size()}) != known_content_;
+    });
+}
+
+bool FileMenu::TellWhyNotSaved() const {
+    MsgBox(window_, CurrentFault().Meaning(), MB_OK | MB_ICONERROR, kErrorTitle);
+    return false;
 }
 
 void FileMenu::ShowFileNameInTitle() const {

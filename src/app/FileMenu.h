@@ -6,7 +6,7 @@
 
 #include "app/BookView.h"
 #include "book/OpenBook.h"
-#include "files/Files.h"
+#include "files/ContentSum.h"
 
 namespace lindrel {
 
@@ -48,19 +48,27 @@ class FileMenu {
     void OpenBookFile(const std::wstring& path);
     // The chosen path, or nullopt if the user cancels or the dialog fails.
     std::optional<std::wstring> ChooseFileToSave(bool ask_to_overwrite) const;
+    // Asks first if another program has changed the book's file, then writes it.
+    bool SaveBook(const std::wstring& path) { return MayReplace(path) && WriteBook(path); }
     // Writes the book, which belongs to this file from then on, and tells the user. If it cannot be written,
-    // or the user keeps what another program has written there, tells why, changes nothing and returns false.
-    bool SaveBook(const std::wstring& path);
-    // False if another program has changed the book's file and the user wants to keep that.
+    // tells why, changes nothing and returns false.
+    bool WriteBook(const std::wstring& path);
+    // False if another program has changed the book's file and the user wants to keep that, or if it cannot
+    // be read, which the user is told.
     bool MayReplace(const std::wstring& path) const;
+    // Whether the book's file is there with another content than it was last read or written with. Throws
+    // FileFault if it cannot be read.
+    bool HasChanged(const std::wstring& path) const;
+    // In a catch clause: tells why a file could not be saved. Returns false.
+    bool TellWhyNotSaved() const;
     void ShowFileNameInTitle() const;
 
     OpenBook& open_;
     BookView& view_;
     HWND window_ = nullptr;
-    // The file that was last read or written, and its state at that time.
+    // The file that was last read or written, and its content at that time.
     std::wstring known_file_;
-    std::optional<FileState> known_state_;
+    ContentSum known_content_;
 };
 
 }  // namespace lindrel

@@ -9,6 +9,7 @@
 #include "faults/LastError.h"
 #include "faults/PendingFault.h"
 #include "system/MsgBox.h"
+#include "system/SystemLibrary.h"
 
 namespace lindrel {
 
@@ -40,6 +41,7 @@ int RunMessageLoop(frmStart& form) {
 }  // namespace
 
 int RunProgram(HINSTANCE instance, int show) {
+    PreferSystemLibraries();
     // An empty drive is an error like any other, not a box of the system.
     SetErrorMode(GetErrorMode() | SEM_FAILCRITICALERRORS);
     const ComApartment com;

@@ -160,8 +160,6 @@ void frmStart::OnEndSession(bool ending) {
 void frmStart::OnBookDropped() {
     // A command may have opened a dialog since the drop, and the dialog works on the open book.
     if (!IsWindowEnabled(Handle())) return;
-    // Fails while another program keeps the foreground; the book is opened all the same.
-    static_cast<void>(SetForegroundWindow(Handle()));
     file_menu_.OpenDropped(book_drop_.TakePath());
 }
 

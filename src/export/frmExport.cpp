@@ -215,7 +215,7 @@ PageStyle frmExport::ReadTheme() const {
     PageStyle style;
     const std::wstring theme = Text(ID_frmExport_cmbTheme);
     if (theme.size() > kTooShortForATheme) {
-        if (StateOf(theme)) {
+        if (IsFile(theme)) {
             const std::vector<char> bytes = ReadFileBytes(theme);
             style.ThemeParts = ApplyTheme(DefaultThemeParts(), {bytes.data(), bytes.size()});
             style.ThemeApplied = true;

@@ -4,9 +4,11 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 
 #include "faults/Faults.h"
 #include "files/Folder.h"
+#include "files/HeldFile.h"
 #include "files/Patience.h"
 #include "files/SystemHandle.h"
 
@@ -50,18 +52,9 @@ std::wstring SystemPath(const Path& path) {
     return LongPath(full);
 }
 
-bool IsReadOnlyOrFolder(DWORD attributes) {
-    return attributes != INVALID_FILE_ATTRIBUTES &&
-           (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) != 0;
-}
-
-// Whether the cause of an error may be another program that holds the file. "Access denied" may mean that
-// too.
-bool MayPass(const std::wstring& path, DWORD error) {
-    if (error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION) return true;
-    if (error != ERROR_ACCESS_DENIED) return false;
+bool MayPassAt(const std::wstring& path, DWORD error) {
     const DWORD attributes = GetFileAttributesW(path.c_str());
-    return attributes != INVALID_FILE_ATTRIBUTES && !IsReadOnlyOrFolder(attributes);
+    return MayPass(error, attributes, GetLastError());
 }
 
 // Tries an operation, which returns the system's error, as long as its error may pass.
@@ -70,7 +63,7 @@ DWORD Patiently(const std::wstring& path, Operation operation) {
     Patience patience(kFilePatience);
     DWORD error = ERROR_SUCCESS;
     do error = operation();
-    while (error != ERROR_SUCCESS && MayPass(path, error) && patience.Pause());
+    while (error != ERROR_SUCCESS && MayPassAt(path, error) && patience.Pause());
     return error;
 }
 
@@ -132,11 +125,18 @@ std::wstring TemporaryBeside(const std::wstring& target) {
     return target.substr(0, start) + L"~lnd" + digits + L".tmp";
 }
 
-SystemHandle CreateTemporary(const Path& path, const std::wstring& temporary) {
+// For the file that takes the place of another one with these attributes.
+DWORD CreationAttributes(DWORD old_attributes) {
+    const bool encrypted =
+        old_attributes != INVALID_FILE_ATTRIBUTES && (old_attributes & FILE_ATTRIBUTE_ENCRYPTED) != 0;
+    return encrypted ? FILE_ATTRIBUTE_ENCRYPTED : FILE_ATTRIBUTE_NORMAL;
+}
+
+SystemHandle CreateTemporary(const Path& path, const std::wstring& temporary, DWORD attributes) {
     SystemHandle file;
     const DWORD error = Patiently(temporary, [&]() -> DWORD {
-        file = SystemHandle(CreateFileW(temporary.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
-                                        FILE_ATTRIBUTE_NORMAL, nullptr));
+        file = SystemHandle(
+            CreateFileW(temporary.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, attributes, nullptr));
         const DWORD result = ErrorUnless(file.IsOpen());
         if (result != ERROR_FILE_EXISTS) return result;
         const DWORD removal = ErrorUnless(DeleteFileW(temporary.c_str()));
@@ -209,9 +209,10 @@ void WriteFileBytes(const Path& path, std::string_view bytes) {
 
 void ReplaceFileBytes(const Path& path, std::string_view bytes) {
     const std::wstring target = TargetOf(path);
-    if (IsReadOnlyOrFolder(GetFileAttributesW(target.c_str()))) Fail(path, ERROR_ACCESS_DENIED);
+    const DWORD attributes = GetFileAttributesW(target.c_str());
+    if (IsReadOnlyOrFolder(attributes)) Fail(path, ERROR_ACCESS_DENIED);
     const std::wstring temporary = TemporaryBeside(target);
-    SystemHandle file = CreateTemporary(path, temporary);
+    SystemHandle file = CreateTemporary(path, temporary, CreationAttributes(attributes));
     try {
         Write(path, file, bytes);
         FlushAndClose(path, file);
@@ -230,19 +231,12 @@ void ReplaceFileBytes(const Path& path, std::string_view bytes) {
     }
 }
 
-std::optional<FileState> StateOf(const Path& path) {
-    SystemHandle file;
+bool IsFile(const Path& path) {
     try {
-        file = OpenToLookAt(SystemPath(path));
+        return OpenToLookAt(SystemPath(path)).IsOpen();
     } catch (const FileFault&) {
-        return std::nullopt;  // a device
+        return false;  // a device
     }
-    BY_HANDLE_FILE_INFORMATION found{};
-    if (!file.IsOpen() || !GetFileInformationByHandle(file.Get(), &found)) return std::nullopt;
-    const auto joined = [](DWORD high, DWORD low) { return std::uint64_t{high} << 32U | low; };
-    return FileState{joined(found.nFileSizeHigh, found.nFileSizeLow),
-                     joined(found.ftLastWriteTime.dwHighDateTime, found.ftLastWriteTime.dwLowDateTime),
-                     found.dwVolumeSerialNumber, joined(found.nFileIndexHigh, found.nFileIndexLow)};
 }
 
 std::wstring WideText(const Path& path) {

@@ -5,8 +5,6 @@
 // (kFilePatience). A device, such as "nul.lnd", is refused: whatever is written there vanishes.
 #pragma once
 
-#include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,23 +24,13 @@ void WriteFileBytes(const Path& path, std::string_view bytes);
 // disk and renames it, so that there is always the old file or the whole new one. A fault leaves the old file
 // unchanged and no temporary file.
 //
-// The new file takes over attributes and access list. Other names of the old file (hard links) keep the old
-// content; a symbolic link stays, and its target is replaced. A folder, a read-only file or a link to
-// nowhere is refused.
+// The new file takes over attributes and access list; of an encrypted file there is never a plain copy. Other
+// names of the old file (hard links) keep the old content; a symbolic link stays, and its target is replaced.
+// A folder, a read-only file or a link to nowhere is refused.
 void ReplaceFileBytes(const Path& path, std::string_view bytes);
 
-// Tells whether another program has changed a file: its size in bytes, the time of its last change in the
-// system's units, and its identity on the disk.
-struct FileState {
-    std::uint64_t Size = 0;
-    std::uint64_t Time = 0;
-    std::uint64_t Volume = 0;
-    std::uint64_t Index = 0;
-    friend bool operator==(const FileState&, const FileState&) = default;
-};
-
-// Nothing if there is no file or it cannot be looked at.
-std::optional<FileState> StateOf(const Path& path);
+// Whether there is such a file. Folders and devices are none, and neither is a link to nowhere.
+bool IsFile(const Path& path);
 
 // The part of a path after its last backslash, or all of it, without blanks at its ends.
 inline std::wstring FileNameOf(std::wstring_view path) {

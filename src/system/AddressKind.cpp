@@ -6,6 +6,7 @@
 
 #include "text/Ascii.h"
 #include "text/BookText.h"
+#include "text/Utf8.h"
 
 namespace lindrel {
 
@@ -42,6 +43,17 @@ std::wstring_view SchemeOf(std::wstring_view text) {
     const std::size_t colon = text.find_first_not_of(kSchemeCharacters);
     const bool found = colon != std::wstring_view::npos && colon > 1 && text[colon] == L':';
     return found && IsLetter(text.front()) ? text.substr(0, colon) : std::wstring_view();
+}
+
+// Of a text in lower case.
+bool StartsWithWww(std::wstring_view text) {
+    return text.starts_with(L"www.");
+}
+
+// Quotation marks, control characters, and what Unicode counts as the end of a line.
+bool MayEndAnArgument(char32_t character) {
+    const bool is_control = character < U' ' || (character >= 0x7F && character < 0xA0);
+    return character == U'"' || is_control || character == 0x2028 || character == 0x2029;
 }
 
 // The value of a hexadecimal digit in lower case, or npos.
@@ -169,13 +181,32 @@ AddressKind Classify(std::wstring_view address) {
     // The shell looks for a file of that name first, which must not be one in another folder.
     const bool leads_elsewhere =
         text.find(L'\\') != std::wstring::npos || text.find(L"..") != std::wstring::npos;
-    if (text.starts_with(L"www.") && !leads_elsewhere) return AddressKind::Web;
+    if (StartsWithWww(text) && !leads_elsewhere) return AddressKind::Web;
 
     const std::wstring plain = Plain(address);
     if (Decoded(plain) != plain) return AddressKind::Unsure;  // encoded twice, to deceive
     if (scheme.empty()) return KindOfPath(plain);
     const std::optional<std::wstring> path = scheme == L"file" ? PathOfFileAddress(plain) : std::nullopt;
     return path ? KindOfPath(*path) : AddressKind::Unsure;
+}
+
+std::wstring ForTheShell(std::wstring_view address) {
+    if (Classify(address) != AddressKind::Web) return std::wstring(address);
+    std::wstring given;
+    if (StartsWithWww(AsciiLowerCase(Trim(address)))) {
+        given = L"http://";
+        address = Trim(address);
+    }
+    for (const wchar_t unit : address) {
+        const auto character = static_cast<char32_t>(unit);
+        if (!MayEndAnArgument(character)) {
+            given += unit;
+            continue;
+        }
+        const std::string encoded = PercentEncoded(character);
+        given.append(encoded.begin(), encoded.end());
+    }
+    return given;
 }
 
 std::vector<std::wstring> ExtensionsOf(std::wstring_view address) {

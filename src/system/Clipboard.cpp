@@ -34,7 +34,9 @@ bool OwnerAnswers() {
 
 class OpenedClipboard {
   public:
-    explicit OpenedClipboard(HWND owner) : open_(OpenPatiently(owner)), usable_(open_ && OwnerAnswers()) {}
+    explicit OpenedClipboard(HWND owner) : open_(OpenPatiently(owner)), usable_(open_ && OwnerAnswers()) {
+        if (!usable_) static_cast<void>(MessageBeep(MB_OK));  // a machine without sound stays silent
+    }
     ~OpenedClipboard() {
         if (open_) CloseClipboard();
     }

@@ -8,7 +8,7 @@
 namespace lindrel {
 
 // Both functions wait up to 200 milliseconds for another program that has the clipboard open, and as long for
-// the clipboard's owner to answer.
+// the clipboard's owner to answer, and beep if that was in vain.
 
 // The text on the clipboard; empty if there is none, or if one of these programs makes it wait too long.
 std::wstring ClipboardText(HWND owner);

@@ -17,6 +17,23 @@ namespace {
 
 constexpr std::size_t kLongestPath = 32768;
 
+// Puts the current folder back. A dialog makes the folder that it shows the current one; the flag against
+// that has no effect on the open dialog. Any program there could be started in the place of another one, and
+// the folder could not be removed.
+class CurrentFolder {
+  public:
+    CurrentFolder() : folder_(GetCurrentDirectoryW(0, nullptr), L'\0') {
+        folder_.resize(GetCurrentDirectoryW(static_cast<DWORD>(folder_.size()), folder_.data()));
+    }
+    // Fails if the folder is no longer there; any other one is as good then.
+    ~CurrentFolder() { static_cast<void>(SetCurrentDirectoryW(folder_.c_str())); }
+    CurrentFolder(const CurrentFolder&) = delete;
+    CurrentFolder& operator=(const CurrentFolder&) = delete;
+
+  private:
+    std::wstring folder_;
+};
+
 // Shows one of the file dialogs. False if no file was chosen; `reason` is then the system's error number, 0
 // if the user cancelled. The library is loaded for the first dialog, not at the start, because it loads the
 // printing system too.
@@ -27,6 +44,7 @@ bool Show(bool save, OPENFILENAMEW& dialog, DWORD& reason) {
     const auto error = SystemFunction<decltype(&CommDlgExtendedError)>(kLibrary, "CommDlgExtendedError");
     reason = CDERR_INITIALIZATION;
     if (show == nullptr || error == nullptr) return false;
+    const CurrentFolder kept;
     if (show(&dialog)) return true;
     reason = error();
     return false;

@@ -6,7 +6,6 @@
 #include <atomic>
 #include <memory>
 
-#include "faults/Faults.h"
 #include "faults/PendingFault.h"
 #include "system/Shell.h"
 
@@ -74,6 +73,9 @@ class FileDrop::Target final : public IDropTarget {
         *effect = Allowed(*effect);
         if (*effect == DROPEFFECT_NONE) return S_OK;
         owner_.path_ = std::exchange(path_, {});
+        // Later, another program would keep the foreground. If it does already, the book is opened all the
+        // same.
+        static_cast<void>(SetForegroundWindow(owner_.window_));
         // If the queue is full nothing is opened, and the user has to drop the file again.
         static_cast<void>(PostMessageW(owner_.window_, kMessage, 0, 0));
         return S_OK;
@@ -96,9 +98,7 @@ void FileDrop::Attach(HWND window) {
     auto* const target = new Target(*this);
     const HRESULT registered = RegisterDragDrop(window, target);
     target->Release();
-    if (FAILED(registered))
-        throw SystemFault(L"egérrel húzott fájlok fogadása", static_cast<unsigned long>(registered));
-    window_ = window;
+    if (SUCCEEDED(registered)) window_ = window;
 }
 
 void FileDrop::Detach() {

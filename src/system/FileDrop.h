@@ -21,8 +21,8 @@ class FileDrop {
     FileDrop(const FileDrop&) = delete;
     FileDrop& operator=(const FileDrop&) = delete;
 
-    // From now on the window accepts files while it is enabled. Its thread must have called OleInitialize.
-    // Throws SystemFault if Windows refuses.
+    // From now on the window accepts files while it is enabled, and is in the foreground after a drop. Its
+    // thread must have called OleInitialize. If Windows refuses, nothing can be dropped.
     void Attach(HWND window);
     // To be called before the window is destroyed.
     void Detach();

@@ -15,9 +15,4 @@ inline constexpr wchar_t kErrorTitle[] = L"Hiba";
 int MsgBox(HWND owner, const std::wstring& text, UINT style = MB_OK,
            const std::wstring& title = kApplicationTitle);
 
-// The default beep: for a command that has nothing to act on.
-inline void SoundNothingToDo() {
-    static_cast<void>(MessageBeep(MB_OK));  // a machine without sound stays silent
-}
-
 }  // namespace lindrel

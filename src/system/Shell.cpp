@@ -79,7 +79,7 @@ bool UserAgreesToOpen(HWND owner, const std::wstring& address) {
 INT_PTR OpenAddress(HWND owner, const std::wstring& address) {
     if (MayStartAProgram(address) && !UserAgreesToOpen(owner, address)) return SE_ERR_ACCESSDENIED;
     return reinterpret_cast<INT_PTR>(
-        ShellExecuteW(nullptr, nullptr, address.c_str(), nullptr, nullptr, SW_SHOWNORMAL));
+        ShellExecuteW(nullptr, nullptr, ForTheShell(address).c_str(), nullptr, nullptr, SW_SHOWNORMAL));
 }
 
 std::optional<std::wstring> ShellFolder(int csidl) {

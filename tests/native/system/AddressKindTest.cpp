@@ -142,5 +142,28 @@ TEST(AddressKindTest, ExtensionsAreThoseTheShellMayGoBy) {
     EXPECT_EQ(ExtensionsOf(L""), Extensions{});
 }
 
+TEST(AddressKindTest, AWebAddressWithoutASchemeGetsOne) {
+    EXPECT_EQ(ForTheShell(L"www.pelda.hu"), L"http://www.pelda.hu");
+    EXPECT_EQ(ForTheShell(L"WWW.Példa.com/a b?c=d#e"), L"http://WWW.Példa.com/a b?c=d#e");
+    EXPECT_EQ(ForTheShell(L" www.pelda.hu:8080  "), L"http://www.pelda.hu:8080");
+    EXPECT_EQ(ForTheShell(L"www.x\"y\t"), L"http://www.x%22y%09");
+}
+
+TEST(AddressKindTest, NothingInAWebAddressEndsAnArgument) {
+    EXPECT_EQ(ForTheShell(L"mailto:x\" /switch"), L"mailto:x%22 /switch");
+    EXPECT_EQ(ForTheShell(L" HTTP://x/?q=\"két szó\"+%22 "), L" HTTP://x/?q=%22két szó%22+%22 ");
+    EXPECT_EQ(ForTheShell(std::wstring(L"https:\0\x01\t\r\n\x1f !", 14)), L"https:%00%01%09%0D%0A%1F !");
+    EXPECT_EQ(ForTheShell(L"ftp:~\x7f\x80\x85\x9f\xa0"), L"ftp:~%7F%C2%80%C2%85%C2%9F\xa0");
+    EXPECT_EQ(ForTheShell(L"http:\u2027\u2028\u2029\u202a"), L"http:\u2027%E2%80%A8%E2%80%A9\u202a");
+    EXPECT_EQ(ForTheShell(L"http://a\\b'%20<>|^&„ő”"), L"http://a\\b'%20<>|^&„ő”");
+}
+
+TEST(AddressKindTest, AnyOtherTextGoesToTheShellAsItIs) {
+    for (const std::wstring address :
+         {L"C:\\a \"b\".txt", L" C:\\Képek\\ő.jpg ", L"file:///C:/a%20b.html", L"x:\"\t\x85",
+          L"www.x\\..\\a\".exe", L"www", L"wwww.pelda.hu", L"calc", L""})
+        EXPECT_EQ(ForTheShell(address), address) << Shown(address);
+}
+
 }  // namespace
 }  // namespace lindrel

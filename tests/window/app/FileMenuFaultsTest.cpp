@@ -1,5 +1,8 @@
 // Saving to a device, over another book, over a file that another program has changed.
 
+#include <chrono>
+#include <filesystem>
+
 #include "tests/window/app/FileSession.h"
 #include "tests/window/support/ReplacedImport.h"
 
@@ -113,12 +116,80 @@ TEST_F(FileMenuFaultsTest, AFileThatAnotherProgramHasChangedIsAskedAbout) {
     ExpectSaved(path);
 }
 
-TEST_F(FileMenuFaultsTest, AChangeOfTheSameLengthIsSeenToo) {
+TEST_F(FileMenuFaultsTest, AChangeOfTheSameLengthIsSeenWhateverItsTime) {
     const std::wstring path = OpenAndChange();
-    folder.Write(L"másik.lnd", TemporaryFolder::Read(path));
-    ASSERT_TRUE(MoveFileExW(folder.File(L"másik.lnd").c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING));
+    std::string changed = TemporaryFolder::Read(path);
+    changed.back() = ' ';
+    const HANDLE file = CreateFileW(path.c_str(), GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ, nullptr,
+                                    OPEN_EXISTING, 0, nullptr);
+    FILETIME time{};
+    DWORD written = 0;
+    EXPECT_TRUE(GetFileTime(file, nullptr, nullptr, &time));
+    EXPECT_TRUE(WriteFile(file, changed.data(), static_cast<DWORD>(changed.size()), &written, nullptr));
+    EXPECT_TRUE(SetFileTime(file, nullptr, nullptr, &time));
+    CloseHandle(file);
     program.Choose(ID_mnuSave);
     ExpectChangedQuestion(path, IDNO);
+    program.Settle();
+    EXPECT_EQ(TemporaryFolder::Read(path), changed);
+}
+
+// As backups and network drives do it.
+TEST_F(FileMenuFaultsTest, TheSameContentInAnotherFileIsNotAskedAbout) {
+    const std::wstring path = OpenAndChange();
+    const std::string opened = TemporaryFolder::Read(path);
+    const auto expect_no_question = [&] {
+        program.Choose(ID_mnuSave);
+        ExpectSaved(path);
+        program.Settle();
+        EXPECT_TRUE(program.NothingIsOpen());
+        Change();
+    };
+    const std::wstring copy = folder.Write(L"másik.lnd", opened);
+    ASSERT_TRUE(MoveFileExW(copy.c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING));
+    expect_no_question();
+    std::filesystem::last_write_time(path, std::filesystem::last_write_time(path) + std::chrono::hours(1));
+    expect_no_question();
+    const std::string saved = TemporaryFolder::Read(path);
+    folder.Write(L"közös.lnd", "another program's");
+    folder.Write(L"közös.lnd", saved);
+    expect_no_question();
+}
+
+TEST_F(FileMenuFaultsTest, SaveAsOntoTheBooksOwnChangedFileAsksOnce) {
+    const std::wstring path = OpenAndChange();
+    MainState expected = program.State();
+    folder.Write(L"közös.lnd", "another program's");
+    ChooseWithFile(ID_mnuSaveAs, path);
+    ExpectOverwriteQuestion(path, IDYES);
+    ExpectSaved(path);
+    expected.Modified = false;
+    ExpectState(expected);
+    EXPECT_EQ(TemporaryFolder::Read(path), TwoEntries());
+    // A plain save asks about the next change.
+    SetModified(true);
+    folder.Write(L"közös.lnd", "another program's");
+    program.Choose(ID_mnuSave);
+    ExpectChangedQuestion(path, IDNO);
+}
+
+// Another program has changed the file and lets nobody read it: whether that may be overwritten cannot be
+// asked, though the file could be replaced.
+TEST_F(FileMenuFaultsTest, AFileThatCannotBeReadIsNotOverwritten) {
+    const std::wstring path = OpenAndChange();
+    const MainState before = program.State();
+    folder.Write(L"közös.lnd", "another program's");
+    const HANDLE holder =
+        CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_DELETE, nullptr, OPEN_EXISTING, 0, nullptr);
+    ASSERT_NE(holder, INVALID_HANDLE_VALUE);
+    program.Choose(ID_mnuSave);
+    ExpectFailure(path);
+    ExpectState(before);
+    CloseHandle(holder);
+    EXPECT_EQ(TemporaryFolder::Read(path), "another program's");
+    program.Choose(ID_mnuSave);
+    ExpectChangedQuestion(path, IDYES);
+    ExpectSaved(path);
 }
 
 TEST_F(FileMenuFaultsTest, ADeletedFileIsWrittenAgainWithoutAQuestion) {

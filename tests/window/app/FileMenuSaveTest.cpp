@@ -7,14 +7,6 @@ namespace {
 
 class FileMenuSaveTest : public FileSession {
   protected:
-    void ExpectOverwriteQuestion(const std::wstring& path, int answer) const {
-        ExpectBox(program,
-                  {.Text = L"A " + path + L" már létezik.\r\nFelülírjam a már létező fájlt?",
-                   .Icon = BoxIcon::Question,
-                   .Buttons = {IDYES, IDNO, IDCANCEL}},
-                  answer);
-    }
-
     // The changed book is saved under a name in the folder, and the title shows that name.
     void ExpectSavedAs(const std::wstring& name) const {
         const std::wstring path = folder.File(name);

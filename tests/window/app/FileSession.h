@@ -78,6 +78,14 @@ class FileSession : public ::testing::Test {
                   {title, L"Kívánja menteni a módosításokat ?", BoxIcon::Question, {IDYES, IDNO, IDCANCEL}},
                   answer);
     }
+    // Save As asks it.
+    void ExpectOverwriteQuestion(const std::wstring& path, int answer) const {
+        ExpectBox(program,
+                  {.Text = L"A " + path + L" már létezik.\r\nFelülírjam a már létező fájlt?",
+                   .Icon = BoxIcon::Question,
+                   .Buttons = {IDYES, IDNO, IDCANCEL}},
+                  answer);
+    }
     void ExpectSaved(const std::wstring& path) const { ExpectBox(program, {.Text = L"Elmentve : " + path}); }
     // The system gives the reason in words that differ from version to version, so any will do.
     void ExpectFailure(const std::wstring& path) const {

@@ -10,6 +10,7 @@
 
 #include "faults/Faults.h"
 #include "files/Files.h"
+#include "files/HeldFile.h"
 #include "files/Patience.h"
 #include "tests/window/support/Program.h"
 #include "tests/window/support/ReplacedImport.h"
@@ -111,7 +112,7 @@ TEST_F(FileFaultsTest, DevicesAreNoFiles) {
         EXPECT_EQ(FaultOfReplacing(device), Reason(ERROR_INVALID_NAME)) << name;
         EXPECT_EQ(FaultOfWriting(device), Reason(ERROR_INVALID_NAME)) << name;
         EXPECT_EQ(FaultOfReading(device), Reason(ERROR_INVALID_NAME)) << name;
-        EXPECT_EQ(StateOf(device), std::nullopt) << name;
+        EXPECT_FALSE(IsFile(device)) << name;
     }
     EXPECT_EQ(FaultOfReplacing(L"\\\\.\\pipe\\lindrel"), Reason(ERROR_INVALID_NAME));
     EXPECT_EQ(folder.Names(), Names{});
@@ -123,6 +124,8 @@ TEST_F(FileFaultsTest, AMissingFolder) {
     EXPECT_EQ(FaultOfWriting(missing), Reason(ERROR_PATH_NOT_FOUND));
     EXPECT_EQ(FaultOfReading(missing), Reason(ERROR_PATH_NOT_FOUND));
     EXPECT_EQ(FaultOfReading(file), Reason(ERROR_FILE_NOT_FOUND));
+    EXPECT_FALSE(IsFile(missing));
+    EXPECT_FALSE(IsFile(file));
     EXPECT_EQ(folder.Names(), Names{});
 }
 
@@ -131,6 +134,7 @@ TEST_F(FileFaultsTest, AFolderInThePlaceOfTheFile) {
     EXPECT_EQ(FaultOfReplacing(file), Reason(ERROR_ACCESS_DENIED));
     EXPECT_EQ(FaultOfWriting(file), Reason(ERROR_ACCESS_DENIED));
     EXPECT_EQ(FaultOfReading(file), Reason(ERROR_ACCESS_DENIED));
+    EXPECT_FALSE(IsFile(file));
     EXPECT_EQ(folder.Names(), (Names{L"a.lnd"}));
     ASSERT_TRUE(RemoveDirectoryW(file.c_str()));
 }
@@ -179,7 +183,7 @@ TEST_F(FileFaultsTest, PathsThatAreLongerThan260Characters) {
     EXPECT_EQ(FaultOfReplacing(path), kNone);
     EXPECT_EQ(FaultOfReplacing(path), kNone);
     EXPECT_EQ(FaultOfReading(path), kNone);
-    EXPECT_EQ(StateOf(path).value().Size, 3U);
+    EXPECT_TRUE(IsFile(path));
     ASSERT_TRUE(DeleteFileW((L"\\\\?\\" + path).c_str()));
     for (int level = 0; level < 5; ++level) {
         ASSERT_TRUE(RemoveDirectoryW((L"\\\\?\\" + deep).c_str()));
@@ -291,20 +295,27 @@ TEST_F(FileFaultsTest, TheAccessListStays) {
     Expect(kNew);
 }
 
-TEST_F(FileFaultsTest, TheStateOfAFileTellsEveryChange) {
-    EXPECT_EQ(StateOf(file), std::nullopt);
-    EXPECT_EQ(FaultOfReplacing(file), kNone);
-    const auto before = StateOf(file);
-    EXPECT_EQ(before.value().Size, 3U);
-    EXPECT_EQ(StateOf(file), before);
-    EXPECT_EQ(FaultOfReplacing(file), kNone);  // the same bytes, but another file
-    const auto replaced = StateOf(file);
-    EXPECT_NE(replaced.value().Index, before.value().Index);
-    std::filesystem::last_write_time(file, std::filesystem::last_write_time(file) + std::chrono::seconds(1));
-    const auto touched = StateOf(file);
-    EXPECT_NE(touched.value().Time, replaced.value().Time);
-    folder.Write(L"a.lnd", "longer");
-    EXPECT_EQ(StateOf(file).value().Size, 6U);
+TEST_F(FileFaultsTest, WhatIsHeldOrBeingDeletedMayPass) {
+    constexpr DWORD kNoneToAskFor = INVALID_FILE_ATTRIBUTES;
+    const auto denied = [](DWORD attributes, DWORD attributes_error = ERROR_SUCCESS) {
+        return MayPass(ERROR_ACCESS_DENIED, attributes, attributes_error);
+    };
+    EXPECT_TRUE(denied(FILE_ATTRIBUTE_NORMAL));
+    EXPECT_TRUE(denied(FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_ARCHIVE, ERROR_FILE_NOT_FOUND));
+    EXPECT_FALSE(denied(FILE_ATTRIBUTE_READONLY));
+    EXPECT_FALSE(denied(FILE_ATTRIBUTE_DIRECTORY, ERROR_ACCESS_DENIED));
+    EXPECT_TRUE(denied(kNoneToAskFor, ERROR_ACCESS_DENIED));  // being deleted
+    for (const DWORD error : std::initializer_list<DWORD>{ERROR_SUCCESS, ERROR_FILE_NOT_FOUND,
+                                                          ERROR_PATH_NOT_FOUND, ERROR_BAD_NETPATH})
+        EXPECT_FALSE(denied(kNoneToAskFor, error)) << error;
+    for (const DWORD error :
+         std::initializer_list<DWORD>{ERROR_SHARING_VIOLATION, ERROR_LOCK_VIOLATION, ERROR_DELETE_PENDING}) {
+        EXPECT_TRUE(MayPass(error, FILE_ATTRIBUTE_READONLY, ERROR_SUCCESS)) << error;
+        EXPECT_TRUE(MayPass(error, kNoneToAskFor, ERROR_FILE_NOT_FOUND)) << error;
+    }
+    for (const DWORD error : std::initializer_list<DWORD>{ERROR_FILE_NOT_FOUND, ERROR_DISK_FULL,
+                                                          ERROR_INVALID_NAME, ERROR_FILE_EXISTS})
+        EXPECT_FALSE(MayPass(error, FILE_ATTRIBUTE_NORMAL, ERROR_ACCESS_DENIED)) << error;
 }
 
 // What no disk here can be made to do: the system's functions are replaced.
@@ -340,9 +351,68 @@ DWORD WINAPI AttributesOfALink(LPCWSTR path) {
     const bool link = std::wstring_view(path).ends_with(L"\\a.lnd");
     return link ? FILE_ATTRIBUTE_REPARSE_POINT : get_file_attributes(path);
 }
+// Of a file that is being deleted nothing can be learned.
+DWORD WINAPI AttributesUnlessBeingDeleted(LPCWSTR path) {
+    const DWORD attributes = get_file_attributes(path);
+    const bool leftover = std::wstring_view(path).ends_with(L".tmp");
+    if (!leftover || attributes == INVALID_FILE_ATTRIBUTES) return attributes;
+    SetLastError(ERROR_ACCESS_DENIED);
+    return INVALID_FILE_ATTRIBUTES;
+}
+HANDLE WINAPI CreationUnlessBeingDeleted(LPCWSTR path, DWORD access, DWORD sharing,
+                                         LPSECURITY_ATTRIBUTES security, DWORD creation, DWORD attributes,
+                                         HANDLE pattern) {
+    if (creation != CREATE_NEW || get_file_attributes(path) == INVALID_FILE_ATTRIBUTES)
+        return create_file(path, access, sharing, security, creation, attributes, pattern);
+    ++tries;
+    SetLastError(ERROR_ACCESS_DENIED);
+    return INVALID_HANDLE_VALUE;
+}
+DWORD WINAPI AttributesWithEncryption(LPCWSTR path) {
+    const DWORD attributes = get_file_attributes(path);
+    const bool book = attributes != INVALID_FILE_ATTRIBUTES && std::wstring_view(path).ends_with(L"\\a.lnd");
+    return book ? attributes | FILE_ATTRIBUTE_ENCRYPTED : attributes;
+}
+std::vector<DWORD> created_with;  // attributes
+HANDLE WINAPI RecordCreation(LPCWSTR path, DWORD access, DWORD sharing, LPSECURITY_ATTRIBUTES security,
+                             DWORD creation, DWORD attributes, HANDLE pattern) {
+    if (creation == CREATE_NEW) created_with.push_back(attributes);
+    return create_file(path, access, sharing, security, creation, FILE_ATTRIBUTE_NORMAL, pattern);
+}
 std::wstring target_of_link;
 DWORD WINAPI TargetOfTheLink(HANDLE, LPWSTR path, DWORD size, DWORD) {
     return static_cast<DWORD>(target_of_link.copy(path, size));
+}
+
+// Another program has it open and has deleted it: it goes when the program closes it.
+TEST_F(FileFaultsTest, ALeftoverThatIsBeingDeleted) {
+    Old();
+    const std::wstring leftover = folder.Write(kTemporary, "x");
+    get_file_attributes = &GetFileAttributesW;
+    create_file = &CreateFileW;
+    tries = 0;
+    const Holder other(leftover, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, kMoment);
+    ASSERT_TRUE(DeleteFileW(leftover.c_str()));
+    const ReplacedImport attributes(&GetFileAttributesW, &AttributesUnlessBeingDeleted);
+    const ReplacedImport creation(&CreateFileW, &CreationUnlessBeingDeleted);
+    EXPECT_EQ(FaultOfReplacing(file), kNone);
+    EXPECT_GT(tries, 1);
+    Expect(kNew);
+}
+
+// Never plain on the disk: what takes its place is encrypted before there is anything in it.
+TEST_F(FileFaultsTest, AnEncryptedFileStaysEncrypted) {
+    get_file_attributes = &GetFileAttributesW;
+    create_file = &CreateFileW;
+    created_with.clear();
+    const ReplacedImport creation(&CreateFileW, &RecordCreation);
+    EXPECT_EQ(FaultOfReplacing(file), kNone);  // there is none yet
+    EXPECT_EQ(FaultOfReplacing(file), kNone);
+    const ReplacedImport attributes(&GetFileAttributesW, &AttributesWithEncryption);
+    EXPECT_EQ(FaultOfReplacing(file), kNone);
+    EXPECT_EQ(created_with,
+              (std::vector<DWORD>{FILE_ATTRIBUTE_NORMAL, FILE_ATTRIBUTE_NORMAL, FILE_ATTRIBUTE_ENCRYPTED}));
+    Expect(kNew);
 }
 
 TEST_F(FileFaultsTest, AFullDisk) {

@@ -1,6 +1,7 @@
 // Stands in for the browser in tests: the shell starts it with the path of a file and an address, and it
 // appends the address to the file as a line of UTF-8.
 //     address_recorder.exe FILE ADDRESS
+// Without arguments it appends a line to its own path with ".txt" behind it.
 
 #include <windows.h>
 
@@ -11,9 +12,10 @@
 int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
     int count = 0;
     wchar_t** const words = CommandLineToArgvW(GetCommandLineW(), &count);
-    if (words == nullptr || count < 3) return 1;
+    if (words == nullptr) return 1;
+    const std::wstring path = count > 1 ? std::wstring(words[1]) : std::wstring(words[0]) + L".txt";
     // If the shell splits an address, this shows: "|" comes between its parts.
-    std::wstring line = words[2];
+    std::wstring line = count > 2 ? words[2] : L"started";
     for (int i = 3; i < count; ++i) line.append(L"|").append(words[i]);
     line += L'\n';
 
@@ -23,7 +25,7 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
     WideCharToMultiByte(CP_UTF8, 0, line.data(), static_cast<int>(line.size()), bytes.data(), length, nullptr,
                         nullptr);
     const HANDLE file =
-        CreateFileW(words[1], FILE_APPEND_DATA, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+        CreateFileW(path.c_str(), FILE_APPEND_DATA, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
                     nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
     DWORD written = 0;
     const bool good = file != INVALID_HANDLE_VALUE &&

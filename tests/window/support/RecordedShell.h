@@ -24,12 +24,10 @@ class RecordedShell {
                  (L"addresses-" + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(++number) +
                   L".txt"))
                     .wstring();
-        // The drive is this machine's own root.
-        const std::filesystem::path recorder = std::filesystem::path(L"Z:" LINDREL_RECORDER).make_preferred();
-        if (!std::filesystem::exists(recorder)) throw std::runtime_error("the recorder is not there");
+        if (!std::filesystem::exists(Recorder())) throw std::runtime_error("the recorder is not there");
         for (const wchar_t* const key : kKeys) {
             former_.push_back(Command(key));
-            SetCommand(key, L"\"" + recorder.wstring() + L"\" \"" + file_ + L"\" \"%1\"");
+            SetCommand(key, L"\"" + Recorder() + L"\" \"" + file_ + L"\" \"%1\"");
         }
     }
     ~RecordedShell() {
@@ -39,6 +37,12 @@ class RecordedShell {
     }
     RecordedShell(const RecordedShell&) = delete;
     RecordedShell& operator=(const RecordedShell&) = delete;
+
+    // A program that writes a file beside itself when it is started without arguments.
+    static std::wstring Recorder() {
+        // The drive is this machine's own root.
+        return std::filesystem::path(L"Z:" LINDREL_RECORDER).make_preferred().wstring();
+    }
 
     // Every address that was opened so far, in order.
     std::vector<std::wstring> Addresses() const {

@@ -7,6 +7,7 @@
 
 #include <future>
 #include <thread>
+#include <vector>
 
 #include "tests/window/support/Drawn.h"
 #include "tests/window/support/Polling.h"
@@ -76,6 +77,15 @@ HANDLE WINAPI CountDemand(UINT) {
     return nullptr;
 }
 
+// After how many tries each beep was heard.
+std::vector<int> beeps;
+
+BOOL WINAPI HearBeep(UINT kind) {
+    EXPECT_EQ(kind, static_cast<UINT>(MB_OK));
+    beeps.push_back(tries);
+    return TRUE;
+}
+
 class ClipboardTest : public ::testing::Test {
   protected:
     ClipboardTest() {
@@ -83,9 +93,11 @@ class ClipboardTest : public ::testing::Test {
         before_fourth_try = nullptr;
         real_open = &::OpenClipboard;
         demands = 0;
+        beeps.clear();
     }
     ~ClipboardTest() override { DestroyWindow(window); }
 
+    const ReplacedImport hearing{&MessageBeep, &HearBeep};
     const std::set<UINT> text_forms{CF_UNICODETEXT, CF_TEXT, CF_OEMTEXT, CF_LOCALE};
     HWND window = MakeWindow();
 };
@@ -208,9 +220,10 @@ TEST_F(ClipboardTest, AProgramThatSoonClosesItIsWaitedFor) {
     while_busy([this] { SetClipboardText(window, L"új"); });
     EXPECT_EQ(TextOnClipboard(), L"új");
     while_busy([this] { EXPECT_EQ(ClipboardText(window), L"új"); });
+    EXPECT_EQ(beeps, std::vector<int>{});
 }
 
-TEST_F(ClipboardTest, AProgramThatKeepsItOpenIsLeftAloneSoon) {
+TEST_F(ClipboardTest, AProgramThatKeepsItOpenIsLeftAloneSoonWithABeep) {
     PutClipboardText(L"régi");
     {
         const OtherProgram other(&OpenAndKeep);
@@ -225,6 +238,7 @@ TEST_F(ClipboardTest, AProgramThatKeepsItOpenIsLeftAloneSoon) {
             EXPECT_EQ(tries, 6);
         }
     }
+    EXPECT_EQ(beeps, (std::vector<int>{6, 6}));
     EXPECT_EQ(TextOnClipboard(), L"régi");
 }
 
@@ -243,6 +257,7 @@ TEST_F(ClipboardTest, AProgramThatHangsIsNotAskedForWhatItPromised) {
         SetClipboardText(window, L"új");
     }
     EXPECT_EQ(demands, 0);
+    EXPECT_EQ(beeps.size(), 2u);
     EXPECT_EQ(FormsOnClipboard().count(CF_DIB), 1u);
 }
 

@@ -30,6 +30,7 @@ struct Asked {
 Asked asked;
 const wchar_t* answer = nullptr;
 DWORD reason = 0;
+std::wstring folder_left;  // the current folder that the dialog leaves; none if empty
 
 std::wstring Text(const wchar_t* text) {
     return text == nullptr ? std::wstring() : std::wstring(text);
@@ -47,6 +48,7 @@ BOOL Answer(bool save, OPENFILENAMEW* dialog) {
              Text(dialog->lpstrDefExt),
              Text(dialog->lpstrInitialDir),
              dialog->Flags};
+    if (!folder_left.empty()) std::filesystem::current_path(folder_left);
     if (answer == nullptr) return FALSE;
     std::copy_n(answer, std::wcslen(answer) + 1, dialog->lpstrFile);
     return TRUE;
@@ -84,6 +86,7 @@ class FileDialogTest : public ::testing::Test {
         asked = {};
         answer = nullptr;
         reason = 0;
+        folder_left.clear();
         program.Add(1, {{L"Név", L"http://nev.hu"}});
         program.ClickBox(1);
         program.Settle();
@@ -170,6 +173,32 @@ TEST_F(FileDialogTest, AMissingFileIsProposedAgain) {
     ExpectBox(L"A megadott fájl nem létezik", BoxIcon::None);
     EXPECT_TRUE(program.NothingIsOpen());
     EXPECT_EQ(asked.FileName, L"C:\\nincs ilyen.lnd");
+}
+
+TEST_F(FileDialogTest, TheCurrentFolderStaysWhateverADialogDoes) {
+    const TemporaryFolder folder;
+    const std::filesystem::path before = std::filesystem::current_path();
+    const std::wstring book = folder.File(L"a.lnd");
+    folder_left = std::filesystem::path(book).parent_path().wstring();
+    for (const int command : {ID_mnuOpen, ID_mnuSaveAs}) {
+        EXPECT_EQ(AskedBy(command).Save, command == ID_mnuSaveAs);  // cancelled
+        EXPECT_EQ(std::filesystem::current_path(), before);
+        reason = CDERR_INITIALIZATION;
+        program.Choose(command);
+        ExpectFailureIsTold();
+        EXPECT_EQ(std::filesystem::current_path(), before);
+        reason = 0;
+    }
+    answer = book.c_str();
+    program.Choose(ID_mnuSaveAs);
+    const BoxOnScreen box = program.Box();
+    EXPECT_EQ(box.Text(), L"Elmentve : " + book);
+    EXPECT_EQ(std::filesystem::current_path(), before);
+    box.Press(IDOK);
+    EXPECT_EQ(AskedBy(ID_mnuOpen).Save, false);
+    EXPECT_EQ(program.State().Title, L"Lindrel -a.lnd");
+    EXPECT_EQ(std::filesystem::current_path(), before);
+    std::filesystem::current_path(before);
 }
 
 TEST_F(FileDialogTest, ADialogThatFailsIsToldOfAndChangesNothing) {

@@ -11,6 +11,7 @@
 
 #include "tests/window/app/FileSession.h"
 #include "tests/window/support/RealInput.h"
+#include "tests/window/support/ReplacedImport.h"
 
 // COM's interfaces have no virtual destructors.
 #pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
@@ -252,6 +253,39 @@ TEST_F(FileDropTest, ADialogThatWasOnItsWayKeepsTheBook) {
     EXPECT_TRUE(dialog.IsOpen());
     dialog.Cancel();
     ExpectState(ChangedState());
+}
+
+// Only while the drop is handled may the program take the foreground from the one that the file comes from.
+TEST_F(FileDropTest, TheWindowIsInTheForegroundBeforeTheBookIsOpened) {
+    const HWND other = CreateWindowExW(0, L"Static", L"", WS_POPUP | WS_VISIBLE, 0, 0, 9, 9, nullptr, nullptr,
+                                       nullptr, nullptr);
+    ASSERT_TRUE(SetForegroundWindow(other));
+    ASSERT_EQ(GetForegroundWindow(), other);
+    program.OnUi([&](frmStart& form) {
+        EXPECT_EQ(DropFiles({book}), kTaken);
+        EXPECT_EQ(GetForegroundWindow(), form.Handle());
+        EXPECT_EQ(form.OpenedBook().OpenedFile, L"");
+    });
+    ExpectState(Opened(book));
+    EXPECT_TRUE(DestroyWindow(other));
+}
+
+HRESULT WINAPI RefuseTarget(HWND, IDropTarget*) {
+    return E_OUTOFMEMORY;
+}
+
+TEST_F(FileDropTest, WithoutDroppingTheProgramStartsAndEnds) {
+    program.Close();
+    EXPECT_EQ(program.WaitForEnd(), 0);
+    const ReplacedImport refusing(&RegisterDragDrop, &RefuseTarget);
+    Program without;
+    without.OnUi([](frmStart& form) { EXPECT_EQ(TargetOf(form), nullptr); });
+    testing::ExpectState(without, EmptyState());
+    without.Choose(ID_mnuOpen);
+    without.FileDialog().Accept(book);
+    testing::ExpectState(without, Opened(book));
+    without.Close();
+    EXPECT_EQ(without.WaitForEnd(), 0);
 }
 
 TEST_F(FileDropTest, TheMouseDropsABook) {

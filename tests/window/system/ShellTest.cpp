@@ -6,8 +6,12 @@
 #include <shellapi.h>
 #include <shlwapi.h>
 
+#include <filesystem>
+#include <optional>
+
 #include "resources/resource.h"
 #include "tests/window/support/Program.h"
+#include "tests/window/support/RecordedShell.h"
 #include "tests/window/support/ReplacedImport.h"
 
 namespace lindrel::testing {
@@ -58,19 +62,19 @@ class ShellTest : public ::testing::Test {
     }
 
     Program program;
-    const ReplacedImport shell_{&ShellExecuteW, &RecordOpening};
+    std::optional<ReplacedImport> shell_{std::in_place, &ShellExecuteW, &RecordOpening};
     const ReplacedImport windows_{&AssocIsDangerous, &DeemXyzDangerous};
 };
 
-TEST_F(ShellTest, WebAddressesAndDocumentsOpenAtOnceAndAsTheyAre) {
-    const Texts addresses = {L"http://pelda.hu/a.exe?b=\"c d\"", L"mailto:nev@pelda.hu", L" www.pelda.hu ",
-                             L"C:\\Képek\\ő.jpg", L"file:///C:/a%20b.html"};
-    for (const std::wstring& address : addresses) {
+TEST_F(ShellTest, WebAddressesAndDocumentsOpenAtOnce) {
+    for (const wchar_t* const address : {L"http://pelda.hu/a.exe?b=\"c d\"", L"mailto:nev@pelda.hu",
+                                         L" www.pelda.hu ", L"C:\\Képek\\ő.jpg", L"file:///C:/a%20b.html"}) {
         Open(address);
         program.Settle();
     }
     EXPECT_TRUE(program.NothingIsOpen());
-    EXPECT_EQ(opened, addresses);
+    EXPECT_EQ(opened, (Texts{L"http://pelda.hu/a.exe?b=%22c d%22", L"mailto:nev@pelda.hu",
+                             L"http://www.pelda.hu", L"C:\\Képek\\ő.jpg", L"file:///C:/a%20b.html"}));
     EXPECT_EQ(asked_about, (Texts{L".jpg", L".html"}));
 }
 
@@ -149,6 +153,29 @@ TEST_F(ShellTest, ALongAddressIsShownInLinesThatFitOnTheScreen) {
     cut.Press(IDYES);
     program.Settle();
     EXPECT_EQ(opened, Texts{address});
+}
+
+// The real shell, which finds programs in the current folder and in those of PATH.
+TEST_F(ShellTest, AWebAddressNeverStartsAProgramOfItsName) {
+    shell_.reset();
+    const RecordedShell shell;
+    const TemporaryFolder folder;
+    const std::filesystem::path named = folder.File(L"www.x.com");
+    std::filesystem::copy_file(RecordedShell::Recorder(), named);
+    const auto expect_browser = [&] {
+        Open(L"www.x.com");
+        EXPECT_EQ(shell.NextAddress(), L"http://www.x.com");
+        EXPECT_EQ(folder.Names(), std::vector<std::wstring>{L"www.x.com"});  // it would write a file there
+    };
+    const std::filesystem::path current = std::filesystem::current_path();
+    std::filesystem::current_path(named.parent_path());
+    expect_browser();
+    std::filesystem::current_path(current);
+
+    const std::wstring path = _wgetenv(L"PATH");
+    ASSERT_TRUE(SetEnvironmentVariableW(L"PATH", (named.parent_path().wstring() + L";" + path).c_str()));
+    expect_browser();
+    ASSERT_TRUE(SetEnvironmentVariableW(L"PATH", path.c_str()));
 }
 
 }  // namespace
