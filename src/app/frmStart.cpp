@@ -63,11 +63,16 @@ LRESULT frmStart::OnControlMessage(UINT message, WPARAM wparam, LPARAM lparam) {
         case WM_SETFOCUS:
             RestoreFocus();
             return 0;
+        case WM_SYSCOMMAND:
+            // Windows takes the focus away before it tells the window that it is inactive.
+            if ((wparam & 0xFFF0) == SC_MINIMIZE) RememberFocus();
+            return DefWindowProcW(Handle(), message, wparam, lparam);
         case WM_SETCURSOR:
             tool_tips_.OnSetCursor(Handle());
             return DefWindowProcW(Handle(), message, wparam, lparam);
         case WM_COMMAND:
-            if (HIWORD(wparam) == EN_SETFOCUS && returned_focus_.Is(reinterpret_cast<HWND>(lparam))) return 0;
+            // Getting the focus back must leave caret and selection alone.
+            if (HIWORD(wparam) == EN_SETFOCUS && restoring_focus_) return 0;
             OnCommand(LOWORD(wparam), HIWORD(wparam));
             return 0;
         case FileDrop::kMessage:

@@ -147,23 +147,27 @@ MainFrame frmStart::Frame() const {
             .LineHeight = TwipsOf(font_.LineHeight(), dpi_)};
 }
 
-// Remembers which control has the focus while another window is active.
 void frmStart::OnActivate(WPARAM state) {
-    returned_focus_.OnActivate(state);
-    if (LOWORD(state) != WA_INACTIVE) {
+    if (LOWORD(state) == WA_INACTIVE)
+        RememberFocus();
+    else
         RestoreFocus();
-        return;
-    }
+}
+
+// Which control is to have the focus again when the window comes back.
+void frmStart::RememberFocus() {
     const HWND focus = GetFocus();
     if (focus != nullptr && IsChild(Handle(), focus)) remembered_focus_ = focus;
 }
 
-void frmStart::RestoreFocus() const {
+void frmStart::RestoreFocus() {
     if (GetActiveWindow() != Handle() && GetActiveWindow() != nullptr) return;
+    restoring_focus_ = true;
     if (remembered_focus_ != nullptr && IsChild(Handle(), remembered_focus_))
         SetFocus(remembered_focus_);
     else
         view_.SetFocus();
+    restoring_focus_ = false;
 }
 
 bool frmStart::PreTranslate(MSG& message) {
