@@ -160,8 +160,10 @@ void frmStart::OnBookDropped() {
 
 void frmStart::Form_Load() {
     const UINT dpi = DpiOf(Handle());
-    SetWindowPos(Handle(), nullptr, 0, 0, PixelsOf(11400, dpi), PixelsOf(7500, dpi),
-                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    RECT bounds{};
+    GetWindowRect(Handle(), &bounds);
+    PlaceInWorkArea(Handle(), {bounds.left, bounds.top, bounds.left + PixelsOf(11400, dpi),
+                               bounds.top + PixelsOf(7500, dpi)});
     CreateControls();
     ApplyResolution();
     file_menu_.ResetBook();

@@ -62,6 +62,7 @@ class frmStart : public OwnWindow {
     void Form_Unload();
 
     MainFrame Frame() const;
+    POINT LeastSize(const MainFrame& frame, UINT dpi) const;
     void CreateControls();
     void ApplyResolution();
     void OnSettingsChange();

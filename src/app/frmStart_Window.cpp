@@ -72,8 +72,9 @@ void frmStart::Form_Resize() {
     if (verdict == SizeVerdict::Minimised) return;
     int width = outer.right - outer.left;
     int height = outer.bottom - outer.top;
-    if (verdict == SizeVerdict::TooLow) height = PixelsAtLeast(LeastHeight(frame), dpi_);
-    if (verdict == SizeVerdict::TooNarrow) width = PixelsAtLeast(kLeastWidth, dpi_);
+    const POINT least = LeastSize(frame, dpi_);
+    if (verdict == SizeVerdict::TooLow) height = least.y;
+    if (verdict == SizeVerdict::TooNarrow) width = least.x;
     // A change of size raises WM_SIZE, so the window is laid out when the call returns. If the size cannot
     // change, because the screen is too small, the window is laid out as it is.
     RECT now{};
@@ -121,8 +122,13 @@ void frmStart::PlaceControls(const MainLayout& layout) const {
 }
 
 void frmStart::OnGetMinMaxInfo(MINMAXINFO& info) const {
-    const UINT dpi = DpiOf(Handle());
-    info.ptMinTrackSize = {PixelsAtLeast(kLeastWidth, dpi), PixelsAtLeast(LeastHeight(Frame()), dpi)};
+    info.ptMinTrackSize = LeastSize(Frame(), DpiOf(Handle()));
+}
+
+// In pixels. It never makes the window larger than its screen has room for.
+POINT frmStart::LeastSize(const MainFrame& frame, UINT dpi) const {
+    return WithinWorkArea(Handle(),
+                          {PixelsAtLeast(kLeastWidth, dpi), PixelsAtLeast(LeastHeight(frame), dpi)});
 }
 
 void frmStart::OnDpiChanged(const RECT& suggested) {

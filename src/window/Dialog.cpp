@@ -89,7 +89,9 @@ void Dialog::Create(HWND owner) {
                                    owner, &Dialog::Procedure, reinterpret_cast<LPARAM>(this));
     ThrowPendingFault();
     if (dialog == nullptr) ThrowLastError(L"párbeszédablak létrehozása", std::to_wstring(template_id_));
+    scroll_.Remember(handle_);
     CentreOnOwner(handle_, owner);
+    scroll_.Fit();
     if (!ending_) ShowWindow(handle_, SW_SHOW);
 }
 
@@ -109,6 +111,7 @@ void Dialog::RunModalLoop() {
             DispatchMessageW(&message);
         }
         ThrowPendingFault();
+        scroll_.Follow(GetFocus());
     }
 }
 
@@ -147,6 +150,7 @@ INT_PTR Dialog::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
             return FALSE;
         case kApplyResolution:
             ApplyResolution(static_cast<UINT>(wparam));
+            scroll_.Fit();
             return TRUE;
         case WM_ACTIVATE:
             returned_focus_.OnActivate(wparam);
@@ -160,7 +164,7 @@ INT_PTR Dialog::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
             SetWindowLongPtrW(handle_, DWLP_MSGRESULT, OnNotify(*reinterpret_cast<const NMHDR*>(lparam)));
             return TRUE;
         default:
-            return OnSystemMessage(message);
+            return scroll_.OnMessage(message, wparam) ? TRUE : OnSystemMessage(message);
     }
 }
 

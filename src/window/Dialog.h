@@ -6,6 +6,7 @@
 #include <string>
 
 #include "window/Control.h"
+#include "window/DialogScroll.h"
 #include "window/ReturnedFocus.h"
 #include "window/SessionHold.h"
 #include "window/ToolTips.h"
@@ -20,9 +21,10 @@ class Dialog {
     Dialog(const Dialog&) = delete;
     Dialog& operator=(const Dialog&) = delete;
 
-    // Shows the dialog centred on its owner, in the user's message font, and returns when it is closed. The
-    // owner is disabled meanwhile. Throws what a handler throws, and SystemFault if Windows cannot create the
-    // dialog; the dialog is closed then, without Form_Unload, and the owner is enabled again.
+    // Shows the dialog centred on its owner, in the user's message font, and returns when it is closed. If
+    // the screen has no room for all of it, it scrolls. The owner is disabled meanwhile. Throws what a
+    // handler throws, and SystemFault if Windows cannot create the dialog; the dialog is closed then, without
+    // Form_Unload, and the owner is enabled again.
     void ShowModal(HWND owner);
 
     HWND Handle() const { return handle_; }
@@ -82,6 +84,7 @@ class Dialog {
     HWND handle_ = nullptr;
     ToolTips tool_tips_;
     ReturnedFocus returned_focus_;
+    DialogScroll scroll_;
     SessionHold session_;
     bool ending_ = false;
 };

@@ -16,7 +16,10 @@ void PlacedTogether::Move(HWND control, const RECT& bounds) {
     if (EqualRect(&before, &bounds)) return;
     to_redraw_.push_back(before);
     to_redraw_.push_back(bounds);
-    Defer(control, bounds, SWP_NOCOPYBITS);
+    // The bounds of a combo box are without its list, and setting its size would set that of the list.
+    const bool moved_only = bounds.right - bounds.left == before.right - before.left &&
+                            bounds.bottom - bounds.top == before.bottom - before.top;
+    Defer(control, bounds, moved_only ? SWP_NOCOPYBITS | SWP_NOSIZE : SWP_NOCOPYBITS);
 }
 
 void PlacedTogether::Defer(HWND control, const RECT& bounds, UINT flags) {
