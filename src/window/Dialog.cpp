@@ -153,11 +153,10 @@ INT_PTR Dialog::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
             scroll_.Fit();
             return TRUE;
         case WM_ACTIVATE:
-            returned_focus_.OnActivate(wparam);
+            if (LOWORD(wparam) == WA_INACTIVE) left_focus_ = GetFocus();
             return FALSE;
         case WM_COMMAND:
-            if (HIWORD(wparam) == EN_SETFOCUS && returned_focus_.Is(reinterpret_cast<HWND>(lparam)))
-                return TRUE;
+            if (HIWORD(wparam) == EN_SETFOCUS && GetsFocusBack(reinterpret_cast<HWND>(lparam))) return TRUE;
             OnCommand(LOWORD(wparam), HIWORD(wparam));
             return TRUE;
         case WM_NOTIFY:
