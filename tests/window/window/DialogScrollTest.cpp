@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <map>
+#include <vector>
 
 #include "tests/window/support/Painted.h"
 #include "tests/window/support/ScaledDialog.h"
@@ -11,6 +12,16 @@
 
 namespace lindrel::testing {
 namespace {
+
+// For each change of place that a control is told of, whether a size is set too.
+std::vector<bool> sizes_asked_for;
+LRESULT CALLBACK NoteSizesAskedFor(HWND window, UINT message, WPARAM first, LPARAM second, UINT_PTR id,
+                                   DWORD_PTR) {
+    if (message == WM_NCDESTROY) RemoveWindowSubclass(window, &NoteSizesAskedFor, id);
+    if (message == WM_WINDOWPOSCHANGING)
+        sizes_asked_for.push_back((reinterpret_cast<const WINDOWPOS*>(second)->flags & SWP_NOSIZE) == 0);
+    return DefSubclassProc(window, message, first, second);
+}
 
 class DialogScrollTest : public ::testing::Test {
   protected:
@@ -51,6 +62,19 @@ class DialogScrollTest : public ::testing::Test {
         RECT common{};
         return IntersectRect(&common, &inner, &outer) && EqualRect(&common, &inner);
     }
+    // The export dialog where there is room for it.
+    struct Whole {
+        SIZE size;
+        RECT client;
+        std::map<int, RECT> bounds;
+    };
+    Whole WithRoom() const {
+        const DialogOnScreen dialog = OpenExport();
+        const Whole whole{SizeOf(dialog), ClientOf(dialog), AllBounds(dialog)};
+        EXPECT_EQ(BarsOf(dialog), 0);
+        Close(dialog);
+        return whole;
+    }
     void Scroll(const DialogOnScreen& dialog, UINT message, WPARAM request) const {
         SendMessageW(dialog.Handle(), message, request, 0);
         program.Settle();
@@ -71,11 +95,7 @@ class DialogScrollTest : public ::testing::Test {
 };
 
 TEST_F(DialogScrollTest, WithRoomForAllOfItADialogHasNoBars) {
-    const DialogOnScreen first = OpenExport();
-    const SIZE size = SizeOf(first);
-    const std::map<int, RECT> bounds = AllBounds(first);
-    EXPECT_EQ(BarsOf(first), 0);
-    Close(first);
+    const auto [size, client, bounds] = WithRoom();
     const SmallScreen screen(program, {7, 9, 7 + size.cx, 9 + size.cy});
     const DialogOnScreen dialog = OpenExport();
     EXPECT_EQ(BarsOf(dialog), 0);
@@ -92,11 +112,7 @@ TEST_F(DialogScrollTest, WithRoomForAllOfItADialogHasNoBars) {
 }
 
 TEST_F(DialogScrollTest, ALowScreenGivesItAVerticalBarAndKeepsItsWidth) {
-    const DialogOnScreen first = OpenExport();
-    const SIZE size = SizeOf(first);
-    const RECT client = ClientOf(first);
-    const std::map<int, RECT> bounds = AllBounds(first);
-    Close(first);
+    const auto [size, client, bounds] = WithRoom();
     const RECT work{7, 9, 1000, 9 + size.cy - 100};
     const SmallScreen screen(program, work);
     const DialogOnScreen dialog = OpenExport();
@@ -105,6 +121,13 @@ TEST_F(DialogScrollTest, ALowScreenGivesItAVerticalBarAndKeepsItsWidth) {
     EXPECT_EQ(ClientOf(dialog).right, client.right);
     EXPECT_EQ(ClientOf(dialog).bottom, client.bottom - 100);
     EXPECT_EQ(MovedFrom(bounds, dialog).y, 0);
+    Close(dialog);
+}
+
+TEST_F(DialogScrollTest, BarAndWheelScrollToTheEndsAndByLines) {
+    const auto [size, client, bounds] = WithRoom();
+    const SmallScreen screen(program, {0, 0, 1000, size.cy - 100});
+    const DialogOnScreen dialog = OpenExport();
     const struct {
         UINT message;
         WPARAM request;
@@ -140,10 +163,7 @@ TEST_F(DialogScrollTest, ALowScreenGivesItAVerticalBarAndKeepsItsWidth) {
 }
 
 TEST_F(DialogScrollTest, ASmallScreenGivesItBothBars) {
-    const DialogOnScreen first = OpenExport();
-    const SIZE size = SizeOf(first);
-    const std::map<int, RECT> bounds = AllBounds(first);
-    Close(first);
+    const auto [size, client, bounds] = WithRoom();
     // In the second case only the bar makes it too wide, in the third one too high.
     const RECT areas[] = {
         {0, 0, size.cx - 100, size.cy - 80}, {0, 0, size.cx, size.cy - 1}, {0, 0, size.cx - 1, size.cy}};
@@ -155,9 +175,7 @@ TEST_F(DialogScrollTest, ASmallScreenGivesItBothBars) {
         Scroll(dialog, WM_HSCROLL, SB_BOTTOM);
         Scroll(dialog, WM_VSCROLL, SB_BOTTOM);
         MovedFrom(bounds, dialog);
-        const RECT client = ClientOf(dialog);
-        const RECT cancel = AllBounds(dialog).at(ID_frmExport_cmdCancel);
-        EXPECT_TRUE(IsWithin(cancel, client));
+        EXPECT_TRUE(IsWithin(AllBounds(dialog).at(ID_frmExport_cmdCancel), ClientOf(dialog)));
         Close(dialog);
     }
 }
@@ -204,9 +222,7 @@ TEST_F(DialogScrollTest, TheFocusIsAlwaysInView) {
 }
 
 TEST_F(DialogScrollTest, AButtonThatTheMouseHoldsStaysWhereItIs) {
-    const DialogOnScreen first = OpenExport();
-    const SIZE size = SizeOf(first);
-    Close(first);
+    const auto [size, client, bounds] = WithRoom();
     const SmallScreen screen(program, {0, 0, 1000, size.cy - 15});
     const DialogOnScreen dialog = OpenExport();
     const std::map<int, RECT> before = AllBounds(dialog);
@@ -245,23 +261,18 @@ TEST_F(DialogScrollTest, AtEveryResolutionAllOfItIsReached) {
     Close(dialog);
 }
 
-// A scrolled combo box still opens its whole list.
-TEST_F(DialogScrollTest, AComboBoxKeepsItsList) {
-    const auto height_of_list = [](const DialogOnScreen& dialog) {
-        RECT dropped{};
-        SendMessageW(dialog.Control(ID_frmExport_cmbType), CB_GETDROPPEDCONTROLRECT, 0,
-                     reinterpret_cast<LPARAM>(&dropped));
-        return dropped.bottom - dropped.top;
-    };
-    const DialogOnScreen first = OpenExport();
-    const LONG height = height_of_list(first);
-    EXPECT_GT(height, 0);
-    const SIZE size = SizeOf(first);
-    Close(first);
+// With a size it would take that for the height of its list too, which the size does not count.
+TEST_F(DialogScrollTest, AComboBoxIsMovedWithoutASize) {
+    const auto [size, client, bounds] = WithRoom();
     const SmallScreen screen(program, {0, 0, 1000, size.cy - 100});
     const DialogOnScreen dialog = OpenExport();
+    program.OnUi([&](frmStart&) {
+        sizes_asked_for.clear();
+        EXPECT_TRUE(SetWindowSubclass(dialog.Control(ID_frmExport_cmbType), &NoteSizesAskedFor, 0, 0));
+    });
     Scroll(dialog, WM_VSCROLL, SB_BOTTOM);
-    EXPECT_EQ(height_of_list(dialog), height);
+    EXPECT_EQ(MovedFrom(bounds, dialog).y, -100);
+    EXPECT_EQ(sizes_asked_for, std::vector<bool>{false});
     Close(dialog);
 }
 
