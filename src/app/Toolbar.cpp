@@ -1,6 +1,5 @@
 #include "app/Toolbar.h"
 
-#include <array>
 #include <iterator>
 #include <utility>
 
@@ -54,42 +53,60 @@ void Toolbar::Create(HWND window) {
     SendMessageW(toolbar, TB_SETEXTENDEDSTYLE, 0, TBSTYLE_EX_DRAWDDARROWS);
     // The names are not drawn.
     SendMessageW(toolbar, TB_SETMAXTEXTROWS, 0, 0);
-    AddButtons();
 }
 
-void Toolbar::AddButtons() const {
-    std::array<TBBUTTON, kButtonCount> buttons{};
+// In the states that they are in.
+Toolbar::Buttons Toolbar::CurrentButtons() const {
+    Buttons buttons{};
     for (int position = 1; position <= kButtonCount; ++position) {
         TBBUTTON& button = buttons.at(static_cast<std::size_t>(position - 1));
         button.iBitmap = position - 1;
         button.idCommand = IdOfButton(position);
-        button.fsState = TBSTATE_ENABLED;
+        const LRESULT state =
+            SendMessageW(toolbar_.Handle(), TB_GETSTATE, static_cast<WPARAM>(button.idCommand), 0);
+        button.fsState = state == -1 ? TBSTATE_ENABLED : static_cast<BYTE>(state);
         button.fsStyle = position == kButtonWithMenu ? BTNS_DROPDOWN : BTNS_BUTTON;
         button.iString = reinterpret_cast<INT_PTR>(kButtons[position - 1].Name);
     }
-    if (!SendMessageW(toolbar_.Handle(), TB_ADDBUTTONSW, buttons.size(),
-                      reinterpret_cast<LPARAM>(buttons.data())))
-        throw SystemFault(L"az eszköztár gombjainak létrehozása", 0);
+    return buttons;
 }
 
-// Called when the mouse is on a button: TB_GETTOOLTIPS creates a window, which the start need not wait for.
-void Toolbar::RemoveTipOfFirstButton() const {
-    TTTOOLINFOW first{};
-    first.cbSize = sizeof first;
-    first.hwnd = toolbar_.Handle();
-    first.uId = static_cast<UINT_PTR>(IdOfButton(1));
-    SendMessageW(reinterpret_cast<HWND>(SendMessageW(toolbar_.Handle(), TB_GETTOOLTIPS, 0, 0)), TTM_DELTOOLW,
-                 0, reinterpret_cast<LPARAM>(&first));
-}
-
+// The toolbar takes the size of its pictures and buttons only while it has no buttons, and gives tips only to
+// buttons that come after them.
 void Toolbar::ApplyResolution(UINT dpi) {
     const int size = LargePictureSize(dpi);
     PictureList pictures(GetModuleHandleW(nullptr), kStrips, size);
     const HWND toolbar = toolbar_.Handle();
+    const Buttons buttons = CurrentButtons();
+    while (SendMessageW(toolbar, TB_DELETEBUTTON, 0, 0)) {
+    }
+    RenewToolTips();
     SendMessageW(toolbar, TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(pictures.Handle()));
-    // By themselves, buttons grow with their pictures but do not shrink.
     SendMessageW(toolbar, TB_SETBUTTONSIZE, 0, MAKELPARAM(size + kPaddingX, size + kPaddingY));
     ImageList1 = std::move(pictures);  // the toolbar has used the old ones until now
+    if (!SendMessageW(toolbar, TB_ADDBUTTONSW, buttons.size(), reinterpret_cast<LPARAM>(buttons.data())))
+        throw SystemFault(L"az eszköztár gombjainak létrehozása", 0);
+}
+
+// Those that there are have letters of the old resolution.
+void Toolbar::RenewToolTips() {
+    if (tips_ == nullptr) return;
+    const HWND renewed =
+        CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP, CW_USEDEFAULT, CW_USEDEFAULT,
+                        CW_USEDEFAULT, CW_USEDEFAULT, toolbar_.Handle(), nullptr, nullptr, nullptr);
+    if (renewed == nullptr) return;  // the old ones are better than none
+    SendMessageW(toolbar_.Handle(), TB_SETTOOLTIPS, reinterpret_cast<WPARAM>(renewed), 0);
+    DestroyWindow(std::exchange(tips_, renewed));
+}
+
+// Called when the mouse is on a button: TB_GETTOOLTIPS creates a window, which the start need not wait for.
+void Toolbar::RemoveTipOfFirstButton() {
+    tips_ = reinterpret_cast<HWND>(SendMessageW(toolbar_.Handle(), TB_GETTOOLTIPS, 0, 0));
+    TTTOOLINFOW first{};
+    first.cbSize = sizeof first;
+    first.hwnd = toolbar_.Handle();
+    first.uId = static_cast<UINT_PTR>(IdOfButton(1));
+    SendMessageW(tips_, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&first));
 }
 
 bool Toolbar::OnCommand(int id) const {
@@ -103,7 +120,7 @@ void Toolbar::ButtonClick(int Button) const {
     SendMessageW(window_, WM_COMMAND, static_cast<WPARAM>(kButtons[Button - 1].Command), 0);
 }
 
-void Toolbar::Notify(const NMHDR& header) const {
+void Toolbar::Notify(const NMHDR& header) {
     if (header.hwndFrom != toolbar_.Handle()) return;
     if (header.code == TBN_HOTITEMCHANGE) RemoveTipOfFirstButton();
     if (header.code == TBN_DROPDOWN)

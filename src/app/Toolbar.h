@@ -1,6 +1,8 @@
 // The main window's toolbar. Its buttons run commands of the menu bar; none of these is ever disabled.
 #pragma once
 
+#include <array>
+
 #include "pictures/Picture.h"
 #include "window/Control.h"
 
@@ -8,25 +10,29 @@ namespace lindrel {
 
 class Toolbar {
   public:
-    // Creates the toolbar on a window. Throws SystemFault if Windows refuses.
+    // Creates the toolbar on a window, still without buttons. Throws SystemFault if Windows refuses.
     void Create(HWND window);
-    // Shows the pictures at a resolution. Throws SystemFault if one cannot be loaded; the old ones stay then.
+    // Makes the buttons for a resolution. Throws SystemFault if a picture cannot be loaded; the old buttons
+    // stay then.
     void ApplyResolution(UINT dpi);
 
     // For WM_COMMAND of the window. False if the id is not that of a button.
     bool OnCommand(int id) const;
     // For WM_NOTIFY of the window.
-    void Notify(const NMHDR& header) const;
+    void Notify(const NMHDR& header);
 
   private:
-    void AddButtons() const;
-    void RemoveTipOfFirstButton() const;
+    using Buttons = std::array<TBBUTTON, 10>;
+    Buttons CurrentButtons() const;
+    void RenewToolTips();
+    void RemoveTipOfFirstButton();
     // Buttons are numbered from 1.
     void ButtonClick(int Button) const;
     void ButtonDropDown(int Button) const;
 
     HWND window_ = nullptr;
     Control toolbar_;
+    HWND tips_ = nullptr;  // once the toolbar has them
     PictureList ImageList1;
 };
 

@@ -63,11 +63,16 @@ LRESULT frmStart::OnControlMessage(UINT message, WPARAM wparam, LPARAM lparam) {
         case WM_SETFOCUS:
             RestoreFocus();
             return 0;
+        case WM_SYSCOMMAND:
+            // Windows takes the focus away before it tells the window that it is inactive.
+            if ((wparam & 0xFFF0) == SC_MINIMIZE) RememberFocus();
+            return DefWindowProcW(Handle(), message, wparam, lparam);
         case WM_SETCURSOR:
             tool_tips_.OnSetCursor(Handle());
             return DefWindowProcW(Handle(), message, wparam, lparam);
         case WM_COMMAND:
-            if (HIWORD(wparam) == EN_SETFOCUS && returned_focus_.Is(reinterpret_cast<HWND>(lparam))) return 0;
+            // Getting the focus back must leave caret and selection alone.
+            if (HIWORD(wparam) == EN_SETFOCUS && restoring_focus_) return 0;
             OnCommand(LOWORD(wparam), HIWORD(wparam));
             return 0;
         case FileDrop::kMessage:
@@ -165,8 +170,10 @@ void frmStart::OnBookDropped() {
 
 void frmStart::Form_Load() {
     const UINT dpi = DpiOf(Handle());
-    SetWindowPos(Handle(), nullptr, 0, 0, PixelsOf(11400, dpi), PixelsOf(7500, dpi),
-                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    RECT bounds{};
+    GetWindowRect(Handle(), &bounds);
+    PlaceInWorkArea(Handle(), {bounds.left, bounds.top, bounds.left + PixelsOf(11400, dpi),
+                               bounds.top + PixelsOf(7500, dpi)});
     CreateControls();
     ApplyResolution();
     file_menu_.ResetBook();

@@ -20,7 +20,6 @@
 #include "tray/TrayArea.h"
 #include "window/Display.h"
 #include "window/OwnWindow.h"
-#include "window/ReturnedFocus.h"
 #include "window/SessionHold.h"
 #include "window/ToolTips.h"
 
@@ -64,12 +63,14 @@ class frmStart : public OwnWindow {
     void Form_Unload();
 
     MainFrame Frame() const;
+    POINT LeastSize(const MainFrame& frame, UINT dpi) const;
     void CreateControls();
     void ApplyResolution();
     void OnSettingsChange();
     void PlaceControls(const MainLayout& layout) const;
     void ShowIcons();
-    void RestoreFocus() const;
+    void RememberFocus();
+    void RestoreFocus();
 
     void mnuKat_Click();
     void mnuAdd_Click();
@@ -99,7 +100,7 @@ class frmStart : public OwnWindow {
     Font font_;
     Picture large_icon_, small_icon_, tray_icon_;
     HWND remembered_focus_ = nullptr;
-    ReturnedFocus returned_focus_;
+    bool restoring_focus_ = false;
     SessionHold session_;
 
     OpenBook open_;

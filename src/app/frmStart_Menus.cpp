@@ -150,6 +150,7 @@ void frmStart::mnuGridLines_Click() {
 }
 
 void frmStart::mnuTray_Click() {
+    RememberFocus();  // Windows takes it away in hiding the window
     ShowWindow(Handle(), SW_HIDE);
     TrayArea.SetToolTip(kApplicationTitle);
     TrayArea.SetVisible(true);

@@ -72,8 +72,9 @@ void frmStart::Form_Resize() {
     if (verdict == SizeVerdict::Minimised) return;
     int width = outer.right - outer.left;
     int height = outer.bottom - outer.top;
-    if (verdict == SizeVerdict::TooLow) height = PixelsAtLeast(LeastHeight(frame), dpi_);
-    if (verdict == SizeVerdict::TooNarrow) width = PixelsAtLeast(kLeastWidth, dpi_);
+    const POINT least = LeastSize(frame, dpi_);
+    if (verdict == SizeVerdict::TooLow) height = least.y;
+    if (verdict == SizeVerdict::TooNarrow) width = least.x;
     // A change of size raises WM_SIZE, so the window is laid out when the call returns. If the size cannot
     // change, because the screen is too small, the window is laid out as it is.
     RECT now{};
@@ -121,8 +122,13 @@ void frmStart::PlaceControls(const MainLayout& layout) const {
 }
 
 void frmStart::OnGetMinMaxInfo(MINMAXINFO& info) const {
-    const UINT dpi = DpiOf(Handle());
-    info.ptMinTrackSize = {PixelsAtLeast(kLeastWidth, dpi), PixelsAtLeast(LeastHeight(Frame()), dpi)};
+    info.ptMinTrackSize = LeastSize(Frame(), DpiOf(Handle()));
+}
+
+// In pixels. It never makes the window larger than its screen has room for.
+POINT frmStart::LeastSize(const MainFrame& frame, UINT dpi) const {
+    return WithinWorkArea(Handle(),
+                          {PixelsAtLeast(kLeastWidth, dpi), PixelsAtLeast(LeastHeight(frame), dpi)});
 }
 
 void frmStart::OnDpiChanged(const RECT& suggested) {
@@ -147,23 +153,27 @@ MainFrame frmStart::Frame() const {
             .LineHeight = TwipsOf(font_.LineHeight(), dpi_)};
 }
 
-// Remembers which control has the focus while another window is active.
 void frmStart::OnActivate(WPARAM state) {
-    returned_focus_.OnActivate(state);
-    if (LOWORD(state) != WA_INACTIVE) {
+    if (LOWORD(state) == WA_INACTIVE)
+        RememberFocus();
+    else
         RestoreFocus();
-        return;
-    }
+}
+
+// Which control is to have the focus again when the window comes back.
+void frmStart::RememberFocus() {
     const HWND focus = GetFocus();
     if (focus != nullptr && IsChild(Handle(), focus)) remembered_focus_ = focus;
 }
 
-void frmStart::RestoreFocus() const {
+void frmStart::RestoreFocus() {
     if (GetActiveWindow() != Handle() && GetActiveWindow() != nullptr) return;
+    restoring_focus_ = true;
     if (remembered_focus_ != nullptr && IsChild(Handle(), remembered_focus_))
         SetFocus(remembered_focus_);
     else
         view_.SetFocus();
+    restoring_focus_ = false;
 }
 
 bool frmStart::PreTranslate(MSG& message) {

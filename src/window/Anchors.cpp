@@ -1,7 +1,5 @@
 #include "window/Anchors.h"
 
-#include <algorithm>
-
 #include "window/Display.h"
 #include "window/PlacedTogether.h"
 
@@ -51,8 +49,9 @@ void Anchors::Remember(HWND dialog, std::initializer_list<Control> controls) {
 void Anchors::Place() const {
     if (dialog_ == nullptr || IsIconic(dialog_)) return;
     const SIZE client = ClientSize();
-    const LONG across = std::max(client.cx - Scaled(least_client_.cx), 0L);
-    const LONG down = std::max(client.cy - Scaled(least_client_.cy), 0L);
+    // Negative on a screen too small for the smallest dialog.
+    const LONG across = client.cx - Scaled(least_client_.cx);
+    const LONG down = client.cy - Scaled(least_client_.cy);
     PlacedTogether placed(dialog_, static_cast<int>(controls_.size()));
     for (const Remembered& remembered : controls_) {
         RECT bounds = remembered.bounds;
@@ -65,7 +64,8 @@ void Anchors::Place() const {
 }
 
 void Anchors::LimitSize(MINMAXINFO& info) const {
-    if (dialog_ != nullptr) info.ptMinTrackSize = {Scaled(least_window_.cx), Scaled(least_window_.cy)};
+    if (dialog_ == nullptr) return;
+    info.ptMinTrackSize = WithinWorkArea(dialog_, {Scaled(least_window_.cx), Scaled(least_window_.cy)});
 }
 
 }  // namespace lindrel

@@ -89,7 +89,9 @@ void Dialog::Create(HWND owner) {
                                    owner, &Dialog::Procedure, reinterpret_cast<LPARAM>(this));
     ThrowPendingFault();
     if (dialog == nullptr) ThrowLastError(L"párbeszédablak létrehozása", std::to_wstring(template_id_));
+    scroll_.Remember(handle_);
     CentreOnOwner(handle_, owner);
+    scroll_.Fit();
     if (!ending_) ShowWindow(handle_, SW_SHOW);
 }
 
@@ -109,6 +111,7 @@ void Dialog::RunModalLoop() {
             DispatchMessageW(&message);
         }
         ThrowPendingFault();
+        scroll_.Follow(GetFocus());
     }
 }
 
@@ -147,20 +150,20 @@ INT_PTR Dialog::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
             return FALSE;
         case kApplyResolution:
             ApplyResolution(static_cast<UINT>(wparam));
+            scroll_.Fit();
             return TRUE;
         case WM_ACTIVATE:
-            returned_focus_.OnActivate(wparam);
+            if (LOWORD(wparam) == WA_INACTIVE) left_focus_ = GetFocus();
             return FALSE;
         case WM_COMMAND:
-            if (HIWORD(wparam) == EN_SETFOCUS && returned_focus_.Is(reinterpret_cast<HWND>(lparam)))
-                return TRUE;
+            if (HIWORD(wparam) == EN_SETFOCUS && GetsFocusBack(reinterpret_cast<HWND>(lparam))) return TRUE;
             OnCommand(LOWORD(wparam), HIWORD(wparam));
             return TRUE;
         case WM_NOTIFY:
             SetWindowLongPtrW(handle_, DWLP_MSGRESULT, OnNotify(*reinterpret_cast<const NMHDR*>(lparam)));
             return TRUE;
         default:
-            return OnSystemMessage(message);
+            return scroll_.OnMessage(message, wparam) ? TRUE : OnSystemMessage(message);
     }
 }
 

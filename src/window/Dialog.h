@@ -4,9 +4,10 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 #include "window/Control.h"
-#include "window/ReturnedFocus.h"
+#include "window/DialogScroll.h"
 #include "window/SessionHold.h"
 #include "window/ToolTips.h"
 #include "window/Windows.h"
@@ -20,9 +21,10 @@ class Dialog {
     Dialog(const Dialog&) = delete;
     Dialog& operator=(const Dialog&) = delete;
 
-    // Shows the dialog centred on its owner, in the user's message font, and returns when it is closed. The
-    // owner is disabled meanwhile. Throws what a handler throws, and SystemFault if Windows cannot create the
-    // dialog; the dialog is closed then, without Form_Unload, and the owner is enabled again.
+    // Shows the dialog centred on its owner, in the user's message font, and returns when it is closed. If
+    // the screen has no room for all of it, it scrolls. The owner is disabled meanwhile. Throws what a
+    // handler throws, and SystemFault if Windows cannot create the dialog; the dialog is closed then, without
+    // Form_Unload, and the owner is enabled again.
     void ShowModal(HWND owner);
 
     HWND Handle() const { return handle_; }
@@ -75,13 +77,17 @@ class Dialog {
     static INT_PTR CALLBACK Procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam);
     INT_PTR Handle(UINT message, WPARAM wparam, LPARAM lparam);
     INT_PTR OnSystemMessage(UINT message);
+    // Whether a text box that has gained the focus only gets it back, because the dialog is active again
+    // after a message box or another program. That must leave caret and selection alone.
+    bool GetsFocusBack(HWND control) { return std::exchange(left_focus_, nullptr) == control; }
     void Create(HWND owner);
     void RunModalLoop();
 
     int template_id_;
     HWND handle_ = nullptr;
     ToolTips tool_tips_;
-    ReturnedFocus returned_focus_;
+    HWND left_focus_ = nullptr;  // had the focus when the dialog was deactivated
+    DialogScroll scroll_;
     SessionHold session_;
     bool ending_ = false;
 };

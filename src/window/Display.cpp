@@ -4,6 +4,8 @@
 #include <cstring>
 #include <type_traits>
 
+#include "window/KeptWithin.h"
+
 namespace lindrel {
 
 UINT DpiOf(HWND window) {
@@ -54,23 +56,34 @@ int Font::LineHeight() const {
     return handle_ == nullptr ? 0 : static_cast<int>(TextSize(Handle(), L" ").cy);
 }
 
+RECT WorkAreaOf(const RECT& place) {
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    const bool known = GetMonitorInfoW(MonitorFromRect(&place, MONITOR_DEFAULTTONEAREST), &monitor) != FALSE;
+    return known ? monitor.rcWork : place;
+}
+
+void PlaceInWorkArea(HWND window, const RECT& bounds) {
+    const RECT kept = KeptWithin(bounds, WorkAreaOf(bounds));
+    SetWindowPos(window, nullptr, kept.left, kept.top, kept.right - kept.left, kept.bottom - kept.top,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+POINT WithinWorkArea(HWND window, POINT size) {
+    RECT bounds{};
+    if (!GetWindowRect(window, &bounds)) return size;
+    const RECT work = WorkAreaOf(bounds);
+    return {std::min(size.x, work.right - work.left), std::min(size.y, work.bottom - work.top)};
+}
+
 void CentreOnOwner(HWND window, HWND owner) {
     RECT own{};
     RECT around{};
-    MONITORINFO monitor{};
-    monitor.cbSize = sizeof monitor;
-    if (!GetWindowRect(window, &own) || !GetWindowRect(owner, &around) ||
-        !GetMonitorInfoW(MonitorFromRect(&around, MONITOR_DEFAULTTONEAREST), &monitor))
+    if (!GetWindowRect(window, &own) || !GetWindowRect(owner, &around))
         return;  // It stays where Windows put it.
-    const int width = own.right - own.left;
-    const int height = own.bottom - own.top;
-    const auto centred = [](int middle, int size, int low, int high) {
-        return std::max(low, std::min(middle - size / 2, high - size));
-    };
-    const RECT& work = monitor.rcWork;
-    const int left = centred((around.left + around.right) / 2, width, work.left, work.right);
-    const int top = centred((around.top + around.bottom) / 2, height, work.top, work.bottom);
-    SetWindowPos(window, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    const RECT kept = KeptWithin(CentredOver(own, around), WorkAreaOf(around));
+    SetWindowPos(window, nullptr, kept.right - (own.right - own.left), kept.bottom - (own.bottom - own.top),
+                 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 }  // namespace lindrel

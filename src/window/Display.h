@@ -57,7 +57,17 @@ class Font {
     Owned<HFONT> handle_;
 };
 
-// Centres a window on its owner, but keeps it in the work area of the screen.
+// The part of the screen around a place that taskbars leave free; the place itself if Windows cannot tell.
+RECT WorkAreaOf(const RECT& place);
+
+// Gives a window bounds, as far as the work area has room for them.
+void PlaceInWorkArea(HWND window, const RECT& bounds);
+
+// The part of a size that the work area of a window has room for.
+POINT WithinWorkArea(HWND window, POINT size);
+
+// Moves a window over the middle of its owner, but keeps it in the work area. Of a window larger than that,
+// the end stays in view, where the buttons are.
 void CentreOnOwner(HWND window, HWND owner);
 
 }  // namespace lindrel

@@ -4,8 +4,11 @@ namespace lindrel {
 
 PlacedTogether::~PlacedTogether() {
     if (pass_ == nullptr || !EndDeferWindowPos(pass_)) return;
-    // A status bar that docks itself does not tell the window what it leaves.
-    RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_NOCHILDREN);
+    // A status bar that docks itself does not tell the window what it leaves. Without this style the window
+    // would erase its controls too.
+    const bool clips = (GetWindowLongPtrW(window_, GWL_STYLE) & WS_CLIPCHILDREN) != 0;
+    RedrawWindow(window_, nullptr, nullptr,
+                 RDW_INVALIDATE | RDW_ERASE | (clips ? RDW_NOCHILDREN : RDW_ALLCHILDREN));
 }
 
 void PlacedTogether::Move(HWND control, const RECT& bounds) {
@@ -13,7 +16,10 @@ void PlacedTogether::Move(HWND control, const RECT& bounds) {
     GetWindowRect(control, &before);
     MapWindowPoints(HWND_DESKTOP, window_, reinterpret_cast<POINT*>(&before), 2);
     if (EqualRect(&before, &bounds)) return;
-    Defer(control, bounds, SWP_NOCOPYBITS);
+    // The bounds of a combo box are without its list, and setting its size would set that of the list.
+    const bool moved_only = bounds.right - bounds.left == before.right - before.left &&
+                            bounds.bottom - bounds.top == before.bottom - before.top;
+    Defer(control, bounds, moved_only ? SWP_NOCOPYBITS | SWP_NOSIZE : SWP_NOCOPYBITS);
 }
 
 void PlacedTogether::Defer(HWND control, const RECT& bounds, UINT flags) {

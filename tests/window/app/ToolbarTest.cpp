@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <set>
+#include <vector>
 
 #include "resources/resource.h"
 #include "tests/window/support/Drawn.h"
@@ -71,6 +72,65 @@ class ToolbarTest : public ::testing::Test {
         EXPECT_EQ(first.bottom - first.top, height);
     }
 
+    // The mouse comes to a button, so that the toolbar has its tips.
+    HWND TipsAfterHovering() const {
+        const RECT first = BoundsOf(1);
+        RealInput(program).Move(Toolbar(), {first.left + 12, first.top + 12});
+        WaitUntil("the first button under the mouse",
+                  [this] { return SendMessageW(Toolbar(), TB_GETHOTITEM, 0, 0) == 0; });
+        return reinterpret_cast<HWND>(SendMessageW(Toolbar(), TB_GETTOOLTIPS, 0, 0));
+    }
+    // All buttons but the first have their names as tips.
+    void ExpectTips(HWND tips) const {
+        program.OnUi([&](frmStart&) {
+            EXPECT_EQ(SendMessageW(tips, TTM_GETTOOLCOUNT, 0, 0), 9);
+            for (std::size_t i = 0; i < kNames.size(); ++i) {
+                wchar_t text[80] = L"";
+                TTTOOLINFOW tool{};
+                tool.cbSize = sizeof tool;
+                tool.hwnd = Toolbar();
+                tool.uId = ID_frmStart_Toolbar_1 + i;
+                // Not even an empty tip for the first: Windows could fill it with the button's name.
+                EXPECT_EQ(SendMessageW(tips, TTM_GETTOOLINFOW, 0, reinterpret_cast<LPARAM>(&tool)) != 0,
+                          i != 0);
+                tool.lpszText = text;
+                SendMessageW(tips, TTM_GETTEXTW, 80, reinterpret_cast<LPARAM>(&tool));
+                EXPECT_EQ(text, i == 0 ? std::wstring() : kNames[i]);
+            }
+        });
+    }
+    // The bounds of all buttons, their size and that of all of them together, as numbers in a row.
+    static std::vector<LONG> MeasuresOf(HWND toolbar) {
+        std::vector<LONG> measures{static_cast<LONG>(SendMessageW(toolbar, TB_GETBUTTONSIZE, 0, 0)),
+                                   static_cast<LONG>(SendMessageW(toolbar, TB_GETPADDING, 0, 0))};
+        SIZE all{};
+        EXPECT_TRUE(SendMessageW(toolbar, TB_GETMAXSIZE, 0, reinterpret_cast<LPARAM>(&all)));
+        measures.insert(measures.end(), {all.cx, all.cy});
+        for (WPARAM i = 0; i < kNames.size(); ++i) {
+            RECT bounds{};
+            EXPECT_TRUE(SendMessageW(toolbar, TB_GETITEMRECT, i, reinterpret_cast<LPARAM>(&bounds)));
+            measures.insert(measures.end(), {bounds.left, bounds.top, bounds.right, bounds.bottom});
+        }
+        return measures;
+    }
+    // The toolbar measures what one does that has never had another resolution.
+    void ExpectAsIfNew(UINT dpi) const {
+        program.OnUi([&](frmStart&) {
+            const HWND host = CreateWindowExW(0, L"Static", L"", WS_POPUP, 0, 0, 900, 100, nullptr, nullptr,
+                                              nullptr, nullptr);
+            {
+                class Toolbar fresh;
+                fresh.Create(host);
+                const HWND made = GetDlgItem(host, ID_frmStart_Toolbar);
+                SendMessageW(made, WM_SETFONT, static_cast<WPARAM>(SendMessageW(Toolbar(), WM_GETFONT, 0, 0)),
+                             FALSE);
+                fresh.ApplyResolution(dpi);
+                EXPECT_EQ(MeasuresOf(Toolbar()), MeasuresOf(made)) << dpi;
+                DestroyWindow(host);
+            }
+        });
+    }
+
     Program program;
 };
 
@@ -79,25 +139,7 @@ TEST_F(ToolbarTest, HasTenButtonsWithNamesAndPictures) {
 }
 
 TEST_F(ToolbarTest, AllButTheFirstButtonHaveToolTips) {
-    const RECT first = BoundsOf(1);
-    RealInput(program).Move(Toolbar(), {first.left + 12, first.top + 12});
-    WaitUntil("the first button under the mouse",
-              [this] { return SendMessageW(Toolbar(), TB_GETHOTITEM, 0, 0) == 0; });
-    program.OnUi([this](frmStart&) {
-        const auto tips = reinterpret_cast<HWND>(SendMessageW(Toolbar(), TB_GETTOOLTIPS, 0, 0));
-        for (std::size_t i = 0; i < kNames.size(); ++i) {
-            wchar_t text[80] = L"";
-            TTTOOLINFOW tool{};
-            tool.cbSize = sizeof tool;
-            tool.hwnd = Toolbar();
-            tool.uId = ID_frmStart_Toolbar_1 + i;
-            // Not even an empty tip for the first: Windows could fill it with the button's name.
-            EXPECT_EQ(SendMessageW(tips, TTM_GETTOOLINFOW, 0, reinterpret_cast<LPARAM>(&tool)) != 0, i != 0);
-            tool.lpszText = text;
-            SendMessageW(tips, TTM_GETTEXTW, 80, reinterpret_cast<LPARAM>(&tool));
-            EXPECT_EQ(text, i == 0 ? std::wstring() : kNames[i]);
-        }
-    });
+    ExpectTips(TipsAfterHovering());
 }
 
 TEST_F(ToolbarTest, TheFirstButtonStartsANewBook) {
@@ -234,6 +276,43 @@ TEST_F(ToolbarTest, ANewResolutionScalesThePicturesAndKeepsButtonsAndNames) {
     ExpectButtons(24, 31, 30);
     SendMessageW(program.Main(), WM_SETTINGCHANGE, 0, 0);
     ExpectButtons(24, 31, 30);
+}
+
+TEST_F(ToolbarTest, AtEachNewResolutionItMeasuresWhatANewOneDoes) {
+    const OtherScreen screen(program);
+    ExpectAsIfNew(96);
+    for (const UINT dpi : {144u, 192u, 144u, 96u, 192u, 96u}) {
+        screen.Move(dpi);
+        ExpectAsIfNew(dpi);
+    }
+}
+
+TEST_F(ToolbarTest, ANewResolutionKeepsTheStatesOfTheButtons) {
+    const OtherScreen screen(program);
+    const auto state = [this](int position) {
+        return SendMessageW(Toolbar(), TB_GETSTATE, static_cast<WPARAM>(ID_frmStart_Toolbar_1 + position - 1),
+                            0);
+    };
+    constexpr LRESULT kPressed = TBSTATE_ENABLED | TBSTATE_PRESSED;
+    SendMessageW(Toolbar(), TB_SETSTATE, ID_frmStart_Toolbar_1 + 2, 0);
+    SendMessageW(Toolbar(), TB_SETSTATE, ID_frmStart_Toolbar_1 + 4, kPressed);
+    for (const UINT dpi : {192u, 96u}) {
+        screen.Move(dpi);
+        for (int position = 1; position <= 10; ++position)
+            EXPECT_EQ(state(position), position == 3 ? 0 : position == 5 ? kPressed : TBSTATE_ENABLED);
+    }
+}
+
+// The letters of the old ones have the size of the old resolution.
+TEST_F(ToolbarTest, ANewResolutionMakesTheToolTipsAnew) {
+    const OtherScreen screen(program);
+    const HWND tips = TipsAfterHovering();
+    EXPECT_TRUE(IsWindow(tips));
+    screen.Move(192);
+    EXPECT_FALSE(IsWindow(tips));
+    const HWND new_tips = TipsAfterHovering();
+    EXPECT_NE(new_tips, tips);
+    ExpectTips(new_tips);
 }
 
 }  // namespace

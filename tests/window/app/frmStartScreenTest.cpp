@@ -1,7 +1,8 @@
-// A main window that comes to another screen while it is created.
+// The main window on the screen where it is created.
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <optional>
 #include <tuple>
 #include <utility>
@@ -10,6 +11,7 @@
 #include "resources/resource.h"
 #include "tests/window/support/Program.h"
 #include "tests/window/support/ReplacedImport.h"
+#include "tests/window/support/SmallScreen.h"
 
 namespace lindrel::testing {
 namespace {
@@ -59,6 +61,37 @@ TEST(frmStartScreenTest, AnotherScreenBeforeThereAreControlsGivesTheWindowItsSiz
     EXPECT_TRUE(EqualRect(&bounds, &kProposed));
     EXPECT_EQ(program.State(), EmptyState());
     EXPECT_EQ(AllBounds(program), expected);
+}
+
+TEST(frmStartScreenTest, TheWindowStartsWithinTheWorkArea) {
+    const SIZE designed{PixelsOf(11400, 96), PixelsOf(7500, 96)};
+    const struct {
+        const char* what;
+        RECT work;
+        SIZE size;
+    } kScreens[] = {
+        {"a taskbar at the left and at the top", {300, 200, 1280, 1024}, designed},
+        {"just enough room", {240, 120, 240 + designed.cx, 120 + designed.cy}, designed},
+        {"too little height", {0, 40, 1280, 40 + 420}, {designed.cx, 420}},
+        {"too little of both", {30, 40, 30 + 600, 40 + 400}, {600, 400}},
+        // Not even for the least size.
+        {"hardly any room", {30, 40, 30 + 500, 40 + 300}, {500, 300}},
+    };
+    for (const auto& [what, work, size] : kScreens) {
+        const SmallScreen screen(work);
+        const Program program;
+        RECT bounds{};
+        EXPECT_TRUE(GetWindowRect(program.Main(), &bounds));
+        EXPECT_EQ(bounds.right - bounds.left, size.cx) << what;
+        EXPECT_EQ(bounds.bottom - bounds.top, size.cy) << what;
+        RECT common{};
+        EXPECT_TRUE(IntersectRect(&common, &bounds, &work) && EqualRect(&common, &bounds)) << what;
+        EXPECT_EQ(program.State(), EmptyState()) << what;
+        MINMAXINFO limits{};
+        SendMessageW(program.Main(), WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
+        EXPECT_EQ(limits.ptMinTrackSize.x, std::min<LONG>(PixelsAtLeast(7700, 96), work.right - work.left));
+        EXPECT_EQ(limits.ptMinTrackSize.y, std::min<LONG>(PixelsAtLeast(5200, 96), work.bottom - work.top));
+    }
 }
 
 }  // namespace

@@ -7,32 +7,36 @@
 #include "tests/window/find/FindSession.h"
 #include "tests/window/support/Expectations.h"
 #include "tests/window/support/Painted.h"
+#include "tests/window/support/ScaledDialog.h"
+#include "tests/window/support/SmallScreen.h"
 
 namespace lindrel::testing {
 namespace {
 
-class frmFindLayoutTest : public FindSession {};
+class frmFindLayoutTest : public FindSession {
+  protected:
+    // The dialog and all its buttons are within a work area, the list has room for hits, and no control is on
+    // another.
+    static void ExpectWholeWithin(const RECT& work, const DialogOnScreen& dialog) {
+        RECT window{};
+        RECT client{};
+        RECT common{};
+        ASSERT_TRUE(GetWindowRect(dialog.Handle(), &window));
+        ASSERT_TRUE(GetClientRect(dialog.Handle(), &client));
+        EXPECT_TRUE(IntersectRect(&common, &window, &work) && EqualRect(&common, &window));
+        const std::map<int, RECT> all = AllBounds(dialog);
+        for (const auto& [id, bounds] : all) {
+            EXPECT_TRUE(IntersectRect(&common, &bounds, &client) && EqualRect(&common, &bounds)) << id;
+            for (const auto& [other, other_bounds] : all)
+                EXPECT_TRUE(other == id || !IntersectRect(&common, &bounds, &other_bounds))
+                    << id << " overlaps " << other;
+        }
+        EXPECT_GE(ListView_GetCountPerPage(dialog.Control(ID_frmFind_ListView)), 1);
+    }
+};
 
 bool operator==(const RECT& a, const RECT& b) {
     return EqualRect(&a, &b) != FALSE;
-}
-
-// The bounds of each control in the dialog.
-std::map<int, RECT> AllBounds(const DialogOnScreen& dialog) {
-    std::map<int, RECT> all;
-    for (HWND control = GetWindow(dialog.Handle(), GW_CHILD); control != nullptr;
-         control = GetWindow(control, GW_HWNDNEXT)) {
-        RECT& bounds = all[GetDlgCtrlID(control)];
-        GetWindowRect(control, &bounds);
-        MapWindowPoints(HWND_DESKTOP, dialog.Handle(), reinterpret_cast<POINT*>(&bounds), 2);
-    }
-    return all;
-}
-
-RECT Scaled(RECT bounds, int to, int from) {
-    for (LONG* const side : {&bounds.left, &bounds.top, &bounds.right, &bounds.bottom})
-        *side = MulDiv(*side, to, from);
-    return bounds;
 }
 
 void Resize(const Program& program, const DialogOnScreen& dialog, LONG width, LONG height) {
@@ -44,35 +48,6 @@ SIZE SizeOf(const DialogOnScreen& dialog) {
     RECT window{};
     GetWindowRect(dialog.Handle(), &window);
     return {window.right - window.left, window.bottom - window.top};
-}
-
-// What the system does when a dialog comes to another screen, in the order of the letters: (t)ells the
-// dialog, scales the (w)indow, scales the (c)ontrols.
-void ComeToAnotherScreen(const Program& program, const DialogOnScreen& dialog, const std::string& order,
-                         int to, int from) {
-    program.OnUi([&](frmStart&) {
-        RECT window{};
-        RECT client{};
-        GetWindowRect(dialog.Handle(), &window);
-        GetClientRect(dialog.Handle(), &client);
-        const LONG frame_x = window.right - window.left - client.right;
-        const LONG frame_y = window.bottom - window.top - client.bottom;
-        for (const char step : order) {
-            if (step == 't')
-                SendMessageW(dialog.Handle(), WM_DPICHANGED, MAKEWPARAM(to, to),
-                             reinterpret_cast<LPARAM>(&window));
-            if (step == 'w')
-                SetWindowPos(dialog.Handle(), nullptr, 0, 0, MulDiv(client.right, to, from) + frame_x,
-                             MulDiv(client.bottom, to, from) + frame_y, SWP_NOMOVE | SWP_NOZORDER);
-            if (step != 'c') continue;
-            for (const auto& [id, bounds] : AllBounds(dialog)) {
-                const RECT scaled = Scaled(bounds, to, from);
-                SetWindowPos(dialog.Control(id), nullptr, scaled.left, scaled.top, scaled.right - scaled.left,
-                             scaled.bottom - scaled.top, SWP_NOZORDER);
-            }
-        }
-    });
-    program.Settle();
 }
 
 TEST_F(frmFindLayoutTest, OnAnotherScreenEverythingIsInProportionWhateverIsScaledFirst) {
@@ -149,6 +124,42 @@ TEST_F(frmFindLayoutTest, AtItsSmallestEveryControlIsWhole) {
             EXPECT_LE(ideal.cx, all.at(id).right - all.at(id).left) << id;
         }
     }
+}
+
+TEST_F(frmFindLayoutTest, OnAScreenTooSmallForItTheListShrinks) {
+    AddSixEntries();
+    const FindDialog first = Open();
+    Resize(program, first, 1, 1);
+    const SIZE least = SizeOf(first);
+    first.Close();
+    // Room for what it opens with, for its smallest size, and for less.
+    for (const LONG shorter : {0, 40, 70}) {
+        const RECT work{20, 30, 20 + least.cx + 10, 30 + least.cy - shorter};
+        const SmallScreen screen(program, work);
+        const FindDialog dialog = Open();
+        ExpectWholeWithin(work, dialog);
+        EXPECT_EQ(SizeOf(dialog).cy, least.cy - shorter);
+        EXPECT_EQ(SizeOf(dialog).cx, least.cx + 10);
+        // It can be made smaller than the screen, but not smaller than its smallest size.
+        Resize(program, dialog, 1, 1);
+        EXPECT_EQ(SizeOf(dialog).cy, least.cy - shorter);
+        EXPECT_EQ(SizeOf(dialog).cx, least.cx);
+        ExpectWholeWithin(work, dialog);
+        dialog.Close();
+    }
+}
+
+TEST_F(frmFindLayoutTest, ComingToAScreenTooSmallForItItShrinks) {
+    AddSixEntries();
+    const FindDialog dialog = Open();
+    const std::map<int, RECT> before = AllBounds(dialog);
+    RECT work{0, 0, 0, 0};
+    work.right = SizeOf(dialog).cx * 3 / 2 + 20;
+    work.bottom = SizeOf(dialog).cy * 6 / 5;
+    const SmallScreen screen(program, work);
+    ComeToAnotherScreen(program, dialog, "twc", 144, 96);
+    ExpectWholeWithin(work, dialog);
+    EXPECT_EQ(SizeOf(dialog).cy, work.bottom);
 }
 
 TEST_F(frmFindLayoutTest, AfterEveryChangeOfItsSizeAllOfItIsShown) {
