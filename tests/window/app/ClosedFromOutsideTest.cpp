@@ -7,9 +7,9 @@ namespace {
 
 class ClosedFromOutsideTest : public FileSession {
   protected:
-    // Asks all windows of the program but message boxes, which answer for themselves. What should happen then
-    // has happened when this returns.
-    void CloseFromOutside() const {
+    // Asks every window but the open box, which answers for itself. What should happen then has happened when
+    // this returns.
+    void CloseUnderBox() const {
         for (const HWND window : WindowsOf(program.Thread()))
             if (!IsMessageBox(window)) PostMessageW(window, WM_CLOSE, 0, 0);
         program.Settle();
@@ -20,14 +20,14 @@ TEST_F(ClosedFromOutsideTest, AnOpenQuestionIsAnsweredFirst) {
     Change();
     program.Close();
     const BoxOnScreen question = program.Box();
-    CloseFromOutside();
+    CloseUnderBox();
     EXPECT_TRUE(IsWindowEnabled(question.Handle()));
     EXPECT_EQ(GetLastActivePopup(program.Main()), question.Handle());
     ExpectSaveQuestion(kAtClosing, IDCANCEL);
     ExpectState(ChangedState());
 }
 
-TEST_F(ClosedFromOutsideTest, AnOpenDialogIsCancelledAndTheWindowStays) {
+TEST_F(ClosedFromOutsideTest, TheWindowStaysUnderADialogWhichCanBeCancelled) {
     Change();
     program.Choose(ID_mnuAdd);
     const DialogOnScreen dialog = program.Dialog(L"Új oldal hozzáadása");
@@ -35,7 +35,7 @@ TEST_F(ClosedFromOutsideTest, AnOpenDialogIsCancelledAndTheWindowStays) {
     program.Settle();
     EXPECT_TRUE(dialog.IsOpen());
     EXPECT_TRUE(IsWindowEnabled(dialog.Handle()));
-    CloseFromOutside();
+    PostMessageW(dialog.Handle(), WM_CLOSE, 0, 0);
     dialog.WaitForClose();
     ExpectState(ChangedState());
 }
@@ -46,7 +46,7 @@ TEST_F(ClosedFromOutsideTest, ADialogWhoseBoxIsOpenKeepsWhatIsTypedInIt) {
     dialog.SetText(ID_frmAdd_txtURL, L"ab");
     dialog.Click(ID_frmAdd_cmdOK);
     const BoxOnScreen box = program.Box();
-    CloseFromOutside();
+    CloseUnderBox();
     EXPECT_EQ(box.Text(), L"Kérem előbb töltse ki a szükséges mezőket!");
     box.Press(IDOK);
     program.Settle();
@@ -65,7 +65,7 @@ TEST_F(ClosedFromOutsideTest, AFileThatIsNoBookIsNotReplacedByTheOpenBook) {
     program.FileDialog().Accept(path);
     const BoxOnScreen failure = program.Box();
     EXPECT_EQ(failure.Title(), L"Hiba a beolvasásnál");
-    CloseFromOutside();
+    CloseUnderBox();
     failure.Press(IDOK);
     program.Settle();
     ExpectState(ChangedState());
