@@ -59,7 +59,7 @@ Owned<HRGN> SearchBox::BorderOfFrame() const {
     RECT client{};
     GetClientRect(FrameSearch, &client);
     const int width = PixelsOf(kFrameBorder, DpiOf(window_));
-    const auto font = reinterpret_cast<HFONT>(SendMessageW(FrameSearch, WM_GETFONT, 0, 0));
+    auto* const font = reinterpret_cast<HFONT>(SendMessageW(FrameSearch, WM_GETFONT, 0, 0));
     const int caption = static_cast<int>(TextSize(font, L"k").cy);
     Owned<HRGN> border(CreateRectRgnIndirect(&client));
     const Owned<HRGN> inside(CreateRectRgn(width, caption, client.right - width, client.bottom - width));

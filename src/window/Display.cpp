@@ -77,13 +77,14 @@ POINT WithinWorkArea(HWND window, POINT size) {
 }
 
 void CentreOnOwner(HWND window, HWND owner) {
-    RECT own{};
+    RECT bounds{};
     RECT around{};
-    if (!GetWindowRect(window, &own) || !GetWindowRect(owner, &around))
+    if (!GetWindowRect(window, &bounds) || !GetWindowRect(owner, &around))
         return;  // It stays where Windows put it.
-    const RECT kept = KeptWithin(CentredOver(own, around), WorkAreaOf(around));
-    SetWindowPos(window, nullptr, kept.right - (own.right - own.left), kept.bottom - (own.bottom - own.top),
-                 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    const RECT kept = KeptWithin(CentredOver(bounds, around), WorkAreaOf(around));
+    SetWindowPos(window, nullptr, kept.right - (bounds.right - bounds.left),
+                 kept.bottom - (bounds.bottom - bounds.top), 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 }  // namespace lindrel

@@ -18,16 +18,16 @@ constexpr Rect KeptWithin(Rect bounds, const Rect& area) {
     return bounds;
 }
 
-// Bounds moved over the middle of others.
+// Bounds moved over the middle of an owner's.
 template <typename Rect>
-constexpr Rect CentredOver(Rect bounds, const Rect& others) {
+constexpr Rect CentredOver(Rect bounds, const Rect& owner) {
     const auto centre = [](auto& first, auto& last, auto low, auto high) {
         const auto size = last - first;
         first = (low + high) / 2 - size / 2;
         last = first + size;
     };
-    centre(bounds.left, bounds.right, others.left, others.right);
-    centre(bounds.top, bounds.bottom, others.top, others.bottom);
+    centre(bounds.left, bounds.right, owner.left, owner.right);
+    centre(bounds.top, bounds.bottom, owner.top, owner.bottom);
     return bounds;
 }
 
