@@ -2,7 +2,7 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
+#include <functional>
 #include <string_view>
 
 namespace lindrel {
@@ -10,16 +10,13 @@ namespace lindrel {
 // A length and a hash. Of two contents that differ by chance the sums hardly ever are the same.
 class ContentSum {
   public:
-    ContentSum() = default;  // of no bytes
-    explicit ContentSum(std::string_view bytes) : length_(bytes.size()) {
-        for (const char byte : bytes)
-            hash_ = (hash_ ^ static_cast<unsigned char>(byte)) * 1099511628211U;  // FNV-1a
-    }
+    explicit ContentSum(std::string_view bytes = {})
+        : length_(bytes.size()), hash_(std::hash<std::string_view>()(bytes)) {}
     friend bool operator==(const ContentSum&, const ContentSum&) = default;
 
   private:
-    std::size_t length_ = 0;
-    std::uint64_t hash_ = 14695981039346656037U;
+    std::size_t length_;
+    std::size_t hash_;
 };
 
 }  // namespace lindrel
