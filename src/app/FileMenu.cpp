@@ -1,7 +1,9 @@
 #include "app/FileMenu.h"
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -28,6 +30,11 @@ FileDialogOptions BookFileOptions(const wchar_t* title) {
             .Filter = L"Lindrel fájlok (*.lnd)|*.lnd",
             .DefaultExt = L"lnd",
             .InitDir = ProgramFolder() + L"\\"};  // a drive alone would mean its current folder
+}
+
+// Of two contents that differ by chance the sums hardly ever are the same.
+std::size_t SumOf(std::string_view bytes) {
+    return std::hash<std::string_view>()(bytes);
 }
 
 }  // namespace
@@ -141,11 +148,11 @@ std::optional<std::wstring> FileMenu::ChooseFileToSave(bool ask_to_overwrite) co
 
 void FileMenu::OpenBookFile(const std::wstring& path) {
     BookFromFile read;
-    ContentSum content;
+    std::size_t content = 0;
     try {
         const WaitCursor hourglass;
         std::vector<char> bytes = ReadFileBytes(path);
-        content = ContentSum({bytes.data(), bytes.size()});
+        content = SumOf({bytes.data(), bytes.size()});
         read = ReadBook(open_.TheBook, std::move(bytes));
     } catch (...) {
         return TellWhyNotRead(window_);
@@ -168,7 +175,7 @@ bool FileMenu::WriteBook(const std::wstring& path) {
         NamingTheFile(path, [&] {
             const std::string bytes = lindrel::SaveBook(open_.TheBook);
             ReplaceFileBytes(path, bytes);
-            known_content_ = ContentSum(bytes);
+            known_content_ = SumOf(bytes);
         });
     } catch (const FileFault&) {
         return TellWhyNotSaved();
@@ -199,7 +206,7 @@ bool FileMenu::HasChanged(const std::wstring& path) const {
     return NamingTheFile(path, [&] {
         if (!IsFile(path)) return false;
         const std::vector<char> bytes = ReadFileBytes(path);
-        return ContentSum({bytes.data(), bytes.size()}) != known_content_;
+        return SumOf({bytes.data(), bytes.size()}) != known_content_;
     });
 }
 

@@ -1,12 +1,12 @@
 // The commands of the file menu that open, save and close the book, and the question whether to save it.
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 
 #include "app/BookView.h"
 #include "book/OpenBook.h"
-#include "files/ContentSum.h"
 
 namespace lindrel {
 
@@ -66,9 +66,9 @@ class FileMenu {
     OpenBook& open_;
     BookView& view_;
     HWND window_ = nullptr;
-    // The file that was last read or written, and its content at that time.
+    // The file that was last read or written, and the sum of its content at that time.
     std::wstring known_file_;
-    ContentSum known_content_;
+    std::size_t known_content_ = 0;
 };
 
 }  // namespace lindrel
