@@ -470,19 +470,20 @@ void Press(const std::vector<DWORD>& flags) {
 TEST_F(TrayAreaTest, TheRealIconReportsBothButtonsAndDisappears) {
     recorder.reset();
     RecordEvents();
-    bool pointed_at = false;
-    control->MouseMove = [&] { pointed_at = true; };
+    int pointed_at = 0;
+    control->MouseMove = [&] { ++pointed_at; };
     control->SetIcon(icon);
     control->SetToolTip(L"Lindrel");
     control->SetVisible(true);
     ASSERT_TRUE(PumpEventually([] { return IconOnScreen().has_value(); }));
     // The icon may still be moving to its position, and a click would miss it.
+    constexpr int kAtRest = 10;
     int moves = 0;
     ASSERT_TRUE(PumpEventually([&] {
         if (const std::optional<POINT> middle = IconOnScreen()) {
             EXPECT_TRUE(SetCursorPos(middle->x + ++moves % 2, middle->y));
         }
-        return pointed_at;
+        return pointed_at >= kAtRest;
     }));
     Press({MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP, MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP});
     ASSERT_TRUE(PumpEventually([this] { return events.size() >= 4; }));
