@@ -30,7 +30,9 @@ make_root() {
   echo "== making a root with Debian 13 and its Wine (about 700 MB of downloads) in build/wine10"
   install_packages debootstrap
   mkdir -p "$root"
-  [ -e "$root/etc/debian_version" ] || as_root debootstrap --variant=minbase --include=ca-certificates trixie "$root"
+  # A download that stalls is tried again after half a minute, not after a quarter of an hour.
+  printf 'timeout = 30\ntries = 5\n' >"$root/../wgetrc"
+  [ -e "$root/etc/debian_version" ] || as_root env WGETRC="$root/../wgetrc" debootstrap --variant=minbase --include=ca-certificates trixie "$root"
   in_root bash -eu -c '
     export DEBIAN_FRONTEND=noninteractive
     dpkg --add-architecture i386
