@@ -60,6 +60,17 @@ class ListInputTest : public ::testing::Test {
     std::vector<MenuItem> PoppedUpItems() const {
         return ItemsOf(reinterpret_cast<HMENU>(SendMessageW(WaitForMenu(), MN_GETHMENU, 0, 0)));
     }
+    // Below the selected row, `left` pixels into the list. Leaves the menu.
+    void ExpectMenuBelowRow(int row, LONG left) const {
+        RECT bounds{};
+        EXPECT_TRUE(GetWindowRect(WaitForMenu(), &bounds));
+        POINT corner{left, LabelOf(row).bottom};
+        ClientToScreen(list, &corner);
+        EXPECT_EQ(bounds.left, corner.x);
+        EXPECT_EQ(bounds.top, corner.y);
+        EXPECT_EQ(program.State(), Picked(row));
+        LeaveMenu();
+    }
     static std::vector<MenuItem> RowMenu() {
         return {{L"Ugorj az oldalra\tCtrl+G", ID_mnuGoto, true, true},
                 {},
@@ -134,16 +145,8 @@ TEST_F(ListInputTest, TheMenuFollowsTheMenuBar) {
 TEST_F(ListInputTest, KeysOpenTheMenuAtTheSelectedRow) {
     program.OnUi([](frmStart& form) { form.View().SelectRow(2); });
     const auto expect_menu = [this] {
-        const HWND menu = WaitForMenu();
         EXPECT_EQ(PoppedUpItems(), RowMenu());
-        RECT bounds{};
-        EXPECT_TRUE(GetWindowRect(menu, &bounds));
-        POINT row{LabelOf(2).left, LabelOf(2).bottom};
-        ClientToScreen(list, &row);
-        EXPECT_EQ(bounds.left, row.x);
-        EXPECT_EQ(bounds.top, row.y);
-        EXPECT_EQ(program.State(), Picked(2));
-        LeaveMenu();
+        ExpectMenuBelowRow(2, LabelOf(2).left);
     };
     hands.Press(VK_APPS);
     expect_menu();
@@ -159,14 +162,7 @@ TEST_F(ListInputTest, ScrolledSidewaysTheMenuOfTheKeysStaysInTheList) {
         EXPECT_LT(LabelOf(2).left, -500);
     });
     hands.Press(VK_APPS);
-    RECT bounds{};
-    EXPECT_TRUE(GetWindowRect(WaitForMenu(), &bounds));
-    POINT row{0, LabelOf(2).bottom};
-    ClientToScreen(list, &row);
-    EXPECT_EQ(bounds.left, row.x);
-    EXPECT_EQ(bounds.top, row.y);
-    EXPECT_EQ(program.State(), Picked(2));
-    LeaveMenu();
+    ExpectMenuBelowRow(2, 0);
 }
 
 TEST_F(ListInputTest, AProgramOf32BitsAsksForTheMenuOfTheKeys) {
@@ -174,14 +170,7 @@ TEST_F(ListInputTest, AProgramOf32BitsAsksForTheMenuOfTheKeys) {
     constexpr LPARAM kBothHalves = 0xFFFFFFFF;
     static_assert(kBothHalves != -1 && GET_X_LPARAM(kBothHalves) == -1 && GET_Y_LPARAM(kBothHalves) == -1);
     PostMessageW(list, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(list), kBothHalves);
-    RECT bounds{};
-    EXPECT_TRUE(GetWindowRect(WaitForMenu(), &bounds));
-    POINT row{LabelOf(2).left, LabelOf(2).bottom};
-    ClientToScreen(list, &row);
-    EXPECT_EQ(bounds.left, row.x);
-    EXPECT_EQ(bounds.top, row.y);
-    EXPECT_EQ(program.State(), Picked(2));
-    LeaveMenu();
+    ExpectMenuBelowRow(2, LabelOf(2).left);
 }
 
 TEST_F(ListInputTest, WithNothingToActOnThereIsNoMenu) {
