@@ -4,8 +4,8 @@ namespace lindrel {
 
 PlacedTogether::~PlacedTogether() {
     if (pass_ == nullptr || !EndDeferWindowPos(pass_)) return;
-    // A status bar that docks itself does not tell the window what it leaves. Without this style the window
-    // would erase its controls too.
+    // A status bar that docks itself does not tell the window what it uncovers. A window that does not clip
+    // its children erases them too, so they are painted again.
     const bool clips = (GetWindowLongPtrW(window_, GWL_STYLE) & WS_CLIPCHILDREN) != 0;
     RedrawWindow(window_, nullptr, nullptr,
                  RDW_INVALIDATE | RDW_ERASE | (clips ? RDW_NOCHILDREN : RDW_ALLCHILDREN));

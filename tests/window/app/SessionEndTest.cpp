@@ -229,8 +229,7 @@ TEST_F(SessionEndTest, OverAChangedBookADialogIsNotInterrupted) {
     EXPECT_EQ(Reasons(), (std::vector{TakenBack(), Given(kUnsavedBook), TakenBack()}));
 }
 
-// Another program that closes this one asks only its window, and what is asked there may lie in front of
-// nothing.
+// Another program may close a window that the user does not see, and the question would come from nowhere.
 TEST_F(SessionEndTest, AWindowThatIsClosedInTheTrayComesBackBeforeItAsks) {
     Change();
     program.Run(ID_mnuTray);

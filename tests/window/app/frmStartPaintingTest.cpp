@@ -1,5 +1,5 @@
-// The main window shows all of itself, whatever has happened to it. What is stale differs between versions of
-// Wine and Windows: these tests must pass on all.
+// The main window shows all of itself, whatever has happened to it. Versions of Wine and Windows paint in
+// different orders; these tests must pass on all of them.
 
 #include <gtest/gtest.h>
 
